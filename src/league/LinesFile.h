@@ -1,0 +1,25 @@
+#pragma once
+
+#include <string>
+
+namespace dravik {
+
+// Where the lines file of `team` (1..100) is saved: the program's folder, the team's name without spaces, ".dvl".
+std::string LinesFilePath(int team);
+
+// Writes the lines file of `team` to `target`, plain or compressed as the settings say. `RosterChange.Status` of every
+// person takes his `Status` first. What stood at `target` is deleted before; the new file appears when it is whole. False
+// after a failed compression, which is told; any other failure is thrown.
+bool WriteLinesFile(int team, const std::string& target);
+
+enum class LinesFileRead {
+    Loaded,         // everything taken over
+    Refused,        // not a lines file of this league and of CurrentTeam, or its end is wrong
+    NotDecompressed // told already
+};
+
+// Reads the lines file `path` over the record of `CurrentTeam` and over its people. A wrong head leaves the tables
+// untouched; after a wrong end everything read so far stays. Failures are thrown.
+LinesFileRead ReadLinesFile(const std::string& path);
+
+} // namespace dravik

@@ -1,0 +1,49 @@
+#pragma once
+
+#include <string>
+#include <string_view>
+
+// Wrappers of outside functions: the compressed wrapper of the files, the digest of passwords, the desktop's "open", and
+// the small helpers of paths and texts.
+namespace dravik {
+
+// Compresses the file `source` into the file `target` (4 bytes length, then one zlib stream of level 9). True when the
+// target was written. A failure is told with the ending " in Zlib Compress!" and leaves no target. Constant memory.
+bool ZlibCompress(const std::string& source, const std::string& target);
+
+// Decompresses the file `source` into the file `target`. A stream that does not decode is not reported as long as one
+// byte comes out of it: what was decoded before the error is written. True when the target was written; a failure is
+// told with the ending " in Zlib Decompress!". Constant memory, whatever the length field claims.
+bool ZlibDecompress(const std::string& source, const std::string& target);
+
+// Whether an entry of this path is there, whatever the case of its name. Any failure counts as no; shows nothing.
+bool FileExist(const std::string& path);
+
+// The path of the entry that FileExist found: `path` with the name as it stands on the disk. Without one, `path` itself.
+std::string ExistingPath(const std::string& path);
+
+// The part of `path` behind its last separator; without one the whole text.
+std::string GetFileName(const std::string& path);
+
+// Deletes the file if it is there.
+void DeleteIfExists(const std::string& path);
+
+// Shows the wait screen and lets it paint for about 100 milliseconds.
+void ShowWait();
+void CloseWait();
+
+// Whether the user has set `SkipZIPClient` to "YES": all files of the system are then plain slot files.
+bool SkipZIPClient();
+
+// The digest text of `text`: 32 characters, two for each byte of its MD5 (RFC 1321) in order. A byte of 16 or more is in
+// lower case; a smaller one is "0" and its digit in upper case, as the simulator stores its digests. Empty text after a
+// failure, which is told.
+std::string DigestStrToHexStr(std::string_view text);
+
+// `text` without the characters of code 32 or below, wherever they stand.
+std::string RemoveSpaces(std::string_view text);
+
+// Hands `location` to the desktop to open it; returns its answer, 0 after a failure, which is told.
+int OpenLocation(const std::string& location, int showMode);
+
+} // namespace dravik

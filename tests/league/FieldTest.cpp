@@ -1,0 +1,119 @@
+#include "league/Field.h"
+
+#include <gtest/gtest.h>
+#include <string>
+
+namespace dravik {
+namespace {
+
+template <class T>
+std::string BytesOf(const T& field)
+{
+    return {reinterpret_cast<const char*>(&field), sizeof(T)};
+}
+
+int NumberThrownBy(auto&& action)
+{
+    try {
+        action();
+    } catch (const Failure& failed) {
+        return failed.Number;
+    }
+    return 0;
+}
+
+TEST(FieldTest, NumbersAreLittleEndian)
+{
+    EXPECT_EQ(BytesOf(Int16(0x1234)), "\x34\x12");
+    EXPECT_EQ(BytesOf(Int16(-2)), "\xFE\xFF");
+    EXPECT_EQ(BytesOf(Int32(0x01020304)), "\x04\x03\x02\x01");
+    EXPECT_EQ(BytesOf(Byte(200)), "\xC8");
+}
+
+TEST(FieldTest, NumbersReadBackSigned)
+{
+    EXPECT_EQ(Int16(-32768), -32768);
+    EXPECT_EQ(Int32(-1), -1);
+    EXPECT_EQ(Byte(255), 255);
+}
+
+TEST(FieldTest, AValueThatDoesNotFitFailsWithNumber6AndChangesNothing)
+{
+    Int16 word = 7;
+    EXPECT_EQ(NumberThrownBy([&] { word = 32768; }), 6);
+    EXPECT_EQ(NumberThrownBy([&] { word = -32769; }), 6);
+    EXPECT_EQ(word, 7);
+    Byte byte = 9;
+    EXPECT_EQ(NumberThrownBy([&] { byte = 256; }), 6);
+    EXPECT_EQ(NumberThrownBy([&] { byte = -1; }), 6);
+    EXPECT_EQ(byte, 9);
+}
+
+TEST(FieldTest, AnExpressionOnFieldsDoesNotWrap)
+{
+    const Int32 big = 2147483647;
+    EXPECT_EQ(big + big, 4294967294LL);
+}
+
+TEST(FieldTest, AFloatStandsAsItsIeeeBytes)
+{
+    EXPECT_EQ(BytesOf(Float64(1.0)), std::string("\0\0\0\0\0\0\xF0\x3F", 8));
+    EXPECT_EQ(static_cast<double>(Float64(-2.5)), -2.5);
+}
+
+TEST(FieldTest, OnlyMinusOneIsTrue)
+{
+    Boolean truth;
+    EXPECT_FALSE(truth);
+    truth = true;
+    EXPECT_EQ(truth.Word(), -1);
+    EXPECT_TRUE(truth);
+    truth.SetWord(1);
+    EXPECT_FALSE(truth);
+    EXPECT_EQ(truth.Word(), 1);
+}
+
+TEST(FieldTest, ATextIsPaddedWithBlanksAndCutAtItsWidth)
+{
+    EXPECT_EQ(BytesOf(Text<5>("ab")), "ab   ");
+    EXPECT_EQ(BytesOf(Text<3>("abcdef")), "abc");
+    EXPECT_EQ(Text<5>(" ab ").Raw(), " ab  ");
+    EXPECT_EQ(Text<6>(" a b").Trimmed(), "a b");
+}
+
+TEST(FieldTest, AnUnwrittenTextReadsAsEmpty)
+{
+    EXPECT_EQ(Text<4>().Trimmed(), "");
+    EXPECT_EQ(Text<4>().Raw(), std::string(4, '\0'));
+}
+
+TEST(FieldTest, AnIndexOutsideARowFailsWithNumber9)
+{
+    Row<Int16, 1, 5> row;
+    EXPECT_EQ(NumberThrownBy([&] { row[0] = 1; }), 9);
+    EXPECT_EQ(NumberThrownBy([&] { row[6] = 1; }), 9);
+    Row<Int16, 0, 2> fromZero;
+    EXPECT_EQ(NumberThrownBy([&] { fromZero[0] = 1; }), 0);
+    EXPECT_EQ(NumberThrownBy([&] { fromZero[3] = 1; }), 9);
+}
+
+TEST(FieldTest, TheFirstIndexOfAGridRunsFastest)
+{
+    Grid<4, 3> grid;
+    grid(2, 1) = 1;
+    grid(1, 2) = 2;
+    const std::string bytes = BytesOf(grid);
+    EXPECT_EQ(bytes[2], 1);
+    EXPECT_EQ(bytes[8], 2);
+}
+
+TEST(FieldTest, AnIndexOutsideAGridFailsWithNumber9)
+{
+    Grid<4, 3> grid;
+    EXPECT_EQ(NumberThrownBy([&] { grid(5, 1) = 1; }), 9);
+    EXPECT_EQ(NumberThrownBy([&] { grid(1, 4) = 1; }), 9);
+    EXPECT_EQ(NumberThrownBy([&] { grid(0, 2) = 1; }), 9);
+}
+
+} // namespace
+} // namespace dravik

@@ -1,0 +1,230 @@
+#include "support/ScriptedPlatform.h"
+
+#include "league/Failure.h"
+#include "support/ReferenceMd5.h"
+
+#include <atomic>
+#include <chrono>
+#include <cmath>
+#include <filesystem>
+#include <ostream>
+#include <random>
+#include <utility>
+
+namespace dravik {
+
+namespace fs = std::filesystem;
+
+namespace {
+
+class CountedFile final : public File {
+public:
+    CountedFile(ScriptedPlatform& owner, std::unique_ptr<File> inner) : platform(owner), file(std::move(inner)) {}
+
+    std::size_t Read(void* data, std::size_t size) override
+    {
+        platform.Count("read");
+        return file->Read(data, size);
+    }
+    void Write(const void* data, std::size_t size) override
+    {
+        platform.Count("write");
+        file->Write(data, size);
+    }
+    void Flush() override
+    {
+        platform.Count("flush");
+        file->Flush();
+    }
+    void Close() override
+    {
+        platform.Count("close");
+        file->Close();
+    }
+
+private:
+    ScriptedPlatform& platform;
+    std::unique_ptr<File> file;
+};
+
+template <class T>
+T Next(std::deque<T>& answers, T otherwise)
+{
+    if (answers.empty())
+        return otherwise;
+    T answer = answers.front();
+    answers.pop_front();
+    return answer;
+}
+
+// "$1,234.50" with `decimals` digits behind the point.
+std::string Dollars(double amount, int decimals)
+{
+    const double scale = decimals == 0 ? 1 : 100;
+    auto units = static_cast<long long>(std::nearbyint(std::fabs(amount) * scale));
+    const long long cents = decimals == 0 ? 0 : units % 100;
+    units = decimals == 0 ? units : units / 100;
+    std::string digits = std::to_string(units);
+    for (auto at = static_cast<std::ptrdiff_t>(digits.size()) - 3; at > 0; at -= 3)
+        digits.insert(static_cast<std::size_t>(at), ",");
+    std::string text = (amount < 0 ? "-$" : "$") + digits;
+    if (decimals > 0)
+        text += "." + std::string(cents < 10 ? "0" : "") + std::to_string(cents);
+    return text;
+}
+
+std::chrono::sys_seconds PointOf(double days)
+{
+    using namespace std::chrono;
+    return sys_days(year(1899) / December / 30) + seconds(std::llround(days * 86400.0));
+}
+
+} // namespace
+
+std::ostream& operator<<(std::ostream& out, const Box& box)
+{
+    return out << "Box{" << box.Kind << ", \"" << box.Text << "\", \"" << box.Title << "\"}";
+}
+
+std::ostream& operator<<(std::ostream& out, const Question& question)
+{
+    return out << "Question{\"" << question.Prompt << "\", \"" << question.Title << "\", \"" << question.Default
+               << "\"}";
+}
+
+ScriptedPlatform::ScriptedPlatform()
+{
+    static std::atomic<unsigned> count = 0;
+    std::random_device random;
+    const fs::path path =
+        fs::temp_directory_path() / ("dravik-test-" + std::to_string(random()) + "-" + std::to_string(++count));
+    fs::create_directories(path);
+    folder = path.string();
+}
+
+ScriptedPlatform::~ScriptedPlatform()
+{
+    std::error_code ignored;
+    fs::remove_all(folder, ignored);
+}
+
+std::vector<Box> ScriptedPlatform::TakeBoxes() { return std::exchange(boxes, {}); }
+
+int ScriptedPlatform::MessageBox(const std::string& text, int kind, const std::string& title)
+{
+    boxes.push_back({kind, text, title});
+    return Next(buttons, kind == box::YesNo || kind == box::YesNoCancel ? button::Yes : button::Ok);
+}
+
+std::string ScriptedPlatform::InputBox(const std::string& prompt, const std::string& title, const std::string& text)
+{
+    questions.push_back({prompt, title, text});
+    return Next(typed, std::string());
+}
+
+std::string ScriptedPlatform::OpenFileDialog(const std::string& startFolder, const std::string& filter)
+{
+    dialogs.emplace_back(startFolder, filter);
+    if (chosen.empty())
+        Fail(failure::Cancelled);
+    return Next(chosen, std::string());
+}
+
+std::string ScriptedPlatform::GetSetting(const std::string& section, const std::string& key,
+                                         const std::string& otherwise)
+{
+    const auto found = Settings.find(key);
+    return section != "Settings" || found == Settings.end() ? otherwise : found->second;
+}
+
+void ScriptedPlatform::SaveSetting(const std::string& section, const std::string& key, const std::string& value)
+{
+    if (section == "Settings")
+        Settings[key] = value;
+}
+
+void ScriptedPlatform::ShowWait()
+{
+    WaitShown = true;
+    ++WaitCount;
+}
+
+int ScriptedPlatform::OpenLocation(const std::string& location, int /*showMode*/)
+{
+    OpenedLocations.push_back(location);
+    return 42;
+}
+
+std::string ScriptedPlatform::Currency(double amount) { return Dollars(amount, 2); }
+std::string ScriptedPlatform::CurrencyNoDecimals(double amount) { return Dollars(amount, 0); }
+
+std::string ScriptedPlatform::LongDate(double days)
+{
+    static constexpr const char* months[] = {"January", "February", "March",     "April",   "May",      "June",
+                                             "July",    "August",   "September", "October", "November", "December"};
+    const std::chrono::year_month_day date(std::chrono::floor<std::chrono::days>(PointOf(days)));
+    return std::string(months[static_cast<unsigned>(date.month()) - 1]) + " " +
+           std::to_string(static_cast<unsigned>(date.day())) + " " + std::to_string(static_cast<int>(date.year()));
+}
+
+std::string ScriptedPlatform::ShortTime(double days)
+{
+    const auto point = PointOf(days);
+    const std::chrono::hh_mm_ss time(point - std::chrono::floor<std::chrono::days>(point));
+    const auto two = [](long long n) { return (n < 10 ? "0" : "") + std::to_string(n); };
+    return two(time.hours().count()) + ":" + two(time.minutes().count());
+}
+
+std::array<std::uint8_t, 16> ScriptedPlatform::Md5(std::string_view bytes) { return ReferenceMd5(bytes); }
+
+void ScriptedPlatform::Count(const std::string& operation)
+{
+    operations.push_back(operation);
+    const bool turn = failOn ? operations.size() >= failAt : operations.size() == failAt;
+    if (failAt != 0 && turn)
+        Fail(failNumber);
+}
+
+std::unique_ptr<File> ScriptedPlatform::OpenFile(const std::string& path)
+{
+    Count("open");
+    return std::make_unique<CountedFile>(*this, DiskFiles::OpenFile(path));
+}
+
+std::unique_ptr<File> ScriptedPlatform::CreateFile(const std::string& path)
+{
+    Count("create");
+    return std::make_unique<CountedFile>(*this, DiskFiles::CreateFile(path));
+}
+
+std::int64_t ScriptedPlatform::FileLength(const std::string& path)
+{
+    Count("length");
+    return DiskFiles::FileLength(path);
+}
+
+void ScriptedPlatform::RenameFile(const std::string& from, const std::string& to)
+{
+    Count("rename");
+    DiskFiles::RenameFile(from, to);
+}
+
+void ScriptedPlatform::DeleteFile(const std::string& path)
+{
+    Count("delete");
+    DiskFiles::DeleteFile(path);
+}
+
+void ScriptedPlatform::CopyFile(const std::string& from, const std::string& to)
+{
+    Count("copy");
+    DiskFiles::CopyFile(from, to);
+}
+
+std::optional<std::string> ScriptedPlatform::FindEntry(const std::string& path)
+{
+    Count("find");
+    return DiskFiles::FindEntry(path);
+}
+
+} // namespace dravik

@@ -1,0 +1,124 @@
+#pragma once
+
+#include "league/DiskFiles.h"
+
+#include <deque>
+#include <iosfwd>
+#include <map>
+#include <string>
+#include <vector>
+
+namespace dravik {
+
+// A message box as a test sees it. The title defaults to the program's.
+struct Box {
+    int Kind;
+    std::string Text;
+    std::string Title = "Dravik Hockey Simulator Client";
+
+    bool operator==(const Box&) const = default;
+};
+std::ostream& operator<<(std::ostream& out, const Box& box);
+
+// An input box as a test sees it.
+struct Question {
+    std::string Prompt;
+    std::string Title = "Dravik Hockey Simulator Client";
+    std::string Default = {};
+
+    bool operator==(const Question&) const = default;
+};
+std::ostream& operator<<(std::ostream& out, const Question& question);
+
+// A machine that answers from a script and records what it was asked. Files are real ones, in a folder of the test's own
+// that is removed with it; any file operation can be made to fail.
+class ScriptedPlatform : public DiskFiles {
+public:
+    ScriptedPlatform();
+    ~ScriptedPlatform() override;
+
+    // The answers to come, in order. A box without an answer returns Ok, or Yes where it asks; an input box without one
+    // returns the empty text; an open dialog without one is cancelled.
+    void Answer(int button) { buttons.push_back(button); }
+    void Type(const std::string& text) { typed.push_back(text); }
+    void Choose(const std::string& path) { chosen.push_back(path); }
+
+    // What was shown and asked so far. `Boxes` clears nothing; `TakeBoxes` does.
+    [[nodiscard]] const std::vector<Box>& Boxes() const { return boxes; }
+    std::vector<Box> TakeBoxes();
+    [[nodiscard]] const std::vector<Question>& Questions() const { return questions; }
+    [[nodiscard]] const std::vector<std::pair<std::string, std::string>>& Dialogs() const { return dialogs; }
+
+    // The file operations done so far, by name ("open", "create", "read", "write", "flush", "close", "length", "rename",
+    // "delete", "copy", "find"). From the n-th on (counted from 1), or only then, they fail with `number`.
+    [[nodiscard]] const std::vector<std::string>& FileOperations() const { return operations; }
+    void FailFileOperation(std::size_t n, int number)
+    {
+        failAt = operations.size() + n;
+        failNumber = number;
+    }
+    void FailAllFrom(std::size_t n, int number)
+    {
+        FailFileOperation(n, number);
+        failOn = true;
+    }
+    void FailNoMore()
+    {
+        failAt = 0;
+        failOn = false;
+    }
+
+    // The test's folder, and a path in it.
+    [[nodiscard]] std::string Folder() const { return folder; }
+    [[nodiscard]] std::string InFolder(const std::string& name) const { return folder + PathSeparator + name; }
+
+    bool WaitShown = false;
+    int WaitCount = 0;
+    bool OtherInstance = false;
+    std::map<std::string, std::string> Settings; // of section "Settings"
+    std::vector<std::string> OpenedLocations;
+
+    int MessageBox(const std::string& text, int kind, const std::string& title) override;
+    std::string InputBox(const std::string& prompt, const std::string& title, const std::string& text) override;
+    std::string OpenFileDialog(const std::string& folder, const std::string& filter) override;
+    std::string GetSetting(const std::string& section, const std::string& key, const std::string& otherwise) override;
+    void SaveSetting(const std::string& section, const std::string& key, const std::string& value) override;
+    std::string ProgramFolder() override { return folder; }
+    std::string Version() override { return "9.8.7"; }
+    bool AnotherInstanceRuns() override { return OtherInstance; }
+    void ShowWait() override;
+    void CloseWait() override { WaitShown = false; }
+    int OpenLocation(const std::string& location, int showMode) override;
+    // A fixed form in place of a locale's: "$1,234.50", "-$5.00", and "$1,235".
+    std::string Currency(double amount) override;
+    std::string CurrencyNoDecimals(double amount) override;
+    std::string LongDate(double days) override;
+    std::string ShortTime(double days) override;
+    std::array<std::uint8_t, 16> Md5(std::string_view bytes) override;
+
+    std::unique_ptr<File> OpenFile(const std::string& path) override;
+    std::unique_ptr<File> CreateFile(const std::string& path) override;
+    std::int64_t FileLength(const std::string& path) override;
+    void RenameFile(const std::string& from, const std::string& to) override;
+    void DeleteFile(const std::string& path) override;
+    void CopyFile(const std::string& from, const std::string& to) override;
+    std::optional<std::string> FindEntry(const std::string& path) override;
+
+    // Notes one file operation and fails if it is its turn.
+    void Count(const std::string& operation);
+
+private:
+    std::string folder;
+    std::deque<int> buttons;
+    std::deque<std::string> typed;
+    std::deque<std::string> chosen;
+    std::vector<Box> boxes;
+    std::vector<Question> questions;
+    std::vector<std::pair<std::string, std::string>> dialogs;
+    std::vector<std::string> operations;
+    std::size_t failAt = 0;
+    int failNumber = 0;
+    bool failOn = false;
+};
+
+} // namespace dravik
