@@ -1,0 +1,40 @@
+#include "league/OutsideCode.h"
+#include "support/SmallLeague.h"
+
+namespace dravik {
+namespace {
+
+using ::testing::ElementsAre;
+
+TEST(LocationTest, ALocationIsHandedToTheDesktopAndItsAnswerReturned)
+{
+    ScriptedPlatform machine;
+    UseMachine(machine);
+    EXPECT_EQ(OpenLocation("http://localhost/", 5), 42);
+    EXPECT_THAT(machine.OpenedLocations, ElementsAre("http://localhost/"));
+    EXPECT_THAT(machine.Boxes(), ElementsAre());
+}
+
+TEST(LocationTest, TheShowModeReachesTheDesktopAsGiven)
+{
+    class Noting : public ScriptedPlatform {
+    public:
+        int OpenLocation(const std::string& /*location*/, int showMode) override { return showMode; }
+    } machine;
+    UseMachine(machine);
+    EXPECT_EQ(OpenLocation("x", 70000), 70000);
+}
+
+TEST(LocationTest, AFailureIsToldAndTheAnswerIs0)
+{
+    class Refusing : public ScriptedPlatform {
+    public:
+        int OpenLocation(const std::string& /*location*/, int /*showMode*/) override { Fail(failure::FileNotFound); }
+    } machine;
+    UseMachine(machine);
+    EXPECT_EQ(OpenLocation("nowhere", 1), 0);
+    EXPECT_THAT(machine.Boxes(), ElementsAre(Box{16, "53 - File not found in OpenLocation Function!"}));
+}
+
+} // namespace
+} // namespace dravik
