@@ -23,7 +23,8 @@ double LeadingNumber(std::string_view text)
         number.erase(0, 1);
     double value = 0;
     const auto [end, error] = std::from_chars(number.data(), number.data() + number.size(), value);
-    if (error == std::errc::result_out_of_range)
+    // Out of range is a number too large as well as one too small; the small one has only zeros before its point.
+    if (error == std::errc::result_out_of_range && number.find_first_of("123456789") < number.find('.'))
         Fail(failure::Overflow);
     return error == std::errc() ? value : 0;
 }
