@@ -42,6 +42,16 @@ int NumberOf(std::error_code error)
 
 [[noreturn]] void FailWith(std::error_code error) { Fail(NumberOf(error)); }
 
+// Tells a file that is not there from a folder that is not there, for which the system has one error.
+[[noreturn]] void FailWith(std::error_code error, const fs::path& path)
+{
+    std::error_code ignored;
+    if (error == std::errc::no_such_file_or_directory && path.has_parent_path() &&
+        !fs::exists(path.parent_path(), ignored))
+        Fail(failure::PathNotFound);
+    FailWith(error);
+}
+
 std::error_code LastError() { return {errno, std::generic_category()}; }
 
 std::FILE* OpenStream(const fs::path& path, bool forWriting)
@@ -58,7 +68,7 @@ public:
     DiskFile(const fs::path& path, bool forWriting) : stream(OpenStream(path, forWriting))
     {
         if (stream == nullptr)
-            FailWith(LastError());
+            FailWith(LastError(), path);
     }
     ~DiskFile() override
     {
@@ -106,12 +116,14 @@ private:
     std::FILE* stream;
 };
 
-// Letters of the code page as one case: ASCII and the accented letters of 192 to 254 with their lower-case twins.
+// Letters of the code page as one case: ASCII, the accented letters of 192 to 254, and the four that stand elsewhere.
 unsigned char Lower(unsigned char c)
 {
     if ((c >= 'A' && c <= 'Z') || (c >= 0xC0 && c <= 0xDE && c != 0xD7))
         return static_cast<unsigned char>(c + 0x20);
-    return c;
+    if (c == 0x8A || c == 0x8C || c == 0x8E)
+        return static_cast<unsigned char>(c + 0x10);
+    return c == 0x9F ? 0xFF : c;
 }
 
 bool SameName(const std::string& a, const std::string& b)
@@ -139,29 +151,37 @@ std::unique_ptr<File> DiskFiles::CreateFile(const std::string& path)
 
 std::int64_t DiskFiles::FileLength(const std::string& path)
 {
+    const fs::path file = NativePath(path);
     std::error_code error;
-    const auto length = fs::file_size(NativePath(path), error);
+    const auto length = fs::file_size(file, error);
     if (error)
-        FailWith(error);
+        FailWith(error, file);
     return static_cast<std::int64_t>(length);
 }
 
 void DiskFiles::RenameFile(const std::string& from, const std::string& to)
 {
+    const fs::path source = NativePath(from);
+    const fs::path target = NativePath(to);
     std::error_code error;
-    fs::rename(NativePath(from), NativePath(to), error);
+    fs::rename(source, target, error);
+    std::error_code ignored;
     if (error)
-        FailWith(error);
+        FailWith(error, fs::exists(source, ignored) ? target : source);
 }
 
 void DiskFiles::DeleteFile(const std::string& path)
 {
+    const fs::path file = NativePath(path);
     std::error_code error;
-    const bool deleted = fs::remove(NativePath(path), error);
+    // Removing takes an empty folder just as well as a file.
+    if (fs::is_directory(fs::symlink_status(file, error)))
+        Fail(failure::PathAccess);
+    const bool deleted = fs::remove(file, error);
+    if (!error && !deleted)
+        error = std::make_error_code(std::errc::no_such_file_or_directory);
     if (error)
-        FailWith(error);
-    if (!deleted)
-        Fail(failure::FileNotFound);
+        FailWith(error, file);
 }
 
 void DiskFiles::CopyFile(const std::string& from, const std::string& to)
@@ -176,7 +196,7 @@ void DiskFiles::CopyFile(const std::string& from, const std::string& to)
         target->Flush();
         target->Close();
         RenameFile(beside, to);
-    } catch (const Failure&) {
+    } catch (...) {
         std::error_code ignored;
         fs::remove(NativePath(beside), ignored);
         throw;
@@ -193,19 +213,17 @@ std::optional<std::string> DiskFiles::FindEntry(const std::string& path)
     if (fs::exists(fs::symlink_status(wanted, error)))
         return ProgramPath(name);
     const fs::path folder = wanted.has_parent_path() ? wanted.parent_path() : fs::path(".");
-    fs::directory_iterator entries(folder, error);
-    if (error)
-        FailWith(error);
     const std::string wantedName = ProgramPath(name);
     std::optional<std::string> found;
-    for (; entries != fs::directory_iterator(); entries.increment(error)) {
-        if (error)
-            FailWith(error);
+    fs::directory_iterator entries(folder, error);
+    for (; !error && entries != fs::directory_iterator(); entries.increment(error)) {
         const std::string entry = ProgramPath(entries->path().filename());
         // The order of a folder's entries is the file system's own; the first in the order of names is the same everywhere.
         if (SameName(entry, wantedName) && (!found || entry < *found))
             found = entry;
     }
+    if (error)
+        FailWith(error, folder / name);
     return found;
 }
 
