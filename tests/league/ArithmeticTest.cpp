@@ -41,7 +41,6 @@ TEST(ArithmeticTest, WhatIsNoTieRoundsToTheNearest)
     EXPECT_EQ(RoundToInt32(99.4), 99);
 }
 
-// A tie tells itself by its fraction, its neighbours by their last bit.
 TEST(ArithmeticTest, EveryHalfOf16BitsRoundsAsTheParityOfItsFloorSays)
 {
     for (long long whole = -32768; whole < 32767; ++whole) {
