@@ -1,0 +1,71 @@
+#include "rules/Function.h"
+#include "rules/LineSlots.h"
+
+#include <array>
+#include <cstddef>
+#include <string_view>
+
+namespace dravik {
+
+namespace {
+
+struct Tag {
+    std::string_view Prefix;
+    std::array<std::string_view, 3> Suffix; // by place
+};
+
+// In the order of LineField.
+constexpr std::array<Tag, 13> Tags{{
+    {"L-", {"C, ", "LW, ", "RW, "}},
+    {"L-", {"D, ", "D, "}},
+    {"PP-", {"C, ", "LW, ", "RW, "}},
+    {"PP-", {"D, ", "D, "}},
+    {"PK-", {"F, ", "F, "}},
+    {"PK-", {"D, ", "D, "}},
+    {"44-", {"F, ", "F, "}},
+    {"44-", {"D, ", "D, "}},
+    {"PK3-", {"F, "}},
+    {"PK3-", {"D, ", "D, "}},
+    {"EF-", {", "}},
+    {"ED-", {", "}},
+    {"PS-", {", "}},
+}};
+static_assert(static_cast<std::size_t>(LineField::PenaltyShot) + 1 == Tags.size());
+
+// Calls `found` with every skater slot of the day that holds `player`, in the order in which they are told.
+template <class Found>
+void EachSlotOf(int team, int player, int day, Side side, Found&& found)
+{
+    const Lines& lines = LinesOf(team, day, side);
+    for (const LineSlot& slot : SkaterSlots)
+        if (At(lines, slot) == player)
+            found(slot);
+}
+
+std::string TagsOf(int team, int player, int day, Side side)
+{
+    std::string text;
+    EachSlotOf(team, player, day, side, [&](const LineSlot& slot) {
+        const Tag& tag = Tags[static_cast<std::size_t>(slot.Field)];
+        text += tag.Prefix;
+        text += std::to_string(slot.Number);
+        text += tag.Suffix[static_cast<std::size_t>(slot.Place - 1)];
+    });
+    return text;
+}
+
+int CountOf(int team, int player, int day, Side side)
+{
+    int count = 0;
+    EachSlotOf(team, player, day, side, [&](const LineSlot&) { ++count; });
+    return count;
+}
+
+} // namespace
+
+std::string PlayOnLineString(int team, int player, int day) { return TagsOf(team, player, day, Side::Pro); }
+std::string PlayOnLineStringFarm(int team, int player, int day) { return TagsOf(team, player, day, Side::Farm); }
+int PlayOnLineInteger(int team, int player, int day) { return CountOf(team, player, day, Side::Pro); }
+int PlayOnLineIntegerFarm(int team, int player, int day) { return CountOf(team, player, day, Side::Farm); }
+
+} // namespace dravik
