@@ -1,0 +1,69 @@
+#include "league/ClientVariable.h"
+#include "league/Message.h"
+#include "league/Reporting.h"
+#include "rules/Function.h"
+#include "rules/LineSlots.h"
+
+namespace dravik {
+
+namespace {
+
+constexpr int Days = 10;
+
+void EmptyIfHolding(Int16& slot, long long index)
+{
+    if (slot == index)
+        slot = 0;
+}
+
+void TakeOut(Lines& lines, int id)
+{
+    if (id > GoalieOffset) {
+        EmptyIfHolding(lines.StartGoalie, id - GoalieOffset);
+        EmptyIfHolding(lines.BackupGoalie, id - GoalieOffset);
+        return;
+    }
+    for (const LineSlot& slot : SkaterSlots)
+        EmptyIfHolding(At(lines, slot), id);
+}
+
+} // namespace
+
+void WipesLines(int team, int day, bool pro)
+{
+    Reporting(" in WipesLines!", [&] {
+        if (!TeamTable::Has(team) || day < 1 || day > Days) {
+            ShowIntegrityFailure();
+            return;
+        }
+        Lines& lines = LinesOf(team, day, pro ? Side::Pro : Side::Farm);
+        for (const LineSlot& slot : SkaterSlots)
+            At(lines, slot) = 0;
+        lines.StartGoalie = 0;
+        lines.BackupGoalie = 0;
+        for (Int16& points : lines.Strategy)
+            points = 0;
+    });
+}
+
+void WipePlayerFromTeamLines(int team, int id)
+{
+    Reporting(" in WipePlayerFromTeamLines!", [&] {
+        if (!TeamTable::Has(team)) {
+            ShowIntegrityFailure();
+            return;
+        }
+        for (int day = 1; day <= Days; ++day) {
+            TakeOut(LinesOf(team, day, Side::Pro), id);
+            TakeOut(LinesOf(team, day, Side::Farm), id);
+        }
+        if (id > GoalieOffset)
+            return;
+        Team& record = Teams[team];
+        EmptyIfHolding(record.Captain, id);
+        for (Int16& assistant : record.Assistant)
+            EmptyIfHolding(assistant, id);
+    });
+}
+
+} // namespace dravik
