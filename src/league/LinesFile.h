@@ -5,6 +5,7 @@
 namespace dravik {
 
 // Where the lines file of `team` (1..100) is saved: the program's folder, the team's name without spaces, ".dvl".
+// Fails with 75 when the name holds a character that no file name may hold.
 std::string LinesFilePath(int team);
 
 // Writes the lines file of `team` to `target`, plain or compressed as the settings say. `RosterChange.Status` of every
@@ -18,8 +19,9 @@ enum class LinesFileRead {
     NotDecompressed // told already
 };
 
-// Reads the lines file `path` over the record of `CurrentTeam` and over its people. A wrong head leaves the tables
-// untouched; after a wrong end everything read so far stays. Failures are thrown.
+// Reads the lines file `path`, found whatever the case of its name, over the record of `CurrentTeam` and over its people.
+// A wrong head leaves the tables untouched; after a wrong end, what is in the file stays taken over. A work file left
+// behind is deleted first. Failures are thrown.
 LinesFileRead ReadLinesFile(const std::string& path);
 
 } // namespace dravik

@@ -8,12 +8,14 @@
 namespace dravik {
 
 // Compresses the file `source` into the file `target` (4 bytes length, then one zlib stream of level 9). True when the
-// target was written. A failure is told with the ending " in Zlib Compress!" and leaves no target. Constant memory.
+// target was written. A failure is told with the ending " in Zlib Compress!" and leaves `target` as it
+// was; an empty source is one. Constant memory.
 bool ZlibCompress(const std::string& source, const std::string& target);
 
 // Decompresses the file `source` into the file `target`. A stream that does not decode is not reported as long as one
 // byte comes out of it: what was decoded before the error is written. True when the target was written; a failure is
-// told with the ending " in Zlib Decompress!". Constant memory, whatever the length field claims.
+// told with the ending " in Zlib Decompress!" and leaves `target` as it was. Constant memory, whatever the length field
+// claims.
 bool ZlibDecompress(const std::string& source, const std::string& target);
 
 // Whether an entry of this path is there, whatever the case of its name. Any failure counts as no; shows nothing.
@@ -27,6 +29,10 @@ std::string GetFileName(const std::string& path);
 
 // Deletes the file if it is there.
 void DeleteIfExists(const std::string& path);
+
+// Where a file of the team named `teamName` is saved: the program's folder, the name without spaces, `extension`. Fails
+// with 75 when the name holds a character that no file name may hold.
+std::string TeamFilePath(std::string_view teamName, std::string_view extension);
 
 // Shows the wait screen and lets it paint for about 100 milliseconds.
 void ShowWait();

@@ -1,0 +1,65 @@
+#include "league/ByteStream.h"
+
+#include <algorithm>
+#include <exception>
+
+namespace dravik {
+
+namespace {
+constexpr std::size_t ReadSize = 1 << 16;
+constexpr std::size_t WriteSize = 1 << 18;
+} // namespace
+
+FileSource::FileSource(const std::string& path) : file(Machine().OpenFile(path)), buffer(ReadSize) {}
+
+Bytes FileSource::Next()
+{
+    const std::size_t count = file->Read(buffer.data(), buffer.size());
+    return Bytes(buffer).first(count);
+}
+
+WholeFile::WholeFile(const std::string& path) : target(path), beside(path + ".part")
+{
+    buffer.reserve(WriteSize);
+    file = Machine().CreateFile(beside);
+}
+
+WholeFile::~WholeFile()
+{
+    if (committed)
+        return;
+    file.reset();
+    try {
+        Machine().DeleteFile(beside);
+    } catch (const std::exception&) { // NOLINT: the failure that brought us here is the one to tell
+    }
+}
+
+void WholeFile::Write(Bytes bytes)
+{
+    while (!bytes.empty()) {
+        const Bytes piece = bytes.first(std::min(bytes.size(), WriteSize - buffer.size()));
+        buffer.insert(buffer.end(), piece.begin(), piece.end());
+        bytes = bytes.subspan(piece.size());
+        if (buffer.size() == WriteSize)
+            WriteOut();
+    }
+}
+
+void WholeFile::Commit()
+{
+    WriteOut();
+    file->Flush();
+    file->Close();
+    Machine().RenameFile(beside, target);
+    committed = true;
+}
+
+void WholeFile::WriteOut()
+{
+    if (!buffer.empty())
+        file->Write(buffer.data(), buffer.size());
+    buffer.clear();
+}
+
+} // namespace dravik

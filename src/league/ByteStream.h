@@ -1,0 +1,67 @@
+#pragma once
+
+#include "league/Platform.h"
+
+#include <span>
+#include <vector>
+
+namespace dravik {
+
+using Bytes = std::span<const unsigned char>;
+
+// Bytes that come one piece after the other.
+class ByteSource {
+public:
+    ByteSource() = default;
+    ByteSource(const ByteSource&) = delete;
+    ByteSource& operator=(const ByteSource&) = delete;
+    virtual ~ByteSource() = default;
+
+    // The next piece, valid until the next call. An empty one is the end, and the answer from then on.
+    virtual Bytes Next() = 0;
+};
+
+// Where bytes go one piece after the other.
+class ByteSink {
+public:
+    ByteSink() = default;
+    ByteSink(const ByteSink&) = delete;
+    ByteSink& operator=(const ByteSink&) = delete;
+    virtual ~ByteSink() = default;
+
+    virtual void Write(Bytes bytes) = 0;
+};
+
+// The bytes of a file as they stand on the disk. Failures of the file are thrown.
+class FileSource final : public ByteSource {
+public:
+    explicit FileSource(const std::string& path);
+
+    Bytes Next() override;
+
+private:
+    std::unique_ptr<File> file;
+    std::vector<unsigned char> buffer;
+};
+
+// A file that appears under its name only when it is whole: it is written beside its place, and `Commit` flushes it and
+// gives it its name in one step. Without a commit nothing is left of it, and what stood under the name still does.
+class WholeFile final : public ByteSink {
+public:
+    explicit WholeFile(const std::string& path);
+    ~WholeFile() override;
+
+    void Write(Bytes bytes) override;
+    void Commit();
+
+private:
+    void WriteOut();
+
+    std::string target;
+    std::string beside;
+    std::unique_ptr<File> file;
+    std::vector<unsigned char> buffer;
+    bool committed = false;
+};
+
+} // namespace dravik

@@ -1,0 +1,176 @@
+#include "league/ClientFile.h"
+
+#include "league/ClientVariable.h"
+#include "league/Failure.h"
+#include "league/Message.h"
+#include "league/OutsideCode.h"
+#include "league/Platform.h"
+#include "league/Reporting.h"
+#include "league/Session.h"
+#include "league/SlotFile.h"
+
+#include <utility>
+
+namespace dravik {
+
+namespace {
+
+constexpr std::string_view StartMagic = "DRVK Client Files Version 1.12 - Start";
+constexpr std::string_view EndMagic = "DRVK Client Files Version 1.12 - End";
+
+template <class Table>
+void ReadTable(SlotReader& slots, Table& table)
+{
+    // Slot 0 of a table that has one is not in the file.
+    for (long long i = 1; i <= Table::last; ++i)
+        slots.Read(table[i]);
+}
+
+// Whether both magics are right. After a wrong start magic nothing is read.
+bool ReadLeague(SlotReader& slots)
+{
+    if (!slots.ReadMagic(StartMagic))
+        return false;
+    slots.Read(LeagueData);
+    ReadTable(slots, Prospects);
+    ReadTable(slots, Teams);
+    ReadTable(slots, Players);
+    ReadTable(slots, Goalies);
+    ReadTable(slots, Coaches);
+    ReadTable(slots, GameSchedule);
+    return slots.ReadMagic(EndMagic);
+}
+
+void TellCritical(std::string_view text)
+{
+    CloseWait();
+    ShowBox(text, box::Critical);
+}
+
+void SetMenus(MainWindow& window)
+{
+    window.SetDraftMenu(false, "&Draft List");
+    if (!LeagueData.OffSeason) {
+        window.SetFreeAgentsMenu(!IsDeadlineInForce());
+        return;
+    }
+    window.SetFreeAgentsMenu(true);
+    if (LeagueData.FantasyDraft)
+        window.SetDraftMenu(true, "Fantasy &Draft List");
+    if (LeagueData.EntryDraft && LeagueData.EntryDraftDone == 0)
+        window.SetDraftMenu(true, "Entry &Draft List");
+}
+
+// The date of the client file, as long as it is one: from 1 January 100 to 31 December 9999.
+double CheckedFileDate()
+{
+    constexpr double first = -657434;
+    constexpr double behindLast = 2958466;
+    const double date = LeagueData.FileDate;
+    if (!(date >= first && date < behindLast))
+        Fail(failure::Overflow);
+    return date;
+}
+
+template <class Person>
+void FillPlaceholder(Person& person, std::string_view name, int endurance)
+{
+    person.InUse = true;
+    person.Name = name;
+    person.Number = 0;
+    person.Team = 0;
+    person.Status = status::Farm;
+    person.Country = "CAN";
+    person.Age = 30;
+    person.Weight = 200;
+    person.Height = 70;
+    person.Contract = 1;
+    person.Salary = 1000;
+    person.Condition = 100;
+    for (auto& stat : person.Stats)
+        stat = LeagueData.UnknownRating;
+    person.Stats[endurance] = 80;
+}
+
+template <class Changes, class People>
+void CopyWords(Changes& changes, const People& people)
+{
+    for (long long i = 1; i <= Changes::last; ++i) {
+        changes[i].TradeAvailable = people[i].TradeAvailable;
+        changes[i].Protected = people[i].Protected;
+    }
+}
+
+// Older files know nothing of these rules and hold 0.
+void SetDefaults()
+{
+    const std::pair<Int16&, int> defaults[] = {
+        {LeagueData.ProDressedSkaters, 18}, {LeagueData.MaxDressedGoalies, 2},  {LeagueData.RequiredCenters, 3},
+        {LeagueData.RequiredLeftWings, 3},  {LeagueData.RequiredRightWings, 3}, {LeagueData.RequiredDefensemen, 6},
+        {LeagueData.OverallWeightCK, 50},
+    };
+    for (const auto& [field, value] : defaults)
+        if (field == 0)
+            field = value;
+}
+
+void ShowLeague(const std::string& path, MainWindow& window)
+{
+    const bool all = static_cast<bool>(LeagueData.ShowAllRatings);
+    PlayerStatCount = all ? 15 : 7;
+    GoalieStatCount = all ? 13 : 7;
+
+    const std::string name = GetFileName(path);
+    WindowTitle = std::string(ProgramTitle) + " - " + name.substr(0, name.size() < 4 ? 0 : name.size() - 4);
+    window.SetWindowCaption(WindowTitle);
+    window.PlaceTeam();
+    window.CentreOnScreen();
+    window.ShowLeagueMenus();
+    CloseWait();
+    Machine().SaveSetting("Settings", "LastLoadLeague", path);
+    SetMenus(window);
+    const double date = CheckedFileDate();
+    window.SetDateLabel("Client File Date : " + Machine().LongDate(date) + " at " + Machine().ShortTime(date));
+
+    FillPlaceholder(Players[0], "Unknown Player", skater::DU);
+    Players[0].Position = position::Center;
+    FillPlaceholder(Goalies[0], "Unknown Goalie", goalie::DU);
+    CopyWords(RosterChanges, Players);
+    CopyWords(RosterChangesGoalie, Goalies);
+    SetDefaults();
+}
+
+} // namespace
+
+void OpenLeagueClient(const std::string& path, MainWindow& window)
+{
+    Reporting(" in OpenLeagueClient!", [&] {
+        EmptyLeagueTables();
+        if (!FileExist(path)) {
+            TellCritical("Cannot find last client league file!");
+            return;
+        }
+        DeleteIfExists(TempFile);
+        ShowWait();
+
+        // A file that cannot be decompressed to its end is not read at all, although its head may have been: these two
+        // keep what they held.
+        const League league = LeagueData;
+        const CoachTable coaches = Coaches;
+        bool whole = false;
+        if (!ReadSlotFile(ExistingPath(path), [&](SlotReader& slots) { whole = ReadLeague(slots); })) {
+            LeagueData = league;
+            Coaches = coaches;
+            EmptyLeagueTables();
+            return;
+        }
+        if (!whole) {
+            TellCritical("File Integrity is incorrect!");
+            EmptyLeagueTables();
+            return;
+        }
+        ShowLeague(path, window);
+    });
+}
+
+} // namespace dravik

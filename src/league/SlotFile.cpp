@@ -1,0 +1,120 @@
+#include "league/SlotFile.h"
+
+#include "league/OutsideCode.h"
+#include "league/ZlibWrapper.h"
+
+#include <algorithm>
+#include <array>
+#include <cstring>
+
+namespace dravik {
+
+namespace {
+
+constexpr std::array<unsigned char, 4096> Zeros{};
+
+std::vector<unsigned char> MagicRecord(std::string_view text)
+{
+    const Int16 length(static_cast<long long>(text.size()));
+    std::vector<unsigned char> record(MagicLength(text));
+    std::memcpy(record.data(), &length, sizeof length);
+    std::copy(text.begin(), text.end(), record.begin() + sizeof length);
+    return record;
+}
+
+} // namespace
+
+bool SlotReader::ReadMagic(std::string_view text)
+{
+    const auto wanted = MagicRecord(text);
+    std::vector<unsigned char> found(wanted.size());
+    return ReadBytes(found.data(), found.size()) && found == wanted;
+}
+
+bool SlotReader::ReadBytes(unsigned char* to, std::size_t size)
+{
+    Skip();
+    std::size_t missing = size;
+    while (missing > 0 && Refill()) {
+        const std::size_t count = std::min(missing, piece.size());
+        std::memcpy(to, piece.data(), count);
+        piece = piece.subspan(count);
+        to += count;
+        missing -= count;
+    }
+    std::memset(to, 0, missing);
+    behind = slotLength - size;
+    return missing == 0;
+}
+
+// Whether there is a byte left to read.
+bool SlotReader::Refill()
+{
+    if (piece.empty())
+        piece = source.Next();
+    return !piece.empty();
+}
+
+void SlotReader::Skip()
+{
+    while (behind > 0 && Refill()) {
+        const std::size_t count = std::min(behind, piece.size());
+        piece = piece.subspan(count);
+        behind -= count;
+    }
+}
+
+void SlotWriter::WriteMagic(std::string_view text) { WriteBytes(MagicRecord(text)); }
+
+void SlotWriter::WriteBytes(Bytes record)
+{
+    while (behind > 0) {
+        const std::size_t count = std::min(behind, Zeros.size());
+        sink.Write(Bytes(Zeros).first(count));
+        behind -= count;
+    }
+    sink.Write(record);
+    behind = slotLength - record.size();
+}
+
+bool ReadSlotFile(const std::string& path, const std::function<void(SlotReader&)>& read, std::size_t slot)
+{
+    const auto readFrom = [&](ByteSource& bytes) {
+        SlotReader slots(bytes, slot);
+        read(slots);
+    };
+    if (SkipZIPClient()) {
+        FileSource file(path);
+        readFrom(file);
+        return true;
+    }
+    return Decompressing([&] {
+        FileSource file(path);
+        InflateStream bytes(file);
+        readFrom(bytes);
+    });
+}
+
+bool WriteSlotFile(const std::string& target, std::int64_t length, const std::function<void(SlotWriter&)>& write,
+                   std::size_t slot)
+{
+    const auto writeTo = [&](ByteSink& bytes) {
+        SlotWriter slots(bytes, slot);
+        write(slots);
+    };
+    if (SkipZIPClient()) {
+        WholeFile file(target);
+        writeTo(file);
+        file.Commit();
+        return true;
+    }
+    return Compressing([&] {
+        WholeFile file(target);
+        DeflateStream bytes(file, length);
+        writeTo(bytes);
+        bytes.Finish();
+        file.Commit();
+    });
+}
+
+} // namespace dravik
