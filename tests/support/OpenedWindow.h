@@ -1,0 +1,30 @@
+#pragma once
+
+#include "league/ClientFile.h"
+
+#include <string>
+#include <vector>
+
+namespace dravik {
+
+// A main window that notes what opening a client file does to it, in order, one line a call.
+class OpenedWindow final : public MainWindow {
+public:
+    std::vector<std::string> Calls;
+
+    void SetWindowCaption(const std::string& caption) override { Calls.push_back("caption " + caption); }
+    void PlaceTeam() override { Calls.emplace_back("place teams"); }
+    void CentreOnScreen() override { Calls.emplace_back("centre"); }
+    void ShowLeagueMenus() override { Calls.emplace_back("show menus"); }
+    void SetDraftMenu(bool enabled, std::string_view caption) override
+    {
+        Calls.push_back("draft " + std::string(enabled ? "on " : "off ") + std::string(caption));
+    }
+    void SetFreeAgentsMenu(bool enabled) override
+    {
+        Calls.emplace_back(enabled ? "free agents on" : "free agents off");
+    }
+    void SetDateLabel(const std::string& text) override { Calls.push_back("date " + text); }
+};
+
+} // namespace dravik
