@@ -1,0 +1,41 @@
+#pragma once
+
+#include "league/ClientVariable.h"
+
+namespace dravik {
+
+// A person belongs to a team when his record is in use and names the team.
+template <class Person>
+bool BelongsTo(const Person& person, int team)
+{
+    return person.Team == team && person.InUse;
+}
+
+// Calls `visit(person, index)` for every person of `people` (from slot 1 on) who belongs to `team`, in index order.
+template <class People, class Visit>
+void EachOfTeam(People& people, int team, Visit&& visit)
+{
+    int index = 0;
+    for (auto& person : people) {
+        if (index >= 1 && BelongsTo(person, team))
+            visit(person, index);
+        ++index;
+    }
+}
+
+// Healthy and not suspended: he may be dressed.
+template <class Person>
+bool IsDressable(const Person& person)
+{
+    constexpr int healthy = 95;
+    return person.Condition >= healthy && person.Suspension == 0;
+}
+
+// Dressable and under contract.
+template <class Person>
+bool IsFit(const Person& person)
+{
+    return IsDressable(person) && person.Contract > 0;
+}
+
+} // namespace dravik
