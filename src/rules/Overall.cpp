@@ -17,12 +17,12 @@ using SkaterWeights = std::array<double, 15>;
 using GoalieWeights = std::array<double, 13>;
 
 // clang-format off
-//                                            CK    FG  DI    SK    ST    DU    PH    FO    PA    SC    DF    EX    LD    MO PO
-constexpr SkaterWeights ForwardWeights{       0.03, 0, 0.01, 0.12, 0.07, 0.05, 0.10, 0.01, 0.12, 0.12, 0.10, 0.05, 0.06, 0, 0.01};
-constexpr SkaterWeights ScoringDefenseWeights{0.06, 0, 0.01, 0.12, 0.09, 0.09, 0.08, 0,    0.11, 0.06, 0.10, 0.06, 0.06, 0, 0.01};
-constexpr SkaterWeights StayingDefenseWeights{0.06, 0, 0.01, 0.12, 0.09, 0.09, 0.06, 0,    0.09, 0.04, 0.16, 0.06, 0.06, 0, 0.01};
-//                                            SK    DU    ST    SZ    AG    RB    SC    HS    RT    EX    LD    MO PO
-constexpr GoalieWeights GoalieBaseWeights{    0.08, 0.03, 0.04, 0.07, 0.08, 0.08, 0.12, 0.06, 0.11, 0.07, 0.05, 0, 0.01};
+//                                         CK    FG DI    SK    ST    DU    PH    FO    PA    SC    DF    EX    LD    MO PO
+constexpr SkaterWeights ForwardBase{       0.03, 0, 0.01, 0.12, 0.07, 0.05, 0.10, 0.01, 0.12, 0.12, 0.10, 0.05, 0.06, 0, 0.01};
+constexpr SkaterWeights ScoringDefenseBase{0.06, 0, 0.01, 0.12, 0.09, 0.09, 0.08, 0,    0.11, 0.06, 0.10, 0.06, 0.06, 0, 0.01};
+constexpr SkaterWeights StayingDefenseBase{0.06, 0, 0.01, 0.12, 0.09, 0.09, 0.06, 0,    0.09, 0.04, 0.16, 0.06, 0.06, 0, 0.01};
+//                                 SK    DU    ST    SZ    AG    RB    SC    HS    RT    EX    LD    MO PO
+constexpr GoalieWeights GoalieBase{0.08, 0.03, 0.04, 0.07, 0.08, 0.08, 0.12, 0.06, 0.11, 0.07, 0.05, 0, 0.01};
 // clang-format on
 
 template <class Person, class Weights>
@@ -41,7 +41,7 @@ void AddSkater(Single& sum, const Player& player, int position)
     const auto rating = [&](int stat) { return static_cast<double>(player.Stats[stat]); };
     const bool defense = position == position::Defense;
     const bool staysHome = player.Stats[skater::DF] > player.Stats[skater::SC];
-    AddBase(sum, player, !defense ? ForwardWeights : staysHome ? StayingDefenseWeights : ScoringDefenseWeights);
+    AddBase(sum, player, !defense ? ForwardBase : staysHome ? StayingDefenseBase : ScoringDefenseBase);
 
     const League& league = LeagueData;
     // A defenseman's checking goes by the weight of discipline.
@@ -75,7 +75,7 @@ double GoalieStopping(const Goalie& goalie)
 void AddGoalie(Single& sum, const Goalie& goalie)
 {
     const auto rating = [&](int stat) { return static_cast<double>(goalie.Stats[stat]); };
-    AddBase(sum, goalie, GoalieBaseWeights);
+    AddBase(sum, goalie, GoalieBase);
 
     sum += rating(goalie::DU) * Share(LeagueData.OverallWeightDU, 3333);
     sum += GoalieStopping(goalie);
