@@ -38,12 +38,18 @@ bool CheckSalaryCap(int team, bool showMessage);
 bool WaiverCheck(int id);
 
 // Judges one day of the pro lines and takes illegal people out of them, silent calls included. True when complete and
-// legal. With `showMessage` the text is shown in an information box.
+// legal. With `showMessage` the text is shown in an information box. A slot that holds a number outside its table fails
+// with 9.
 bool CheckLine(int team, bool showMessage, int day, bool log);
 
 // The same for the farm's lines: strict when the league requires farm rosters, otherwise judging only what stands in
 // them; True at once in a league without farm teams.
 bool CheckLineFarm(int team, bool showMessage, int day, bool log);
+
+// The text of the CheckLine or CheckLineFarm that ran last, whether shown or not, with a line break behind each finding;
+// "Lines are perfect!" when there was none. Empty when nothing was judged; a judgement that failed leaves what it had
+// found by then.
+const std::string& LastLinesText();
 
 // True when every slot of the pro day is 0, goalies included.
 bool CheckLineEmpty(int team, int day);
