@@ -23,12 +23,19 @@ void EachOfTeam(People& people, int team, Visit&& visit)
     }
 }
 
+// Healthy enough to play.
+template <class Person>
+bool IsHealthy(const Person& person)
+{
+    constexpr int healthy = 95;
+    return person.Condition >= healthy;
+}
+
 // Healthy and not suspended: he may be dressed.
 template <class Person>
 bool IsDressable(const Person& person)
 {
-    constexpr int healthy = 95;
-    return person.Condition >= healthy && person.Suspension == 0;
+    return IsHealthy(person) && person.Suspension == 0;
 }
 
 // Dressable and under contract.
