@@ -1,0 +1,37 @@
+#pragma once
+
+#include "league/Field.h"
+
+#include <algorithm>
+
+namespace dravik {
+
+// A rating list is two rows: ids, numbered from 1, and ratings, numbered from 0, whose entry 0 holds the number of
+// entries. It runs from best to worst; behind its end both rows are 0.
+
+// Empties the list: every entry becomes 0, not only the count.
+template <class Ids, class Ratings>
+void EmptyRatingList(Ids& ids, Ratings& ratings)
+{
+    std::fill(ids.begin(), ids.end(), Int16());
+    std::fill(ratings.begin(), ratings.end(), Int16());
+}
+
+// Puts `id` before the first entry whose rating is lower than `rating`, so that among equals the earlier inserted stands
+// first. Fails with 9 when the list is full.
+template <class Ids, class Ratings>
+void InsertByRating(Ids& ids, Ratings& ratings, long long id, long long rating)
+{
+    const long long count = ratings[0];
+    ids[count + 1] = id;
+    ratings[count + 1] = rating;
+    const auto firstRating = ratings.begin() + 1;
+    const auto place =
+        std::partition_point(firstRating, firstRating + count, [&](long long other) { return other >= rating; }) -
+        firstRating;
+    std::rotate(ids.begin() + place, ids.begin() + count, ids.begin() + count + 1);
+    std::rotate(firstRating + place, firstRating + count, firstRating + count + 1);
+    ++ratings[0];
+}
+
+} // namespace dravik
