@@ -1,0 +1,328 @@
+#include "league/Arithmetic.h"
+#include "league/Message.h"
+#include "league/Platform.h"
+#include "league/Reporting.h"
+#include "league/Session.h"
+#include "makers/Makers.h"
+#include "makers/RatingList.h"
+#include "rules/Function.h"
+#include "rules/People.h"
+
+namespace dravik {
+
+namespace {
+
+// Working state of one run.
+struct RosterRun {
+    int Team;
+    bool Verbose;
+    bool Partial;
+    Int32 Payroll;
+    Row<Int16, 1, 10000> Ids{};     // the ranking, of the skaters first and then of the goalies
+    Row<Int16, 0, 10000> Ratings{}; // an entry that is dressed or refused stands at 0
+    Row<Int16, 1, 5> PositionCount{};
+    Int16 DressedCount{};
+    Int16 StuckCount{}; // scratches that may not go to the farm
+};
+
+// What the two kinds of people differ in.
+struct SkaterKind {
+    static PlayerTable& People() { return Players; }
+    static PlayerChangeTable& Changes() { return RosterChanges; }
+    static constexpr int Offset = 0;
+    static constexpr bool WipedGoingDown = true;
+
+    static int Rating(int id) { return CalculateOverall(static_cast<int>(Players[id].Position), id); }
+    static void Count(RosterRun& run, const Player& player) { ++run.PositionCount[player.Position]; }
+    static bool MustSitOut(const Player& player) { return player.Status == status::Pro && !IsDressable(player); }
+};
+
+struct GoalieKind {
+    static GoalieTable& People() { return Goalies; }
+    static GoalieChangeTable& Changes() { return RosterChangesGoalie; }
+    static constexpr int Offset = GoalieOffset;
+    static constexpr bool WipedGoingDown = false;
+
+    static int Rating(int id) { return CalculateOverall(position::Goalie, id); }
+    static void Count(RosterRun& /*run*/, const Goalie& /*goalie*/) {}
+    // A suspended goalie sits out wherever he stands, on the farm too.
+    static bool MustSitOut(const Goalie& goalie)
+    {
+        return goalie.Suspension != 0 || (!IsHealthy(goalie) && goalie.Status == status::Pro);
+    }
+};
+
+template <class Kind>
+void SetStatus(int id, int status)
+{
+    Kind::People()[id].Status = status;
+    Kind::Changes()[id].Status = status;
+}
+
+template <class Kind>
+void Wipe(const RosterRun& run, int id)
+{
+    WipePlayerFromTeamLines(run.Team, id + Kind::Offset);
+}
+
+template <class Kind>
+void Scratch(const RosterRun& run, int id)
+{
+    SetStatus<Kind>(id, status::Scratch);
+    Wipe<Kind>(run, id);
+}
+
+template <class Person>
+bool IsUsable(const Person& person)
+{
+    return IsFit(person) && person.Salary >= LeagueData.MinSalary && person.Salary <= LeagueData.MaxSalary;
+}
+
+int RankingCount(const RosterRun& run) { return static_cast<int>(run.Ratings[0]); }
+
+std::string TeamName(const RosterRun& run) { return Teams[run.Team].Name.Trimmed(); }
+
+int OpeningPayroll(int team)
+{
+    int payroll = RoundToInt32(ProPayroll(team));
+    if (LeagueData.FarmPayrollInCap)
+        payroll = RoundToInt32(payroll + static_cast<double>(FarmPayroll(team)));
+    if (LeagueData.CoachPayrollInCap)
+        payroll = RoundToInt32(payroll + static_cast<double>(CoachPayroll(team)));
+    return payroll;
+}
+
+// Ranks the usable people of a kind, in partial mode those of the pro side ahead of the farm. Whoever of the others must
+// sit out goes to the scratches; the rest stay as they stand and no later step looks at them.
+template <class Kind>
+void Rank(RosterRun& run)
+{
+    constexpr int proAdvantage = 100;
+    EmptyRatingList(run.Ids, run.Ratings);
+    EachOfTeam(Kind::People(), run.Team, [&](const auto& person, int id) {
+        if (!IsUsable(person)) {
+            if (Kind::MustSitOut(person))
+                Scratch<Kind>(run, id);
+            return;
+        }
+        Kind::Count(run, person);
+        int rating = Kind::Rating(id);
+        if (run.Partial && (person.Status == status::Scratch || person.Status == status::Pro))
+            rating += proAdvantage;
+        InsertByRating(run.Ids, run.Ratings, id, rating);
+    });
+}
+
+// Whether there are enough of `what`; the pro team's number counts twice where the farm has to be filled too.
+bool Suffices(const RosterRun& run, long long available, long long required, std::string_view what)
+{
+    const int teamsToFill = LeagueData.FarmRosterRequired.Word() != 0 ? 2 : 1;
+    if (available >= Limit16(required * teamsToFill))
+        return true;
+    if (run.Verbose)
+        ShowBox("Not Enough " + std::string(what) + " available!", box::Warning);
+    return false;
+}
+
+bool SkatersSuffice(const RosterRun& run)
+{
+    const long long required[] = {LeagueData.RequiredCenters, LeagueData.RequiredLeftWings,
+                                  LeagueData.RequiredRightWings, LeagueData.RequiredDefensemen};
+    bool enough = Suffices(run, RankingCount(run), LeagueData.ProDressedSkaters, "Players");
+    for (int position = position::Center; position <= position::Defense; ++position)
+        enough = Suffices(run, run.PositionCount[position], required[position - 1], PositionName[position]) && enough;
+    return enough;
+}
+
+template <class Person>
+bool FitsUnderCap(const RosterRun& run, const Person& person)
+{
+    constexpr int fixedCap = 1;
+    constexpr int capAndCash = 2;
+    if (LeagueData.SalaryCapMode == fixedCap)
+        return Limit32(person.Salary + run.Payroll) <= LeagueData.SalaryCap;
+    if (LeagueData.SalaryCapMode == capAndCash)
+        return Limit32(person.Salary + run.Payroll) <= Limit32(LeagueData.SalaryCap + Teams[run.Team].Cash);
+    return true;
+}
+
+// What a person costs on the farm, to the cap's account.
+template <class Person>
+double FarmShare(const Person& person)
+{
+    return static_cast<double>(LeagueData.FarmSalaryPct) / 100 * static_cast<double>(person.Salary);
+}
+
+template <class Person>
+void LogMove(const RosterRun& run, const Person& person, std::string_view where)
+{
+    LeagueNews(person.Name.Trimmed() + " of " + TeamName(run) + " was sent to " + std::string(where) + ".");
+}
+
+// Calls a person up, as far as the payroll goes; the status follows when he is dressed. The farm's share leaves the
+// payroll, rounded by itself, before the full salary enters it, whether the farm counts in the cap or not.
+template <class Kind>
+void CallUp(RosterRun& run, int id)
+{
+    const auto& person = Kind::People()[id];
+    LogMove(run, person, "pro");
+    Wipe<Kind>(run, id);
+    run.Payroll = RoundToInt32(static_cast<double>(person.Salary) +
+                               std::nearbyint(static_cast<double>(run.Payroll) - FarmShare(person)));
+}
+
+template <class Kind>
+void SendDown(RosterRun& run, int id)
+{
+    const auto& person = Kind::People()[id];
+    if constexpr (Kind::WipedGoingDown)
+        Wipe<Kind>(run, id);
+    SetStatus<Kind>(id, status::Farm);
+    LogMove(run, person, "farm");
+    run.Payroll = RoundToInt32(std::nearbyint(static_cast<double>(run.Payroll) + FarmShare(person)) -
+                               static_cast<double>(person.Salary));
+}
+
+template <class Kind>
+void Dress(const RosterRun& run, int id)
+{
+    if (Kind::People()[id].Status != status::Pro)
+        Wipe<Kind>(run, id);
+    SetStatus<Kind>(id, status::Pro);
+}
+
+constexpr int AnyPosition = 0;
+
+// Dresses the best skater of the position who is left and fits under the cap. The ranking runs from best to worst, so he
+// is the first who has not been set to 0. False when there is none.
+bool DressBest(RosterRun& run, int position)
+{
+    for (int place = 1; place <= RankingCount(run); ++place) {
+        const int id = static_cast<int>(run.Ids[place]);
+        const Player& player = Players[id];
+        if (run.Ratings[place] <= 0 || (position != AnyPosition && player.Position != position))
+            continue;
+        run.Ratings[place] = 0;
+        if (player.Status == status::Farm) {
+            if (!FitsUnderCap(run, player))
+                continue;
+            CallUp<SkaterKind>(run, id);
+        }
+        Dress<SkaterKind>(run, id);
+        ++run.DressedCount;
+        return true;
+    }
+    return false;
+}
+
+void DressSkaters(RosterRun& run, int position, long long picks)
+{
+    for (; picks > 0; --picks)
+        if (!DressBest(run, position))
+            return;
+}
+
+void UndressTheRest(const RosterRun& run)
+{
+    for (int place = 1; place <= RankingCount(run); ++place) {
+        const int id = static_cast<int>(run.Ids[place]);
+        if (run.Ratings[place] > 0 && Players[id].Status == status::Pro)
+            Scratch<SkaterKind>(run, id);
+    }
+}
+
+// Dresses the two best goalies who fit under the cap and scratches whoever stands behind them.
+void DressGoalies(RosterRun& run)
+{
+    int limit = 2;
+    for (int place = 1; place <= RankingCount(run); ++place) {
+        const int id = static_cast<int>(run.Ids[place]);
+        const Goalie& goalie = Goalies[id];
+        if (place > limit) {
+            if (goalie.Status == status::Pro)
+                Scratch<GoalieKind>(run, id);
+            continue;
+        }
+        if (goalie.Status == status::Farm) {
+            if (!FitsUnderCap(run, goalie)) {
+                run.Ratings[place] = 0;
+                ++limit;
+                continue;
+            }
+            CallUp<GoalieKind>(run, id);
+        }
+        Dress<GoalieKind>(run, id);
+    }
+}
+
+template <class Kind>
+bool MayGoDown(int id)
+{
+    if (Kind::Rating(id) > LeagueData.FarmMaxOverall || WaiverCheck(id + Kind::Offset))
+        return false;
+    return LeagueData.FarmMaxSalary <= 0 || Kind::People()[id].Salary <= LeagueData.FarmMaxSalary;
+}
+
+// Sends every ranked scratch down who may go. Partial mode sends nobody, and nobody goes after the trade deadline.
+template <class Kind>
+void SendScratchesDown(RosterRun& run)
+{
+    if (run.Partial || (LeagueData.TradeDeadlinePassed && IsDeadlineInForce()))
+        return;
+    for (int place = 1; place <= RankingCount(run); ++place) {
+        const int id = static_cast<int>(run.Ids[place]);
+        if (Kind::People()[id].Status != status::Scratch)
+            continue;
+        if (MayGoDown<Kind>(id))
+            SendDown<Kind>(run, id);
+        else
+            ++run.StuckCount;
+    }
+}
+
+void Close(const RosterRun& run)
+{
+    Modified = true;
+    if (LeagueData.ProDressedSkaters + run.StuckCount > LeagueData.MaxProPlayers)
+        ShowBox(TeamName(run) + " has too many players in scratch " + std::string(LineBreak) +
+                    "that cannot be sent to farm without being sent to waiver.",
+                box::Information);
+    const std::string routine = run.Partial ? "Auto Roster Partial Function" : "Auto Roster Function";
+    LeagueNews(routine + " has been run for " + TeamName(run) + ".");
+    if (run.Verbose)
+        ShowBox(routine + " has been run successfully.", box::Information);
+}
+
+} // namespace
+
+void AutoRoster(int team, bool verbose, bool partial)
+{
+    Reporting(" in AutoRoster!", [&] {
+        if (!TeamTable::Has(team)) {
+            ShowIntegrityFailure();
+            return;
+        }
+        RosterRun run{.Team = team, .Verbose = verbose, .Partial = partial, .Payroll = OpeningPayroll(team)};
+
+        Rank<SkaterKind>(run);
+        if (!SkatersSuffice(run))
+            return;
+        DressSkaters(run, position::Center, LeagueData.RequiredCenters);
+        DressSkaters(run, position::LeftWing, LeagueData.RequiredLeftWings);
+        DressSkaters(run, position::RightWing, LeagueData.RequiredRightWings);
+        DressSkaters(run, position::Defense, LeagueData.RequiredDefensemen);
+        DressSkaters(run, AnyPosition, Limit16(LeagueData.ProDressedSkaters - run.DressedCount));
+        UndressTheRest(run);
+        SendScratchesDown<SkaterKind>(run);
+
+        Rank<GoalieKind>(run);
+        if (!Suffices(run, RankingCount(run), 2, PositionName[position::Goalie]))
+            return;
+        DressGoalies(run);
+        SendScratchesDown<GoalieKind>(run);
+
+        Close(run);
+    });
+}
+
+} // namespace dravik
