@@ -1,0 +1,42 @@
+#pragma once
+
+#include "rules/LineSlots.h"
+
+#include <vector>
+
+namespace dravik {
+
+// What a field of a day holds: a row for each line, unit or number.
+inline std::vector<std::vector<long long>> Held(const Lines& lines, LineField field)
+{
+    std::vector<std::vector<long long>> rows;
+    for (const LineSlot& slot : SkaterSlots) {
+        if (slot.Field != field)
+            continue;
+        if (slot.Place == 1)
+            rows.emplace_back();
+        rows.back().push_back(At(lines, slot));
+    }
+    return rows;
+}
+
+// The 76 words of a day, to tell whether anything has changed.
+inline std::vector<long long> Words(const Lines& lines)
+{
+    std::vector<long long> words;
+    const auto* first = reinterpret_cast<const Int16*>(&lines);
+    for (std::size_t i = 0; i < sizeof(Lines) / sizeof(Int16); ++i)
+        words.push_back(first[i]);
+    return words;
+}
+
+// In how many skater slots of a day somebody stands.
+inline int SlotsOf(const Lines& lines, long long skater)
+{
+    int slots = 0;
+    for (const LineSlot& slot : SkaterSlots)
+        slots += At(lines, slot) == skater ? 1 : 0;
+    return slots;
+}
+
+} // namespace dravik
