@@ -1,0 +1,165 @@
+#include "league/Message.h"
+#include "league/Platform.h"
+#include "league/Reporting.h"
+#include "makers/Dealing.h"
+#include "makers/Makers.h"
+#include "rules/Function.h"
+#include "rules/People.h"
+
+#include <algorithm>
+#include <span>
+
+namespace dravik {
+
+namespace {
+
+// Families of fields whose slots of one line or unit may hold a player only once; each of the three lists is a family of
+// its own, all its numbers together.
+enum class Family { Line, PowerPlay, PenaltyKill, FourVsFour, PenaltyKillWithThree, Forwards, Defensemen, Shooters };
+
+constexpr Family FamilyOf(LineField field)
+{
+    switch (field) {
+    case LineField::NormalForward:
+    case LineField::NormalDefense:
+        return Family::Line;
+    case LineField::PPForward:
+    case LineField::PPDefense:
+        return Family::PowerPlay;
+    case LineField::PKForward:
+    case LineField::PKDefense:
+        return Family::PenaltyKill;
+    case LineField::FourVsFourForward:
+    case LineField::FourVsFourDefense:
+        return Family::FourVsFour;
+    case LineField::PK3Forward:
+    case LineField::PK3Defense:
+        return Family::PenaltyKillWithThree;
+    case LineField::ExtraForward:
+        return Family::Forwards;
+    case LineField::ExtraDefense:
+        return Family::Defensemen;
+    case LineField::PenaltyShot:
+        break;
+    }
+    return Family::Shooters;
+}
+
+bool ShareGroup(const LineSlot& one, const LineSlot& other)
+{
+    const Family family = FamilyOf(one.Field);
+    return family == FamilyOf(other.Field) && (family >= Family::Forwards || one.Number == other.Number);
+}
+
+// Whether the player of `slot` stands in another slot where `barred` forbids it.
+template <class Barred>
+bool StandsElsewhere(const Lines& lines, const LineSlot& slot, Barred&& barred)
+{
+    return std::any_of(SkaterSlots.begin(), SkaterSlots.end(), [&](const LineSlot& other) {
+        return other.Word != slot.Word && At(lines, other) == At(lines, slot) && barred(other);
+    });
+}
+
+bool IsLegal(const Lines& lines, const LineSlot& slot)
+{
+    if (StandsElsewhere(lines, slot, [&](const LineSlot& other) { return ShareGroup(slot, other); }))
+        return false;
+    // Lines 1 and 2 bar each other where the league says so.
+    const bool isTopLine = FamilyOf(slot.Field) == Family::Line && slot.Number <= 2;
+    return !isTopLine || !LeagueData.LinesOneTwoExclusive || !StandsElsewhere(lines, slot, [&](const LineSlot& other) {
+        return FamilyOf(other.Field) == Family::Line && other.Number == 3 - slot.Number;
+    });
+}
+
+bool IsUsable(long long id, int team)
+{
+    const Player& player = Players[id];
+    return id != 0 && player.Status == status::Pro && player.Team == team && IsDressable(player);
+}
+
+// Leaves a usable slot alone and refills any other, from the worst of the list upwards. False when it stays empty.
+bool Repair(Lines& lines, const LineSlot& slot, int team)
+{
+    Int16& word = At(lines, slot);
+    if (IsUsable(word, team))
+        return true;
+    word = 0;
+    for (long long place = LeagueData.ProDressedSkaters; place >= 1 && word == 0; --place) {
+        const Player& player = SkaterAtPlace(place);
+        const bool fits =
+            WantsDefense(slot.Field) ? player.Position == position::Defense : player.Position < position::Defense;
+        if (!fits)
+            continue;
+        word = LineupIds[place];
+        if (!IsLegal(lines, slot))
+            word = 0;
+    }
+    return word != 0;
+}
+
+// The slots of a field that are repaired for each line, unit or number of a stage.
+struct StageField {
+    LineField Field;
+    int Places;
+};
+
+constexpr StageField NormalLines[] = {{LineField::NormalForward, 3}, {LineField::NormalDefense, 2}};
+constexpr StageField SpecialUnits[] = {{LineField::PPForward, 3},         {LineField::PPDefense, 2},
+                                       {LineField::PKForward, 2},         {LineField::PKDefense, 2},
+                                       {LineField::FourVsFourForward, 2}, {LineField::FourVsFourDefense, 2},
+                                       {LineField::PK3Defense, 2},        {LineField::PK3Forward, 1}};
+constexpr StageField ExtraLists[] = {
+    {LineField::ExtraForward, 1}, {LineField::ExtraDefense, 1}, {LineField::PenaltyShot, 1}};
+
+// The list of skaters is made anew for each stage.
+struct Stage {
+    int Numbers;
+    std::span<const StageField> Fields;
+};
+
+constexpr Stage Stages[] = {{4, NormalLines}, {2, SpecialUnits}, {5, ExtraLists}};
+
+} // namespace
+
+void AutoLinesPartial(int team, bool verbose, int day)
+{
+    Reporting(" in AutoLinesPartial!", [&] {
+        if (!TeamTable::Has(team)) {
+            ShowIntegrityFailure();
+            return;
+        }
+        if (CheckLineEmpty(team, day)) {
+            AutoLines(team, verbose, day);
+            return;
+        }
+        if (!RosterIsReady(team))
+            return;
+
+        bool filled = true;
+        for (const Stage& stage : Stages) {
+            if (!ListDressedSkaters(team))
+                return;
+            Lines& lines = LinesOf(team, day, Side::Pro);
+            for (int number = 1; number <= stage.Numbers; ++number)
+                for (const auto& [field, places] : stage.Fields)
+                    for (int place = 1; place <= places; ++place)
+                        filled = Repair(lines, SlotOf(field, number, place), team) && filled;
+        }
+
+        ListDressedGoalies(team);
+        if (!GoaliesAreListed())
+            return;
+        Lines& lines = LinesOf(team, day, Side::Pro);
+        if (lines.StartGoalie == 0 || lines.BackupGoalie == 0)
+            DealGoalies(lines, ConditionOfGoalie);
+
+        if (filled) {
+            CloseRun("Auto Lines Partial Function", team, verbose);
+        } else {
+            ShowBox("Auto Lines Partial Function Error.", box::Information);
+            Modified = true;
+        }
+    });
+}
+
+} // namespace dravik
