@@ -117,7 +117,8 @@ bool IsUnderContractOnFarm(const Person& person)
     return person.Status == status::Farm && IsFit(person);
 }
 
-// Lists the best of each position up to the league's requirement, then the best of the rest up to `ProDressedSkaters`.
+} // namespace
+
 bool ListRequiredFarmSkaters(int team, PositionCounts& counts)
 {
     EmptyLineup();
@@ -156,6 +157,8 @@ bool ListRequiredFarmSkaters(int team, PositionCounts& counts)
             list(place);
     return true;
 }
+
+namespace {
 
 void ListContractedFarmGoalies(int team)
 {

@@ -21,6 +21,10 @@ bool RosterIsReady(int team);
 // Lists the team's dressed and healthy skaters in index order, no more than `ProDressedSkaters`, and counts their
 // positions if asked to. With fewer than 18 it shows "Integrity Check Failed!" in a critical box and gives False.
 bool ListDressedSkaters(int team, PositionCounts* counts = nullptr);
+// Lists the farm's fit skaters under contract: the best of each position up to the league's requirement, then the best of
+// the rest up to `ProDressedSkaters`, and counts their positions. When more are required than dressed, it shows
+// "Integrity Check Failed!" in a critical box and gives False. Fails with 9 when there are more than 1000 of them.
+bool ListRequiredFarmSkaters(int team, PositionCounts& counts);
 // Lists the team's dressed and healthy goalies.
 void ListDressedGoalies(int team);
 
