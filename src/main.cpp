@@ -1,7 +1,11 @@
-#include <QApplication>
+#include "league/Platform.h"
+#include "screens/platform/Application.h"
+#include "screens/platform/QtPlatform.h"
 
 int main(int argc, char** argv)
 {
-    const QApplication application(argc, argv);
-    return QApplication::exec();
+    const dravik::Application application(argc, argv);
+    dravik::QtPlatform platform;
+    dravik::UseMachine(platform);
+    return dravik::Application::exec();
 }

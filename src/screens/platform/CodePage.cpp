@@ -119,11 +119,11 @@ std::string FromQString(const QString& text)
     return bytes;
 }
 
-std::string PathToProgram(const QString& path)
+std::string FromQStringLossless(const QString& text)
 {
     std::string bytes;
-    bytes.reserve(static_cast<std::size_t>(path.size()));
-    ForEachCharacter(path, [&bytes](char32_t character) {
+    bytes.reserve(static_cast<std::size_t>(text.size()));
+    ForEachCharacter(text, [&bytes](char32_t character) {
         const auto byte = ByteOf(character);
         // The escape byte itself is escaped too, or a name that holds it could be taken for an escape.
         if (byte && *byte != Escape)
@@ -133,6 +133,8 @@ std::string PathToProgram(const QString& path)
     });
     return bytes;
 }
+
+std::string PathToProgram(const QString& path) { return FromQStringLossless(path); }
 
 QString PathToDesktop(std::string_view path) { return ToQString(path); }
 

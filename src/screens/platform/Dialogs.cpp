@@ -1,0 +1,256 @@
+#include "screens/platform/Dialogs.h"
+
+#include "league/Failure.h"
+#include "league/Platform.h"
+#include "screens/frmWait.h"
+#include "screens/platform/BoxIcon.h"
+
+#include <QApplication>
+#include <QDialogButtonBox>
+#include <QFileDialog>
+#include <QGridLayout>
+#include <QLabel>
+#include <QLineEdit>
+#include <QMessageBox>
+#include <QPlainTextEdit>
+#include <QPushButton>
+#include <QRegularExpression>
+#include <QScreen>
+#include <QScrollBar>
+#include <QStyle>
+#include <QVBoxLayout>
+
+#include <algorithm>
+#include <array>
+#include <cmath>
+
+namespace dravik {
+
+namespace {
+
+struct BoxKind {
+    int Kind;
+    QMessageBox::Icon Icon;
+    QMessageBox::StandardButtons Buttons;
+    QMessageBox::StandardButton Escape;
+};
+
+const std::array BoxKinds{
+    BoxKind{box::Critical, QMessageBox::Critical, QMessageBox::Ok, QMessageBox::Ok},
+    BoxKind{box::YesNoCancel, QMessageBox::Question, QMessageBox::Yes | QMessageBox::No | QMessageBox::Cancel,
+            QMessageBox::Cancel},
+    BoxKind{box::YesNo, QMessageBox::Question, QMessageBox::Yes | QMessageBox::No, QMessageBox::No},
+    BoxKind{box::Warning, QMessageBox::Warning, QMessageBox::Ok, QMessageBox::Ok},
+    BoxKind{box::Information, QMessageBox::Information, QMessageBox::Ok, QMessageBox::Ok},
+};
+
+struct BoxButton {
+    QMessageBox::StandardButton Button;
+    int Number;
+    const char* Name;
+};
+
+// In the order in which one of them is the default.
+constexpr std::array BoxButtons{
+    BoxButton{QMessageBox::Ok, button::Ok, "cmdOk"},
+    BoxButton{QMessageBox::Yes, button::Yes, "cmdYes"},
+    BoxButton{QMessageBox::No, button::No, "cmdNo"},
+    BoxButton{QMessageBox::Cancel, button::Cancel, "cmdCancel"},
+};
+
+QString WithPlainBreaks(QString text) { return text.replace("\r\n", "\n").replace('\r', '\n'); }
+
+QSize ScreenSize(const QWidget& widget) { return widget.screen()->availableGeometry().size(); }
+
+// More lines than this, or a word wider than a box may be, and the text scrolls.
+constexpr int MostLines = 18;
+constexpr int WidestText = 620;
+
+// How `text` comes out when its lines are broken at the width of a box. A word that is wider sticks out.
+QSize BrokenSize(const QWidget& widget, const QString& text, Qt::TextFlag breaking)
+{
+    return widget.fontMetrics()
+        .boundingRect(QRect(0, 0, WidestText, 1 << 20), breaking | Qt::TextExpandTabs, text)
+        .size();
+}
+
+bool MustScroll(const QWidget& widget, const QString& text)
+{
+    const QSize size = BrokenSize(widget, text, Qt::TextWordWrap);
+    return size.height() > MostLines * widget.fontMetrics().lineSpacing() || size.width() > WidestText;
+}
+
+// Puts a text area that scrolls in the place of the box's label. The box still knows its whole text.
+void ScrollText(QMessageBox& messageBox, const QString& text)
+{
+    auto* label = messageBox.findChild<QLabel*>("qt_msgbox_label");
+    auto* layout = qobject_cast<QGridLayout*>(messageBox.layout());
+    if (label == nullptr || layout == nullptr)
+        return;
+    const int place = layout->indexOf(label);
+    if (place < 0)
+        return;
+    int row = 0;
+    int column = 0;
+    int rows = 0;
+    int columns = 0;
+    layout->getItemPosition(place, &row, &column, &rows, &columns);
+    layout->removeWidget(label);
+    label->hide();
+
+    auto* area = new QPlainTextEdit(text, &messageBox);
+    area->setObjectName("txtMessage");
+    area->setAccessibleName(messageBox.windowTitle());
+    area->setReadOnly(true);
+    area->setTabChangesFocus(true);
+    const int frame = 2 * area->frameWidth() + 2 * static_cast<int>(std::ceil(area->document()->documentMargin()));
+    const int scrollBar = area->verticalScrollBar()->sizeHint().width();
+    const int width = std::clamp(BrokenSize(messageBox, text, Qt::TextWordWrap).width(), WidestText / 2, WidestText);
+    const int lineHeight = area->fontMetrics().lineSpacing();
+    const int lines = BrokenSize(messageBox, text, Qt::TextWrapAnywhere).height() / lineHeight + 2;
+    const int mostLines = (ScreenSize(messageBox).height() * 6 / 10 - frame) / lineHeight;
+    area->setFixedSize(std::min(width + frame + scrollBar, ScreenSize(messageBox).width() - 160),
+                       std::min({lines, mostLines, MostLines + 8}) * lineHeight + frame);
+    layout->addWidget(area, row, column, rows, columns);
+    // The arrows and pages move the text at once; Enter and Escape still answer.
+    area->setFocus();
+}
+
+void DrawIcon(QMessageBox& messageBox)
+{
+    auto* label = messageBox.findChild<QLabel*>("qt_msgboxex_icon_label");
+    if (label == nullptr || !NeedsOwnBoxIcons())
+        return;
+    const int size = messageBox.style()->pixelMetric(QStyle::PM_MessageBoxIconSize, nullptr, &messageBox);
+    label->setPixmap(BoxIcon(messageBox.icon(), messageBox.palette(), size, messageBox.devicePixelRatioF()));
+}
+
+} // namespace
+
+QWidget* DialogParent()
+{
+    const auto fits = [](const QWidget* window) {
+        return window != nullptr && window->isVisible() && qobject_cast<const frmWait*>(window) == nullptr;
+    };
+    if (fits(QApplication::activeModalWidget()))
+        return QApplication::activeModalWidget();
+    if (fits(QApplication::activeWindow()))
+        return QApplication::activeWindow();
+    const auto windows = QApplication::topLevelWidgets();
+    const auto found = std::find_if(windows.begin(), windows.end(), [&fits](const QWidget* window) {
+        return fits(window) && window->windowType() == Qt::Window;
+    });
+    return found == windows.end() ? nullptr : *found;
+}
+
+int ShowMessageBox(const QString& text, int kind, const QString& title)
+{
+    const auto* known =
+        std::find_if(BoxKinds.begin(), BoxKinds.end(), [kind](const BoxKind& row) { return row.Kind == kind; });
+    if (known == BoxKinds.end())
+        Fail(failure::InvalidCall);
+
+    QMessageBox messageBox(DialogParent());
+    messageBox.setObjectName("msgBox");
+    messageBox.setWindowTitle(title);
+    messageBox.setIcon(known->Icon);
+    messageBox.setTextFormat(Qt::PlainText);
+    const QString shown = WithPlainBreaks(text);
+    messageBox.setText(shown);
+    messageBox.setStandardButtons(known->Buttons);
+    messageBox.setEscapeButton(known->Escape);
+    for (const BoxButton& row : BoxButtons) {
+        auto* pushButton = messageBox.button(row.Button);
+        if (pushButton == nullptr)
+            continue;
+        pushButton->setObjectName(row.Name);
+        if (messageBox.defaultButton() == nullptr)
+            messageBox.setDefaultButton(row.Button);
+    }
+    DrawIcon(messageBox);
+    if (MustScroll(messageBox, shown))
+        ScrollText(messageBox, shown);
+    messageBox.exec();
+
+    const auto pressed = messageBox.standardButton(messageBox.clickedButton());
+    const auto* answer = std::find_if(BoxButtons.begin(), BoxButtons.end(),
+                                      [pressed](const BoxButton& row) { return row.Button == pressed; });
+    return answer == BoxButtons.end() ? button::Cancel : answer->Number;
+}
+
+std::optional<QString> AskForText(const QString& prompt, const QString& title, const QString& text)
+{
+    QDialog dialog(DialogParent());
+    dialog.setObjectName("inputBox");
+    dialog.setWindowTitle(title);
+
+    auto* label = new QLabel(WithPlainBreaks(prompt), &dialog);
+    label->setObjectName("lblPrompt");
+    label->setTextFormat(Qt::PlainText);
+    label->setWordWrap(true);
+    auto* edit = new QLineEdit(text, &dialog);
+    edit->setObjectName("txtAnswer");
+    edit->setAccessibleName(prompt);
+    edit->setMinimumWidth(edit->fontMetrics().averageCharWidth() * 60);
+    edit->selectAll();
+    if (prompt.contains("Password"))
+        edit->setEchoMode(QLineEdit::Password);
+    auto* buttons = new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel, &dialog);
+    buttons->button(QDialogButtonBox::Ok)->setObjectName("cmdOk");
+    buttons->button(QDialogButtonBox::Ok)->setDefault(true);
+    buttons->button(QDialogButtonBox::Cancel)->setObjectName("cmdCancel");
+    QObject::connect(buttons, &QDialogButtonBox::accepted, &dialog, &QDialog::accept);
+    QObject::connect(buttons, &QDialogButtonBox::rejected, &dialog, &QDialog::reject);
+
+    auto* layout = new QVBoxLayout(&dialog);
+    layout->setContentsMargins(14, 14, 14, 14);
+    layout->setSpacing(8);
+    layout->addWidget(label);
+    layout->addWidget(edit);
+    layout->addSpacing(6);
+    layout->addWidget(buttons);
+    layout->setSizeConstraint(QLayout::SetFixedSize);
+    edit->setFocus();
+    if (dialog.exec() != QDialog::Accepted)
+        return std::nullopt;
+    // What was pasted may hold several lines; the answer is the first.
+    static const QRegularExpression lineBreak("[\r\n]");
+    return edit->text().section(lineBreak, 0, 0);
+}
+
+QStringList NameFilters(const QString& filter)
+{
+    const QStringList parts = filter.split('|');
+    QStringList filters;
+    for (qsizetype at = 0; at + 1 < parts.size(); at += 2) {
+        QString pattern;
+        for (const QChar character : parts[at + 1].trimmed().replace("*.*", "*").replace(';', ' ')) {
+            const QChar upper = character.toUpper();
+            const QChar lower = character.toLower();
+            // Desktops whose own dialog tells cases apart get both.
+            pattern += upper == lower ? QString(character) : '[' + QString(lower) + upper + ']';
+        }
+        filters += parts[at].trimmed() + " (" + pattern + ')';
+    }
+    return filters;
+}
+
+std::optional<QString> AskForFile(const QString& folder, const QString& filter)
+{
+    QFileDialog dialog(DialogParent(), "Open", folder);
+    dialog.setObjectName("dlgCommon");
+    dialog.setAcceptMode(QFileDialog::AcceptOpen);
+    dialog.setFileMode(QFileDialog::ExistingFile);
+    // The captions carry their pattern in words.
+    dialog.setOption(QFileDialog::HideNameFilterDetails);
+    dialog.setOption(QFileDialog::ReadOnly);
+    // Without a window system there is no dialog but the toolkit's own.
+    dialog.setOption(QFileDialog::DontUseNativeDialog, QGuiApplication::platformName() == "offscreen");
+    dialog.setNameFilters(NameFilters(filter));
+    dialog.resize(dialog.sizeHint().expandedTo(QSize(760, 480)));
+    if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty())
+        return std::nullopt;
+    return dialog.selectedFiles().constFirst();
+}
+
+} // namespace dravik

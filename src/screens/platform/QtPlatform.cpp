@@ -1,0 +1,217 @@
+#include "screens/platform/QtPlatform.h"
+
+#include "league/Failure.h"
+#include "league/Message.h"
+#include "screens/frmWait.h"
+#include "screens/platform/CodePage.h"
+#include "screens/platform/Dialogs.h"
+#include "screens/platform/Formats.h"
+
+#include <QCoreApplication>
+#include <QCryptographicHash>
+#include <QDesktopServices>
+#include <QDir>
+#include <QEventLoop>
+#include <QFile>
+#include <QGuiApplication>
+#include <QScreen>
+#include <QStandardPaths>
+#include <QTemporaryFile>
+#include <QTimer>
+#include <QUrl>
+
+#include <algorithm>
+
+namespace dravik {
+
+namespace {
+
+QString Title() { return ToQString(ProgramTitle); }
+
+QString SettingKey(const std::string& section, const std::string& key)
+{
+    return ToQString(section) + '/' + ToQString(key);
+}
+
+// Asking for permissions is not enough: network folders, images and access lists have a mind of their own.
+bool CanWriteInto(const QString& folder)
+{
+    QTemporaryFile probe(folder + "/dravik-XXXXXX.tmp");
+    return !folder.isEmpty() && probe.open();
+}
+
+// Each user has a lock of his own.
+QString UsualLockFile()
+{
+    QString folder = QStandardPaths::writableLocation(QStandardPaths::RuntimeLocation);
+    if (folder.isEmpty())
+        folder = QDir::tempPath();
+    QString user = qEnvironmentVariable("USER");
+    if (user.isEmpty())
+        user = qEnvironmentVariable("USERNAME");
+    const bool isName =
+        std::none_of(user.begin(), user.end(), [](QChar c) { return c == '/' || c == '\\' || c == ':'; });
+    return folder + "/dravik-client" + (user.isEmpty() || !isName ? QString() : '-' + user) + ".lock";
+}
+
+void CentreOver(QWidget& window, const QWidget* owner)
+{
+    window.adjustSize();
+    const QRect around = owner != nullptr ? owner->frameGeometry() : window.screen()->availableGeometry();
+    window.move(around.center() - window.rect().center());
+}
+
+} // namespace
+
+QtPlatform::QtPlatform(QtPlatformPlaces newPlaces) : places(std::move(newPlaces)) {}
+
+QtPlatform::~QtPlatform() { delete wait; }
+
+int QtPlatform::MessageBox(const std::string& text, int kind, const std::string& title)
+{
+    return ShowMessageBox(ToQString(text), kind, ToQString(title));
+}
+
+std::string QtPlatform::InputBox(const std::string& prompt, const std::string& title, const std::string& text)
+{
+    return FromQString(AskForText(ToQString(prompt), ToQString(title), ToQString(text)).value_or(QString()));
+}
+
+std::string QtPlatform::OpenFileDialog(const std::string& folder, const std::string& filter)
+{
+    const auto file = AskForFile(PathToDesktop(folder), ToQString(filter));
+    if (!file)
+        Fail(failure::Cancelled);
+    return PathToProgram(QDir::toNativeSeparators(*file));
+}
+
+std::unique_ptr<QSettings> QtPlatform::Settings() const
+{
+    auto settings = places.SettingsFile.isEmpty()
+                        ? std::make_unique<QSettings>(QSettings::NativeFormat, QSettings::UserScope, Title(), Title())
+                        : std::make_unique<QSettings>(places.SettingsFile, QSettings::IniFormat);
+    settings->setFallbacksEnabled(false);
+    return settings;
+}
+
+std::string QtPlatform::GetSetting(const std::string& section, const std::string& key, const std::string& otherwise)
+{
+    const QVariant value = Settings()->value(SettingKey(section, key));
+    return value.isValid() ? FromQStringLossless(value.toString()) : otherwise;
+}
+
+void QtPlatform::SaveSetting(const std::string& section, const std::string& key, const std::string& value)
+{
+    const auto settings = Settings();
+    settings->setValue(SettingKey(section, key), ToQString(value));
+    settings->sync();
+    if (settings->status() != QSettings::NoError)
+        Fail(failure::PathAccess);
+}
+
+QString ChooseProgramFolder(const QString& executableFolder, const QString& documents)
+{
+    if (CanWriteInto(executableFolder))
+        return executableFolder;
+    const QString folder = documents + '/' + Title();
+    if (!QDir().mkpath(folder))
+        Fail(failure::PathAccess);
+    return folder;
+}
+
+std::string QtPlatform::ProgramFolder()
+{
+    if (places.ProgramFolder.isEmpty()) {
+#ifdef Q_OS_MACOS
+        const QString executableFolder; // within the bundle, which stays as it was signed
+#else
+        const QString executableFolder = QCoreApplication::applicationDirPath();
+#endif
+        places.ProgramFolder =
+            ChooseProgramFolder(executableFolder, QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation));
+    }
+    return PathToProgram(QDir::toNativeSeparators(QDir::cleanPath(places.ProgramFolder)));
+}
+
+std::string QtPlatform::Version() { return DRAVIK_VERSION; }
+
+bool QtPlatform::AnotherInstanceRuns()
+{
+    if (lock == nullptr) {
+        lock = std::make_unique<QLockFile>(places.LockFile.isEmpty() ? UsualLockFile() : places.LockFile);
+        // A lock is as good as the process that holds it, however long that runs.
+        lock->setStaleLockTime(0);
+    }
+    if (lock->isLocked() || lock->tryLock(0))
+        return false;
+    // A lock that names no owner was left by a crash while it was made. One that a process still holds stays.
+    if (lock->error() == QLockFile::LockFailedError && !lock->getLockInfo(nullptr, nullptr, nullptr) &&
+        lock->removeStaleLockFile() && lock->tryLock(0))
+        return false;
+    // Where no lock can be made, nothing speaks for another instance.
+    return lock->error() == QLockFile::LockFailedError;
+}
+
+void QtPlatform::ShowWait()
+{
+    if (wait == nullptr)
+        wait = new frmWait(DialogParent());
+    if (!wait->isVisible()) {
+        CentreOver(*wait, wait->parentWidget());
+        wait->show();
+    }
+    if (waitMilliseconds == 0) {
+        QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
+        return;
+    }
+    QEventLoop painting;
+    QTimer::singleShot(waitMilliseconds, Qt::PreciseTimer, &painting, &QEventLoop::quit);
+    painting.exec(QEventLoop::ExcludeUserInputEvents);
+}
+
+void QtPlatform::CloseWait() { delete wait; }
+
+int QtPlatform::OpenLocation(const std::string& location, int /*showMode*/)
+{
+    constexpr int taken = 42;
+    constexpr int refused = 0;
+    const QUrl url = QUrl::fromUserInput(ToQString(location), QString(), QUrl::AssumeLocalFile);
+    return url.isValid() && QDesktopServices::openUrl(url) ? taken : refused;
+}
+
+std::string QtPlatform::Currency(double amount) { return CurrencyText(QLocale(), amount); }
+
+std::string QtPlatform::CurrencyNoDecimals(double amount) { return CurrencyTextNoDecimals(QLocale(), amount); }
+
+std::string QtPlatform::LongDate(double days) { return LongDateText(QLocale(), days); }
+
+std::string QtPlatform::ShortTime(double days) { return ShortTimeText(QLocale(), days); }
+
+std::array<std::uint8_t, 16> QtPlatform::Md5(std::string_view bytes)
+{
+    const QByteArray hash = QCryptographicHash::hash(QByteArray(bytes.data(), static_cast<qsizetype>(bytes.size())),
+                                                     QCryptographicHash::Md5);
+    std::array<std::uint8_t, 16> digest{};
+    std::copy(hash.begin(), hash.end(), digest.begin());
+    return digest;
+}
+
+std::filesystem::path QtPlatform::NativePath(const std::string& path) const
+{
+#ifdef _WIN32
+    return PathToDesktop(path).toStdWString();
+#else
+    return QFile::encodeName(PathToDesktop(path)).toStdString();
+#endif
+}
+
+std::string QtPlatform::ProgramPath(const std::filesystem::path& path) const
+{
+#ifdef _WIN32
+    return PathToProgram(QString::fromStdWString(path.native()));
+#else
+    return PathToProgram(QFile::decodeName(path.c_str()));
+#endif
+}
+
+} // namespace dravik
