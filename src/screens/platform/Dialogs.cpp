@@ -18,6 +18,7 @@
 #include <QScreen>
 #include <QScrollBar>
 #include <QStyle>
+#include <QTextLayout>
 #include <QVBoxLayout>
 
 #include <algorithm>
@@ -66,18 +67,35 @@ QSize ScreenSize(const QWidget& widget) { return widget.screen()->availableGeome
 constexpr int MostLines = 18;
 constexpr int WidestText = 620;
 
-// How `text` comes out when its lines are broken at the width of a box. A word that is wider sticks out.
-QSize BrokenSize(const QWidget& widget, const QString& text, Qt::TextFlag breaking)
+// How `text` comes out when its lines are broken at `width`.
+struct BrokenText {
+    int Lines = 0;
+    double Width = 0;
+};
+
+BrokenText Break(const QString& text, const QFont& font, int width, QTextOption::WrapMode mode)
 {
-    return widget.fontMetrics()
-        .boundingRect(QRect(0, 0, WidestText, 1 << 20), breaking | Qt::TextExpandTabs, text)
-        .size();
+    QTextOption option;
+    option.setWrapMode(mode);
+    BrokenText broken;
+    for (const QString& paragraph : text.split('\n')) {
+        QTextLayout layout(paragraph, font);
+        layout.setTextOption(option);
+        layout.beginLayout();
+        for (QTextLine line = layout.createLine(); line.isValid(); line = layout.createLine()) {
+            line.setLineWidth(width);
+            broken.Width = std::max(broken.Width, line.naturalTextWidth());
+            ++broken.Lines;
+        }
+        layout.endLayout();
+    }
+    return broken;
 }
 
 bool MustScroll(const QWidget& widget, const QString& text)
 {
-    const QSize size = BrokenSize(widget, text, Qt::TextWordWrap);
-    return size.height() > MostLines * widget.fontMetrics().lineSpacing() || size.width() > WidestText;
+    const BrokenText broken = Break(text, widget.font(), WidestText, QTextOption::WordWrap);
+    return broken.Lines > MostLines || broken.Width > WidestText;
 }
 
 // Puts a text area that scrolls in the place of the box's label. The box still knows its whole text.
@@ -103,14 +121,17 @@ void ScrollText(QMessageBox& messageBox, const QString& text)
     area->setAccessibleName(messageBox.windowTitle());
     area->setReadOnly(true);
     area->setTabChangesFocus(true);
+    area->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    const QSize screen = ScreenSize(messageBox);
     const int frame = 2 * area->frameWidth() + 2 * static_cast<int>(std::ceil(area->document()->documentMargin()));
     const int scrollBar = area->verticalScrollBar()->sizeHint().width();
-    const int width = std::clamp(BrokenSize(messageBox, text, Qt::TextWordWrap).width(), WidestText / 2, WidestText);
-    const int lineHeight = area->fontMetrics().lineSpacing();
-    const int lines = BrokenSize(messageBox, text, Qt::TextWrapAnywhere).height() / lineHeight + 2;
-    const int mostLines = (ScreenSize(messageBox).height() * 6 / 10 - frame) / lineHeight;
-    area->setFixedSize(std::min(width + frame + scrollBar, ScreenSize(messageBox).width() - 160),
-                       std::min({lines, mostLines, MostLines + 8}) * lineHeight + frame);
+    const int widest = std::min(WidestText, screen.width() - 160 - frame - scrollBar);
+    const BrokenText broken = Break(text, area->font(), widest, area->wordWrapMode());
+    // Where there are more lines the area ends within one, so that more is seen to follow.
+    const double lines = std::min<double>(broken.Lines + 0.5, MostLines + 6.5);
+    const int height = static_cast<int>(lines * area->fontMetrics().lineSpacing()) + frame;
+    area->setFixedSize(std::clamp(static_cast<int>(std::ceil(broken.Width)), widest / 2, widest) + frame + scrollBar,
+                       std::min(height, screen.height() * 6 / 10));
     layout->addWidget(area, row, column, rows, columns);
     // The arrows and pages move the text at once; Enter and Escape still answer.
     area->setFocus();
