@@ -1,20 +1,236 @@
 #include "rules/SeasonProjection.h"
+
+#include "rules/Function.h"
+#include "support/LeagueImage.h"
+#include "support/RandomLeague.h"
 #include "support/SmallLeague.h"
+
+#include <cmath>
 
 namespace dravik {
 namespace {
 
+using ::testing::ElementsAre;
+
 class SeasonProjectionTest : public SmallLeague {
 protected:
-    SeasonProjectionTest() { TeamMaker(5); }
+    SeasonProjectionTest()
+    {
+        TeamMaker(5);
+        PutSkater(1, 5, position::Center, status::Pro).Salary = 8200000;
+        PutSkater(2, 5, position::Center, status::Farm).Salary = 1640000;
+        team.Cash = 5000000;
+        team.GamesPlayed = 60;
+        team.HomeGames = 30;
+        team.TotalIncome = 9000000;
+        team.TotalAttendance = 450015;
+    }
+
+    static int NumberThrown()
+    {
+        try {
+            (void)ProjectSeason(5);
+        } catch (const Failure& failed) {
+            return failed.Number;
+        }
+        return 0;
+    }
+
     Team& team = Teams[5];
 };
+
+TEST_F(SeasonProjectionTest, FullSeasonIsProjected)
+{
+    const SeasonProjection season = ProjectSeason(5);
+    EXPECT_EQ(season.Form, SeasonForm::Full);
+    EXPECT_EQ(season.Cash, 5000000);
+    EXPECT_EQ(season.ProPayroll, 8200000);
+    EXPECT_EQ(season.FarmPayroll, 164000);
+    EXPECT_EQ(season.HomeGamesLeft, 11);
+    EXPECT_EQ(season.GamesLeft, 22);
+    EXPECT_EQ(season.ExpensePerGame, 102000); // 8364000 / 82
+    EXPECT_EQ(season.SeasonExpense, 2244000); // home and away
+    EXPECT_EQ(season.AverageAttendance, 15000.5);
+    EXPECT_EQ(season.AverageIncome, 300000);
+    EXPECT_EQ(season.Revenue, 3300000); // home only
+    EXPECT_EQ(season.BankAccount, 6056000);
+}
+
+TEST_F(SeasonProjectionTest, SeasonOf1GameShowsZerosAndOneOf2ShowsFigures)
+{
+    team.SeasonGames = 1;
+    SeasonProjection season = ProjectSeason(5);
+    EXPECT_EQ(season.Form, SeasonForm::NoSeason);
+    EXPECT_EQ(season.Cash, 5000000);
+    EXPECT_EQ(season.ProPayroll, 8200000);
+    EXPECT_EQ(season.FarmPayroll, 164000);
+    EXPECT_EQ(season.HomeGamesLeft, 0);
+    EXPECT_EQ(season.GamesLeft, 0);
+    EXPECT_EQ(season.ExpensePerGame, 0);
+    EXPECT_EQ(season.SeasonExpense, 0);
+    EXPECT_EQ(season.AverageAttendance, 0);
+    EXPECT_EQ(season.AverageIncome, 0);
+    EXPECT_EQ(season.Revenue, 0);
+    EXPECT_EQ(season.BankAccount, 5000000);
+
+    team.SeasonGames = 2;
+    season = ProjectSeason(5);
+    EXPECT_EQ(season.Form, SeasonForm::Full);
+    EXPECT_EQ(season.HomeGamesLeft, -29);
+    EXPECT_EQ(season.GamesLeft, -58);
+    EXPECT_EQ(season.ExpensePerGame, 4182000);
+    EXPECT_EQ(season.SeasonExpense, -242556000);
+    EXPECT_EQ(season.AverageIncome, 300000);
+    EXPECT_EQ(season.Revenue, -8700000);
+    EXPECT_EQ(season.BankAccount, 238856000);
+}
+
+TEST_F(SeasonProjectionTest, WithoutAHomeGameTheAveragesAre0AndNothingIsDivided)
+{
+    for (const int homeGames : {0, -3}) {
+        team.HomeGames = homeGames;
+        const SeasonProjection season = ProjectSeason(5);
+        EXPECT_EQ(season.Form, SeasonForm::NoAverages);
+        EXPECT_EQ(season.ProPayroll, 8200000);
+        EXPECT_EQ(season.HomeGamesLeft, 41 - homeGames);
+        EXPECT_EQ(season.GamesLeft, 22);
+        EXPECT_EQ(season.ExpensePerGame, 0);
+        EXPECT_EQ(season.SeasonExpense, 0);
+        EXPECT_EQ(season.AverageAttendance, 0);
+        EXPECT_EQ(season.AverageIncome, 0);
+        EXPECT_EQ(season.Revenue, 0);
+        EXPECT_EQ(season.BankAccount, 5000000);
+    }
+}
+
+TEST_F(SeasonProjectionTest, HiddenAveragesHideTheExpensesToo)
+{
+    LeagueData.HideFinanceAverages = true;
+    const SeasonProjection season = ProjectSeason(5);
+    EXPECT_EQ(season.Form, SeasonForm::NoAverages);
+    EXPECT_EQ(season.HomeGamesLeft, 11);
+    EXPECT_EQ(season.GamesLeft, 22);
+    EXPECT_EQ(season.ExpensePerGame, 0);
+    EXPECT_EQ(season.SeasonExpense, 0);
+    EXPECT_EQ(season.BankAccount, 5000000);
+}
 
 TEST_F(SeasonProjectionTest, OddSeasonLeavesAHalfHomeGame)
 {
     team.SeasonGames = 81;
     team.HomeGames = 40;
     EXPECT_EQ(ProjectSeason(5).HomeGamesLeft, 0.5);
+}
+
+TEST_F(SeasonProjectionTest, WithExpenseFlagTheAccountIsCashAndRevenue)
+{
+    LeagueData.ExpenseFlag = true;
+    const SeasonProjection season = ProjectSeason(5);
+    EXPECT_EQ(season.ExpensePerGame, 0);
+    EXPECT_EQ(season.SeasonExpense, 0);
+    EXPECT_EQ(season.BankAccount, 8300000);
+}
+
+TEST_F(SeasonProjectionTest, RevenueIsRoundedOnceToTheEvenNumber)
+{
+    team.SeasonGames = 81;
+    team.HomeGames = 40;
+    team.TotalIncome = 200; // half a game of 5
+    EXPECT_EQ(ProjectSeason(5).Revenue, 2);
+    team.TotalIncome = 280; // half a game of 7
+    EXPECT_EQ(ProjectSeason(5).Revenue, 4);
+    team.TotalIncome = 100; // half a game of 2.5, no average is rounded on the way
+    EXPECT_EQ(ProjectSeason(5).Revenue, 1);
+    EXPECT_EQ(ProjectSeason(5).AverageIncome, 2.5);
+}
+
+TEST_F(SeasonProjectionTest, PayrollsAreRoundedToTheEvenNumber)
+{
+    Players[2].Salary = 25; // a tenth of it on the farm
+    EXPECT_EQ(ProjectSeason(5).FarmPayroll, 2);
+    Players[2].Salary = 35;
+    EXPECT_EQ(ProjectSeason(5).FarmPayroll, 4);
+}
+
+TEST_F(SeasonProjectionTest, PayrollBeyond32BitsIsAnOverflow)
+{
+    Players[1].Salary = 2000000000;
+    PutSkater(3, 5, position::Center, status::Pro).Salary = 2000000000;
+    EXPECT_EQ(NumberThrown(), failure::Overflow);
+}
+
+TEST_F(SeasonProjectionTest, SeasonExpenseBeyond32BitsIsAnOverflowEvenWhereItIsNotShown)
+{
+    Players[1].Salary = 2000000000;
+    Teams[5].SeasonGames = 2;
+    team.GamesPlayed = 0;
+    EXPECT_EQ(NumberThrown(), 0);
+    team.GamesPlayed = -1;
+    EXPECT_EQ(NumberThrown(), failure::Overflow);
+    LeagueData.HideFinanceAverages = true;
+    EXPECT_EQ(NumberThrown(), failure::Overflow);
+    Teams[5].SeasonGames = 1;
+    EXPECT_EQ(NumberThrown(), 0);
+}
+
+TEST_F(SeasonProjectionTest, RevenueBeyond32BitsIsAnOverflow)
+{
+    team.HomeGames = 1;
+    team.TotalIncome = 2000000000;
+    EXPECT_EQ(NumberThrown(), failure::Overflow);
+}
+
+TEST_F(SeasonProjectionTest, AccountBeyond32BitsIsAnOverflowOnTheWay)
+{
+    team.Cash = 2147483647;
+    EXPECT_EQ(NumberThrown(), failure::Overflow); // Cash + Revenue, although the expense would bring it back
+    team.Cash = 2147483647 - 3300000;
+    EXPECT_EQ(ProjectSeason(5).BankAccount, 2147483647 - 2244000);
+}
+
+TEST_F(SeasonProjectionTest, TeamOutOfRangeFailsWithNumber9)
+{
+    for (const int number : {0, 101}) {
+        int thrown = 0;
+        try {
+            (void)ProjectSeason(number);
+        } catch (const Failure& failed) {
+            thrown = failed.Number;
+        }
+        EXPECT_EQ(thrown, failure::OutOfRange);
+    }
+    EXPECT_THAT(Machine.Boxes(), ElementsAre());
+}
+
+TEST_F(SeasonProjectionTest, RandomSeasonsAddUpAndChangeNothing)
+{
+    Dice dice(62);
+    for (int round = 0; round < 300; ++round) {
+        RollLeague(dice);
+        const auto before = ImageOf(Teams);
+        for (int number = 1; number <= 3; ++number) {
+            const Team& record = Teams[number];
+            const SeasonProjection season = ProjectSeason(number);
+            const auto games = static_cast<double>(record.SeasonGames);
+            const auto home = static_cast<double>(record.HomeGames);
+            const bool none = games < 2;
+            const bool hidden = home <= 0 || LeagueData.HideFinanceAverages;
+            ASSERT_EQ(season.Form, none ? SeasonForm::NoSeason : hidden ? SeasonForm::NoAverages : SeasonForm::Full);
+            ASSERT_EQ(season.ProPayroll, std::llrint(static_cast<double>(ProPayroll(number))));
+            ASSERT_EQ(season.FarmPayroll, std::llrint(static_cast<double>(FarmPayroll(number))));
+            ASSERT_EQ(season.HomeGamesLeft, none ? 0 : games / 2 - home);
+            ASSERT_EQ(season.GamesLeft, none ? 0 : record.SeasonGames - record.GamesPlayed);
+            const bool full = season.Form == SeasonForm::Full;
+            ASSERT_EQ(season.ExpensePerGame, full ? ExpensePerGame(number) : 0);
+            ASSERT_EQ(season.SeasonExpense, season.GamesLeft * season.ExpensePerGame);
+            const double income = full ? static_cast<double>(record.TotalIncome) / home : 0;
+            ASSERT_EQ(season.AverageIncome, income);
+            ASSERT_EQ(season.AverageAttendance, full ? static_cast<double>(record.TotalAttendance) / home : 0);
+            ASSERT_EQ(season.Revenue, std::llrint(season.HomeGamesLeft * income));
+            ASSERT_EQ(season.BankAccount, record.Cash + season.Revenue - season.SeasonExpense);
+        }
+        ASSERT_EQ(ImageOf(Teams), before);
+    }
 }
 
 } // namespace

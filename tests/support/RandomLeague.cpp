@@ -53,9 +53,9 @@ void RollTeam(Dice& dice, int number, const RandomSize& size)
     Team& team = Teams[number];
     team.Cash = dice.Roll(-20000000, 20000000);
     team.TotalAttendance = dice.Roll(0, 800000);
-    team.TotalIncome = dice.Roll(0, 60000000);
+    team.TotalIncome = dice.Roll(0, 40000000);
     team.SeasonGames = dice.Pick({0, 1, 2, 81, 82});
-    team.GamesPlayed = dice.Roll(0, 82);
+    team.GamesPlayed = dice.Roll(0, team.SeasonGames);
     team.HomeGames = dice.Roll(-1, 41);
     team.PayrollBonus = dice.Roll(-500000, 5000000);
     team.Captain = dice.Roll(0, size.Skaters);
