@@ -1,8 +1,12 @@
 #include "rules/Function.h"
+#include "support/LeagueImage.h"
+#include "support/RandomLeague.h"
 #include "support/SmallLeague.h"
 
 namespace dravik {
 namespace {
+
+using ::testing::ElementsAre;
 
 class WaiversTest : public SmallLeague {
 protected:
@@ -11,17 +15,129 @@ protected:
         LeagueData.WaiverAllowed = true;
         LeagueData.WaiverExemptAge = 24;
         LeagueData.WaiverMinGames = 40;
+        player.ProGames = 40;
+        player.Age = 25;
+        goalie.ProGames = 40;
+        goalie.Age = 25;
     }
+
+    Player& player = PutSkater(7, 5, position::Defense, status::Pro, 60);
+    Goalie& goalie = PutGoalie(7, 5, status::Pro, 60);
 };
 
 TEST_F(WaiversTest, ExemptAgeNeedsNoWaiversAndAYearMoreDoes)
 {
-    Player& player = PutSkater(7, 5, position::Center, status::Pro);
-    player.ProGames = 40;
     player.Age = 24;
     EXPECT_FALSE(WaiverCheck(7));
     player.Age = 25;
     EXPECT_TRUE(WaiverCheck(7));
+}
+
+TEST_F(WaiversTest, GamesEqualToTheMinimumNeedWaiversAndOneLessDoesNot)
+{
+    EXPECT_TRUE(WaiverCheck(7));
+    player.ProGames = 39;
+    EXPECT_FALSE(WaiverCheck(7));
+}
+
+TEST_F(WaiversTest, WhoIsTooGoodForTheFarmNeedsNoWaivers)
+{
+    LeagueData.FarmMaxOverall = 60;
+    EXPECT_TRUE(WaiverCheck(7));
+    LeagueData.FarmMaxOverall = 59;
+    EXPECT_FALSE(WaiverCheck(7));
+}
+
+TEST_F(WaiversTest, LeagueWithoutWaiversNeedsNone)
+{
+    LeagueData.WaiverAllowed = false;
+    EXPECT_FALSE(WaiverCheck(7));
+    LeagueData.WaiverAllowed.SetWord(1);
+    EXPECT_FALSE(WaiverCheck(7));
+}
+
+TEST_F(WaiversTest, TradeDeadlineInForceNeedsNoWaivers)
+{
+    LeagueData.TradeDeadlineInForce = true;
+    EXPECT_FALSE(WaiverCheck(7));
+    LeagueData.TradeDeadlineInForce.SetWord(1);
+    EXPECT_TRUE(WaiverCheck(7));
+}
+
+TEST_F(WaiversTest, GoalieIsHisIndexAnd10000)
+{
+    player.ProGames = 0;
+    EXPECT_TRUE(WaiverCheck(10007));
+    EXPECT_FALSE(WaiverCheck(7));
+    goalie.ProGames = 39;
+    EXPECT_FALSE(WaiverCheck(10007));
+    goalie.ProGames = 40;
+    goalie.Age = 24;
+    EXPECT_FALSE(WaiverCheck(10007));
+    goalie.Age = 25;
+    LeagueData.FarmMaxOverall = 59;
+    EXPECT_FALSE(WaiverCheck(10007));
+}
+
+TEST_F(WaiversTest, Number10000IsAPlayerAnd10001IsTheFirstGoalie)
+{
+    Player& last = PutSkater(10000, 5, position::Center, status::Pro);
+    last.ProGames = 40;
+    EXPECT_TRUE(WaiverCheck(10000));
+    EXPECT_FALSE(WaiverCheck(10001));
+    PutGoalie(1, 5, status::Pro).ProGames = 40;
+    EXPECT_TRUE(WaiverCheck(10001));
+}
+
+TEST_F(WaiversTest, SkaterIsRatedAtHisOwnPosition)
+{
+    for (Int16& rating : player.Stats)
+        rating = 0;
+    player.Stats[skater::DF] = 100; // 10 for a forward, 16 for this defenseman, the league's weights aside
+    LeagueData.FarmMaxOverall = 15;
+    EXPECT_FALSE(WaiverCheck(7));
+    player.Position = position::Center;
+    EXPECT_TRUE(WaiverCheck(7));
+}
+
+TEST_F(WaiversTest, PersonWithoutAPositionIsToldAndRated0)
+{
+    player.Position = 0;
+    EXPECT_TRUE(WaiverCheck(7));
+    EXPECT_THAT(Machine.Boxes(), ElementsAre(Box{box::Critical, "Integrity Check Failed!"}));
+}
+
+TEST_F(WaiversTest, NumberOutsideTheTablesIsAFailure)
+{
+    for (const int id : {-1, 11001, 32767}) {
+        EXPECT_FALSE(WaiverCheck(id));
+        EXPECT_THAT(Machine.TakeBoxes(), ElementsAre(Box{box::Critical, "9 - Subscript out of range in WaiverCheck!"}));
+    }
+}
+
+TEST_F(WaiversTest, RandomPeopleAgreeWithTheFivePlainConditionsAndNothingChanges)
+{
+    Dice dice(71);
+    for (int round = 0; round < 500; ++round) {
+        RollLeague(dice, {.Teams = 1, .Skaters = 40, .Goalies = 10, .Coaches = 0});
+        for (int index = 1; index <= 40; ++index)
+            Players[index].Position = dice.Roll(1, 4);
+        const auto before = ImageOf(Players);
+        const auto expected = [](const auto& person, int overall) {
+            return LeagueData.WaiverAllowed.Word() == -1 && LeagueData.TradeDeadlineInForce.Word() != -1 &&
+                   !(person.ProGames < LeagueData.WaiverMinGames) && !(person.Age <= LeagueData.WaiverExemptAge) &&
+                   !(overall > LeagueData.FarmMaxOverall);
+        };
+        for (int index = 1; index <= 40; ++index) {
+            const int overall = CalculateOverall(static_cast<int>(Players[index].Position), index);
+            ASSERT_EQ(WaiverCheck(index), expected(Players[index], overall));
+        }
+        for (int index = 1; index <= 10; ++index)
+            ASSERT_EQ(WaiverCheck(GoalieOffset + index),
+                      expected(Goalies[index], CalculateOverall(position::Goalie, index)));
+        ASSERT_EQ(ImageOf(Players), before);
+    }
+    EXPECT_THAT(Machine.Boxes(), ElementsAre());
 }
 
 } // namespace
