@@ -1,0 +1,291 @@
+// What the files cost, each against the bare work of the compressor inside one run, so that the figures of a busy machine
+// hold too: the counter "ratio" is the time of ours divided by the time of the bare work.
+//
+//     files_bench            the ratios
+//     files_bench --memory   the most memory that opening and saving take beyond the tables
+
+#include "league/ClientFile.h"
+#include "league/LinesFile.h"
+#include "league/SlotFile.h"
+#include "support/ClientFileBytes.h"
+#include "support/OpenedWindow.h"
+#include "support/ScriptedPlatform.h"
+#include "support/SmallLeague.h"
+
+#include <algorithm>
+#include <benchmark/benchmark.h>
+#include <chrono>
+#include <cstdio>
+#include <functional>
+#include <random>
+#include <string_view>
+#ifndef _WIN32
+#include <sys/resource.h>
+#include <sys/wait.h>
+#include <unistd.h>
+#endif
+#include <vector>
+#include <zlib.h>
+
+namespace dravik {
+namespace {
+
+constexpr std::string_view StartMagic = "DRVK Client Files Version 1.12 - Start";
+constexpr std::string_view EndMagic = "DRVK Client Files Version 1.12 - End";
+
+// A league of thirty teams with full line-ups, free agents and a calendar, and empty slots behind them, as a real file
+// has them.
+void FillLeague()
+{
+    std::mt19937 random(20240501);
+    const auto upTo = [&](unsigned top) { return static_cast<int>(random() % top); };
+    const auto name = [&] {
+        std::string text;
+        for (int i = 6 + upTo(14); i > 0; --i)
+            text += static_cast<char>('a' + upTo(26));
+        return text;
+    };
+    const auto vary = [&](auto& person) {
+        person.Name = name();
+        person.Age = 18 + upTo(20);
+        person.Salary = 500000 + 25000 * upTo(300);
+        for (auto& stat : person.Stats)
+            stat = 30 + upTo(70);
+    };
+    ResetClientVariables();
+    LeagueData.Name = "Bench League";
+    LeagueData.LeagueCode = "BENCH";
+    LeagueData.FileDate = 45000.5;
+    for (int team = 1; team <= 30; ++team) {
+        TeamMaker maker(team);
+        maker.DressesFullRoster().Scratches(4, position::Center).FarmsFullRoster();
+        for (int day = 1; day <= 10; ++day) {
+            std::vector<int> forwards(maker.Skaters.begin(), maker.Skaters.begin() + 12);
+            std::vector<int> defense(maker.Skaters.begin() + 12, maker.Skaters.begin() + 18);
+            FillLines(Teams[team].ProLines[day], forwards, defense, maker.GoalieIds);
+            FillLines(Teams[team].Farm.FarmLines[day], forwards, defense, maker.GoalieIds);
+        }
+        Coaches[team].InUse = true;
+        Coaches[team].Name = name();
+    }
+    for (int free = 1; free <= 600; ++free)
+        PutSkater(2000 + free, 0, 1 + upTo(4), status::Farm);
+    for (auto& player : Players)
+        if (player.InUse)
+            vary(player);
+    for (auto& keeper : Goalies)
+        if (keeper.InUse)
+            vary(keeper);
+    for (int i = 1; i <= 200; ++i)
+        Prospects[i].Name = name();
+    for (int i = 1; i <= 2460; ++i) {
+        ScheduleRow& row = GameSchedule[i];
+        row.GameDay = i;
+        row.ProGame = true;
+        row.ProAway = 1 + upTo(30);
+        row.ProHome = 1 + upTo(30);
+    }
+}
+
+// Written slot by slot, so that writing it leaves no trace in the peak of the memory.
+void WriteClientFile(const std::string& path)
+{
+    WriteSlotFile(path, SlotFileLength(16903, MagicLength(EndMagic)), [](SlotWriter& slots) {
+        const auto all = [&](const auto& table) {
+            for (long long i = 1; i <= std::remove_cvref_t<decltype(table)>::last; ++i)
+                slots.Write(table[i]);
+        };
+        slots.WriteMagic(StartMagic);
+        slots.Write(LeagueData);
+        all(Prospects);
+        all(Teams);
+        all(Players);
+        all(Goalies);
+        all(Coaches);
+        all(GameSchedule);
+        slots.WriteMagic(EndMagic);
+    });
+}
+
+struct Bench {
+    Bench()
+    {
+        UseMachine(Machine);
+        TempFile = Machine.InFolder("ClientTemp.dvt");
+        FillLeague();
+        ClientPath = Machine.InFolder("League.dvs");
+        WriteClientFile(ClientPath);
+        LinesPath = Machine.InFolder("Lines.dvl");
+    }
+
+    void Open()
+    {
+        OpenedWindow window;
+        OpenLeagueClient(ClientPath, window);
+        if (window.Calls.empty())
+            std::abort();
+    }
+    void Save() const
+    {
+        if (!WriteLinesFile(1, LinesPath))
+            std::abort();
+    }
+
+    ScriptedPlatform Machine;
+    std::string ClientPath;
+    std::string LinesPath;
+};
+
+Bench& TheBench()
+{
+    static Bench bench;
+    return bench;
+}
+
+// Inflates the stream of the file through a small window and keeps nothing.
+void InflateAndThrowAway(const std::string& path)
+{
+    std::vector<unsigned char> input(1 << 16);
+    std::vector<unsigned char> output(1 << 16);
+    const auto file = Machine().OpenFile(path);
+    unsigned char length[4];
+    file->Read(length, sizeof length);
+    z_stream stream{};
+    inflateInit(&stream);
+    int result = Z_OK;
+    while (result == Z_OK) {
+        if (stream.avail_in == 0) {
+            stream.next_in = input.data();
+            stream.avail_in = static_cast<uInt>(file->Read(input.data(), input.size()));
+        }
+        stream.next_out = output.data();
+        stream.avail_out = static_cast<uInt>(output.size());
+        result = inflate(&stream, Z_NO_FLUSH);
+        benchmark::DoNotOptimize(output.data());
+    }
+    inflateEnd(&stream);
+    if (result != Z_STREAM_END)
+        std::abort();
+}
+
+double Seconds(const std::function<void()>& work)
+{
+    const auto start = std::chrono::steady_clock::now();
+    work();
+    return std::chrono::duration<double>(std::chrono::steady_clock::now() - start).count();
+}
+
+double Median(std::vector<double> values)
+{
+    std::nth_element(values.begin(), values.begin() + static_cast<std::ptrdiff_t>(values.size() / 2), values.end());
+    return values[values.size() / 2];
+}
+
+// Runs both in turn, so that both meet the same weather.
+void Compare(benchmark::State& state, const std::function<void()>& ours, const std::function<void()>& bare)
+{
+    ours();
+    bare();
+    std::vector<double> oursTimes;
+    std::vector<double> bareTimes;
+    for ([[maybe_unused]] auto _ : state) {
+        oursTimes.push_back(Seconds(ours));
+        bareTimes.push_back(Seconds(bare));
+        state.SetIterationTime(oursTimes.back());
+    }
+    state.counters["ours_ms"] = Median(oursTimes) * 1000;
+    state.counters["bare_ms"] = Median(bareTimes) * 1000;
+    state.counters["ratio"] = Median(oursTimes) / Median(bareTimes);
+}
+
+void OpenAgainstInflateThrownAway(benchmark::State& state)
+{
+    Bench& bench = TheBench();
+    Compare(
+        state, [&] { bench.Open(); }, [&] { InflateAndThrowAway(bench.ClientPath); });
+}
+BENCHMARK(OpenAgainstInflateThrownAway)->Iterations(41)->UseManualTime()->Unit(benchmark::kMillisecond);
+
+void OpenAgainstUncompress(benchmark::State& state)
+{
+    Bench& bench = TheBench();
+    Compare(
+        state, [&] { bench.Open(); },
+        [&] {
+            const ByteVector file = ReadWhole(bench.ClientPath);
+            const std::unique_ptr<unsigned char[]> output(new unsigned char[59236503]);
+            uLongf length = 59236503;
+            uncompress(output.get(), &length, file.data() + 4, static_cast<uLong>(file.size() - 4));
+            benchmark::DoNotOptimize(output.get());
+        });
+}
+BENCHMARK(OpenAgainstUncompress)->Iterations(41)->UseManualTime()->Unit(benchmark::kMillisecond);
+
+void SaveLinesAgainstCompress2(benchmark::State& state)
+{
+    Bench& bench = TheBench();
+    bench.Save();
+    const ByteVector slots = LinesSlots(1);
+    ByteVector output(compressBound(static_cast<uLong>(slots.size())));
+    Compare(
+        state, [&] { bench.Save(); },
+        [&] {
+            auto length = static_cast<uLong>(output.size());
+            compress2(output.data(), &length, slots.data(), static_cast<uLong>(slots.size()), 9);
+            benchmark::DoNotOptimize(output.data());
+        });
+}
+BENCHMARK(SaveLinesAgainstCompress2)->Iterations(15)->UseManualTime()->Unit(benchmark::kMillisecond);
+
+#ifndef _WIN32
+long PeakKiB()
+{
+    rusage usage{};
+    getrusage(RUSAGE_SELF, &usage);
+    return usage.ru_maxrss;
+}
+
+// The peak of a process never sinks, so the file is made by another one and the tables are touched first.
+int TellMemory()
+{
+    ScriptedPlatform machine;
+    UseMachine(machine);
+    TempFile = machine.InFolder("ClientTemp.dvt");
+    const std::string path = machine.InFolder("League.dvs");
+    const pid_t maker = fork();
+    if (maker == 0) {
+        FillLeague();
+        WriteClientFile(path);
+        _exit(0);
+    }
+    int result = 0;
+    if (maker < 0 || waitpid(maker, &result, 0) != maker || result != 0)
+        return 1;
+
+    ResetClientVariables();
+    TempFile = machine.InFolder("ClientTemp.dvt");
+    const long before = PeakKiB();
+    OpenedWindow window;
+    OpenLeagueClient(path, window);
+    const long opened = PeakKiB();
+    if (window.Calls.empty() || !WriteLinesFile(1, machine.InFolder("Lines.dvl")))
+        return 1;
+    std::printf("peak beyond the tables: opening %ld KiB, saving after it %ld KiB\n", opened - before,
+                PeakKiB() - before);
+    return 0;
+}
+#endif
+
+} // namespace
+} // namespace dravik
+
+int main(int argc, char** argv)
+{
+#ifndef _WIN32
+    if (argc > 1 && std::string_view(argv[1]) == "--memory")
+        return dravik::TellMemory();
+#endif
+    benchmark::Initialize(&argc, argv);
+    benchmark::RunSpecifiedBenchmarks();
+    return 0;
+}
