@@ -1,0 +1,563 @@
+// Every way in which a file can be bad, and every file operation that can fail: each ends in its words, and leaves no half
+// league, no half-written file and nothing beside it.
+
+#include "league/ClientFile.h"
+#include "league/Failure.h"
+#include "league/LinesFile.h"
+#include "league/OutsideCode.h"
+#include "league/SlotFile.h"
+#include "support/LeagueImage.h"
+#include "support/OpenedWindow.h"
+#include "support/SmallLeague.h"
+
+#include <algorithm>
+#include <cstring>
+#include <filesystem>
+#include <fstream>
+#include <functional>
+#include <random>
+#include <set>
+
+namespace dravik {
+namespace {
+
+using ::testing::ElementsAre;
+using ::testing::IsEmpty;
+
+namespace fs = std::filesystem;
+
+const Box NotDecompressed{box::Critical, "9 - Subscript out of range in Zlib Decompress!"};
+const Box Integrity{box::Critical, "File Integrity is incorrect!"};
+
+class BadFilesTest : public SmallLeague {
+protected:
+    BadFilesTest()
+    {
+        for (const int team : {5, 6}) {
+            TeamMaker maker(team);
+            maker.DressesFullRoster().FarmsFullRoster();
+            FillLines(Teams[team].ProLines[1], maker.Skaters, maker.Skaters, maker.GoalieIds);
+        }
+        Prospects[1].Name = "A Prospect";
+        Coaches[1].Name = "A Coach";
+        LeagueData.FileDate = 45000;
+        GameSchedule[5000].GameDay = 82;
+        CurrentTeam = 5;
+        ClientPath = Machine.InFolder("League.dvs");
+        LinesPath = Machine.InFolder("Team5.dvl");
+    }
+
+    void Open()
+    {
+        Machine.TakeBoxes();
+        Machine.CloseWait();
+        Machine.Settings.erase("LastLoadLeague");
+        Window.Calls.clear();
+        OpenLeagueClient(ClientPath, Window);
+    }
+
+    void OpenBytes(const ByteVector& file)
+    {
+        WriteWhole(ClientPath, file);
+        Open();
+    }
+
+    // What an open leaves when it stops without having read anything.
+    void ExpectNothingRead(const Box& box, const std::string& what)
+    {
+        EXPECT_THAT(Machine.Boxes(), ElementsAre(box)) << what;
+        EXPECT_TRUE(FiveTablesAreEmpty()) << what;
+        EXPECT_TRUE(ImageOf(LeagueData) == keptLeague) << what;
+        EXPECT_TRUE(ImageOf(Coaches) == keptCoaches) << what;
+        EXPECT_THAT(Window.Calls, IsEmpty()) << what;
+        EXPECT_EQ(Machine.Settings.count("LastLoadLeague"), 0U) << what;
+    }
+
+    // Notes what must survive such an open, after making it differ from what the files of the test hold.
+    void Keep()
+    {
+        LeagueData.Name = "As Before";
+        Coaches[1].Name = "As Before";
+        keptLeague = ImageOf(LeagueData);
+        keptCoaches = ImageOf(Coaches);
+    }
+
+    // Opens the wrapper `file` and compares everything with a reading of it by hand.
+    void ExpectAsByHand(const ByteVector& file, const std::string& what)
+    {
+        ByteVector slots = Unwrapped(file);
+        const bool anything = !slots.empty();
+        slots.resize(client_file::SlotCount * client_file::Slot);
+        const auto holds = [&](std::size_t record, const std::string& bytes) {
+            return std::memcmp(slots.data() + client_file::Offset(record), bytes.data(), bytes.size()) == 0;
+        };
+        const bool started = holds(1, std::string("\x26\0DRVK Client Files Version 1.12 - Start", 40));
+        const bool ended = holds(16903, std::string("\x24\0DRVK Client Files Version 1.12 - End", 38));
+
+        Keep();
+        OpenBytes(file);
+        if (!anything || !started) {
+            ExpectNothingRead(anything ? Integrity : NotDecompressed, what);
+            EXPECT_EQ(Machine.WaitShown, !anything) << what;
+            return;
+        }
+        if (ended && Machine.Boxes().empty()) {
+            EXPECT_EQ(Machine.Settings["LastLoadLeague"], ClientPath) << what;
+            EXPECT_EQ(Window.Calls.size(), 7U) << what;
+            EXPECT_EQ(std::memcmp(&Teams, slots.data() + client_file::Offset(303), 3470 * 100), 0) << what;
+            EXPECT_EQ(std::memcmp(&Players[9999], slots.data() + client_file::Offset(10401), sizeof(Player)), 0)
+                << what;
+        } else if (ended) { // a date that a flipped bit made none
+            EXPECT_THAT(Machine.Boxes(), ElementsAre(Box{box::Critical, "6 - Overflow in OpenLeagueClient!"})) << what;
+        } else {
+            EXPECT_THAT(Machine.Boxes(), ElementsAre(Integrity)) << what;
+            EXPECT_TRUE(FiveTablesAreEmpty()) << what;
+            EXPECT_EQ(std::memcmp(&LeagueData, slots.data() + client_file::Offset(2), sizeof LeagueData), 0) << what;
+            EXPECT_EQ(std::memcmp(&Coaches[1], slots.data() + client_file::Offset(11403), sizeof(Coach)), 0) << what;
+            EXPECT_THAT(Window.Calls, IsEmpty()) << what;
+        }
+        EXPECT_FALSE(Machine.WaitShown) << what;
+    }
+
+    [[nodiscard]] std::set<std::string> FilesLeft() const
+    {
+        std::set<std::string> names;
+        for (const auto& entry : fs::directory_iterator(Machine.Folder()))
+            names.insert(entry.path().filename().string());
+        return names;
+    }
+
+    static ByteVector WithLength(ByteVector wrapper, std::int32_t length)
+    {
+        for (std::size_t i = 0; i < 4; ++i)
+            wrapper[i] = static_cast<unsigned char>(static_cast<std::uint32_t>(length) >> (8 * i));
+        return wrapper;
+    }
+
+    static ByteVector Cut(const ByteVector& bytes, std::size_t length)
+    {
+        return {bytes.begin(), bytes.begin() + static_cast<std::ptrdiff_t>(length)};
+    }
+
+    // The tables that a lines file can change.
+    static ByteVector LinesTables()
+    {
+        ByteVector all;
+        for (const ByteVector& bytes :
+             {ImageOf(Teams), ImageOf(Players), ImageOf(Goalies), ImageOf(RosterChanges), ImageOf(RosterChangesGoalie)})
+            all.insert(all.end(), bytes.begin(), bytes.end());
+        return all;
+    }
+
+    OpenedWindow Window;
+    std::string ClientPath;
+    std::string LinesPath;
+
+private:
+    ByteVector keptLeague;
+    ByteVector keptCoaches;
+};
+
+TEST_F(BadFilesTest, FilesWithoutAStreamEndInTheDecompressionMessage)
+{
+    Keep();
+    const std::string files[] = {
+        "",
+        "a",
+        "ab",
+        "abc",
+        "abcd",
+        "abcde",
+        std::string(100, '\0'),
+        std::string(100000, '\xFF'),
+        "no client file at all, but a text of some length",
+    };
+    for (const std::string& file : files) {
+        OpenBytes(ByteVector(file.begin(), file.end()));
+        ExpectNothingRead(NotDecompressed, "a file of " + std::to_string(file.size()));
+        EXPECT_TRUE(Machine.WaitShown) << "the wait screen stays up";
+    }
+}
+
+TEST_F(BadFilesTest, TheLengthFieldCanClaimWhatItWants)
+{
+    const ByteVector wrapper = Wrapped(ClientSlots(), 1);
+    Keep();
+    for (const std::int32_t length : {-2147483647 - 1, -1000000, -13, -12}) {
+        OpenBytes(WithLength(wrapper, length));
+        ExpectNothingRead(NotDecompressed, std::to_string(length));
+    }
+    for (const std::int32_t length : {-11, -1, 0, 1}) { // at most 13 bytes come
+        OpenBytes(WithLength(wrapper, length));
+        ExpectNothingRead(Integrity, std::to_string(length));
+    }
+    for (const std::int32_t length : {58069270, 58069280, 58649978, 2147483647}) {
+        LeagueData.Name = "Before";
+        OpenBytes(WithLength(wrapper, length));
+        // 58069270 leaves room for 58649975 bytes and 58069280 for 58649985, of which the file takes 58649978.
+        if (length == 58069270)
+            EXPECT_THAT(Machine.Boxes(), ElementsAre(Integrity)) << length;
+        else
+            EXPECT_THAT(Machine.Boxes(), IsEmpty()) << length;
+        EXPECT_EQ(LeagueData.Name.Trimmed(), "Small League") << length;
+    }
+}
+
+TEST_F(BadFilesTest, EveryCutClientFileIsWholeOrEmpty)
+{
+    const ByteVector wrapper = Wrapped(ClientSlots(), 1);
+    const std::size_t size = wrapper.size();
+    ASSERT_GT(size, 131072U);
+    for (const std::size_t length :
+         {std::size_t{0},    std::size_t{4},     std::size_t{5},     std::size_t{6},     std::size_t{10},
+          std::size_t{60},   std::size_t{100},   std::size_t{200},   std::size_t{300},   std::size_t{400},
+          std::size_t{1000}, std::size_t{65535}, std::size_t{65536}, std::size_t{65537}, size / 2,
+          size - 65536,      size - 100,         size - 20,          size - 10,          size - 6,
+          size - 5,          size - 4,           size - 3,           size - 1,           size})
+        ExpectAsByHand(Cut(wrapper, length), "cut to " + std::to_string(length) + " of " + std::to_string(size));
+}
+
+TEST_F(BadFilesTest, EveryFlippedClientFileIsWholeOrEmpty)
+{
+    const ByteVector wrapper = Wrapped(ClientSlots(), 1);
+    std::mt19937 random(1);
+    for (int round = 0; round < 60; ++round) {
+        ByteVector flipped = wrapper;
+        // The stream's head, the records of its first slots, and all of it.
+        const std::size_t reach = round < 20 ? 64 : round < 40 ? 4000 : wrapper.size() - 4;
+        const std::size_t at = 4 + random() % reach;
+        flipped[at] ^= static_cast<unsigned char>(1U << random() % 8);
+        ExpectAsByHand(flipped, "flipped byte " + std::to_string(at));
+    }
+}
+
+TEST_F(BadFilesTest, APlainClientFileOpensOnlyWithBothMagics)
+{
+    Machine.Settings["SkipZIPClient"] = "YES";
+    const ByteVector slots = ClientSlots();
+    std::vector<std::size_t> lengths = {0, 1, 2, 39, 40, 41, 3470, 5000, 1000000, slots.size() - 3470};
+    for (const std::size_t missing : {38U, 37U, 30U, 20U, 10U, 2U})
+        lengths.push_back(slots.size() - missing);
+    lengths.push_back(slots.size() - 1);
+    for (const std::size_t length : lengths) {
+        WriteSparse(ClientPath, Cut(slots, length));
+        Open();
+        EXPECT_THAT(Machine.Boxes(), ElementsAre(Integrity)) << length;
+        EXPECT_TRUE(FiveTablesAreEmpty()) << length;
+        EXPECT_FALSE(Machine.WaitShown);
+    }
+    WriteSparse(ClientPath, slots);
+    Open();
+    EXPECT_THAT(Machine.Boxes(), IsEmpty());
+}
+
+TEST_F(BadFilesTest, EveryFlippedMagicIsRefused)
+{
+    Machine.Settings["SkipZIPClient"] = "YES";
+    const ByteVector slots = ClientSlots();
+    WriteSparse(ClientPath, slots);
+    std::fstream file(ClientPath, std::ios::binary | std::ios::in | std::ios::out);
+    const auto put = [&](std::size_t at, unsigned char byte) {
+        file.seekp(static_cast<std::streamoff>(at));
+        file.put(static_cast<char>(byte));
+        file.flush();
+    };
+    std::vector<std::size_t> places;
+    for (std::size_t i = 0; i < 40; ++i)
+        places.push_back(i);
+    for (std::size_t i = 0; i < 38; i += 5)
+        places.push_back(client_file::Offset(16903) + i);
+    for (const std::size_t at : places) {
+        put(at, slots[at] ^ 0x10U);
+        Open();
+        EXPECT_THAT(Machine.Boxes(), ElementsAre(Integrity)) << at;
+        EXPECT_TRUE(FiveTablesAreEmpty()) << at;
+        put(at, slots[at]);
+    }
+}
+
+TEST_F(BadFilesTest, ADirectoryIsNoFile)
+{
+    fs::create_directory(ClientPath);
+    Keep();
+    Open();
+    ExpectNothingRead({box::Critical, "75 - Path/File access error in Zlib Decompress!"}, "wrapped");
+    EXPECT_TRUE(Machine.WaitShown);
+    Machine.Settings["SkipZIPClient"] = "YES";
+    Open();
+    ExpectNothingRead({box::Critical, "75 - Path/File access error in OpenLeagueClient!"}, "plain");
+    EXPECT_TRUE(Machine.WaitShown);
+}
+
+TEST_F(BadFilesTest, WithoutPermissionNothingIsRead)
+{
+    WriteWhole(ClientPath, {1});
+    Keep();
+    Machine.FailFileOperation(4, failure::PermissionDenied);
+    Open();
+    EXPECT_EQ(Machine.FileOperations().back(), "open");
+    ExpectNothingRead({box::Critical, "70 - Permission denied in Zlib Decompress!"}, "wrapped");
+    Machine.Settings["SkipZIPClient"] = "YES";
+    Machine.FailFileOperation(4, failure::PermissionDenied);
+    Open();
+    ExpectNothingRead({box::Critical, "70 - Permission denied in OpenLeagueClient!"}, "plain");
+    EXPECT_TRUE(Machine.WaitShown);
+}
+
+TEST_F(BadFilesTest, AWorkFileThatCannotBeDeletedStopsTheOpen)
+{
+    WriteWhole(ClientPath, Wrapped(ClientSlots(), 1));
+    WriteWhole(TempFile, {1});
+    Keep();
+    Machine.FailFileOperation(3, failure::PermissionDenied);
+    Open();
+    EXPECT_EQ(Machine.FileOperations().back(), "delete");
+    ExpectNothingRead({box::Critical, "70 - Permission denied in OpenLeagueClient!"}, "delete");
+    EXPECT_FALSE(Machine.WaitShown) << "it was not up yet";
+}
+
+TEST_F(BadFilesTest, AFaultAtAnyFileOperationOfAnOpenLeavesNoHalfLeague)
+{
+    WriteWhole(ClientPath, Wrapped(ClientSlots(), 1));
+    Open();
+    ASSERT_THAT(Machine.Boxes(), IsEmpty());
+    const std::size_t operations = Machine.FileOperations().size();
+    ASSERT_GT(operations, 6U);
+    for (std::size_t n = 1; n <= operations; ++n) {
+        Keep();
+        Machine.FailFileOperation(n, failure::PathAccess);
+        Open();
+        const std::string what = "operation " + std::to_string(n);
+        if (n == 1)
+            ExpectNothingRead({box::Critical, "Cannot find last client league file!"}, what);
+        else if (n <= 3) // looking for a work file, and for the spelling of the name, may fail
+            EXPECT_THAT(Machine.Boxes(), IsEmpty()) << what;
+        else
+            ExpectNothingRead({box::Critical, "75 - Path/File access error in Zlib Decompress!"}, what);
+        EXPECT_THAT(FilesLeft(), ElementsAre("League.dvs")) << what;
+    }
+}
+
+TEST_F(BadFilesTest, AFaultAtAnyFileOperationOfALoadOfLinesChangesNothing)
+{
+    const ByteVector slots = LinesSlots(5);
+    for (const bool plain : {false, true}) {
+        Machine.Settings["SkipZIPClient"] = plain ? "YES" : "No";
+        if (plain)
+            WriteSparse(LinesPath, slots);
+        else
+            WriteWhole(LinesPath, Wrapped(slots, 1));
+        const std::size_t done = Machine.FileOperations().size();
+        ASSERT_EQ(ReadLinesFile(LinesPath), LinesFileRead::Loaded);
+        const std::size_t operations = Machine.FileOperations().size() - done;
+        Teams[5].Cash = 77;
+        const ByteVector before = LinesTables();
+        for (std::size_t n = 1; n <= operations; n += n < 10 || operations - n < 40 ? 1 : 37) {
+            Machine.TakeBoxes();
+            Machine.FailFileOperation(n, failure::PathAccess);
+            auto result = LinesFileRead::Refused;
+            bool thrown = false;
+            try {
+                result = ReadLinesFile(LinesPath);
+            } catch (const Failure& failed) {
+                EXPECT_EQ(failed.Number, failure::PathAccess);
+                thrown = true;
+            }
+            EXPECT_EQ(thrown, plain && n > 3) << n;
+            if (n == 1 || n == 3) { // the same two looks as in an open; a file that is not found is refused
+                EXPECT_EQ(result, LinesFileRead::Loaded) << n;
+                Teams[5].Cash = 77;
+            } else if (n == 2) {
+                EXPECT_EQ(result, LinesFileRead::Refused) << n;
+            } else if (!plain) {
+                EXPECT_EQ(result, LinesFileRead::NotDecompressed) << n;
+                EXPECT_THAT(Machine.Boxes(),
+                            ElementsAre(Box{box::Critical, "75 - Path/File access error in Zlib Decompress!"}));
+            }
+            EXPECT_TRUE(LinesTables() == before) << n;
+            EXPECT_THAT(FilesLeft(), ElementsAre("Team5.dvl")) << n;
+        }
+        Machine.FailNoMore();
+    }
+}
+
+TEST_F(BadFilesTest, AFaultAtAnyFileOperationOfASaveLeavesNoHalfFile)
+{
+    const ByteVector old = {'o', 'l', 'd'};
+    for (const bool plain : {false, true}) {
+        Machine.Settings["SkipZIPClient"] = plain ? "YES" : "No";
+        std::size_t operations = 1000;
+        for (std::size_t n = 1; n <= operations; n += plain && n > 10 && operations - n > 25 ? 20 : 1) {
+            WriteWhole(TempFile, old);
+            WriteWhole(LinesPath, old);
+            Machine.TakeBoxes();
+            const std::size_t done = Machine.FileOperations().size();
+            Machine.FailFileOperation(n, failure::DiskFull);
+            bool written = false;
+            bool thrown = false;
+            try {
+                written = WriteLinesFile(5, LinesPath);
+            } catch (const Failure& failed) {
+                EXPECT_EQ(failed.Number, failure::DiskFull);
+                thrown = true;
+            }
+            const std::set<std::string> left = FilesLeft();
+            EXPECT_EQ(left.count("Team5.dvl.part"), 0U) << n;
+            if (written) { // a look that failed, or the first operation behind the last
+                operations = std::min(operations, Machine.FileOperations().size() - done);
+                EXPECT_EQ(fs::file_size(LinesPath) == 38183919, plain) << n;
+                EXPECT_THAT(Machine.Boxes(), IsEmpty());
+                continue;
+            }
+            // Before the old file is deleted, and while it is, nothing has happened to it.
+            EXPECT_EQ(left.count("Team5.dvl"), n <= 4 ? 1U : 0U) << n;
+            EXPECT_EQ(thrown, plain || n <= 4) << n;
+            if (!thrown) {
+                EXPECT_THAT(Machine.Boxes(), ElementsAre(Box{box::Critical, "61 - Disk full in Zlib Compress!"}));
+            }
+        }
+        EXPECT_LT(operations, 1000U);
+        Machine.FailNoMore();
+    }
+}
+
+TEST_F(BadFilesTest, EveryCutLinesFileTakesOverWhatIsInIt)
+{
+    const ByteVector slots = LinesSlots(5);
+    const ByteVector wrapper = Wrapped(slots, 1);
+    const std::size_t size = wrapper.size();
+    std::vector<std::size_t> lengths = {0, 3, 4, 5, 6, 7, 20, 50, 70, 100, 150, 1000, 65536, size / 2};
+    for (const std::size_t missing : {300U, 100U, 60U, 20U, 12U, 9U, 7U, 6U, 5U, 4U, 3U, 2U, 1U, 0U})
+        lengths.push_back(size - missing);
+    for (const std::size_t length : lengths) {
+        const ByteVector file = Cut(wrapper, length);
+        const ByteVector came = Unwrapped(file);
+        Teams[5].Cash = 77;
+        const ByteVector before = LinesTables();
+        WriteWhole(LinesPath, file);
+        const LinesFileRead result = ReadLinesFile(LinesPath);
+        EXPECT_EQ(result == LinesFileRead::NotDecompressed, came.empty()) << length;
+        // More can come than is in the file: the zeros behind a cut stream decode to something too.
+        const bool whole = came.size() >= slots.size() &&
+                           std::equal(slots.end() - 39, slots.end(), came.begin() + (slots.end() - slots.begin()) - 39);
+        EXPECT_EQ(result == LinesFileRead::Loaded, whole) << length;
+        EXPECT_EQ(Teams[5].Cash, came.size() >= client_file::Offset(5) ? 0 : 77) << length;
+        if (came.size() < client_file::Offset(5)) {
+            EXPECT_TRUE(LinesTables() == before) << length;
+        }
+    }
+}
+
+TEST_F(BadFilesTest, AFlippedLinesFileNeverTouchesPeopleOfOtherTeamsAndNeverSetsAStrangeStatus)
+{
+    const ByteVector wrapper = Wrapped(LinesSlots(5), 1);
+    std::mt19937 random(2);
+    for (int round = 0; round < 80; ++round) {
+        ByteVector flipped = wrapper;
+        const std::size_t reach = round < 30 ? 200 : wrapper.size() - 4;
+        const std::size_t at = 4 + random() % reach;
+        flipped[at] ^= static_cast<unsigned char>(1U << random() % 8);
+        WriteWhole(LinesPath, flipped);
+        const ByteVector skater = ImageOf(Players[50]);
+        ASSERT_EQ(Players[50].Team, 6);
+        const ByteVector team = ImageOf(Teams[6]);
+        const LinesFileRead result = ReadLinesFile(LinesPath);
+        EXPECT_EQ(result == LinesFileRead::NotDecompressed, Unwrapped(flipped).empty()) << at;
+        EXPECT_TRUE(ImageOf(Players[50]) == skater) << at;
+        EXPECT_TRUE(ImageOf(Teams[6]) == team) << at;
+        EXPECT_TRUE(std::all_of(Players.begin(), Players.end(), [](const Player& p) { return p.Status <= 2; })) << at;
+        EXPECT_TRUE(std::all_of(Goalies.begin(), Goalies.end(), [](const Goalie& g) { return g.Status <= 2; })) << at;
+    }
+}
+
+TEST_F(BadFilesTest, ThousandsOfFlipsOfASmallSlotFileReadAsByHand)
+{
+    const std::string path = Machine.InFolder("slots");
+    const auto write = [](SlotWriter& slots) {
+        slots.WriteMagic("Start");
+        slots.Write(Teams[5]);
+        slots.Write(Players[1]);
+        slots.Write(Teams[6]);
+        slots.WriteMagic("End");
+    };
+    ASSERT_TRUE(WriteSlotFile(path, SlotFileLength(5, MagicLength("End")), write));
+    const ByteVector wrapper = ReadWhole(path);
+    std::mt19937 random(3);
+    for (std::size_t round = 0; round < 4000; ++round) {
+        ByteVector bad = wrapper;
+        if (round < wrapper.size())
+            bad.resize(round); // every cut
+        else
+            bad[4 + random() % (bad.size() - 4)] ^= static_cast<unsigned char>(1U << random() % 8);
+        ByteVector came = Unwrapped(bad);
+        const bool anything = !came.empty();
+        came.resize(5 * SlotLength);
+
+        WriteWhole(path, bad);
+        Machine.TakeBoxes();
+        Team first;
+        Player player;
+        Team second;
+        const bool read = ReadSlotFile(path, [&](SlotReader& slots) {
+            EXPECT_EQ(slots.ReadMagic("Start"), std::memcmp(came.data(), "\5\0Start", 7) == 0);
+            slots.Read(first);
+            slots.Read(player);
+            slots.Read(second);
+            EXPECT_EQ(slots.ReadMagic("End"), std::memcmp(came.data() + 4 * SlotLength, "\3\0End", 5) == 0);
+        });
+        ASSERT_EQ(read, anything) << round;
+        if (!anything) {
+            EXPECT_THAT(Machine.Boxes(), ElementsAre(NotDecompressed));
+            continue;
+        }
+        EXPECT_EQ(std::memcmp(&first, came.data() + SlotLength, sizeof first), 0) << round;
+        EXPECT_EQ(std::memcmp(&player, came.data() + 2 * SlotLength, sizeof player), 0) << round;
+        EXPECT_EQ(std::memcmp(&second, came.data() + 3 * SlotLength, sizeof second), 0) << round;
+    }
+}
+
+#ifdef __linux__
+
+// The most memory that `work` takes beyond what is taken already, in KiB.
+long PeakKiBOf(const std::function<void()>& work)
+{
+    const auto peak = [] {
+        std::ifstream status("/proc/self/status");
+        for (std::string word; status >> word;)
+            if (word == "VmHWM:") {
+                long value = 0;
+                status >> value;
+                return value;
+            }
+        return -1L;
+    };
+    // Sets the peak back to what is taken now; where that is forbidden, the peak can only seem too low.
+    std::ofstream("/proc/self/clear_refs") << "5";
+    const long before = peak();
+    work();
+    return peak() - before;
+}
+
+TEST_F(BadFilesTest, MemoryStaysSmallWhateverAFileClaims)
+{
+    {
+        // A stream without an end in sight: the start magic and then zeros, four times as long as any league.
+        ByteVector endless(240000000);
+        const std::string magic("\x26\0DRVK Client Files Version 1.12 - Start", 40);
+        std::copy(magic.begin(), magic.end(), endless.begin());
+        WriteWhole(ClientPath, WithLength(Wrapped(endless, 1), 2147483647));
+    }
+    EXPECT_LT(PeakKiBOf([&] { Open(); }), 8192);
+    EXPECT_THAT(Machine.Boxes(), ElementsAre(Integrity));
+    EXPECT_TRUE(FiveTablesAreEmpty());
+
+    EXPECT_LT(PeakKiBOf([&] { EXPECT_EQ(ReadLinesFile(ClientPath), LinesFileRead::Refused); }), 8192);
+    EXPECT_LT(PeakKiBOf([&] { EXPECT_TRUE(ZlibDecompress(ClientPath, Machine.InFolder("out"))); }), 8192);
+    EXPECT_EQ(fs::file_size(Machine.InFolder("out")), 240000000U);
+    EXPECT_LT(PeakKiBOf([&] { EXPECT_TRUE(WriteLinesFile(5, LinesPath)); }), 8192);
+}
+
+#endif
+
+} // namespace
+} // namespace dravik
