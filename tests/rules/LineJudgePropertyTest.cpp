@@ -272,6 +272,7 @@ protected:
             person.Condition = 90 + Below(10);
         if (OneIn(trouble))
             person.Suspension = Below(3);
+        person.Contract = Below(3); // which no judge of lines asks for
     }
 
     Int16 Anybody(int people, int table)
