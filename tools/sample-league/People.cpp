@@ -33,6 +33,23 @@ constexpr std::array FarmForwardOveralls{65, 64, 62, 61, 59, 58, 57, 55, 54, 53,
 constexpr std::array FarmDefenseOveralls{65, 62, 60, 57, 55, 52, 49};
 constexpr std::array FarmGoalieOveralls{63, 57, 52};
 
+// What is drawn of a person before he gets his slot. It is written in braces, in which drawing goes from left to right on
+// every compiler; the arguments of a call have no such order.
+struct NewSkater {
+    int Team;
+    int Status;
+    int Position;
+    int Age;
+    int Overall;
+};
+
+struct NewGoalie {
+    int Team;
+    int Status;
+    int Age;
+    int Overall;
+};
+
 // The people of one kind find their slots here: the table's indices in a drawn order, so that the people of a team lie
 // scattered among free agents, retired players and empty slots.
 class Recruits {
@@ -51,21 +68,21 @@ public:
     [[nodiscard]] int SkatersLeft() const { return static_cast<int>(skaterSlots.size()); }
     [[nodiscard]] int GoaliesLeft() const { return static_cast<int>(goalieSlots.size()); }
 
-    int Skater(int team, int status, int position, int age, int overall)
+    int Skater(const NewSkater& drawn)
     {
         const int index = Taken(skaterSlots);
         Player& player = Players[index];
-        player.Position = position;
-        Introduce(player, index, team, status, age);
-        RateSkater(random, index, overall);
+        player.Position = drawn.Position;
+        Introduce(player, index, drawn.Team, drawn.Status, drawn.Age);
+        RateSkater(random, index, drawn.Overall);
         return index;
     }
 
-    int Goalie(int team, int status, int age, int overall)
+    int Goalie(const NewGoalie& drawn)
     {
         const int index = Taken(goalieSlots);
-        Introduce(Goalies[index], index, team, status, age);
-        RateGoalie(random, index, overall);
+        Introduce(Goalies[index], index, drawn.Team, drawn.Status, drawn.Age);
+        RateGoalie(random, index, drawn.Overall);
         return index;
     }
 
@@ -162,22 +179,23 @@ void Dress(Recruits& recruits, int team)
     const auto overall = [&](int usual) { return std::min(usual + strength + random.Around(0, 4), 88); };
     int rank = 0;
     for (const int position : ForwardPositions(random, shape))
-        recruits.Skater(team, status::Pro, position, random.Around(27, 8), overall(OverallOf(ForwardOveralls, rank++)));
+        recruits.Skater(
+            {team, status::Pro, position, random.Around(27, 8), overall(OverallOf(ForwardOveralls, rank++))});
     for (rank = 0; rank < shape.Defensemen; ++rank)
-        recruits.Skater(team, status::Pro, position::Defense, random.Around(28, 8),
-                        overall(OverallOf(DefenseOveralls, rank)));
+        recruits.Skater(
+            {team, status::Pro, position::Defense, random.Around(28, 8), overall(OverallOf(DefenseOveralls, rank))});
     for (rank = 0; rank < 2; ++rank)
-        recruits.Goalie(team, status::Pro, random.Around(29, 7),
-                        std::min(overall(OverallOf(GoalieOveralls, rank)), 83));
+        recruits.Goalie(
+            {team, status::Pro, random.Around(29, 7), std::min(overall(OverallOf(GoalieOveralls, rank)), 83)});
 
     const int scratches = random.Between(2, 8);
     for (int i = 0; i < scratches; ++i) {
-        const int index = recruits.Skater(team, status::Scratch, random.Between(position::Center, position::Defense),
-                                          random.Around(28, 9), random.Around(67, 5));
+        const int index = recruits.Skater({team, status::Scratch, random.Between(position::Center, position::Defense),
+                                           random.Around(28, 9), random.Around(67, 5)});
         Trouble(random, Players[index]);
     }
     if (HoleOf(team) == Hole::ThirdGoalie || random.Chance(45))
-        recruits.Goalie(team, status::Scratch, random.Around(27, 6), random.Around(64, 4));
+        recruits.Goalie({team, status::Scratch, random.Around(27, 6), random.Around(64, 4)});
 }
 
 void FillFarm(Recruits& recruits, int team)
@@ -188,20 +206,20 @@ void FillFarm(Recruits& recruits, int team)
     const auto age = [&] { return random.Chance(85) ? random.Between(18, 24) : random.Between(25, 33); };
     int rank = 0;
     for (const int position : ForwardPositions(random, Shapes[0]))
-        recruits.Skater(team, status::Farm, position, age(), overall(OverallOf(FarmForwardOveralls, rank++)));
+        recruits.Skater({team, status::Farm, position, age(), overall(OverallOf(FarmForwardOveralls, rank++))});
     for (rank = 0; rank < Shapes[0].Defensemen; ++rank)
-        recruits.Skater(team, status::Farm, position::Defense, age(), overall(OverallOf(FarmDefenseOveralls, rank)));
+        recruits.Skater({team, status::Farm, position::Defense, age(), overall(OverallOf(FarmDefenseOveralls, rank))});
     for (rank = 0; rank < 2; ++rank)
-        recruits.Goalie(team, status::Farm, age(), overall(OverallOf(FarmGoalieOveralls, rank)));
+        recruits.Goalie({team, status::Farm, age(), overall(OverallOf(FarmGoalieOveralls, rank))});
 
     const int more = random.Between(2, 7);
     for (int i = 0; i < more; ++i) {
-        const int index = recruits.Skater(team, status::Farm, random.Between(position::Center, position::Defense),
-                                          age(), overall(52));
+        const int index = recruits.Skater(
+            {team, status::Farm, random.Between(position::Center, position::Defense), age(), overall(52)});
         Trouble(random, Players[index]);
     }
     if (random.Chance(40))
-        recruits.Goalie(team, status::Farm, age(), overall(50));
+        recruits.Goalie({team, status::Farm, age(), overall(50)});
 }
 
 // Players whose contract has run out and to whom the team still holds the rights. There are more of them in summer.
@@ -210,20 +228,20 @@ void LoseContracts(Recruits& recruits, int team, bool offSeason)
     Random& random = recruits.Dice();
     const int count = offSeason ? random.Between(3, 7) : random.Between(1, 2);
     for (int i = 0; i < count; ++i) {
-        const int index = recruits.Skater(team, status::Farm, random.Between(position::Center, position::Defense),
-                                          random.Between(20, 34), random.Around(57, 8));
+        const int index = recruits.Skater({team, status::Farm, random.Between(position::Center, position::Defense),
+                                           random.Between(20, 34), random.Around(57, 8)});
         Players[index].Contract = 0;
     }
     if (random.Chance(offSeason ? 50 : 10))
-        Goalies[recruits.Goalie(team, status::Farm, random.Between(20, 34), random.Around(55, 6))].Contract = 0;
+        Goalies[recruits.Goalie({team, status::Farm, random.Between(20, 34), random.Around(55, 6)})].Contract = 0;
 }
 
 void AddFreeSkaters(Recruits& recruits, int count)
 {
     Random& random = recruits.Dice();
     for (int i = 0; i < count; ++i) {
-        const int index = recruits.Skater(0, status::Farm, random.Between(position::Center, position::Defense),
-                                          random.Between(18, 40), random.Around(56, 12));
+        const int index = recruits.Skater({0, status::Farm, random.Between(position::Center, position::Defense),
+                                           random.Between(18, 40), random.Around(56, 12)});
         if (random.Chance(4))
             Injure(random, Players[index]);
     }
@@ -233,7 +251,7 @@ void AddFreeGoalies(Recruits& recruits, int count)
 {
     Random& random = recruits.Dice();
     for (int i = 0; i < count; ++i) {
-        const int index = recruits.Goalie(0, status::Farm, random.Between(18, 40), random.Around(56, 12));
+        const int index = recruits.Goalie({0, status::Farm, random.Between(18, 40), random.Around(56, 12)});
         if (random.Chance(4))
             Injure(random, Goalies[index]);
     }
@@ -244,14 +262,14 @@ void Retire(Recruits& recruits)
 {
     Random& random = recruits.Dice();
     for (int i = 0; i < RetiredSkaters; ++i) {
-        const int index = recruits.Skater(random.Between(0, 32), random.Between(status::Farm, status::Pro),
-                                          random.Between(position::Center, position::Defense), random.Between(30, 44),
-                                          random.Around(60, 12));
+        const int index = recruits.Skater({random.Between(0, 32), random.Between(status::Farm, status::Pro),
+                                           random.Between(position::Center, position::Defense), random.Between(30, 44),
+                                           random.Around(60, 12)});
         Players[index].InUse = false;
     }
     for (int i = 0; i < RetiredGoalies; ++i) {
-        const int index = recruits.Goalie(random.Between(0, 32), random.Between(status::Farm, status::Pro),
-                                          random.Between(30, 44), random.Around(60, 10));
+        const int index = recruits.Goalie({random.Between(0, 32), random.Between(status::Farm, status::Pro),
+                                           random.Between(30, 44), random.Around(60, 10)});
         Goalies[index].InUse = false;
     }
 }
