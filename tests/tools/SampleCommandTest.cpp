@@ -1,6 +1,8 @@
+#include "league/ClientFile.h"
 #include "league/OutsideCode.h"
 #include "sample-league/Command.h"
 #include "SampleFixture.h"
+#include "support/OpenedWindow.h"
 
 #include <filesystem>
 #include <sstream>
@@ -134,6 +136,24 @@ TEST_F(SampleCommandTest, ThePlainFileAndTheWrappedOneHoldTheSame)
     Made({});
     ASSERT_TRUE(ZlibDecompress(Machine.InFolder("made.dvs"), Machine.InFolder("unwrapped")));
     EXPECT_TRUE(Bytes("unwrapped") == plain);
+}
+
+TEST_F(SampleCommandTest, TheClientOpensBothLayouts)
+{
+    for (const bool plain : {false, true}) {
+        Made(plain ? std::vector<std::string>{"--plain"} : std::vector<std::string>{});
+        ResetClientVariables();
+        TempFile = Machine.InFolder("ClientTemp.dvt");
+        UseMachine(Machine);
+        Machine.Settings["SkipZIPClient"] = plain ? "Yes" : "No";
+        OpenedWindow window;
+        OpenLeagueClient(Machine.InFolder("made.dvs"), window);
+        EXPECT_THAT(Machine.Boxes(), ::testing::IsEmpty());
+        EXPECT_EQ(LeagueData.Name.Trimmed(), "Aurora Crown Hockey League");
+        EXPECT_EQ(Teams[32].Name.Trimmed(), "Skarnholm Walkers");
+        EXPECT_EQ(Players[0].Name.Trimmed(), "Unknown Player");
+        UseMachine(Tool);
+    }
 }
 
 TEST_F(SampleCommandTest, EverySeedHasAFileOfItsOwn)

@@ -48,8 +48,8 @@ Round Returned(Round round)
     return round;
 }
 
-// 82 rounds: every pairing and its return, and the pairings with the most games within divisions a second time. Since every
-// game has its return, everybody plays as often at home as away.
+// 82 rounds: every pairing and its return, and the pairings with the most games within divisions a second time. Since
+// every game has its return, everybody plays as often at home as away.
 std::vector<Round> SeasonRounds(Random& random, const std::vector<int>& teams)
 {
     std::vector<Round> halves = AllPairings(teams);
@@ -89,8 +89,8 @@ void SetFarm(ScheduleRow& row, const Game& game, bool played)
     row.FarmHome = game.Home;
 }
 
-// Writes the rounds of pro and farm side by side. A round takes two days, so that nobody plays twice on one. Most rows hold
-// a game of both; a few games have a row of their own.
+// Writes the rounds of pro and farm side by side. A round takes two days, so that nobody plays twice on one. Most rows
+// hold a game of both; a few games have a row of their own.
 void WriteRows(Random& random, const std::vector<Round>& pro, const std::vector<Round>& farm, int lastPlayedDay)
 {
     int row = 0;

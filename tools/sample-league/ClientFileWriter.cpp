@@ -7,8 +7,8 @@ namespace dravik::sample {
 
 namespace {
 
-// This side of the format is the simulator's. It spells the magics out again, so that the client's reader is never checked
-// against itself.
+// This side of the format is the simulator's. It spells the magics out again, so that the client's reader is never
+// checked against itself.
 constexpr std::string_view StartMagic = "DRVK Client Files Version 1.12 - Start";
 constexpr std::string_view EndMagic = "DRVK Client Files Version 1.12 - End";
 

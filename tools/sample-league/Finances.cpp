@@ -28,8 +28,8 @@ void BuildArena(Random& random, Team& team)
     }
 }
 
-// Fills the arena at every home game to some percent on all its levels. Capacities are whole hundreds, so every percent of
-// them is a whole number of people.
+// Fills the arena at every home game to some percent on all its levels. Capacities are whole hundreds, so every
+// percent of them is a whole number of people.
 void SellTickets(Random& random, Team& team)
 {
     const int usual = random.Between(76, 94);

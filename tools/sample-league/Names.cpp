@@ -11,8 +11,8 @@ namespace {
 
 using Words = std::span<const std::string_view>;
 
-// Where people come from and how their names are made: a given name, and a family name of a head and a tail. Some peoples
-// have whole family names besides.
+// Where people come from and how their names are made: a given name, and a family name of a head and a tail. Some
+// peoples have whole family names besides.
 struct Nation {
     std::string_view Country;
     int Share; // of all people, in percent

@@ -13,8 +13,8 @@ struct PersonName {
     std::string Country;
 };
 
-// Invents people. Family names are put together from parts, so that no real player's full name comes up by design, and no
-// name comes twice.
+// Invents people. Family names are put together from parts, so that no real player's full name comes up by design, and
+// no name comes twice.
 class NameMaker {
 public:
     NameMaker(std::uint64_t seed, std::string_view subject) : random(seed, subject) {}

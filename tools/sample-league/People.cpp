@@ -33,8 +33,8 @@ constexpr std::array FarmForwardOveralls{65, 64, 62, 61, 59, 58, 57, 55, 54, 53,
 constexpr std::array FarmDefenseOveralls{65, 62, 60, 57, 55, 52, 49};
 constexpr std::array FarmGoalieOveralls{63, 57, 52};
 
-// What is drawn of a person before he gets his slot. It is written in braces, in which drawing goes from left to right on
-// every compiler; the arguments of a call have no such order.
+// What is drawn of a person before he gets his slot. It is written in braces, in which drawing goes from left to right
+// on every compiler; the arguments of a call have no such order.
 struct NewSkater {
     int Team;
     int Status;
@@ -131,8 +131,8 @@ void Injure(Random& random, Person& person)
     person.Injury = InjuryText(random.Between(0, static_cast<int>(Injuries.size()) - 1));
 }
 
-// Those who may not play sit among the scratches or on the farm: some are hurt, a few suspended, and one in a while is on
-// his way through waivers.
+// Those who may not play sit among the scratches or on the farm: some are hurt, a few suspended, and one in a while is
+// on his way through waivers.
 template <class Person>
 void Trouble(Random& random, Person& person)
 {

@@ -36,7 +36,8 @@ std::string CodeOf(std::uint64_t seed)
     return code;
 }
 
-// When the file was made, in days since 30 December 1899: on the evening of a day of the season that began in October 2030.
+// When the file was made, in days since 30 December 1899: on the evening of a day of the season that began in October
+// 2030.
 double DateOf(const SampleOptions& options)
 {
     using namespace std::chrono;

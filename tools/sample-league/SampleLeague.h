@@ -16,8 +16,8 @@ struct SampleOptions {
 };
 
 // Fills the tables of the client with a league of 30 teams that depends on `options` alone: the same on every machine.
-// Needs a machine in use (`UseMachine`) for the digests of the passwords; shows no box. Fails with 5 on another number of
-// divisions, and on an off-season behind the deadline.
+// Needs a machine in use (`UseMachine`) for the digests of the passwords; shows no box. Fails with 5 on another number
+// of divisions, and on an off-season behind the deadline.
 void MakeSampleLeague(const SampleOptions& options);
 
 // What is wrong with a team. All others are whole: roster, and all ten days of lines, pro and farm.

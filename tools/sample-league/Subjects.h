@@ -7,8 +7,8 @@
 #include <string_view>
 #include <vector>
 
-// The parts of making a sample league, each a subject with a file of its own. They run in this order, since each of them
-// builds on the records that those before it have filled.
+// The parts of making a sample league, each a subject with a file of its own. They run in this order, since each of
+// them builds on the records that those before it have filled.
 namespace dravik::sample {
 
 void MakeRules(const SampleOptions& options);
