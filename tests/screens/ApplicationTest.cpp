@@ -1,11 +1,11 @@
 #include "screens/platform/Application.h"
-#include "AnswerDialog.h"
 #include "league/Failure.h"
 #include "support/SmallLeague.h"
 
 #include <QPushButton>
-#include <QTimer>
+#include <QTest>
 
+#include <functional>
 #include <new>
 #include <stdexcept>
 
@@ -15,18 +15,16 @@ namespace {
 using ::testing::ElementsAre;
 using ::testing::IsEmpty;
 
-// The tests' own application is a plain one; the last resort is asked directly.
+// The application of all tests is the program's own.
 class ApplicationTest : public SmallLeague {
 protected:
-    // Clicks a button whose handler does `act`, as the event loop would.
+    // Clicks a button whose handler does `act`.
     static void ClickOn(std::function<void()> act)
     {
         QPushButton button("Press");
         QObject::connect(&button, &QPushButton::clicked, [&act] { act(); });
-        NotifyReporting([&button] {
-            button.click();
-            return true;
-        });
+        button.show();
+        QTest::mouseClick(&button, Qt::LeftButton);
     }
 };
 
@@ -46,14 +44,21 @@ TEST_F(ApplicationTest, MemoryThatIsShortAndOtherExceptionsHaveTheirNumbers)
 
 TEST_F(ApplicationTest, WhatIsNoExceptionGoesNoFurtherEither)
 {
-    EXPECT_FALSE(NotifyReporting([]() -> bool { throw 5; }));
+    ClickOn([] { throw 5; });
     EXPECT_THAT(Machine.Boxes(), IsEmpty());
 }
 
 TEST_F(ApplicationTest, AnEventThatIsHandledAnswersAsTheToolkitDoes)
 {
-    EXPECT_TRUE(NotifyReporting([] { return true; }));
-    EXPECT_FALSE(NotifyReporting([] { return false; }));
+    struct Answering : QObject {
+        bool Answer = false;
+        bool event(QEvent* /*event*/) override { return Answer; }
+    } object;
+    QEvent asked(QEvent::User);
+    EXPECT_FALSE(QApplication::sendEvent(&object, &asked));
+    object.Answer = true;
+    EXPECT_TRUE(QApplication::sendEvent(&object, &asked));
+    EXPECT_THAT(Machine.Boxes(), IsEmpty());
 }
 
 } // namespace

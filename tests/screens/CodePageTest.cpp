@@ -60,16 +60,20 @@ TEST(CodePage, EveryCharacterOutsideTheCodePageBecomesAQuestionMark)
         if (inside.count(character) != 0)
             continue;
         ++outside;
-        ASSERT_EQ(FromQString(Character(character)), "?") << std::hex << static_cast<unsigned>(character);
+        if (FromQString(Character(character)) != "?")
+            FAIL() << std::hex << static_cast<unsigned>(character);
     }
     EXPECT_EQ(outside, 0x110000U - 256U);
 }
 
 TEST(CodePage, EveryCharacterOfAPathSurvives)
 {
-    for (char32_t character = 0; character <= QChar::LastValidCodePoint; ++character) {
-        const QString path = "/" + Character(character) + "x";
-        ASSERT_EQ(PathToDesktop(PathToProgram(path)), path) << std::hex << static_cast<unsigned>(character);
+    constexpr char32_t block = 0x100;
+    for (char32_t first = 0; first <= QChar::LastValidCodePoint; first += block) {
+        QString path = "/";
+        for (char32_t character = first; character < first + block; ++character)
+            path += Character(character);
+        ASSERT_EQ(PathToDesktop(PathToProgram(path)), path) << std::hex << static_cast<unsigned>(first);
     }
 }
 

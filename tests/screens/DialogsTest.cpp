@@ -271,6 +271,17 @@ TEST_F(Dialogs, ABoxBelongsToTheActiveWindowButNotToTheWaitScreen)
     });
 }
 
+TEST_F(Dialogs, ADialogWithoutAWindowDoesNotEndTheProgram)
+{
+    int lastClosed = 0;
+    const auto connection = QObject::connect(qApp, &QGuiApplication::lastWindowClosed, [&lastClosed] { ++lastClosed; });
+    ShowAndClick(16, "cmdOk");
+    Ask("Prompt", [](QDialog& dialog) { dialog.accept(); });
+    QCoreApplication::processEvents();
+    EXPECT_EQ(lastClosed, 0);
+    QObject::disconnect(connection);
+}
+
 TEST_F(Dialogs, ABoxOverABoxBelongsToIt)
 {
     int inner = 0;

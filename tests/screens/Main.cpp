@@ -1,3 +1,5 @@
+#include "screens/platform/Application.h"
+
 #include <gmock/gmock.h>
 #include <QApplication>
 #include <QFont>
@@ -10,7 +12,7 @@ int main(int argc, char** argv)
     qputenv("QT_QPA_PLATFORM", "offscreen");
     QLocale::setDefault(QLocale(QLocale::English, QLocale::UnitedStates));
     QApplication::setDesktopSettingsAware(false);
-    const QApplication application(argc, argv);
+    const dravik::Application application(argc, argv);
     QApplication::setStyle(QStyleFactory::create("Fusion"));
     QApplication::setFont(QFont("DejaVu Sans", 10));
     // Each test opens and closes its own windows; the last one to close does not end the application.

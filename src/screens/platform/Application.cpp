@@ -14,14 +14,9 @@ Application::Application(int& argc, char** argv) : QApplication(argc, argv)
 
 bool Application::notify(QObject* receiver, QEvent* event)
 {
-    return NotifyReporting([&] { return QApplication::notify(receiver, event); });
-}
-
-bool NotifyReporting(const std::function<bool()>& handle)
-{
     bool handled = false;
     try {
-        Reporting(" in Application!", [&] { handled = handle(); });
+        Reporting(" in Application!", [&] { handled = QApplication::notify(receiver, event); });
     } catch (...) {
         // Not even the report could be shown; without it the general manager can still save.
         return false;

@@ -146,6 +146,9 @@ void DrawIcon(QMessageBox& messageBox)
     label->setPixmap(BoxIcon(messageBox.icon(), messageBox.palette(), size, messageBox.devicePixelRatioF()));
 }
 
+// A dialog without a window behind it, such as one at the start, must not end the program when it closes.
+void KeepProgramRunning(QWidget& dialog) { dialog.setAttribute(Qt::WA_QuitOnClose, false); }
+
 } // namespace
 
 QWidget* DialogParent()
@@ -173,6 +176,7 @@ int ShowMessageBox(const QString& text, int kind, const QString& title)
 
     QMessageBox messageBox(DialogParent());
     messageBox.setObjectName("msgBox");
+    KeepProgramRunning(messageBox);
     messageBox.setWindowTitle(title);
     messageBox.setIcon(known->Icon);
     messageBox.setTextFormat(Qt::PlainText);
@@ -203,6 +207,7 @@ std::optional<QString> AskForText(const QString& prompt, const QString& title, c
 {
     QDialog dialog(DialogParent());
     dialog.setObjectName("inputBox");
+    KeepProgramRunning(dialog);
     dialog.setWindowTitle(title);
 
     auto* label = new QLabel(WithPlainBreaks(prompt), &dialog);
@@ -260,6 +265,7 @@ std::optional<QString> AskForFile(const QString& folder, const QString& filter)
 {
     QFileDialog dialog(DialogParent(), "Open", folder);
     dialog.setObjectName("dlgCommon");
+    KeepProgramRunning(dialog);
     dialog.setAcceptMode(QFileDialog::AcceptOpen);
     dialog.setFileMode(QFileDialog::ExistingFile);
     // The captions carry their pattern in words.

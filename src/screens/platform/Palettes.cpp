@@ -100,6 +100,15 @@ void UseLightLook() { UseLook(LightPalette()); }
 
 void UseDarkLook() { UseLook(DarkPalette()); }
 
+void UseLookOfDesktop()
+{
+#if !defined(Q_OS_WIN) && !defined(Q_OS_MACOS)
+    const auto isSet = [](const char* name) { return !qEnvironmentVariableIsEmpty(name); };
+    if (!isSet("XDG_CURRENT_DESKTOP") && !isSet("QT_QPA_PLATFORMTHEME") && !isSet("QT_STYLE_OVERRIDE"))
+        UseLightLook();
+#endif
+}
+
 QColor Mixed(const QColor& a, const QColor& b, double part)
 {
     const auto mix = [part](float x, float y) { return static_cast<float>(x + (y - x) * part); };
