@@ -42,7 +42,7 @@ void MakeCoaches(const SampleOptions& options)
         coach.Team = team;
         coach.Age = random.Between(38, 68);
         coach.Contract = team == 0 ? 0 : random.Between(1, 4);
-        coach.Salary = random.Between(level * 8, level * 24) * 25000;
+        coach.Salary = random.Between(level * 8, level * 24) * 25000LL;
         for (Byte& rating : coach.Ratings)
             rating = random.Around(50 + level * 10, 18);
         return index;

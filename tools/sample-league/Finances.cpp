@@ -22,7 +22,7 @@ void BuildArena(Random& random, Team& team)
 {
     int index = 1;
     for (const Level& level : Levels) {
-        team.ArenaCapacity[index] = 100 * random.Between(level.LeastSeats, level.MostSeats);
+        team.ArenaCapacity[index] = 100LL * random.Between(level.LeastSeats, level.MostSeats);
         team.TicketPrice[index] = random.Between(level.LeastPrice, level.MostPrice);
         ++index;
     }
