@@ -1,11 +1,13 @@
 #include "league/Platform.h"
 #include "screens/platform/Application.h"
 #include "screens/platform/QtPlatform.h"
+#include "screens/Stage.h"
 
 int main(int argc, char** argv)
 {
     const dravik::Application application(argc, argv);
     dravik::QtPlatform platform;
     dravik::UseMachine(platform);
-    return dravik::Application::exec();
+    dravik::Stage stage;
+    return stage.Start() ? dravik::Application::exec() : 0;
 }

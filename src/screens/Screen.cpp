@@ -1,0 +1,94 @@
+#include "screens/Screen.h"
+
+#include "league/Reporting.h"
+#include "screens/panels/EditBox.h"
+#include "screens/platform/CodePage.h"
+#include "screens/Stage.h"
+
+#include <QCloseEvent>
+#include <QScreen>
+#include <utility>
+
+namespace dravik {
+
+void RunEvent(const QString& name, const std::function<void()>& routine)
+{
+    Reporting(" in " + FromQString(name) + "!", routine);
+}
+
+Screen::Screen(Stage& stage, const QString& name) : Owner(stage) { setObjectName(name); }
+
+void Screen::CentreOnScreen()
+{
+    if (isMaximized() || isFullScreen())
+        return;
+    const QRect area = screen()->availableGeometry();
+    resize(size().boundedTo(area.size()));
+    move(area.topLeft() +
+         QPoint((area.width() - frameGeometry().width()) / 2, (area.height() - frameGeometry().height()) / 2));
+}
+
+void Screen::Unload()
+{
+    wantsToUnload = true;
+    if (Owner.IsLoading(*this))
+        return;
+    close();
+}
+
+void Screen::Open(std::string_view name) { Owner.Open(name, *this); }
+
+void Screen::closeEvent(QCloseEvent* event)
+{
+    event->accept();
+    if (unloaded)
+        return;
+    unloaded = true;
+    SettleFocus();
+    RunEvent("Form_Unload", [this] { FormUnload(); });
+    Owner.Closed(*this);
+}
+
+bool Screen::eventFilter(QObject* watched, QEvent* event)
+{
+    // The mouse takes the focus to the command before it presses it. A box that refused its text has it back by now, and
+    // the press goes no further.
+    if (event->type() == QEvent::MouseButtonPress) {
+        const auto* button = qobject_cast<QPushButton*>(watched);
+        const auto* box = qobject_cast<EditBox*>(focusWidget());
+        if (button != nullptr && box != nullptr && (button->focusPolicy() & Qt::ClickFocus) == Qt::ClickFocus)
+            return true;
+    }
+    return QMainWindow::eventFilter(watched, event);
+}
+
+QPushButton* Screen::MakeCommand(const QString& name, const QString& caption, std::function<void()> click)
+{
+    auto* command = new QPushButton(caption, this);
+    command->setObjectName(name);
+    command->setAutoDefault(true); // Enter presses the command that has the focus
+    command->installEventFilter(this);
+    connect(command, &QPushButton::clicked, this, [this, command, run = std::move(click)] {
+        if (!SettleFocus())
+            return;
+        command->setFocus(Qt::OtherFocusReason);
+        RunEvent(command->objectName(), run);
+    });
+    return command;
+}
+
+EditBox* Screen::MakeBox(const QString& name, std::function<void()> lostFocus)
+{
+    auto* box = new EditBox(this);
+    box->setObjectName(name);
+    connect(box, &EditBox::LostFocus, this, [name, run = std::move(lostFocus)] { RunEvent(name + "_LostFocus", run); });
+    return box;
+}
+
+bool Screen::SettleFocus()
+{
+    auto* box = qobject_cast<EditBox*>(focusWidget());
+    return box == nullptr || box->Settle();
+}
+
+} // namespace dravik

@@ -1,0 +1,61 @@
+#pragma once
+
+#include <functional>
+#include <QMainWindow>
+#include <QPushButton>
+#include <string_view>
+
+namespace dravik {
+
+class EditBox;
+class Stage;
+
+// What all screens have in common. A screen is made and loaded by the stage, shown, hidden while another one that it
+// opened is up, and unloaded when it closes. It knows the stage and no other screen.
+class Screen : public QMainWindow {
+public:
+    // `name` is the screen's own ("frmTeam").
+    Screen(Stage& stage, const QString& name);
+
+    // Fills the screen from the tables, before it is shown. A screen that cannot be filled calls Unload.
+    virtual void FormLoad() = 0;
+    // The same for a screen that comes back from one that it opened.
+    virtual void ReloadForm() {}
+    // Runs each time the stage has brought the screen to the front.
+    virtual void FormActivate() {}
+    // Runs when the screen closes, whichever way, before another one is shown.
+    virtual void FormUnload() {}
+
+    // Puts the window in the middle of its screen.
+    void CentreOnScreen();
+    // Closes the screen. One that is still loading is closed by the stage when its FormLoad has come to an end.
+    void Unload();
+    [[nodiscard]] bool WantsToUnload() const { return wantsToUnload; }
+
+protected:
+    void closeEvent(QCloseEvent* event) override;
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
+    // Opens another screen in front of this one.
+    void Open(std::string_view name);
+
+    // Makes the command `name` with its caption. A click runs `click`, and reports what fails with the command's name.
+    // A text box that still has the focus acts first; if its text is refused, the click is dropped.
+    QPushButton* MakeCommand(const QString& name, const QString& caption, std::function<void()> click);
+    // Makes the text box `name`; `lostFocus` runs when it loses the focus.
+    EditBox* MakeBox(const QString& name, std::function<void()> lostFocus);
+
+    Stage& Owner;
+
+private:
+    // Lets the text box that has the focus act; false when it keeps the focus.
+    bool SettleFocus();
+
+    bool wantsToUnload = false;
+    bool unloaded = false;
+};
+
+// Runs an event routine, reporting what fails under `name`.
+void RunEvent(const QString& name, const std::function<void()>& routine);
+
+} // namespace dravik

@@ -1,0 +1,231 @@
+#include "screens/Stage.h"
+
+#include "league/ClientVariable.h"
+#include "league/Failure.h"
+#include "league/Message.h"
+#include "league/Platform.h"
+#include "screens/frmMain.h"
+#include "screens/frmTeam.h"
+
+#include <algorithm>
+#include <iterator>
+#include <QApplication>
+#include <utility>
+
+namespace dravik {
+
+namespace {
+
+// Who comes back when a screen closes.
+enum class Behind { Main, Team, Caller, Viewer };
+
+template <class T>
+std::unique_ptr<Screen> Make(Stage& stage)
+{
+    return std::make_unique<T>(stage);
+}
+
+struct Role {
+    std::string_view Name;
+    Behind Back;
+    bool HidesOpener;
+    std::unique_ptr<Screen> (*Create)(Stage&); // none: the program does not have this screen yet
+};
+
+constexpr std::string_view MainName = "Main";
+constexpr std::string_view TeamName = "Team";
+
+// clang-format off
+constexpr Role Roles[] = {
+    {"Team",       Behind::Main,   true,  Make<frmTeam>},
+    {"Roster",     Behind::Caller, true,  nullptr},
+    {"Line",       Behind::Caller, true,  nullptr},
+    {"FarmLine",   Behind::Caller, true,  nullptr},
+    {"FreeAgent",  Behind::Main,   true,  nullptr},
+    {"Draft",      Behind::Main,   true,  nullptr},
+    {"Ticket",     Behind::Team,   true,  nullptr},
+    {"EditPlayer", Behind::Viewer, true,  nullptr},
+    {"About",      Behind::Main,   false, nullptr},
+    {"Coach",      Behind::Main,   true,  nullptr},
+    {"Prospect",   Behind::Main,   true,  nullptr},
+};
+// clang-format on
+
+const Role* RoleOf(std::string_view name)
+{
+    const auto* found =
+        std::find_if(std::begin(Roles), std::end(Roles), [name](const Role& role) { return role.Name == name; });
+    return found == std::end(Roles) ? nullptr : found;
+}
+
+// Whom the player viewer returns to, by `ViewerReturnMode`.
+std::string_view ViewerOpener()
+{
+    switch (static_cast<int>(ViewerReturnMode)) {
+    case 2:
+        return "Roster";
+    case 3:
+        return "FreeAgent";
+    case 4:
+        return "Draft";
+    default:
+        return MainName;
+    }
+}
+
+} // namespace
+
+// Screens hide behind each other, so the last visible window that closes is no sign of the end.
+Stage::Stage() { QApplication::setQuitOnLastWindowClosed(false); }
+
+Stage::~Stage()
+{
+    for (const auto& screen : disposed)
+        delete screen.data();
+}
+
+bool Stage::Start()
+{
+    auto made = std::make_unique<frmMain>(*this);
+    frmMain& main = *made;
+    screens[MainName] = std::move(made);
+    loading = &main;
+    main.FormLoad();
+    loading = nullptr;
+    if (main.WantsToUnload()) {
+        ended = true;
+        screens.clear();
+        return false;
+    }
+    Show(main);
+    return true;
+}
+
+void Stage::Provide(std::string_view name, Factory factory)
+{
+    provided.insert_or_assign(std::string(name), std::move(factory));
+}
+
+void Stage::Open(std::string_view name, Screen& opener)
+{
+    const Role* role = RoleOf(name);
+    if (role == nullptr)
+        Fail(failure::InvalidCall);
+    const auto other = provided.find(name);
+    const Factory create = other != provided.end() ? other->second : Factory(role->Create);
+    if (!create) {
+        ShowBox("Not available yet.", box::Information);
+        return;
+    }
+    if (const auto standing = screens.find(role->Name); standing != screens.end()) {
+        standing->second->hide();
+        Dispose(std::move(standing->second));
+    }
+    Screen& screen = *(screens[role->Name] = create(*this));
+    const Screen* outer = std::exchange(loading, &screen);
+    screen.FormLoad();
+    loading = outer;
+    if (screen.WantsToUnload()) {
+        screen.close();
+        return;
+    }
+    Show(screen);
+    if (role->HidesOpener)
+        opener.hide();
+}
+
+void Stage::Close(Screen& screen) { screen.Unload(); }
+
+Screen* Stage::Find(std::string_view name) const
+{
+    const auto found = screens.find(name);
+    return found == screens.end() ? nullptr : found->second.get();
+}
+
+void Stage::PlaceTeam()
+{
+    if (frmMain* main = Main())
+        main->PlaceTeam();
+}
+
+void Stage::EnableSaveToFile()
+{
+    if (frmTeam* team = Team())
+        team->EnableSaveToFile();
+}
+
+void Stage::Closed(Screen& screen)
+{
+    const auto found = std::find_if(screens.begin(), screens.end(),
+                                    [&screen](const auto& entry) { return entry.second.get() == &screen; });
+    if (found == screens.end())
+        return;
+    const std::string_view name = found->first;
+    Dispose(std::move(found->second));
+    screens.erase(found);
+    if (ended)
+        return;
+    if (name == MainName) {
+        ended = true;
+        for (const auto& [otherName, other] : screens)
+            other->hide();
+        QCoreApplication::exit(0);
+        return;
+    }
+    ShowBehind(name);
+}
+
+frmMain* Stage::Main() const { return static_cast<frmMain*>(Find(MainName)); }
+
+frmTeam* Stage::Team() const { return static_cast<frmTeam*>(Find(TeamName)); }
+
+void Stage::Show(Screen& screen)
+{
+    screen.show();
+    screen.raise();
+    screen.activateWindow();
+    screen.FormActivate();
+}
+
+void Stage::ShowBehind(std::string_view name)
+{
+    switch (RoleOf(name)->Back) {
+    case Behind::Main:
+        ShowReturningTo(MainName);
+        break;
+    case Behind::Team:
+        ShowReturningTo(TeamName);
+        break;
+    case Behind::Caller:
+        if (CallerScreen == MainName || CallerScreen == TeamName)
+            ShowReturningTo(CallerScreen);
+        else
+            ShowIntegrityFailure();
+        break;
+    case Behind::Viewer:
+        ShowReturningTo(ViewerOpener());
+        break;
+    }
+}
+
+void Stage::ShowReturningTo(std::string_view name)
+{
+    Screen* screen = Find(name);
+    // The screen that should be there may have been closed meanwhile; the way home is always open.
+    if (screen == nullptr)
+        screen = Find(MainName);
+    if (screen == nullptr)
+        return;
+    screen->ReloadForm();
+    if (!screen->WantsToUnload())
+        Show(*screen);
+}
+
+void Stage::Dispose(std::unique_ptr<Screen> screen)
+{
+    disposed.erase(std::remove(disposed.begin(), disposed.end(), nullptr), disposed.end());
+    screen->deleteLater();
+    disposed.emplace_back(screen.release());
+}
+
+} // namespace dravik

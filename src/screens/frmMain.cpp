@@ -1,0 +1,404 @@
+#include "screens/frmMain.h"
+
+#include "league/ClientVariable.h"
+#include "league/InputCheck.h"
+#include "league/Message.h"
+#include "league/OutsideCode.h"
+#include "league/Platform.h"
+#include "league/Reporting.h"
+#include "rules/Function.h"
+#include "screens/panels/Labels.h"
+#include "screens/panels/Shades.h"
+#include "screens/platform/CodePage.h"
+
+#include <QHBoxLayout>
+#include <QMenuBar>
+#include <QVBoxLayout>
+
+namespace dravik {
+
+namespace {
+
+constexpr int DivisionsOfConference = 3;
+constexpr int AllDivisions = 6;
+
+// Sizes of the empty window, and of one filled with four and with six lists.
+constexpr QSize EmptySize(640, 360);
+constexpr int FilledHeight = 480;
+constexpr int NarrowWidth = 920;
+constexpr int WideWidth = 1240;
+constexpr int LeastListWidth = 130;
+
+QString InParentheses(const char* name, int index) { return QString("%1(%2)").arg(name).arg(index); }
+
+template <std::size_t N>
+QString Shown(const Text<N>& text)
+{
+    return ToQString(text.Trimmed());
+}
+
+} // namespace
+
+frmMain::frmMain(Stage& stage) : Screen(stage, "frmMain")
+{
+    MakeMenus();
+
+    auto* content = new QWidget(this);
+    auto* column = new QVBoxLayout(content);
+    column->setContentsMargins(Margin, Margin, Margin, Margin);
+    column->setSpacing(Gap);
+
+    lblTitle = MakeTitle(content);
+    lblTitle->setObjectName("lblTitle");
+    lblTitle->setText(ToQString(ProgramTitle));
+    lblDate = new MutedLabel("Client File Date : ", content);
+    lblDate->setObjectName("lblDate");
+    auto* header = new QHBoxLayout;
+    header->addWidget(lblTitle, 1);
+    header->addWidget(lblDate);
+    column->addLayout(header);
+
+    cmdOpen = MakeCommand("cmdOpen", "Open ...", [this] { mnuOpen_Click(); });
+    auto* body = new QHBoxLayout;
+    body->setSpacing(2 * Gap);
+    for (int conference = 1; conference <= 2; ++conference) {
+        conferences[conference] = MakeConference(conference);
+        body->addWidget(conferences[conference], 1);
+    }
+    emptySpace = new QWidget(content);
+    column->addWidget(emptySpace, 1);
+    column->addLayout(body, 1);
+    column->addWidget(cmdOpen, 0, Qt::AlignHCenter | Qt::AlignTop);
+
+    teamBar = MakeTeamBar();
+    column->addWidget(teamBar);
+    emptySpaceBelow = new QWidget(content);
+    column->addWidget(emptySpaceBelow, 1);
+    setCentralWidget(content);
+
+    lblConference[1]->setText("No League File Load!");
+    lblConference[1]->setAlignment(Qt::AlignCenter);
+    lblConference[2]->setText("Conference Name");
+    lblConference[2]->hide();
+    conferences[2]->hide();
+    for (int division = 1; division <= AllDivisions; ++division) {
+        lblDivision[division]->hide();
+        lstDivision[division]->hide();
+    }
+    teamBar->hide();
+    mnuTeam->menuAction()->setVisible(false);
+    mnuOutputRatingCSV->setVisible(false);
+    resize(EmptySize);
+}
+
+void frmMain::MakeMenus()
+{
+    const auto makeMenu = [this](const char* name, const QString& caption) {
+        QMenu* menu = menuBar()->addMenu(caption);
+        menu->setObjectName(name);
+        return menu;
+    };
+    mnuFile = makeMenu("mnuFile", "&File");
+    mnuOpen = MakeItem(mnuFile, "mnuOpen", "&Open ...", &frmMain::mnuOpen_Click);
+    mnuOpen->setShortcut(QKeySequence::Open);
+    mnuFile->addSeparator();
+    mnuExit = MakeItem(mnuFile, "mnuExit", "E&xit", &frmMain::mnuExit_Click);
+    mnuExit->setShortcut(QKeySequence::Quit);
+
+    mnuTeam = makeMenu("mnuTeam", "&Team");
+    mnuViewTeam = MakeItem(mnuTeam, "mnuViewTeam", "&View Team", &frmMain::mnuViewTeam_Click);
+    mnuSetRoster = MakeItem(mnuTeam, "mnuSetRoster", "Set &Roster", &frmMain::mnuSetRoster_Click);
+    mnuSetLines = MakeItem(mnuTeam, "mnuSetLines", "Set &Lines", &frmMain::mnuSetLines_Click);
+    mnuSetFarmLines = MakeItem(mnuTeam, "mnuSetFarmLines", "Set &Farm Lines", &frmMain::mnuSetFarmLines_Click);
+    mnuFreeAgents = MakeItem(mnuTeam, "mnuFreeAgents", "&Free Agents", &frmMain::mnuFreeAgents_Click);
+    mnuDraft = MakeItem(mnuTeam, "mnuDraft", "&Draft List", &frmMain::mnuDraft_Click);
+
+    mnuHelp = makeMenu("mnuHelp", "&Help");
+    mnuAbout = MakeItem(mnuHelp, "mnuAbout", "&About", &frmMain::mnuAbout_Click);
+    mnuOutputRatingCSV =
+        MakeItem(mnuHelp, "mnuOutputRatingCSV", "Output Ratings CSV", &frmMain::mnuOutputRatingCSV_Click);
+}
+
+QAction* frmMain::MakeItem(QMenu* menu, const char* name, const QString& caption, void (frmMain::*click)())
+{
+    QAction* item = menu->addAction(caption);
+    item->setObjectName(name);
+    item->setMenuRole(QAction::NoRole);
+    connect(item, &QAction::triggered, this,
+            [this, name, click] { RunEvent(name, [this, click] { (this->*click)(); }); });
+    return item;
+}
+
+QWidget* frmMain::MakeConference(int conference)
+{
+    auto* panel = new QWidget(this);
+    auto* rows = new QVBoxLayout(panel);
+    rows->setContentsMargins(0, 0, 0, 0);
+    rows->setSpacing(Gap / 2);
+    lblConference[conference] = MakeHeading({}, panel);
+    lblConference[conference]->setObjectName(InParentheses("lblConference", conference));
+    rows->addWidget(lblConference[conference]);
+    auto* divisions = new QHBoxLayout;
+    divisions->setSpacing(Gap);
+    rows->addLayout(divisions, 1);
+    const int first = (conference - 1) * DivisionsOfConference + 1;
+    for (int division = first; division < first + DivisionsOfConference; ++division) {
+        lblDivision[division] = new MutedLabel("Division Name", panel);
+        lblDivision[division]->setObjectName(InParentheses("lblDivision", division));
+        lblDivision[division]->setTextFormat(Qt::PlainText);
+        lstDivision[division] = new EntryList(panel);
+        lstDivision[division]->setObjectName(InParentheses("lstDivision", division));
+        lstDivision[division]->setMinimumWidth(LeastListWidth);
+        auto* column = new QVBoxLayout;
+        column->setSpacing(Gap / 2);
+        column->addWidget(lblDivision[division]);
+        column->addWidget(lstDivision[division], 1);
+        divisions->addLayout(column);
+
+        EntryList* list = lstDivision[division];
+        connect(list, &QListWidget::itemSelectionChanged, this,
+                [=, this] { RunEvent("lstDivision_Click", [=, this] { lstDivision_Click(division); }); });
+        connect(list, &QListWidget::itemClicked, this,
+                [=, this] { RunEvent("lstDivision_Click", [=, this] { lstDivision_Click(division); }); });
+        const auto doubleClick = [=, this] {
+            RunEvent("lstDivision_DblClick", [=, this] { lstDivision_DblClick(division); });
+        };
+        connect(list, &QListWidget::itemDoubleClicked, this, doubleClick);
+        connect(list, &EntryList::EnterPressed, this, doubleClick);
+    }
+    return panel;
+}
+
+QWidget* frmMain::MakeTeamBar()
+{
+    auto* bar = new QWidget(this);
+    auto* column = new QVBoxLayout(bar);
+    column->setContentsMargins(0, Gap, 0, 0);
+    column->setSpacing(Gap);
+    lblChosen = MakeHeading({}, bar);
+    lblChosen->setObjectName("lblChosen");
+    lblChosenPlace = new MutedLabel(bar);
+    lblChosenPlace->setObjectName("lblChosenPlace");
+    lblChosenPlace->setTextFormat(Qt::PlainText);
+    auto* names = new QHBoxLayout;
+    names->setSpacing(Gap);
+    names->addWidget(lblChosen);
+    names->addWidget(lblChosenPlace, 1);
+    column->addLayout(names);
+
+    auto* commands = new QHBoxLayout;
+    commands->setSpacing(Gap);
+    for (QAction* action : {mnuViewTeam, mnuSetRoster, mnuSetLines, mnuSetFarmLines, mnuFreeAgents, mnuDraft})
+        commands->addWidget(MakeShortcut(action));
+    commands->addStretch(1);
+    column->addLayout(commands);
+    return bar;
+}
+
+QPushButton* frmMain::MakeShortcut(QAction* action)
+{
+    QPushButton* button =
+        MakeCommand("cmd" + action->objectName().mid(3), action->iconText(), [action] { action->trigger(); });
+    connect(action, &QAction::changed, button, [action, button] {
+        button->setText(action->iconText());
+        button->setEnabled(action->isEnabled());
+    });
+    return button;
+}
+
+void frmMain::FormLoad()
+{
+    Reporting(" in FormLoad FrmMain!", [this] {
+        if (Machine().AnotherInstanceRuns()) {
+            ShowBox(std::string(ProgramTitle) + " is already running!", box::Critical);
+            Unload();
+            return;
+        }
+        MessagesAllowed = true;
+        TempFile = Machine().ProgramFolder() + PathSeparator + "ClientTemp.dvt";
+        WindowTitle = ProgramTitle;
+        SetWindowCaption(WindowTitle);
+        MarkRosterChangesUntouched();
+        CentreOnScreen();
+        const std::string last = Machine().GetSetting("Settings", "LastLoadLeague", {});
+        if (!last.empty() && FileExist(last))
+            OpenLeagueClient(last, *this);
+    });
+}
+
+void frmMain::FormActivate() { ShowChosenTeam(); }
+
+void frmMain::SetWindowCaption(const std::string& caption) { setWindowTitle(ToQString(caption)); }
+
+void frmMain::PlaceTeam()
+{
+    Reporting(" in PlaceTeam!", [this] {
+        SetWindowCaption(WindowTitle);
+        lblTitle->setText(Shown(LeagueData.Name));
+        cmdOpen->hide();
+        emptySpace->hide();
+        emptySpaceBelow->hide();
+        for (int conference = 1; conference <= 2; ++conference) {
+            lblConference[conference]->setText(Shown(LeagueData.Conference[conference]));
+            lblConference[conference]->setAlignment(Qt::AlignLeft | Qt::AlignVCenter);
+            lblConference[conference]->show();
+            conferences[conference]->show();
+        }
+        for (EntryList* list : lstDivision)
+            list->clear();
+
+        const bool allSix = LeagueData.DivisionCount == AllDivisions;
+        resize(allSix ? WideWidth : NarrowWidth, FilledHeight);
+        for (int division = 1; division <= AllDivisions; ++division) {
+            const bool inUse = allSix || division % DivisionsOfConference != 0;
+            if (inUse)
+                lblDivision[division]->setText(Shown(LeagueData.Division[division].Name));
+            lstDivision[division]->setAccessibleName(lblDivision[division]->text());
+            lblDivision[division]->setVisible(inUse);
+            lstDivision[division]->setVisible(inUse);
+        }
+        for (const Team& team : Teams)
+            if (team.InUse)
+                lstDivision[team.Division]->Add(Shown(team.Name), static_cast<int>(team.Number), {Shown(team.Abbre)});
+
+        ListClickReady = true;
+        mnuTeam->menuAction()->setVisible(true);
+        teamBar->show();
+        ShowChosenTeam();
+    });
+}
+
+void frmMain::ShowChosenTeam()
+{
+    if (!TeamTable::Has(CurrentTeam)) {
+        lblChosen->setText("No Team is Selected!");
+        lblChosenPlace->clear();
+        return;
+    }
+    const Team& team = Teams[CurrentTeam];
+    lblChosen->setText(Shown(team.Name));
+    QStringList place;
+    if (decltype(LeagueData.Division)::Has(team.Division)) {
+        const Division& division = LeagueData.Division[team.Division];
+        place << Shown(division.Name);
+        if (decltype(LeagueData.Conference)::Has(division.Conference))
+            place << Shown(LeagueData.Conference[division.Conference]);
+    }
+    lblChosenPlace->setText(place.join(", "));
+}
+
+void frmMain::ShowLeagueMenus()
+{
+    mnuTeam->menuAction()->setVisible(true);
+    mnuOutputRatingCSV->setVisible(true);
+    mnuOutputRatingCSV->setEnabled(true);
+}
+
+void frmMain::SetDraftMenu(bool enabled, std::string_view caption)
+{
+    mnuDraft->setEnabled(enabled);
+    mnuDraft->setText(ToQString(caption));
+}
+
+void frmMain::SetFreeAgentsMenu(bool enabled) { mnuFreeAgents->setEnabled(enabled); }
+
+void frmMain::SetDateLabel(const std::string& text) { lblDate->setText(ToQString(text)); }
+
+void frmMain::lstDivision_Click(int division)
+{
+    const QListWidgetItem* chosen = lstDivision[division]->Chosen();
+    if (!ListClickReady || chosen == nullptr)
+        return;
+    CurrentTeam = chosen->data(entry::NumberRole).toInt();
+    ListClickReady = false;
+    for (int other = 1; other <= AllDivisions; ++other)
+        if (other != division)
+            lstDivision[other]->Unchoose();
+    ListClickReady = true;
+    ShowChosenTeam();
+}
+
+void frmMain::lstDivision_DblClick(int division)
+{
+    const QListWidgetItem* chosen = lstDivision[division]->Chosen();
+    if (chosen == nullptr)
+        return;
+    CurrentTeam = chosen->data(entry::NumberRole).toInt();
+    if (CheckPassword(static_cast<int>(CurrentTeam)))
+        Open("Team");
+}
+
+void frmMain::mnuOpen_Click()
+{
+    ReportingUnlessCancelled(" in mnuOpen!", [this] {
+        const std::string path = Machine().OpenFileDialog(Machine().ProgramFolder(),
+                                                          "DRVK Client File (*.dvs) |*.dvs|All Files (*.*) | *.*");
+        OpenLeagueClient(path, *this);
+    });
+}
+
+void frmMain::mnuExit_Click() { Unload(); }
+
+bool frmMain::TeamIsProved()
+{
+    if (CurrentTeam == 0) {
+        ShowBox("No Team is Selected!", box::Information);
+        return false;
+    }
+    return CheckPassword(static_cast<int>(CurrentTeam));
+}
+
+void frmMain::mnuViewTeam_Click()
+{
+    if (TeamIsProved())
+        Open("Team");
+}
+
+void frmMain::mnuSetRoster_Click()
+{
+    if (!TeamIsProved())
+        return;
+    CallerScreen = "Main";
+    Open("Roster");
+}
+
+void frmMain::mnuSetLines_Click()
+{
+    if (!TeamIsProved())
+        return;
+    if (!CheckRoster(static_cast<int>(CurrentTeam), false, true, false)) {
+        ShowBox("Roster is not Complete!" + std::string(LineBreak) +
+                    "You cannot make your lines if your roster is not done!",
+                box::Warning);
+        return;
+    }
+    CallerScreen = "Main";
+    Open("Line");
+}
+
+// The farm's lines may be made whatever the roster is like.
+void frmMain::mnuSetFarmLines_Click()
+{
+    if (!TeamIsProved())
+        return;
+    CallerScreen = "Main";
+    Open("FarmLine");
+}
+
+void frmMain::mnuFreeAgents_Click()
+{
+    if (TeamIsProved())
+        Open("FreeAgent");
+}
+
+void frmMain::mnuDraft_Click()
+{
+    if (TeamIsProved())
+        Open("Draft");
+}
+
+void frmMain::mnuAbout_Click() { Open("About"); }
+
+void frmMain::mnuOutputRatingCSV_Click() { ShowBox("Not available yet.", box::Information); }
+
+} // namespace dravik

@@ -1,0 +1,79 @@
+#pragma once
+
+#include "league/ClientFile.h"
+#include "league/Field.h"
+#include "screens/panels/EntryList.h"
+#include "screens/Screen.h"
+
+#include <QAction>
+#include <QLabel>
+#include <QMenu>
+#include <string>
+#include <string_view>
+
+namespace dravik {
+
+// The main screen: the teams of the open league in their divisions, and the way to every other screen. Closing it ends the
+// program.
+class frmMain : public Screen, public MainWindow {
+public:
+    explicit frmMain(Stage& stage);
+
+    // Start-up: refuses a second instance, sets up the program's variables and opens the league file of last time.
+    void FormLoad() override;
+    void FormActivate() override;
+
+    // What an opened league file does to this window.
+    void SetWindowCaption(const std::string& caption) override;
+    void PlaceTeam() override;
+    void CentreOnScreen() override { Screen::CentreOnScreen(); }
+    void ShowLeagueMenus() override;
+    void SetDraftMenu(bool enabled, std::string_view caption) override;
+    void SetFreeAgentsMenu(bool enabled) override;
+    void SetDateLabel(const std::string& text) override;
+
+    void lstDivision_Click(int division);
+    void lstDivision_DblClick(int division);
+    void mnuOpen_Click();
+    void mnuExit_Click();
+    void mnuViewTeam_Click();
+    void mnuSetRoster_Click();
+    void mnuSetLines_Click();
+    void mnuSetFarmLines_Click();
+    void mnuFreeAgents_Click();
+    void mnuDraft_Click();
+    void mnuAbout_Click();
+    void mnuOutputRatingCSV_Click();
+
+    Row<EntryList*, 1, 6> lstDivision;
+    Row<QLabel*, 1, 6> lblDivision;
+    Row<QLabel*, 1, 2> lblConference;
+    QLabel* lblDate;
+    QMenu *mnuFile, *mnuTeam, *mnuHelp;
+    QAction *mnuOpen, *mnuExit;
+    QAction *mnuViewTeam, *mnuSetRoster, *mnuSetLines, *mnuSetFarmLines, *mnuFreeAgents, *mnuDraft;
+    QAction *mnuAbout, *mnuOutputRatingCSV;
+
+private:
+    void MakeMenus();
+    QAction* MakeItem(QMenu* menu, const char* name, const QString& caption, void (frmMain::*click)());
+    QWidget* MakeConference(int conference);
+    QWidget* MakeTeamBar();
+    // A button that stands for a menu command.
+    QPushButton* MakeShortcut(QAction* action);
+    void ShowChosenTeam();
+    // Whether a team is chosen, which is told when not, and its password is proved.
+    bool TeamIsProved();
+
+    QLabel* lblTitle;
+    QLabel* lblChosen;
+    QLabel* lblChosenPlace;
+    QPushButton* cmdOpen;
+    QWidget* teamBar;
+    QWidget *emptySpace, *emptySpaceBelow; // around the words of the empty window
+    Row<QWidget*, 1, 2> conferences;
+
+    bool ListClickReady = false;
+};
+
+} // namespace dravik

@@ -1,0 +1,492 @@
+#include "screens/frmTeam.h"
+
+#include "league/Arithmetic.h"
+#include "league/ClientVariable.h"
+#include "league/LinesFile.h"
+#include "league/Message.h"
+#include "league/OutsideCode.h"
+#include "league/Platform.h"
+#include "league/Reporting.h"
+#include "league/Session.h"
+#include "rules/Function.h"
+#include "rules/SeasonProjection.h"
+#include "screens/platform/CodePage.h"
+#include "screens/Stage.h"
+
+#include <cmath>
+
+namespace dravik {
+
+namespace {
+
+template <std::size_t N>
+QString Shown(const Text<N>& text)
+{
+    return ToQString(text.Trimmed());
+}
+
+QString Shown(long long number) { return QString::number(number); }
+
+// A number of whole and half games, "12" or "12.5".
+QString ShownHalves(double number)
+{
+    const bool isWhole = std::nearbyint(number) == number;
+    return QString::number(number, 'f', isWhole ? 0 : 1);
+}
+
+QString ShownMoney(double amount) { return ToQString(Machine().CurrencyNoDecimals(amount)); }
+
+Team& OwnTeam() { return Teams[CurrentTeam]; }
+
+int OwnNumber() { return static_cast<int>(CurrentTeam); }
+
+// `CheckInput` refuses an empty name before this sees it.
+bool TakeName(const std::string& text, const std::string& warning, const std::function<void()>& store)
+{
+    if (text.empty()) {
+        ShowBox(warning, box::Warning);
+        return false;
+    }
+    store();
+    return true;
+}
+
+bool TakeAbbreviation(const std::string& text, Text<3>& field)
+{
+    constexpr std::size_t length = 3;
+    if (text.size() != length) {
+        ShowBox("Abbreviation must be 3 characters long!", box::Warning);
+        return false;
+    }
+    field = text;
+    return true;
+}
+
+bool TakeMorale(EditBox* box, Int16& field)
+{
+    if (std::nearbyint(LeadingNumber(FromQString(box->text()))) < 1)
+        box->setText("1");
+    field = RoundToInt16(LeadingNumber(FromQString(box->text())));
+    return true;
+}
+
+} // namespace
+
+void frmTeam::FormLoad()
+{
+    Reporting(" in FormLoad FrmTeam!", [this] {
+        CentreOnScreen();
+        if (!LeagueData.FarmEnabled)
+            cmdFarmLines->setEnabled(false);
+        if (!TeamTable::Has(CurrentTeam)) {
+            ShowIntegrityFailure();
+            Unload();
+            return;
+        }
+        const Team& team = OwnTeam();
+        ShowIdentity(team);
+        txtProMorale->setText(Shown(team.ProMorale));
+        txtFarmMorale->setText(Shown(team.Farm.FarmMorale));
+        lblLoadLine->setText(Shown(team.LinesLoadCount));
+        txtTeamName->setEnabled(true);
+        txtFarmTeamName->setEnabled(true);
+        ShowCoach(team.ProCoach, lblCoach, cmdFirePro);
+        ShowCoach(team.Farm.FarmCoach, lblFarmCoach, cmdFireFarm);
+        const Division& division = LeagueData.Division[team.Division];
+        lblDivision->setText(Shown(division.Name));
+        lblConference->setText(Shown(LeagueData.Conference[division.Conference]));
+        UpdateFinance();
+        CloseWhatTheLeagueKeeps();
+    });
+}
+
+void frmTeam::ShowIdentity(const Team& team)
+{
+    setWindowTitle(ToQString(WindowTitle + " - ") + Shown(team.Name));
+    lblTitle->setText(Shown(team.Name));
+    txtTeamName->setText(Shown(team.Name));
+    txtAbbre->setText(Shown(team.Abbre));
+    txtCity->setText(Shown(team.City));
+    txtGm->setText(Shown(team.Gm));
+    txtFarmTeamName->setText(Shown(team.Farm.Name));
+    txtFarmAbbre->setText(Shown(team.Farm.Abbre));
+    txtMessenger->setText(Shown(team.Messenger));
+    txtEmail->setText(Shown(team.Email));
+}
+
+void frmTeam::ShowCoach(long long coach, QLabel* label, QPushButton* fire)
+{
+    label->clear();
+    if (coach < 1)
+        fire->setEnabled(false);
+    else
+        label->setText(Shown(Coaches[coach].Name));
+}
+
+void frmTeam::CloseWhatTheLeagueKeeps()
+{
+    for (QPushButton* command : {cmdChangeFinance, cmdPayrollBonus, cmdPassword, cmdChangeCoach, cmdFarmChangeCoach,
+                                 cmdFirePro, cmdFireFarm, cmdProspect})
+        command->hide();
+    for (EditBox* box :
+         {txtTeamName, txtAbbre, txtCity, txtGm, txtFarmTeamName, txtFarmAbbre, txtProMorale, txtFarmMorale})
+        box->setEnabled(false);
+}
+
+// Both judges run whatever the first one says: they repair as they judge.
+void frmTeam::FormActivate()
+{
+    const bool farmComplete = CheckLineFarm(OwnNumber(), false, 1, false);
+    const std::string farmText = LastLinesText();
+    const bool proComplete = CheckLine(OwnNumber(), false, 1, false);
+    const std::string proText = LastLinesText();
+    cmdSaveToFile->setEnabled(farmComplete && proComplete);
+    QStringList reasons;
+    QStringList details;
+    if (!proComplete) {
+        reasons << "Lines for Day #1 are Incomplete!";
+        details << ToQString(proText);
+    }
+    if (!farmComplete) {
+        reasons << "Farm Lines for Day #1 are Incomplete!";
+        details << ToQString(farmText);
+    }
+    ShowSaveHint(reasons, details);
+}
+
+void frmTeam::EnableSaveToFile()
+{
+    cmdSaveToFile->setEnabled(true);
+    ShowSaveHint({}, {});
+}
+
+void frmTeam::ShowSaveHint(const QStringList& reasons, const QStringList& details)
+{
+    lblSaveHint->setText(reasons.join("\n"));
+    lblSaveHint->setVisible(!reasons.isEmpty());
+    lblSaveHint->setToolTip(details.join("\n\n").replace("\r\n", "\n"));
+    signSaveHint->setVisible(!reasons.isEmpty());
+    cmdSaveToFile->setAccessibleDescription(lblSaveHint->text());
+}
+
+void frmTeam::UpdateFinance()
+{
+    Reporting(" in UpdateFinance!", [this] {
+        lblFinance->setText(ShownMoney(static_cast<double>(OwnTeam().Cash)));
+        SeasonProjection season;
+        try {
+            season = ProjectSeason(OwnNumber());
+        } catch (const Failure&) {
+            // A season that fits no figure leaves the payrolls, which come before it.
+            ShowPayrolls(RoundToInt32(ProPayroll(OwnNumber())), RoundToInt32(FarmPayroll(OwnNumber())));
+            throw;
+        }
+        ShowPayrolls(season.ProPayroll, season.FarmPayroll);
+        const bool isFull = season.Form == SeasonForm::Full;
+        lblHGLeft->setText(ShownHalves(season.HomeGamesLeft));
+        lblGameLeft->setText(Shown(season.GamesLeft));
+        lblAverageAttendance->setText(isFull ? QString::number(season.AverageAttendance, 'f', 2) : Shown(0));
+        lblAverageIncome->setText(ShownMoney(season.AverageIncome));
+        lblEstimatedRevenue->setText(ShownMoney(season.Revenue));
+        lblExpensesPerGame->setText(ShownMoney(season.ExpensePerGame));
+        lblEstimatedSeasonExpense->setText(ShownMoney(season.SeasonExpense));
+        lblEstimatedBankAccount->setText(ShownMoney(season.BankAccount));
+    });
+}
+
+void frmTeam::ShowPayrolls(int pro, int farm)
+{
+    lblProPayRoll->setText(ShownMoney(pro));
+    lblFarmPayRoll->setText(ShownMoney(farm));
+}
+
+void frmTeam::TakeText(EditBox* box, InputMode mode, bool required, const std::function<bool(const std::string&)>& rule)
+{
+    if (ListEventGuard)
+        return;
+    Reporting(" in " + FromQString(box->objectName()) + "_LostFocus!", [&] {
+        const std::string text = FromQString(box->text());
+        const bool accepted = CheckInput(text, mode, required);
+        const bool taken = accepted && rule(text);
+        if (accepted)
+            Modified = true;
+        if (!taken) {
+            ListEventGuard = true;
+            box->TakeFocusBack();
+            ListEventGuard = false;
+        }
+    });
+}
+
+void frmTeam::txtTeamName_LostFocus()
+{
+    TakeText(txtTeamName, InputMode::NumbersAndLetters, true, [this](const std::string& text) {
+        return TakeName(text, "Team Name must be at least one character!", [&] {
+            Team& team = OwnTeam();
+            TeamNews(OwnNumber(), "Team Name Change : " + team.Name.Trimmed() + " changed name to " + text);
+            team.Name = text;
+            setWindowTitle(ToQString(WindowTitle + " - ") + Shown(team.Name));
+            lblTitle->setText(Shown(team.Name));
+            Owner.PlaceTeam();
+        });
+    });
+}
+
+void frmTeam::txtFarmTeamName_LostFocus()
+{
+    TakeText(txtFarmTeamName, InputMode::NumbersAndLetters, true, [](const std::string& text) {
+        return TakeName(text, "Farm Team Name must be at least one character!", [&] {
+            FarmTeam& farm = OwnTeam().Farm;
+            TeamNews(OwnNumber(), "Team Name Change : " + farm.Name.Trimmed() + " changed name to " + text);
+            farm.Name = text;
+        });
+    });
+}
+
+void frmTeam::txtAbbre_LostFocus()
+{
+    TakeText(txtAbbre, InputMode::Letters, true,
+             [](const std::string& text) { return TakeAbbreviation(text, OwnTeam().Abbre); });
+}
+
+void frmTeam::txtFarmAbbre_LostFocus()
+{
+    TakeText(txtFarmAbbre, InputMode::Letters, true,
+             [](const std::string& text) { return TakeAbbreviation(text, OwnTeam().Farm.Abbre); });
+}
+
+void frmTeam::txtCity_LostFocus()
+{
+    TakeText(txtCity, InputMode::NumbersAndLetters, false, [](const std::string& text) {
+        OwnTeam().City = text;
+        return true;
+    });
+}
+
+void frmTeam::txtGm_LostFocus()
+{
+    TakeText(txtGm, InputMode::Letters, false, [](const std::string& text) {
+        Team& team = OwnTeam();
+        const std::string change = "General Manager Change : " + team.Name.Trimmed();
+        if (!RemoveSpaces(team.Gm.Raw()).empty())
+            TeamNews(OwnNumber(), change + " fired general manager " + team.Gm.Trimmed());
+        if (!RemoveSpaces(text).empty())
+            TeamNews(OwnNumber(), change + " hired general manager " + text);
+        team.Gm = text;
+        return true;
+    });
+}
+
+void frmTeam::txtProMorale_LostFocus()
+{
+    TakeText(txtProMorale, InputMode::Numbers, false,
+             [this](const std::string&) { return TakeMorale(txtProMorale, OwnTeam().ProMorale); });
+}
+
+void frmTeam::txtFarmMorale_LostFocus()
+{
+    TakeText(txtFarmMorale, InputMode::Numbers, false,
+             [this](const std::string&) { return TakeMorale(txtFarmMorale, OwnTeam().Farm.FarmMorale); });
+}
+
+void frmTeam::TakeAddress(const EditBox* box, Text<40>& field, std::string_view news)
+{
+    field = FromQString(box->text());
+    LeagueNews(OwnTeam().Name.Trimmed() + std::string(news) + field.Trimmed() + ".");
+    Modified = true;
+}
+
+void frmTeam::txtEmail_LostFocus() { TakeAddress(txtEmail, OwnTeam().Email, " Email Address was change to "); }
+
+void frmTeam::txtMessenger_LostFocus()
+{
+    TakeAddress(txtMessenger, OwnTeam().Messenger, " Messenger Address was change to ");
+}
+
+void frmTeam::cmdPassword_Click()
+{
+    Reporting(" in cmdPassword!", [] {
+        Team& team = OwnTeam();
+        if (ShowBox("Do you want to change the password for " + team.Name.Trimmed(), box::YesNo) != button::Yes)
+            return;
+        const std::string first = AskText("Enter New Password");
+        const std::string second = AskText("Enter New Password Again to Verify");
+        if (first.empty() && second.empty()) {
+            team.Password = "";
+            ShowBox("Password was erased!", box::Information);
+        } else if (first == second) {
+            team.Password = DigestStrToHexStr(first);
+            ShowBox("New Password was successfully set!", box::Information);
+        } else
+            ShowBox("Password does not match!", box::Warning);
+        Modified = true;
+    });
+}
+
+void frmTeam::ChangeMoney(const std::string& prompt, const std::function<void(int)>& add)
+{
+    const std::string text = AskText(prompt);
+    if (text.empty())
+        return;
+    if (!CheckInput(text.front() == '-' ? text.substr(1) : text, InputMode::Numbers, false))
+        return;
+    add(RoundToInt32(LeadingNumber(text)));
+    UpdateFinance();
+    Modified = true;
+}
+
+void frmTeam::cmdChangeFinance_Click()
+{
+    ReportingUnlessCancelled(" in cmdChangeFinance!", [this] {
+        ChangeMoney("How much to add/remove?", [](int amount) { OwnTeam().Cash += amount; });
+    });
+}
+
+void frmTeam::cmdPayrollBonus_Click()
+{
+    ReportingUnlessCancelled(" in cmdPayrollBonus!", [this] {
+        Int32& bonus = OwnTeam().PayrollBonus;
+        ChangeMoney("How much to add/remove? Current Payroll Bonus is " +
+                        Machine().Currency(static_cast<double>(bonus)),
+                    [&bonus](int amount) {
+                        bonus += amount;
+                        if (bonus < 0)
+                            bonus = 0;
+                    });
+    });
+}
+
+void frmTeam::FireCoach(Int16& coach, const Text<40>& employer, QLabel* label, QPushButton* fire)
+{
+    if (coach == 0)
+        return;
+    Coach& fired = Coaches[coach];
+    const std::string name = fired.Name.Trimmed();
+    if (ShowBox("Are you sure you wants to fire " + name + "?", box::YesNo) != button::Yes)
+        return;
+    const std::string news = employer.Trimmed() + " fired " + name + ".";
+    LeagueNews(news);
+    TeamNews(OwnNumber(), news);
+    fired.Team = 0;
+    coach = 0;
+    label->clear();
+    fire->setEnabled(false);
+    Modified = true;
+}
+
+void frmTeam::cmdFirePro_Click()
+{
+    Reporting(" in cmdFirePro!", [this] {
+        Team& team = OwnTeam();
+        FireCoach(team.ProCoach, team.Name, lblCoach, cmdFirePro);
+    });
+}
+
+void frmTeam::cmdFireFarm_Click()
+{
+    Reporting(" in cmdFireFarm!", [this] {
+        FarmTeam& farm = OwnTeam().Farm;
+        FireCoach(farm.FarmCoach, farm.Name, lblFarmCoach, cmdFireFarm);
+    });
+}
+
+void frmTeam::OpenFromHere(std::string_view name)
+{
+    CallerScreen = "Team";
+    Open(name);
+}
+
+void frmTeam::CmdRoster_Click() { OpenFromHere("Roster"); }
+
+void frmTeam::cmdLines_Click()
+{
+    if (!CheckRoster(OwnNumber(), false, true, false)) {
+        ShowBox("Roster is incomplete!" + std::string(LineBreak) +
+                    "You cannot make your lines if your roster is incomplete!",
+                box::Warning);
+        return;
+    }
+    OpenFromHere("Line");
+}
+
+void frmTeam::cmdFarmLines_Click() { OpenFromHere("FarmLine"); }
+
+void frmTeam::cmdTicketArena_Click() { OpenFromHere("Ticket"); }
+
+void frmTeam::cmdProspect_Click() { OpenFromHere("Prospect"); }
+
+void frmTeam::cmdChangeCoach_Click()
+{
+    constexpr int proTeam = 2;
+    ViewerReturnMode = proTeam;
+    OpenFromHere("Coach");
+}
+
+void frmTeam::cmdFarmChangeCoach_Click()
+{
+    constexpr int farmTeam = 3;
+    ViewerReturnMode = farmTeam;
+    OpenFromHere("Coach");
+}
+
+void frmTeam::BackFromWait()
+{
+    CloseWait();
+    FormActivate();
+}
+
+void frmTeam::cmdSaveToFile_Click()
+{
+    Reporting(" in cmdSaveToFile!", [this] {
+        if (!CheckLine(OwnNumber(), false, 1, false)) {
+            ShowBox("Lines #1 are incomplete!" + std::string(LineBreak) +
+                        "You will not be able to save league files unless lines for the next day are complete!",
+                    box::Warning);
+            return;
+        }
+        if (!CheckPassword(OwnNumber()))
+            return;
+        try {
+            ShowWait();
+            const std::string target = LinesFilePath(OwnNumber());
+            if (!WriteLinesFile(OwnNumber(), target))
+                return; // told, and the wait screen stays
+            BackFromWait();
+            ShowBox("Lines file for " + OwnTeam().Name.Trimmed() + " successfully save at" + std::string(LineBreak) +
+                        target,
+                    box::Information);
+        } catch (...) {
+            BackFromWait();
+            throw;
+        }
+    });
+}
+
+void frmTeam::cmdLoadFile_Click()
+{
+    ReportingUnlessCancelled(" in cmdLoadFile!", [this] {
+        const std::string path = Machine().OpenFileDialog(Machine().ProgramFolder(),
+                                                          "DRVK Client File (*.dvl) |*.dvl|All Files (*.*) | *.*");
+        try {
+            ShowWait();
+            const LinesFileRead outcome = ReadLinesFile(path);
+            if (outcome == LinesFileRead::NotDecompressed)
+                return; // told, and the wait screen stays
+            BackFromWait();
+            const bool loaded = outcome == LinesFileRead::Loaded;
+            if (loaded)
+                FormLoad();
+            ShowBox((loaded ? "Lines file for " : "File for ") + OwnTeam().Name.Trimmed() +
+                        (loaded ? " successfully load from" : " unsuccessfully load from") + std::string(LineBreak) +
+                        path,
+                    loaded ? box::Information : box::Critical);
+        } catch (...) {
+            BackFromWait();
+            throw;
+        }
+    });
+}
+
+void frmTeam::cmdExit_Click() { Unload(); }
+
+} // namespace dravik

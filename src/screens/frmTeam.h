@@ -1,0 +1,110 @@
+#pragma once
+
+#include "league/InputCheck.h"
+#include "league/Team.h"
+#include "screens/panels/EditBox.h"
+#include "screens/Screen.h"
+
+#include <functional>
+#include <QGridLayout>
+#include <QLabel>
+#include <string>
+#include <string_view>
+
+namespace dravik {
+
+// The office of the chosen team: who it is, what it has and will have, the way to its roster, lines and tickets, and the
+// two commands that write and read its lines file. What only the league may change stands in closed boxes and behind hidden
+// commands.
+class frmTeam : public Screen {
+public:
+    explicit frmTeam(Stage& stage);
+
+    // Fills the screen for CurrentTeam. A number out of range is told and closes the screen.
+    void FormLoad() override;
+    void ReloadForm() override { FormLoad(); }
+    // Judges day 1 of both lines: only with complete ones can the lines file be saved.
+    void FormActivate() override;
+
+    // Fills the finance labels for CurrentTeam.
+    void UpdateFinance();
+    // Makes the save command available, since the lines screen saw day 1 pass.
+    void EnableSaveToFile();
+
+    void txtTeamName_LostFocus();
+    void txtFarmTeamName_LostFocus();
+    void txtAbbre_LostFocus();
+    void txtFarmAbbre_LostFocus();
+    void txtCity_LostFocus();
+    void txtGm_LostFocus();
+    void txtProMorale_LostFocus();
+    void txtFarmMorale_LostFocus();
+    void txtEmail_LostFocus();
+    void txtMessenger_LostFocus();
+
+    void cmdPassword_Click();
+    void cmdChangeFinance_Click();
+    void cmdPayrollBonus_Click();
+    void cmdFirePro_Click();
+    void cmdFireFarm_Click();
+    void CmdRoster_Click();
+    void cmdLines_Click();
+    void cmdFarmLines_Click();
+    void cmdTicketArena_Click();
+    void cmdProspect_Click();
+    void cmdChangeCoach_Click();
+    void cmdFarmChangeCoach_Click();
+    void cmdSaveToFile_Click();
+    void cmdLoadFile_Click();
+    void cmdExit_Click();
+
+    EditBox *txtTeamName, *txtAbbre, *txtCity, *txtGm, *txtProMorale;
+    EditBox *txtFarmTeamName, *txtFarmAbbre, *txtFarmMorale;
+    EditBox *txtMessenger, *txtEmail;
+    QLabel *lblCoach, *lblFarmCoach, *lblDivision, *lblConference, *lblLoadLine;
+    QLabel *lblFinance, *lblProPayRoll, *lblFarmPayRoll;
+    QLabel *lblGameLeft, *lblHGLeft, *lblAverageAttendance, *lblAverageIncome, *lblEstimatedRevenue;
+    QLabel *lblExpensesPerGame, *lblEstimatedSeasonExpense, *lblEstimatedBankAccount;
+    QPushButton *cmdChangeFinance, *cmdPayrollBonus, *cmdPassword, *cmdChangeCoach, *cmdFarmChangeCoach, *cmdFirePro,
+        *cmdFireFarm, *cmdProspect;
+    QPushButton *cmdTicketArena, *CmdRoster, *cmdLines, *cmdFarmLines, *cmdSaveToFile, *cmdLoadFile, *cmdExit;
+    QLabel* lblSaveHint; // why the lines file cannot be saved, empty when it can
+
+private:
+    void MakeControls();
+    QWidget* MakeCommandGroup();
+    QWidget* MakeFileGroup();
+    QWidget* MakeProGroup();
+    QWidget* MakeFarmGroup();
+    QWidget* MakeContactGroup();
+    QWidget* MakeFinanceGroup();
+    QWidget* MakeProjectionGroup();
+    void SetTabOrder();
+    // A label that shows something of the team under its `name`.
+    QLabel* MakeFigure(const char* name, bool isNumber = true);
+    // Puts a caption and what it names into a row of a grid.
+    void AddRow(QGridLayout* grid, const QString& caption, QWidget* field, int span = 1);
+
+    void ShowIdentity(const Team& team);
+    void ShowCoach(long long coach, QLabel* label, QPushButton* fire);
+    void CloseWhatTheLeagueKeeps();
+    void ShowPayrolls(int pro, int farm);
+
+    // The pattern of a box: `CheckInput` judges its text; a refused one gets the focus back, an accepted one goes to
+    // `rule`, which says whether it was taken.
+    void TakeText(EditBox* box, InputMode mode, bool required, const std::function<bool(const std::string&)>& rule);
+    void TakeAddress(const EditBox* box, Text<40>& field, std::string_view news);
+
+    void ChangeMoney(const std::string& prompt, const std::function<void(int)>& add);
+    void FireCoach(Int16& coach, const Text<40>& employer, QLabel* label, QPushButton* fire);
+    void OpenFromHere(std::string_view name);
+    // The wait screen goes and this screen is in front again.
+    void BackFromWait();
+    // Says why the lines file cannot be saved; the judges' own words are behind it.
+    void ShowSaveHint(const QStringList& reasons, const QStringList& details);
+
+    QLabel* lblTitle;
+    QWidget* signSaveHint;
+};
+
+} // namespace dravik

@@ -1,0 +1,300 @@
+#include "screens/frmTeam.h"
+#include "screens/panels/Labels.h"
+#include "screens/panels/Shades.h"
+
+#include <QGroupBox>
+#include <QHBoxLayout>
+#include <QScrollArea>
+#include <QVBoxLayout>
+
+// What the team screen is made of and where it stands.
+namespace dravik {
+
+namespace {
+
+constexpr QSize DefaultSize(1080, 700);
+constexpr const char* LongestCaption = "General Manager";
+constexpr int CaptionColumn = 0;
+constexpr int FieldColumn = 1;
+
+QHBoxLayout* InARow(std::initializer_list<QWidget*> widgets)
+{
+    auto* row = new QHBoxLayout;
+    row->setSpacing(Gap);
+    for (QWidget* widget : widgets)
+        row->addWidget(widget);
+    return row;
+}
+
+QGridLayout* MakeGrid(QGroupBox* group)
+{
+    auto* grid = new QGridLayout(group);
+    grid->setContentsMargins(Margin, Gap, Margin, Margin);
+    grid->setHorizontalSpacing(Margin);
+    grid->setVerticalSpacing(Gap);
+    grid->setColumnStretch(FieldColumn, 1);
+    // One edge for the fields of all groups.
+    grid->setColumnMinimumWidth(CaptionColumn, group->fontMetrics().horizontalAdvance(LongestCaption));
+    return grid;
+}
+
+QFrame* MakeRule(QWidget* parent)
+{
+    auto* rule = new QFrame(parent);
+    rule->setFrameStyle(QFrame::HLine | QFrame::Sunken);
+    return rule;
+}
+
+void Embolden(QLabel* label) { label->setFont(HeadingFont(label->font())); }
+
+} // namespace
+
+frmTeam::frmTeam(Stage& stage) : Screen(stage, "frmTeam")
+{
+    MakeControls();
+
+    auto* content = new QWidget(this);
+    auto* column = new QVBoxLayout(content);
+    column->setContentsMargins(Margin, Margin, Margin, Margin);
+    column->setSpacing(Margin);
+
+    auto* header = InARow({lblTitle, lblDivision, lblConference});
+    header->setSpacing(Margin);
+    header->addStretch(1);
+    column->addLayout(header);
+
+    auto* identity = new QVBoxLayout;
+    identity->setSpacing(Margin);
+    identity->addWidget(MakeProGroup());
+    identity->addWidget(MakeFarmGroup());
+    identity->addWidget(MakeContactGroup());
+    identity->addStretch(1);
+    auto* money = new QVBoxLayout;
+    money->setSpacing(Margin);
+    money->addWidget(MakeFinanceGroup());
+    money->addWidget(MakeProjectionGroup());
+    money->addStretch(1);
+    auto* grid = new QGridLayout;
+    grid->setSpacing(Margin);
+    grid->addWidget(MakeCommandGroup(), 0, 0);
+    grid->addWidget(MakeFileGroup(), 0, 1);
+    grid->addLayout(identity, 1, 0);
+    grid->addLayout(money, 1, 1);
+    grid->setColumnStretch(0, 1);
+    grid->setColumnStretch(1, 1);
+    grid->setRowStretch(1, 1);
+    column->addLayout(grid, 1);
+
+    auto* footer = InARow({cmdPassword, cmdProspect});
+    footer->addStretch(1);
+    footer->addWidget(cmdExit);
+    column->addLayout(footer);
+
+    auto* area = new QScrollArea(this);
+    area->setFrameShape(QFrame::NoFrame);
+    area->setWidgetResizable(true);
+    area->setFocusPolicy(Qt::NoFocus);
+    area->setWidget(content);
+    setCentralWidget(area);
+
+    CloseWhatTheLeagueKeeps();
+    SetTabOrder();
+    ShowSaveHint({}, {});
+    resize(DefaultSize.expandedTo(content->minimumSizeHint()));
+}
+
+void frmTeam::MakeControls()
+{
+    lblTitle = MakeTitle(this);
+    lblTitle->setObjectName("lblTitle");
+    const auto makeMuted = [this](const char* name) {
+        auto* label = new MutedLabel(this);
+        label->setObjectName(name);
+        label->setTextFormat(Qt::PlainText);
+        return label;
+    };
+    lblDivision = makeMuted("lblDivision");
+    lblConference = makeMuted("lblConference");
+    lblSaveHint = makeMuted("lblSaveHint");
+    signSaveHint = new WarningSign(this);
+
+    txtTeamName = MakeBox("txtTeamName", [this] { txtTeamName_LostFocus(); });
+    txtAbbre = MakeBox("txtAbbre", [this] { txtAbbre_LostFocus(); });
+    txtCity = MakeBox("txtCity", [this] { txtCity_LostFocus(); });
+    txtGm = MakeBox("txtGm", [this] { txtGm_LostFocus(); });
+    txtProMorale = MakeBox("txtProMorale", [this] { txtProMorale_LostFocus(); });
+    txtFarmTeamName = MakeBox("txtFarmTeamName", [this] { txtFarmTeamName_LostFocus(); });
+    txtFarmAbbre = MakeBox("txtFarmAbbre", [this] { txtFarmAbbre_LostFocus(); });
+    txtFarmMorale = MakeBox("txtFarmMorale", [this] { txtFarmMorale_LostFocus(); });
+    txtMessenger = MakeBox("txtMessenger", [this] { txtMessenger_LostFocus(); });
+    txtEmail = MakeBox("txtEmail", [this] { txtEmail_LostFocus(); });
+
+    lblCoach = MakeFigure("lblCoach", false);
+    lblFarmCoach = MakeFigure("lblFarmCoach", false);
+    lblLoadLine = MakeFigure("lblLoadLine", false);
+    lblFinance = MakeFigure("lblFinance");
+    lblProPayRoll = MakeFigure("lblProPayRoll");
+    lblFarmPayRoll = MakeFigure("lblFarmPayRoll");
+    lblGameLeft = MakeFigure("lblGameLeft");
+    lblHGLeft = MakeFigure("lblHGLeft");
+    lblAverageAttendance = MakeFigure("lblAverageAttendance");
+    lblAverageIncome = MakeFigure("lblAverageIncome");
+    lblEstimatedRevenue = MakeFigure("lblEstimatedRevenue");
+    lblExpensesPerGame = MakeFigure("lblExpensesPerGame");
+    lblEstimatedSeasonExpense = MakeFigure("lblEstimatedSeasonExpense");
+    lblEstimatedBankAccount = MakeFigure("lblEstimatedBankAccount");
+
+    CmdRoster = MakeCommand("CmdRoster", "&Roster", [this] { CmdRoster_Click(); });
+    cmdLines = MakeCommand("cmdLines", "&Lines", [this] { cmdLines_Click(); });
+    cmdFarmLines = MakeCommand("cmdFarmLines", "&Farm Lines", [this] { cmdFarmLines_Click(); });
+    cmdTicketArena = MakeCommand("cmdTicketArena", "&Tickets && Arena", [this] { cmdTicketArena_Click(); });
+    cmdSaveToFile = MakeCommand("cmdSaveToFile", "&Save Lines", [this] { cmdSaveToFile_Click(); });
+    cmdLoadFile = MakeCommand("cmdLoadFile", "L&oad Lines ...", [this] { cmdLoadFile_Click(); });
+    cmdExit = MakeCommand("cmdExit", "E&xit", [this] { cmdExit_Click(); });
+    cmdChangeFinance =
+        MakeCommand("cmdChangeFinance", "Change &Bank Account ...", [this] { cmdChangeFinance_Click(); });
+    cmdPayrollBonus = MakeCommand("cmdPayrollBonus", "Payroll Bo&nus ...", [this] { cmdPayrollBonus_Click(); });
+    cmdPassword = MakeCommand("cmdPassword", "Change &Password ...", [this] { cmdPassword_Click(); });
+    cmdChangeCoach = MakeCommand("cmdChangeCoach", "Change Coach", [this] { cmdChangeCoach_Click(); });
+    cmdFarmChangeCoach = MakeCommand("cmdFarmChangeCoach", "Change Coach", [this] { cmdFarmChangeCoach_Click(); });
+    cmdFirePro = MakeCommand("cmdFirePro", "Fire Coach", [this] { cmdFirePro_Click(); });
+    cmdFireFarm = MakeCommand("cmdFireFarm", "Fire Coach", [this] { cmdFireFarm_Click(); });
+    cmdProspect = MakeCommand("cmdProspect", "Prospects", [this] { cmdProspect_Click(); });
+    for (QPushButton* command : {cmdFarmChangeCoach, cmdFireFarm})
+        command->setAccessibleName("Farm: " + command->text());
+}
+
+QLabel* frmTeam::MakeFigure(const char* name, bool isNumber)
+{
+    auto* label = new QLabel(this);
+    label->setObjectName(name);
+    label->setTextFormat(Qt::PlainText);
+    label->setTextInteractionFlags(Qt::TextSelectableByMouse);
+    if (isNumber)
+        label->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+    return label;
+}
+
+void frmTeam::AddRow(QGridLayout* grid, const QString& caption, QWidget* field, int span)
+{
+    const int row = grid->rowCount();
+    auto* label = new MutedLabel(caption, this);
+    label->setBuddy(field);
+    field->setAccessibleName(caption);
+    grid->addWidget(label, row, CaptionColumn);
+    grid->addWidget(field, row, FieldColumn, 1, span);
+}
+
+QWidget* frmTeam::MakeCommandGroup()
+{
+    auto* group = new QGroupBox("Team", this);
+    auto* commands = new QHBoxLayout(group);
+    commands->setContentsMargins(Margin, Gap, Margin, Margin);
+    commands->setSpacing(Gap);
+    // The way of every evening: as large as the room allows.
+    for (QPushButton* command : {CmdRoster, cmdLines, cmdFarmLines, cmdTicketArena}) {
+        command->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::MinimumExpanding);
+        commands->addWidget(command, 1);
+    }
+    return group;
+}
+
+QWidget* frmTeam::MakeFileGroup()
+{
+    auto* group = new QGroupBox("Lines File", this);
+    auto* column = new QVBoxLayout(group);
+    column->setContentsMargins(Margin, Gap, Margin, Margin);
+    column->setSpacing(Gap);
+    auto* loads = new MutedLabel("Loaded", group);
+    loads->setBuddy(lblLoadLine);
+    lblLoadLine->setAccessibleName("Loaded");
+    auto* commands = InARow({cmdSaveToFile, cmdLoadFile});
+    commands->addStretch(1);
+    commands->addWidget(loads);
+    commands->addWidget(lblLoadLine);
+    column->addLayout(commands);
+    auto* hint = InARow({signSaveHint, lblSaveHint});
+    hint->setStretch(1, 1);
+    column->addLayout(hint);
+    column->addStretch(1);
+    return group;
+}
+
+QWidget* frmTeam::MakeProGroup()
+{
+    auto* group = new QGroupBox("Pro Team", this);
+    QGridLayout* grid = MakeGrid(group);
+    AddRow(grid, "Name", txtTeamName);
+    AddRow(grid, "City", txtCity);
+    AddRow(grid, "Abbreviation", txtAbbre);
+    AddRow(grid, "General Manager", txtGm);
+    AddRow(grid, "Morale", txtProMorale);
+    AddRow(grid, "Coach", lblCoach);
+    grid->addLayout(InARow({cmdChangeCoach, cmdFirePro}), grid->rowCount(), FieldColumn, Qt::AlignLeft);
+    return group;
+}
+
+QWidget* frmTeam::MakeFarmGroup()
+{
+    auto* group = new QGroupBox("Farm Team", this);
+    QGridLayout* grid = MakeGrid(group);
+    AddRow(grid, "Name", txtFarmTeamName);
+    AddRow(grid, "Abbreviation", txtFarmAbbre);
+    AddRow(grid, "Morale", txtFarmMorale);
+    AddRow(grid, "Coach", lblFarmCoach);
+    grid->addLayout(InARow({cmdFarmChangeCoach, cmdFireFarm}), grid->rowCount(), FieldColumn, Qt::AlignLeft);
+    return group;
+}
+
+QWidget* frmTeam::MakeContactGroup()
+{
+    auto* group = new QGroupBox("Contact", this);
+    QGridLayout* grid = MakeGrid(group);
+    AddRow(grid, "&Messenger", txtMessenger);
+    AddRow(grid, "&E-mail", txtEmail);
+    txtMessenger->setAccessibleName("Messenger");
+    txtEmail->setAccessibleName("E-mail");
+    return group;
+}
+
+QWidget* frmTeam::MakeFinanceGroup()
+{
+    auto* group = new QGroupBox("Finances", this);
+    QGridLayout* grid = MakeGrid(group);
+    AddRow(grid, "Bank Account", lblFinance);
+    AddRow(grid, "Pro Payroll", lblProPayRoll);
+    AddRow(grid, "Farm Payroll", lblFarmPayRoll);
+    grid->addLayout(InARow({cmdChangeFinance, cmdPayrollBonus}), grid->rowCount(), FieldColumn, Qt::AlignRight);
+    return group;
+}
+
+QWidget* frmTeam::MakeProjectionGroup()
+{
+    auto* group = new QGroupBox("Season Projection", this);
+    QGridLayout* grid = MakeGrid(group);
+    AddRow(grid, "Home Games Left", lblHGLeft);
+    AddRow(grid, "Average Attendance", lblAverageAttendance);
+    AddRow(grid, "Average Income", lblAverageIncome);
+    AddRow(grid, "Estimated Revenue", lblEstimatedRevenue);
+    grid->addWidget(MakeRule(group), grid->rowCount(), CaptionColumn, 1, 2);
+    AddRow(grid, "Games Left", lblGameLeft);
+    AddRow(grid, "Expenses per Game", lblExpensesPerGame);
+    AddRow(grid, "Estimated Expenses", lblEstimatedSeasonExpense);
+    grid->addWidget(MakeRule(group), grid->rowCount(), CaptionColumn, 1, 2);
+    AddRow(grid, "Estimated Bank Account", lblEstimatedBankAccount);
+    Embolden(lblEstimatedBankAccount);
+    return group;
+}
+
+void frmTeam::SetTabOrder()
+{
+    const QList<QWidget*> order{CmdRoster,        cmdLines,           cmdFarmLines, cmdTicketArena,  cmdSaveToFile,
+                                cmdLoadFile,      txtTeamName,        txtCity,      txtAbbre,        txtGm,
+                                txtProMorale,     cmdChangeCoach,     cmdFirePro,   txtFarmTeamName, txtFarmAbbre,
+                                txtFarmMorale,    cmdFarmChangeCoach, cmdFireFarm,  txtMessenger,    txtEmail,
+                                cmdChangeFinance, cmdPayrollBonus,    cmdPassword,  cmdProspect,     cmdExit};
+    for (qsizetype i = 1; i < order.size(); ++i)
+        setTabOrder(order[i - 1], order[i]);
+}
+
+} // namespace dravik

@@ -1,0 +1,46 @@
+#pragma once
+
+#include <QListWidget>
+#include <QStyledItemDelegate>
+
+namespace dravik {
+
+// Where the entries of a list keep what the list counts on: the entry's number, and the secondary words that are drawn
+// muted at its right edge (a QStringList, one column each). The entry's text stays the text alone.
+namespace entry {
+inline constexpr int NumberRole = Qt::UserRole;
+inline constexpr int AsideRole = Qt::UserRole + 1;
+} // namespace entry
+
+// Draws an entry with its secondary words at the right edge, in columns of equal width for the whole list.
+class EntryDelegate : public QStyledItemDelegate {
+public:
+    using QStyledItemDelegate::QStyledItemDelegate;
+
+    void paint(QPainter* painter, const QStyleOptionViewItem& option, const QModelIndex& index) const override;
+    [[nodiscard]] QSize sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const override;
+};
+
+// A list of entries with numbers. Arrows, Home and End choose from the first key on, letters jump to an entry, and Enter
+// acts on the chosen one.
+class EntryList : public QListWidget {
+    Q_OBJECT
+public:
+    explicit EntryList(QWidget* parent = nullptr);
+
+    // Adds an entry behind the others.
+    void Add(const QString& text, int number, const QStringList& aside = {});
+    // Takes the choice away, so that the next click or key on any entry is a new one.
+    void Unchoose();
+    // The chosen entry, or none.
+    [[nodiscard]] QListWidgetItem* Chosen() const;
+
+signals:
+    // Enter was pressed on the chosen entry.
+    void EnterPressed();
+
+protected:
+    void keyPressEvent(QKeyEvent* event) override;
+};
+
+} // namespace dravik

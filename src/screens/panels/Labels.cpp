@@ -1,0 +1,76 @@
+#include "screens/panels/Labels.h"
+
+#include "screens/panels/Shades.h"
+
+#include <QPainter>
+#include <QPainterPath>
+#include <QStyle>
+
+namespace dravik {
+
+void MutedLabel::paintEvent(QPaintEvent* /*event*/)
+{
+    QPainter painter(this);
+    QPalette shaded = palette();
+    shaded.setColor(QPalette::WindowText, MutedText(palette()));
+    int flags = static_cast<int>(QStyle::visualAlignment(layoutDirection(), alignment()));
+    if (buddy() != nullptr) {
+        flags |= Qt::TextShowMnemonic;
+        if (style()->styleHint(QStyle::SH_UnderlineShortcut, nullptr, this) == 0)
+            flags |= Qt::TextHideMnemonic;
+    }
+    if (wordWrap())
+        flags |= Qt::TextWordWrap;
+    style()->drawItemText(&painter, contentsRect(), flags, shaded, true, text(), QPalette::WindowText);
+}
+
+WarningSign::WarningSign(QWidget* parent) : QWidget(parent)
+{
+    setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
+    setAccessibleName("Warning");
+}
+
+QSize WarningSign::sizeHint() const
+{
+    const int side = fontMetrics().height();
+    return {side, side};
+}
+
+void WarningSign::paintEvent(QPaintEvent* /*event*/)
+{
+    QPainter painter(this);
+    painter.setRenderHint(QPainter::Antialiasing);
+    const QColor background = palette().color(QPalette::Window);
+    const double side = std::min(width(), height());
+    painter.translate((width() - side) / 2, (height() - side) / 2);
+    painter.scale(side / 16, side / 16);
+    QPainterPath triangle;
+    triangle.moveTo(8, 1.5);
+    triangle.lineTo(15, 14);
+    triangle.lineTo(1, 14);
+    triangle.closeSubpath();
+    painter.setPen(QPen(Alarming(background), 1.5, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+    painter.setBrush(Alarming(background));
+    painter.drawPath(triangle);
+    painter.setPen(QPen(background, 1.7, Qt::SolidLine, Qt::RoundCap));
+    painter.drawLine(QPointF(8, 5.6), QPointF(8, 9.4));
+    painter.drawPoint(QPointF(8, 12));
+}
+
+QLabel* MakeTitle(QWidget* parent)
+{
+    auto* label = new QLabel(parent);
+    label->setFont(TitleFont(label->font()));
+    label->setTextFormat(Qt::PlainText);
+    return label;
+}
+
+QLabel* MakeHeading(const QString& text, QWidget* parent)
+{
+    auto* label = new QLabel(text, parent);
+    label->setFont(HeadingFont(label->font()));
+    label->setTextFormat(Qt::PlainText);
+    return label;
+}
+
+} // namespace dravik

@@ -1,0 +1,31 @@
+#pragma once
+
+#include <QLabel>
+
+namespace dravik {
+
+// A label of secondary words, faded into the background at paint time. Its mnemonic leads to its buddy as usual.
+class MutedLabel : public QLabel {
+public:
+    using QLabel::QLabel;
+
+protected:
+    void paintEvent(QPaintEvent* event) override;
+};
+
+// The small sign that stands before whatever is wrong: a triangle with an exclamation mark, as high as the text.
+class WarningSign : public QWidget {
+public:
+    explicit WarningSign(QWidget* parent = nullptr);
+
+    [[nodiscard]] QSize sizeHint() const override;
+
+protected:
+    void paintEvent(QPaintEvent* event) override;
+};
+
+// A label in the font of titles or headings.
+QLabel* MakeTitle(QWidget* parent = nullptr);
+QLabel* MakeHeading(const QString& text, QWidget* parent = nullptr);
+
+} // namespace dravik

@@ -1,0 +1,27 @@
+#pragma once
+
+#include <QColor>
+#include <QFont>
+#include <QPalette>
+
+// The few shades and fonts of the program's look. All of them are mixed from the palette at hand when something is painted,
+// so they fit light and dark desktops alike and follow a change of the theme at once.
+namespace dravik {
+
+// The colour of secondary words: text faded into its background, yet with a contrast of 4.5 at least wherever the text
+// itself has it.
+QColor Muted(const QColor& text, const QColor& background);
+QColor MutedText(const QPalette& palette);
+
+// Red for what is wrong, readable on `background`. It never stands without a sign.
+QColor Alarming(const QColor& background);
+
+// The font of a screen's one title, and of a heading, grown from the font at hand.
+QFont TitleFont(QFont font);
+QFont HeadingFont(QFont font);
+
+// Distances of every screen.
+inline constexpr int Margin = 14;
+inline constexpr int Gap = 8;
+
+} // namespace dravik

@@ -1,0 +1,94 @@
+#pragma once
+
+#include "screens/frmMain.h"
+#include "screens/frmTeam.h"
+#include "screens/Stage.h"
+#include "support/LineFindings.h"
+#include "support/SmallLeague.h"
+
+#include <QApplication>
+#include <QTest>
+
+namespace dravik {
+
+// A small league with the stage before it, over the scripted machine. Keys and clicks go through the real widgets.
+class OnStage : public SmallLeague {
+protected:
+    // The main screen, started as the program starts it.
+    frmMain& Main()
+    {
+        if (TheStage.Find("Main") == nullptr) {
+            EXPECT_TRUE(TheStage.Start());
+            Settle();
+        }
+        return *static_cast<frmMain*>(TheStage.Find("Main"));
+    }
+
+    // The main screen with the tables as they stand shown as an open league.
+    frmMain& MainWithLeague()
+    {
+        Main().PlaceTeam();
+        Main().ShowLeagueMenus();
+        Settle();
+        return Main();
+    }
+
+    // The screen of `team`, opened from the main screen.
+    frmTeam& OpenTeam(int team)
+    {
+        MainWithLeague();
+        CurrentTeam = team;
+        Main().mnuViewTeam_Click();
+        Settle();
+        return *TeamScreen();
+    }
+    [[nodiscard]] frmTeam* TeamScreen() const { return static_cast<frmTeam*>(TheStage.Find("Team")); }
+
+    // Lets everything happen that is waiting, the deletion of closed screens included.
+    static void Settle()
+    {
+        QApplication::processEvents();
+        QApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    }
+
+    static void Click(QWidget* widget)
+    {
+        QTest::mouseClick(widget, Qt::LeftButton);
+        Settle();
+    }
+    static void Press(QWidget* widget, Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier)
+    {
+        QTest::keyClick(widget, key, modifiers);
+        Settle();
+    }
+
+    // Goes to a box, opened for the purpose, and puts `text` in it. What leaves it later is up to the test.
+    static void TypeInto(EditBox* box, const QString& text)
+    {
+        box->setEnabled(true);
+        box->setFocus();
+        ASSERT_TRUE(box->hasFocus());
+        box->selectAll();
+        QTest::keyClick(box, Qt::Key_Delete);
+        for (const QChar character : text)
+            if (character.unicode() < 0x80)
+                QTest::keyClick(box, character.toLatin1());
+            else
+                box->insert(character); // no key of the test keyboard has it
+    }
+
+    // A team whose pro and farm lines of day 1 are complete.
+    static TeamMaker CompleteTeam(int number)
+    {
+        TeamMaker maker(number);
+        maker.DressesFullRoster();
+        TeamMaker farm = TeamMaker(number).FarmsFullRoster();
+        FillDay(Teams[number].ProLines[1], maker);
+        FillDay(Teams[number].Farm.FarmLines[1], farm);
+        return maker;
+    }
+
+    Stage TheStage;
+};
+
+} // namespace dravik

@@ -1,0 +1,183 @@
+#include "OnTeamScreen.h"
+
+namespace dravik {
+namespace {
+
+using ::testing::ElementsAre;
+using ::testing::IsEmpty;
+
+class TeamBoxes : public OnTeamScreen {};
+
+TEST_F(TeamBoxes, ANewTeamNameGoesIntoRecordCaptionAndList)
+{
+    Enter(Office().txtTeamName, "Port Ellery Gulls");
+    EXPECT_EQ(Own().Name.Trimmed(), "Port Ellery Gulls");
+    EXPECT_EQ(Office().windowTitle(), "Dravik Hockey Simulator Client - Port Ellery Gulls");
+    ASSERT_EQ(Main().lstDivision[5]->count(), 1);
+    EXPECT_EQ(Main().lstDivision[5]->item(0)->text(), "Port Ellery Gulls");
+    EXPECT_TRUE(Modified);
+    EXPECT_THAT(Machine.Boxes(), IsEmpty());
+}
+
+TEST_F(TeamBoxes, AnEmptyTeamNameIsNoValidInput)
+{
+    Enter(Office().txtTeamName, "");
+    EXPECT_THAT(Machine.Boxes(), ElementsAre(Box{48, "No Valid Input!"}));
+    EXPECT_TRUE(Office().txtTeamName->hasFocus());
+    EXPECT_EQ(Own().Name.Trimmed(), "Harbour City Gulls");
+    EXPECT_FALSE(Modified);
+}
+
+TEST_F(TeamBoxes, ATeamNameWithAForbiddenCharacterIsRefused)
+{
+    Enter(Office().txtTeamName, "Gulls_");
+    EXPECT_THAT(Machine.Boxes(), ElementsAre(Box{48, "Only numbers, letters and spaces are allowed in that textbox!"}));
+    EXPECT_TRUE(Office().txtTeamName->hasFocus());
+    EXPECT_EQ(Own().Name.Trimmed(), "Harbour City Gulls");
+}
+
+TEST_F(TeamBoxes, ANewFarmNameGoesIntoTheRecord)
+{
+    Enter(Office().txtFarmTeamName, "Pebble Creek 2");
+    EXPECT_EQ(Own().Farm.Name.Trimmed(), "Pebble Creek 2");
+    EXPECT_TRUE(Modified);
+    EXPECT_EQ(Office().windowTitle(), "Dravik Hockey Simulator Client - Harbour City Gulls");
+    Enter(Office().txtFarmTeamName, "");
+    EXPECT_THAT(Machine.Boxes(), ElementsAre(Box{48, "No Valid Input!"}));
+    EXPECT_EQ(Own().Farm.Name.Trimmed(), "Pebble Creek 2");
+}
+
+TEST_F(TeamBoxes, AnAbbreviationOfTwoLettersIsRefusedInPlace)
+{
+    Enter(Office().txtAbbre, "HC");
+    EXPECT_THAT(Machine.TakeBoxes(), ElementsAre(Box{48, "Abbreviation must be 3 characters long!"}));
+    EXPECT_EQ(Own().Abbre.Trimmed(), "HCG");
+    EXPECT_EQ(Of(Office().txtAbbre), "HC");
+    EXPECT_TRUE(Office().txtAbbre->hasFocus());
+    EXPECT_FALSE(ListEventGuard);
+}
+
+TEST_F(TeamBoxes, AnAbbreviationOfFourLettersIsRefusedAndOneOfThreeStored)
+{
+    Enter(Office().txtFarmAbbre, "PCDX");
+    EXPECT_THAT(Machine.TakeBoxes(), ElementsAre(Box{48, "Abbreviation must be 3 characters long!"}));
+    EXPECT_EQ(Own().Farm.Abbre.Trimmed(), "PCD");
+    Enter(Office().txtFarmAbbre, "PCX");
+    EXPECT_EQ(Own().Farm.Abbre.Trimmed(), "PCX");
+    Enter(Office().txtAbbre, "XYZ");
+    EXPECT_EQ(Own().Abbre.Trimmed(), "XYZ");
+    EXPECT_THAT(Machine.Boxes(), IsEmpty());
+}
+
+TEST_F(TeamBoxes, AnAbbreviationTakesLettersOnly)
+{
+    Enter(Office().txtAbbre, "H1G");
+    EXPECT_THAT(Machine.Boxes(), ElementsAre(Box{48, "Only letters and spaces are allowed in that textbox!"}));
+    EXPECT_EQ(Own().Abbre.Trimmed(), "HCG");
+}
+
+TEST_F(TeamBoxes, TheCityMayBeEmpty)
+{
+    Enter(Office().txtCity, "");
+    EXPECT_EQ(Own().City.Trimmed(), "");
+    Enter(Office().txtCity, "St. John's 2");
+    EXPECT_EQ(Own().City.Trimmed(), "St. John's 2");
+    EXPECT_TRUE(Modified);
+    EXPECT_THAT(Machine.Boxes(), IsEmpty());
+}
+
+TEST_F(TeamBoxes, TheGeneralManagerMayBeEmptyButHoldsNoDigit)
+{
+    Enter(Office().txtGm, QString::fromUtf8("Rémi Gauthière"));
+    EXPECT_EQ(Own().Gm.Trimmed(), "R\xE9mi Gauthi\xE8re");
+    Enter(Office().txtGm, "");
+    EXPECT_EQ(Own().Gm.Trimmed(), "");
+    EXPECT_THAT(Machine.Boxes(), IsEmpty());
+    Enter(Office().txtGm, "Gm 2");
+    EXPECT_THAT(Machine.Boxes(), ElementsAre(Box{48, "Only letters and spaces are allowed in that textbox!"}));
+    EXPECT_EQ(Own().Gm.Trimmed(), "");
+}
+
+TEST_F(TeamBoxes, AMoraleOfZeroIsStoredAsOneAndTheBoxShowsOne)
+{
+    Enter(Office().txtProMorale, "0");
+    EXPECT_EQ(Own().ProMorale, 1);
+    EXPECT_EQ(Of(Office().txtProMorale), "1");
+    Enter(Office().txtFarmMorale, "-99999");
+    EXPECT_EQ(Own().Farm.FarmMorale, 1);
+    EXPECT_EQ(Of(Office().txtFarmMorale), "1");
+    EXPECT_TRUE(Modified);
+    EXPECT_THAT(Machine.Boxes(), IsEmpty());
+}
+
+TEST_F(TeamBoxes, AMoraleIsTheLeadingNumberOfItsText)
+{
+    Enter(Office().txtProMorale, "75");
+    EXPECT_EQ(Own().ProMorale, 75);
+    Enter(Office().txtProMorale, "8-2");
+    EXPECT_EQ(Own().ProMorale, 8);
+    EXPECT_EQ(Of(Office().txtProMorale), "8-2");
+}
+
+TEST_F(TeamBoxes, AMoraleMustBeANumber)
+{
+    Enter(Office().txtProMorale, "good");
+    EXPECT_THAT(Machine.TakeBoxes(), ElementsAre(Box{48, "No Valid Input!"}));
+    Enter(Office().txtProMorale, "");
+    EXPECT_THAT(Machine.TakeBoxes(), ElementsAre(Box{48, "No Valid Input!"}));
+    EXPECT_EQ(Own().ProMorale, 51);
+    EXPECT_TRUE(Office().txtProMorale->hasFocus());
+}
+
+TEST_F(TeamBoxes, AMoraleThatDoesNotFitItsFieldIsAFailure)
+{
+    Enter(Office().txtProMorale, "32768");
+    EXPECT_THAT(Machine.Boxes(), ElementsAre(Box{16, "6 - Overflow in txtProMorale_LostFocus!"}));
+    EXPECT_EQ(Own().ProMorale, 51);
+}
+
+TEST_F(TeamBoxes, GuardedBoxesDoNothing)
+{
+    for (EditBox* box : {Office().txtTeamName, Office().txtFarmTeamName, Office().txtAbbre, Office().txtFarmAbbre,
+                         Office().txtCity, Office().txtGm, Office().txtProMorale, Office().txtFarmMorale}) {
+        TypeInto(box, "_");
+        Modified = false;
+        ListEventGuard = true;
+        Press(box, Qt::Key_Tab);
+        ListEventGuard = false;
+        EXPECT_FALSE(box->hasFocus());
+        EXPECT_FALSE(Modified);
+        box->setEnabled(false);
+    }
+    EXPECT_THAT(Machine.Boxes(), IsEmpty());
+    EXPECT_EQ(Own().Name.Trimmed(), "Harbour City Gulls");
+}
+
+TEST_F(TeamBoxes, AddressesAreStoredWithoutACheck)
+{
+    Enter(Office().txtEmail, "a_b@[x]");
+    EXPECT_EQ(Own().Email.Trimmed(), "a_b@[x]");
+    EXPECT_TRUE(Modified);
+    Enter(Office().txtMessenger, "");
+    EXPECT_EQ(Own().Messenger.Trimmed(), "");
+    EXPECT_TRUE(Modified);
+    EXPECT_THAT(Machine.Boxes(), IsEmpty());
+}
+
+TEST_F(TeamBoxes, AddressesAreNotGuarded)
+{
+    TypeInto(Office().txtEmail, "guarded");
+    ListEventGuard = true;
+    Press(Office().txtEmail, Qt::Key_Tab);
+    ListEventGuard = false;
+    EXPECT_EQ(Own().Email.Trimmed(), "guarded");
+}
+
+TEST_F(TeamBoxes, ALongAddressIsCutToItsField)
+{
+    Enter(Office().txtEmail, QString(50, 'x'));
+    EXPECT_EQ(Own().Email.Raw(), std::string(40, 'x'));
+    EXPECT_EQ(Own().City.Trimmed(), "Harbour City");
+}
+} // namespace
+} // namespace dravik

@@ -1,0 +1,229 @@
+#include "OnTeamScreen.h"
+
+#include "league/OutsideCode.h"
+#include "support/ClientFileBytes.h"
+#include <filesystem>
+
+namespace dravik {
+namespace {
+
+using ::testing::ElementsAre;
+using ::testing::IsEmpty;
+
+class LinesFileCommands : public OnTeamScreen {
+protected:
+    LinesFileCommands()
+    {
+        CompleteTeam(5);
+        Own().Name = "Harbour City";
+        Machine.Settings["SkipZIPClient"] = "YES"; // the quick way
+        target = Machine.InFolder("HarbourCity.dvl");
+    }
+
+    // Saves the lines file and takes the boxes away.
+    void Save()
+    {
+        Click(Office().cmdSaveToFile);
+        ASSERT_TRUE(std::filesystem::exists(target));
+        Machine.TakeBoxes();
+    }
+
+    std::string target;
+};
+
+TEST_F(LinesFileCommands, SaveWritesTheFileAndTellsWhere)
+{
+    Click(Office().cmdSaveToFile);
+    EXPECT_THAT(Machine.Boxes(), ElementsAre(Box{64, "Lines file for Harbour City successfully save at\r\n" + target}));
+    EXPECT_TRUE(std::filesystem::exists(target));
+    EXPECT_FALSE(std::filesystem::exists(TempFile));
+    EXPECT_EQ(Machine.WaitCount, 1);
+    EXPECT_FALSE(Machine.WaitShown);
+}
+
+TEST_F(LinesFileCommands, SavingTwiceGivesTheSamePath)
+{
+    Save();
+    Save();
+    EXPECT_TRUE(std::filesystem::exists(target));
+}
+
+TEST_F(LinesFileCommands, SaveIsRefusedWhileDay1IsIncomplete)
+{
+    frmTeam& office = Office();
+    Own().ProLines[1].StartGoalie = 0;
+    office.cmdSaveToFile_Click();
+    EXPECT_THAT(Machine.Boxes(), ElementsAre(Box{48, "Lines #1 are incomplete!\r\nYou will not be able to save league "
+                                                     "files unless lines for the next day are complete!"}));
+    EXPECT_FALSE(std::filesystem::exists(target));
+    EXPECT_EQ(Machine.WaitCount, 0);
+}
+
+TEST_F(LinesFileCommands, SaveTestsTheProDay1Only)
+{
+    LeagueData.FarmRosterRequired = true;
+    frmTeam& office = Office();
+    Own().Farm.FarmLines[1] = {};
+    Own().ProLines[2] = {};
+    office.cmdSaveToFile_Click();
+    EXPECT_EQ(Machine.Boxes().back().Kind, 64);
+    EXPECT_TRUE(std::filesystem::exists(target));
+}
+
+TEST_F(LinesFileCommands, SaveAsksForThePasswordAndEndsOnAWrongOne)
+{
+    frmTeam& office = Office();
+    Own().Password = DigestOfA;
+    Machine.Type("b");
+    office.cmdSaveToFile_Click();
+    EXPECT_THAT(Machine.Questions(), ElementsAre(Question{"Password Required!"}));
+    EXPECT_THAT(Machine.Boxes(), ElementsAre(Box{48, "Password is incorrect!"}));
+    EXPECT_FALSE(std::filesystem::exists(target));
+    EXPECT_EQ(Machine.WaitCount, 0);
+}
+
+TEST_F(LinesFileCommands, IncompleteLinesAreToldBeforeThePasswordIsAsked)
+{
+    frmTeam& office = Office();
+    Own().Password = DigestOfA;
+    Own().ProLines[1].StartGoalie = 0;
+    office.cmdSaveToFile_Click();
+    EXPECT_THAT(Machine.Questions(), IsEmpty());
+}
+
+// The first two file operations of a save look for an old work file and an old target; the third makes the new one.
+TEST_F(LinesFileCommands, AFailedCompressionLeavesNoTargetAndTheWaitScreenUp)
+{
+    Machine.Settings["SkipZIPClient"] = "No";
+    frmTeam& office = Office();
+    Machine.FailFileOperation(3, failure::DiskFull);
+    office.cmdSaveToFile_Click();
+    EXPECT_THAT(Machine.Boxes(), ElementsAre(Box{16, "61 - Disk full in Zlib Compress!"}));
+    EXPECT_FALSE(std::filesystem::exists(target));
+    EXPECT_FALSE(std::filesystem::exists(TempFile));
+    EXPECT_TRUE(Machine.WaitShown);
+}
+
+TEST_F(LinesFileCommands, AFailureWhileSavingClosesTheWaitScreenAndIsReported)
+{
+    frmTeam& office = Office();
+    Machine.FailFileOperation(3, failure::PermissionDenied);
+    office.cmdSaveToFile_Click();
+    EXPECT_THAT(Machine.Boxes(), ElementsAre(Box{16, "70 - Permission denied in cmdSaveToFile!"}));
+    EXPECT_FALSE(Machine.WaitShown);
+    EXPECT_EQ(Machine.WaitCount, 1);
+}
+
+TEST_F(LinesFileCommands, ATeamNameThatNoFileCanHaveIsAFailureOfTheSave)
+{
+    Own().Name = "Harbour/City";
+    frmTeam& office = Office();
+    office.cmdSaveToFile_Click();
+    ASSERT_EQ(Machine.Boxes().size(), 1U);
+    EXPECT_EQ(Machine.Boxes().front().Kind, 16);
+    EXPECT_TRUE(Machine.Boxes().front().Text.ends_with(" in cmdSaveToFile!")) << Machine.Boxes().front().Text;
+    EXPECT_FALSE(Machine.WaitShown);
+}
+
+TEST_F(LinesFileCommands, LoadAsksInTheProgramsFolderWithTheClientsFilter)
+{
+    Click(Office().cmdLoadFile);
+    EXPECT_THAT(Machine.Dialogs(), ElementsAre(std::pair<std::string, std::string>(
+                                       Machine.Folder(), "DRVK Client File (*.dvl) |*.dvl|All Files (*.*) | *.*")));
+    EXPECT_THAT(Machine.Boxes(), IsEmpty());
+    EXPECT_EQ(Machine.WaitCount, 0);
+}
+
+TEST_F(LinesFileCommands, LoadBringsTheTeamBackAndTellsFromWhere)
+{
+    Own().City = "Harbour City";
+    Save();
+    Own().City = "Elsewhere";
+    Own().ProLines[1] = {};
+    Office().ReloadForm();
+    Office().FormActivate();
+    ASSERT_FALSE(Office().cmdSaveToFile->isEnabled());
+    Machine.Choose(target);
+    Click(Office().cmdLoadFile);
+    EXPECT_THAT(Machine.Boxes(),
+                ElementsAre(Box{64, "Lines file for Harbour City successfully load from\r\n" + target}));
+    EXPECT_EQ(Of(Office().txtCity), "Harbour City");
+    EXPECT_TRUE(Office().cmdSaveToFile->isEnabled());
+    EXPECT_FALSE(Machine.WaitShown);
+    EXPECT_FALSE(Office().txtTeamName->isEnabled());
+}
+
+TEST_F(LinesFileCommands, LoadAsksForNoPassword)
+{
+    Save();
+    Own().Password = DigestOfA;
+    Machine.Choose(target);
+    Click(Office().cmdLoadFile);
+    EXPECT_THAT(Machine.Questions(), IsEmpty());
+    EXPECT_EQ(Machine.Boxes().front().Kind, 64);
+    EXPECT_EQ(Own().Password.Trimmed(), ""); // the record of the file, password included
+}
+
+TEST_F(LinesFileCommands, AFileOfAnotherTeamIsRefused)
+{
+    Save();
+    TeamMaker other(6);
+    Teams[6].Name = "Ironport Foxes";
+    frmTeam& office = Office();
+    CurrentTeam = 6;
+    Machine.Choose(target);
+    office.cmdLoadFile_Click();
+    EXPECT_THAT(Machine.Boxes(), ElementsAre(Box{16, "File for Ironport Foxes unsuccessfully load from\r\n" + target}));
+    EXPECT_EQ(Teams[6].Name.Trimmed(), "Ironport Foxes");
+    EXPECT_FALSE(Machine.WaitShown);
+}
+
+TEST_F(LinesFileCommands, AMissingFileIsRefusedLikeAWrongOne)
+{
+    const std::string gone = Machine.InFolder("Gone.dvl");
+    Machine.Choose(gone);
+    Click(Office().cmdLoadFile);
+    EXPECT_THAT(Machine.Boxes(), ElementsAre(Box{16, "File for Harbour City unsuccessfully load from\r\n" + gone}));
+    EXPECT_FALSE(Machine.WaitShown);
+}
+
+TEST_F(LinesFileCommands, AFileThatDoesNotDecompressLeavesTheWaitScreenUp)
+{
+    Machine.Settings["SkipZIPClient"] = "No";
+    Office();
+    const std::string empty = Machine.InFolder("Empty.dvl");
+    WriteWhole(empty, {});
+    Machine.Choose(empty);
+    Click(Office().cmdLoadFile);
+    EXPECT_THAT(Machine.Boxes(), ElementsAre(Box{16, "9 - Subscript out of range in Zlib Decompress!"}));
+    EXPECT_TRUE(Machine.WaitShown);
+}
+
+TEST_F(LinesFileCommands, AWrongEndIsToldAfterTheTeamWasReplaced)
+{
+    Own().City = "Harbour City";
+    Save();
+    Own().City = "Elsewhere";
+    ByteVector bytes = ReadWhole(target);
+    bytes.back() = '?';
+    WriteWhole(target, bytes);
+    Machine.Choose(target);
+    Click(Office().cmdLoadFile);
+    EXPECT_THAT(Machine.Boxes(), ElementsAre(Box{16, "File for Harbour City unsuccessfully load from\r\n" + target}));
+    EXPECT_EQ(Own().City.Trimmed(), "Harbour City");
+    EXPECT_FALSE(Machine.WaitShown);
+}
+
+TEST_F(LinesFileCommands, AFailureWhileLoadingClosesTheWaitScreenAndIsReported)
+{
+    Save();
+    Machine.Choose(target);
+    frmTeam& office = Office();
+    Machine.FailAllFrom(3, failure::PermissionDenied);
+    office.cmdLoadFile_Click();
+    Machine.FailNoMore();
+    EXPECT_THAT(Machine.Boxes(), ElementsAre(Box{16, "70 - Permission denied in cmdLoadFile!"}));
+    EXPECT_FALSE(Machine.WaitShown);
+}
+} // namespace
+} // namespace dravik

@@ -1,0 +1,359 @@
+#include "OnTeamScreen.h"
+
+#include "rules/Function.h"
+#include <QEventLoop>
+
+namespace dravik {
+namespace {
+
+using ::testing::Each;
+using ::testing::ElementsAre;
+using ::testing::IsEmpty;
+
+class frmTeamTest : public OnTeamScreen {};
+
+TEST_F(frmTeamTest, OpeningFillsEveryBoxFromTheTables)
+{
+    Own().ProCoach = 7;
+    Own().Farm.FarmCoach = 8;
+    Main();
+    WindowTitle = "Dravik Hockey Simulator Client - Winter";
+    const frmTeam& office = OpenTeam(5);
+    EXPECT_EQ(office.windowTitle(), "Dravik Hockey Simulator Client - Winter - Harbour City Gulls");
+    EXPECT_EQ(Of(office.txtTeamName), "Harbour City Gulls");
+    EXPECT_EQ(Of(office.txtAbbre), "HCG");
+    EXPECT_EQ(Of(office.txtCity), "Harbour City");
+    EXPECT_EQ(Of(office.txtGm), "Ward Tilton");
+    EXPECT_EQ(Of(office.txtMessenger), "wtilton");
+    EXPECT_EQ(Of(office.txtEmail), "ward@example.org");
+    EXPECT_EQ(Of(office.txtFarmTeamName), "Pebble Creek Ducks");
+    EXPECT_EQ(Of(office.txtFarmAbbre), "PCD");
+    EXPECT_EQ(Of(office.txtProMorale), "51");
+    EXPECT_EQ(Of(office.txtFarmMorale), "47");
+    EXPECT_EQ(Of(office.lblLoadLine), "3");
+    EXPECT_EQ(Of(office.lblCoach), "Tor Lindqvist");
+    EXPECT_EQ(Of(office.lblFarmCoach), "Marek Zelinka");
+    EXPECT_EQ(Of(office.lblDivision), "Division 5");
+    EXPECT_EQ(Of(office.lblConference), "West");
+    EXPECT_THAT(Machine.Boxes(), IsEmpty());
+}
+
+TEST_F(frmTeamTest, EveryControlStandsUnderItsName)
+{
+    for (const char* name : {"txtTeamName", "txtAbbre", "txtCity", "txtGm", "txtFarmTeamName", "txtFarmAbbre",
+                             "txtProMorale", "txtFarmMorale", "txtMessenger", "txtEmail"})
+        EXPECT_NE(Office().findChild<EditBox*>(name), nullptr) << name;
+    for (const char* name :
+         {"lblLoadLine", "lblCoach", "lblFarmCoach", "lblDivision", "lblConference", "lblFinance", "lblProPayRoll",
+          "lblFarmPayRoll", "lblHGLeft", "lblGameLeft", "lblAverageAttendance", "lblAverageIncome",
+          "lblEstimatedRevenue", "lblExpensesPerGame", "lblEstimatedSeasonExpense", "lblEstimatedBankAccount"})
+        EXPECT_NE(Office().findChild<QLabel*>(name), nullptr) << name;
+    for (const char* name : {"cmdChangeFinance", "cmdPayrollBonus", "cmdPassword", "cmdChangeCoach",
+                             "cmdFarmChangeCoach", "cmdFirePro", "cmdFireFarm", "cmdProspect", "cmdTicketArena",
+                             "CmdRoster", "cmdLines", "cmdFarmLines", "cmdSaveToFile", "cmdLoadFile", "cmdExit"})
+        EXPECT_NE(Office().findChild<QPushButton*>(name), nullptr) << name;
+}
+
+TEST_F(frmTeamTest, OpeningClosesTheEightBoxesAndHidesTheEightCommands)
+{
+    const frmTeam& office = Office();
+    for (const EditBox* box : {office.txtTeamName, office.txtAbbre, office.txtCity, office.txtGm,
+                               office.txtFarmTeamName, office.txtFarmAbbre, office.txtProMorale, office.txtFarmMorale})
+        EXPECT_FALSE(box->isEnabled()) << box->objectName().toStdString();
+    for (const EditBox* box : {office.txtMessenger, office.txtEmail})
+        EXPECT_TRUE(box->isEnabled()) << box->objectName().toStdString();
+    for (const QPushButton* command :
+         {office.cmdChangeFinance, office.cmdPayrollBonus, office.cmdPassword, office.cmdChangeCoach,
+          office.cmdFarmChangeCoach, office.cmdFirePro, office.cmdFireFarm, office.cmdProspect})
+        EXPECT_FALSE(command->isVisible()) << command->objectName().toStdString();
+    for (const QPushButton* command : {office.cmdTicketArena, office.CmdRoster, office.cmdLines, office.cmdFarmLines,
+                                       office.cmdLoadFile, office.cmdExit}) {
+        EXPECT_TRUE(command->isVisible()) << command->objectName().toStdString();
+        EXPECT_TRUE(command->isEnabled()) << command->objectName().toStdString();
+    }
+    EXPECT_TRUE(office.cmdSaveToFile->isVisible());
+}
+
+TEST_F(frmTeamTest, WithoutACoachNoneIsShownAndHeCannotBeFired)
+{
+    const frmTeam& office = Office();
+    EXPECT_EQ(Of(office.lblCoach), "");
+    EXPECT_EQ(Of(office.lblFarmCoach), "");
+    EXPECT_FALSE(office.cmdFirePro->isEnabled());
+    EXPECT_FALSE(office.cmdFireFarm->isEnabled());
+}
+
+TEST_F(frmTeamTest, ACoachBelowOneIsNoCoach)
+{
+    Own().ProCoach = -3;
+    Own().Farm.FarmCoach = -3;
+    EXPECT_EQ(Of(Office().lblCoach), "");
+    EXPECT_FALSE(Office().cmdFirePro->isEnabled());
+    EXPECT_FALSE(Office().cmdFireFarm->isEnabled());
+    EXPECT_THAT(Machine.Boxes(), IsEmpty());
+}
+
+TEST_F(frmTeamTest, ACoachCanBeFiredOnceTheCommandIsOpen)
+{
+    Own().ProCoach = 7;
+    Own().Farm.FarmCoach = 8;
+    EXPECT_TRUE(Office().cmdFirePro->isEnabled());
+    EXPECT_TRUE(Office().cmdFireFarm->isEnabled());
+}
+
+TEST_F(frmTeamTest, ACoachOutsideTheTableIsAFailureOfOpening)
+{
+    Own().ProCoach = 501;
+    const frmTeam& office = Office();
+    EXPECT_THAT(Machine.Boxes(), ElementsAre(Box{16, "9 - Subscript out of range in FormLoad FrmTeam!"}));
+    EXPECT_FALSE(office.cmdPassword->isVisible());
+    EXPECT_FALSE(office.txtAbbre->isEnabled());
+    EXPECT_TRUE(office.isVisible());
+}
+
+TEST_F(frmTeamTest, WithoutFarmTeamsTheFarmLinesAreClosed)
+{
+    LeagueData.FarmEnabled = false;
+    EXPECT_FALSE(Office().cmdFarmLines->isEnabled());
+}
+
+TEST_F(frmTeamTest, AFarmWordOfOneIsNotTrue)
+{
+    LeagueData.FarmEnabled.SetWord(1);
+    EXPECT_FALSE(Office().cmdFarmLines->isEnabled());
+}
+
+TEST_F(frmTeamTest, ATeamOutOfRangeIsToldAndTheScreenClosesAgain)
+{
+    for (const int team : {0, 101}) {
+        MainWithLeague();
+        CurrentTeam = team;
+        TheStage.Open("Team", Main());
+        Settle();
+        EXPECT_THAT(Machine.TakeBoxes(), ElementsAre(Box{16, "Integrity Check Failed!"})) << team;
+        EXPECT_EQ(TeamScreen(), nullptr);
+        EXPECT_TRUE(Main().isVisible());
+        EXPECT_EQ(CurrentTeam, team);
+    }
+}
+
+TEST_F(frmTeamTest, ReloadingShowsWhatTheTablesHoldNow)
+{
+    Own().ProCoach = 7;
+    frmTeam& office = Office();
+    Own().City = "Port Ellery";
+    Own().ProCoach = 0;
+    office.ReloadForm();
+    EXPECT_EQ(Of(office.txtCity), "Port Ellery");
+    EXPECT_EQ(Of(office.lblCoach), "");
+}
+
+TEST_F(frmTeamTest, SaveComesUpWhenDay1OfBothLinesIsComplete)
+{
+    CompleteTeam(5);
+    EXPECT_TRUE(Office().cmdSaveToFile->isEnabled());
+    EXPECT_FALSE(Office().lblSaveHint->isVisible());
+}
+
+TEST_F(frmTeamTest, SaveStaysDownWhileTheProLinesAreIncomplete)
+{
+    CompleteTeam(5);
+    Own().ProLines[1].StartGoalie = 0;
+    EXPECT_FALSE(Office().cmdSaveToFile->isEnabled());
+    EXPECT_EQ(Of(Office().lblSaveHint), "Lines for Day #1 are Incomplete!");
+    EXPECT_TRUE(Office().lblSaveHint->isVisible());
+}
+
+TEST_F(frmTeamTest, SaveStaysDownWhileTheFarmLinesAreIncomplete)
+{
+    CompleteTeam(5);
+    LeagueData.FarmRosterRequired = true;
+    Own().Farm.FarmLines[1].StartGoalie = 0;
+    EXPECT_FALSE(Office().cmdSaveToFile->isEnabled());
+    EXPECT_EQ(Of(Office().lblSaveHint), "Farm Lines for Day #1 are Incomplete!");
+}
+
+TEST_F(frmTeamTest, BothReasonsAreToldTogether)
+{
+    LeagueData.FarmRosterRequired = true;
+    EXPECT_EQ(Of(Office().lblSaveHint), "Lines for Day #1 are Incomplete!\nFarm Lines for Day #1 are Incomplete!");
+}
+
+TEST_F(frmTeamTest, OnlyDay1Counts)
+{
+    CompleteTeam(5);
+    Own().ProLines[2] = {};
+    EXPECT_TRUE(Office().cmdSaveToFile->isEnabled());
+}
+
+TEST_F(frmTeamTest, BothJudgesRepairEvenWhenTheFarmIsIncomplete)
+{
+    TeamMaker stranger(6);
+    stranger.Dresses(1, position::Center);
+    const int id = stranger.Skaters.front();
+    LeagueData.FarmRosterRequired = true;
+    Own().Farm.FarmLines[1].NormalForward(1, 1) = id;
+    Own().ProLines[1].NormalForward(1, 1) = id;
+    EXPECT_FALSE(Office().cmdSaveToFile->isEnabled());
+    EXPECT_EQ(Own().Farm.FarmLines[1].NormalForward(1, 1), 0);
+    EXPECT_EQ(Own().ProLines[1].NormalForward(1, 1), 0);
+}
+
+TEST_F(frmTeamTest, TheFarmIsJudgedFirst)
+{
+    CompleteTeam(5);
+    Own().ProLines[1].NormalForward(1, 1) = 0;
+    LeagueData.FarmRosterRequired = true;
+    Own().Farm.FarmLines[1].NormalForward(1, 1) = 0;
+    Office();
+    // The text of the last judgement is the pro's.
+    CheckLine(5, false, 1, false);
+    const std::string pro = LastLinesText();
+    Own().Farm.FarmLines[1].NormalForward(1, 1) = 0;
+    Office().FormActivate();
+    EXPECT_EQ(LastLinesText(), pro);
+}
+
+TEST_F(frmTeamTest, SaveComesUpWhenTheLinesScreenReturnsWithCompleteLines)
+{
+    CompleteTeam(5);
+    const Lines complete = Own().ProLines[1];
+    Own().ProLines[1] = {};
+    frmTeam& office = Office();
+    ASSERT_FALSE(office.cmdSaveToFile->isEnabled());
+    class LinesScreen : public Screen {
+    public:
+        explicit LinesScreen(Stage& stage) : Screen(stage, "frmLine") {}
+        void FormLoad() override {}
+    };
+    TheStage.Provide("Line", [](Stage& stage) { return std::make_unique<LinesScreen>(stage); });
+    Click(office.cmdLines);
+    ASSERT_NE(TheStage.Find("Line"), nullptr);
+    EXPECT_FALSE(office.isVisible());
+    Own().ProLines[1] = complete;
+    TheStage.Find("Line")->close();
+    EXPECT_TRUE(office.isVisible());
+    EXPECT_TRUE(office.cmdSaveToFile->isEnabled());
+}
+
+TEST_F(frmTeamTest, ExitShowsTheMainScreenAndKeepsTheTeam)
+{
+    Click(Office().cmdExit);
+    EXPECT_EQ(TeamScreen(), nullptr);
+    EXPECT_TRUE(Main().isVisible());
+    EXPECT_EQ(CurrentTeam, 5);
+}
+
+TEST_F(frmTeamTest, ClosingTheWindowShowsTheMainScreen)
+{
+    Office().close();
+    Settle();
+    EXPECT_EQ(TeamScreen(), nullptr);
+    EXPECT_TRUE(Main().isVisible());
+}
+
+TEST_F(frmTeamTest, ABoxThatHasTheFocusActsWhenTheWindowCloses)
+{
+    TypeInto(Office().txtEmail, "new@example.org");
+    Office().close();
+    Settle();
+    EXPECT_EQ(Own().Email.Trimmed(), "new@example.org");
+    EXPECT_TRUE(Modified);
+    EXPECT_EQ(TeamScreen(), nullptr);
+}
+
+TEST_F(frmTeamTest, ABoxThatHasTheFocusActsBeforeACommandByKeyboard)
+{
+    TypeInto(Office().txtMessenger, "gulls");
+    QEventLoop untilClosed; // the toolkit shows the command pressed for a moment
+    QObject::connect(&Office(), &QObject::destroyed, &untilClosed, &QEventLoop::quit);
+    QTest::keyClick(&Office(), Qt::Key_X, Qt::AltModifier); // the mnemonic of Exit
+    untilClosed.exec();
+    EXPECT_EQ(Own().Messenger.Trimmed(), "gulls");
+    EXPECT_EQ(TeamScreen(), nullptr);
+}
+
+TEST_F(frmTeamTest, ACommandIsDroppedWhileABoxRefusesItsText)
+{
+    TypeInto(Office().txtAbbre, "HC");
+    Office().cmdExit->click();
+    Settle();
+    EXPECT_THAT(Machine.Boxes(), ElementsAre(Box{48, "Abbreviation must be 3 characters long!"}));
+    ASSERT_NE(TeamScreen(), nullptr);
+    EXPECT_TRUE(Office().txtAbbre->hasFocus());
+    EXPECT_EQ(Own().Abbre.Trimmed(), "HCG");
+}
+
+TEST_F(frmTeamTest, ARefusedBoxDropsTheMousePressOnACommandToo)
+{
+    TypeInto(Office().txtAbbre, "HC");
+    Click(Office().cmdExit);
+    EXPECT_THAT(Machine.Boxes(), ElementsAre(Box{48, "Abbreviation must be 3 characters long!"}));
+    ASSERT_NE(TeamScreen(), nullptr);
+    EXPECT_FALSE(Office().cmdExit->isDown());
+    EXPECT_TRUE(Office().txtAbbre->hasFocus());
+}
+
+TEST_F(frmTeamTest, ABoxActsOnceForEachLeaving)
+{
+    TypeInto(Office().txtAbbre, "HC");
+    Press(Office().txtAbbre, Qt::Key_Tab);
+    EXPECT_EQ(Machine.TakeBoxes().size(), 1U);
+    EXPECT_TRUE(Office().txtAbbre->hasFocus());
+    Press(Office().txtAbbre, Qt::Key_Tab);
+    EXPECT_EQ(Machine.TakeBoxes().size(), 1U);
+}
+
+TEST_F(frmTeamTest, ScreenCommandsNoteTheTeamScreenAsTheirCaller)
+{
+    CompleteTeam(5);
+    frmTeam& office = Office();
+    for (QPushButton* command : {office.CmdRoster, office.cmdLines, office.cmdFarmLines, office.cmdTicketArena}) {
+        CallerScreen = "Main";
+        Click(command);
+        EXPECT_EQ(CallerScreen, "Team") << command->objectName().toStdString();
+        EXPECT_THAT(Machine.TakeBoxes(), ElementsAre(Box{64, "Not available yet."}))
+            << command->objectName().toStdString();
+        EXPECT_TRUE(office.isVisible());
+    }
+}
+
+TEST_F(frmTeamTest, HiddenScreenCommandsKeepTheirRoutines)
+{
+    frmTeam& office = Office();
+    office.cmdProspect_Click();
+    EXPECT_EQ(CallerScreen, "Team");
+    CallerScreen = "";
+    office.cmdChangeCoach_Click();
+    EXPECT_EQ(ViewerReturnMode, 2);
+    EXPECT_EQ(CallerScreen, "Team");
+    office.cmdFarmChangeCoach_Click();
+    EXPECT_EQ(ViewerReturnMode, 3);
+    EXPECT_THAT(Machine.Boxes(), Each(Box{64, "Not available yet."}));
+    EXPECT_EQ(Machine.Boxes().size(), 3U);
+}
+
+TEST_F(frmTeamTest, LinesAreRefusedWhileTheRosterIsIncomplete)
+{
+    CallerScreen = "Main";
+    Click(Office().cmdLines);
+    EXPECT_THAT(
+        Machine.Boxes(),
+        ElementsAre(Box{48, "Roster is incomplete!\r\nYou cannot make your lines if your roster is incomplete!"}));
+    EXPECT_EQ(CallerScreen, "Main");
+    EXPECT_TRUE(Office().isVisible());
+}
+
+TEST_F(frmTeamTest, LinesAreRefusedWhileThePayrollIsAboveTheCap)
+{
+    CompleteTeam(5);
+    LeagueData.SalaryCapMode = 1;
+    LeagueData.SalaryCap = 1;
+    Click(Office().cmdLines);
+    EXPECT_EQ(Machine.Boxes().size(), 1U);
+    EXPECT_EQ(Machine.Boxes().front().Kind, 48);
+    EXPECT_EQ(Machine.Boxes().front().Text,
+              "Roster is incomplete!\r\nYou cannot make your lines if your roster is incomplete!");
+}
+} // namespace
+} // namespace dravik
