@@ -1,0 +1,240 @@
+#include "Answers.h"
+#include "Camera.h"
+#include "league/ClientVariable.h"
+#include "league/LinesFile.h"
+#include "makers/Makers.h"
+#include "rules/Function.h"
+#include "screens/frmMain.h"
+#include "screens/frmTeam.h"
+#include "screens/platform/Application.h"
+#include "screens/platform/CodePage.h"
+#include "screens/platform/Palettes.h"
+#include "screens/platform/QtPlatform.h"
+#include "screens/Stage.h"
+
+#include <iostream>
+#include <QCommandLineParser>
+#include <QDir>
+#include <QFileInfo>
+#include <QFont>
+#include <QKeyEvent>
+#include <QLocale>
+#include <stdexcept>
+
+// Spends a typical evening with the program, on its real screens and dialogs but without a display: opens a league, proves
+// a team's password, makes its roster and lines, saves the lines file and takes it back. It leaves a picture of every
+// screen that it visits.
+namespace dravik::tour {
+
+namespace {
+
+struct StepFailed : std::runtime_error {
+    explicit StepFailed(const QString& what) : std::runtime_error(what.toStdString()) {}
+};
+
+struct Plan {
+    QString League;
+    QString Out;
+    int Team = 0;
+    QString Password;
+};
+
+class Evening {
+public:
+    explicit Evening(Plan evening) : plan(std::move(evening)), camera(plan.Out) {}
+
+    void Spend()
+    {
+        Start();
+        OpenLeague();
+        EnterOffice();
+        Photograph("Team", "team-first");
+        LeaveOffice();
+        MakeRosterAndLines();
+        EnterOffice();
+        Photograph("Team", "team");
+        SaveLines();
+        LoadLines();
+        LeaveOffice();
+    }
+
+private:
+    void Start()
+    {
+        Require(stage.Start(), "the program starts");
+        Photograph("Main", "main-empty");
+    }
+
+    void OpenLeague()
+    {
+        answers.Choose(plan.League);
+        Main().mnuOpen->trigger();
+        NoComplaints("the league opens");
+        Require(Main().mnuTeam->menuAction()->isVisible(), "the team menu comes up");
+        Require(ListOf(plan.Team) != nullptr, "the team stands in a list");
+        Choose();
+        Photograph("Main", "main");
+    }
+
+    // Goes to the team's entry as by keyboard.
+    void Choose()
+    {
+        EntryList* list = ListOf(plan.Team);
+        list->setFocus();
+        for (int row = 0; row < list->count(); ++row)
+            if (list->item(row)->data(entry::NumberRole).toInt() == plan.Team)
+                list->setCurrentRow(row, QItemSelectionModel::ClearAndSelect);
+        Require(CurrentTeam == plan.Team, "the team is chosen");
+    }
+
+    void EnterOffice()
+    {
+        Choose();
+        answers.Type("Password Required!", plan.Password);
+        QKeyEvent enter(QEvent::KeyPress, Qt::Key_Return, Qt::NoModifier);
+        QApplication::sendEvent(ListOf(plan.Team), &enter);
+        NoComplaints("the password is proved");
+        Require(stage.Find("Team") != nullptr && stage.Find("Team")->isVisible(), "the team screen opens");
+    }
+
+    void LeaveOffice()
+    {
+        Team().cmdExit->click();
+        QApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+        Require(stage.Find("Team") == nullptr && Main().isVisible(), "the main screen comes back");
+    }
+
+    void MakeRosterAndLines()
+    {
+        AutoRoster(plan.Team, false, false);
+        NoComplaints("the roster is made");
+        Require(CheckRoster(plan.Team, false, true, false), "the roster is complete: " + ToQString(LastRosterText()));
+        for (int day = 1; day <= 10; ++day) {
+            AutoLines(plan.Team, false, day);
+            AutoLinesFarm(plan.Team, false, day);
+        }
+        NoComplaints("the lines are made");
+    }
+
+    void SaveLines()
+    {
+        const QString target = PathToDesktop(LinesFilePath(plan.Team));
+        Require(Team().cmdSaveToFile->isEnabled(), "the lines file can be saved");
+        answers.Type("Password Required!", plan.Password);
+        answers.Confirm("Lines file for " + TeamName() + " successfully save at\n" + target);
+        Team().cmdSaveToFile->click();
+        NoComplaints("the lines file is saved");
+        Require(QFileInfo(target).size() > 0, "the lines file lies on disk");
+        saved = target;
+        std::cout << "saved " << saved.toStdString() << '\n';
+    }
+
+    // Takes the saved lines back after the day's were lost.
+    void LoadLines()
+    {
+        const Lines day1 = Teams[plan.Team].ProLines[1];
+        WipesLines(plan.Team, 1, true);
+        answers.Choose(saved);
+        answers.Confirm("Lines file for " + TeamName() + " successfully load from\n" + saved);
+        Team().cmdLoadFile->click();
+        NoComplaints("the lines file is loaded");
+        Require(Teams[plan.Team].ProLines[1].NormalForward(1, 1) == day1.NormalForward(1, 1) &&
+                    Teams[plan.Team].ProLines[1].StartGoalie == day1.StartGoalie,
+                "the lines are back");
+        Require(Team().cmdSaveToFile->isEnabled(), "the lines are complete again");
+    }
+
+    void Photograph(std::string_view screen, const QString& name)
+    {
+        Require(camera.Photograph(*stage.Find(screen), name), "pictures of " + name + " are written");
+    }
+
+    void NoComplaints(const QString& step)
+    {
+        QApplication::processEvents();
+        const QStringList complaints = answers.TakeComplaints();
+        Require(complaints.isEmpty(), step + ": " + complaints.join("; "));
+    }
+
+    static void Require(bool holds, const QString& what)
+    {
+        if (!holds)
+            throw StepFailed(what);
+    }
+
+    frmMain& Main() { return *static_cast<frmMain*>(stage.Find("Main")); }
+    frmTeam& Team()
+    {
+        Require(stage.Find("Team") != nullptr, "the team screen is there");
+        return *static_cast<frmTeam*>(stage.Find("Team"));
+    }
+    [[nodiscard]] QString TeamName() const { return ToQString(Teams[plan.Team].Name.Trimmed()); }
+
+    // The list of the main screen that shows the team, or none.
+    EntryList* ListOf(int team)
+    {
+        for (EntryList* list : Main().lstDivision)
+            for (int row = 0; row < list->count(); ++row)
+                if (list->item(row)->data(entry::NumberRole).toInt() == team)
+                    return list;
+        return nullptr;
+    }
+
+    Plan plan;
+    Answers answers;
+    Camera camera;
+    Stage stage;
+    QString saved;
+};
+
+Plan Parse(const QCoreApplication& application)
+{
+    QCommandLineParser parser;
+    parser.setApplicationDescription("Drives the client's screens through a typical evening, without a display.");
+    parser.addHelpOption();
+    const QCommandLineOption league("league", "The client file to open.", "file");
+    const QCommandLineOption out("out", "The folder for pictures and saved files.", "folder");
+    const QCommandLineOption team("team", "The team to work on, 1 to 100.", "number", "3");
+    const QCommandLineOption password("password", "Its password.", "text", "puck");
+    parser.addOptions({league, out, team, password});
+    parser.process(application);
+    if (!parser.isSet(league) || !parser.isSet(out) || !TeamTable::Has(parser.value(team).toInt()))
+        parser.showHelp(2);
+    return {QFileInfo(parser.value(league)).absoluteFilePath(), QDir(parser.value(out)).absolutePath(),
+            parser.value(team).toInt(), parser.value(password)};
+}
+
+int Run(const Plan& plan)
+{
+    if (!QDir().mkpath(plan.Out)) {
+        std::cerr << "tour: cannot make " << plan.Out.toStdString() << '\n';
+        return 1;
+    }
+    // Nothing of the user's own is touched: settings, files and lock lie with the pictures. Each tour starts afresh.
+    const QtPlatformPlaces places{plan.Out + "/settings.ini", plan.Out, plan.Out + "/tour.lock"};
+    QFile::remove(places.SettingsFile);
+    QtPlatform platform(places);
+    UseMachine(platform);
+    try {
+        Evening(plan).Spend();
+    } catch (const StepFailed& failed) {
+        std::cerr << "tour: this did not come true: " << failed.what() << '\n';
+        return 1;
+    }
+    return 0;
+}
+
+} // namespace
+
+} // namespace dravik::tour
+
+int main(int argc, char** argv)
+{
+    if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
+        qputenv("QT_QPA_PLATFORM", "offscreen");
+    QLocale::setDefault(QLocale(QLocale::English, QLocale::UnitedStates));
+    QApplication::setDesktopSettingsAware(false);
+    const dravik::Application application(argc, argv);
+    QApplication::setFont(QFont("DejaVu Sans", 9));
+    return dravik::tour::Run(dravik::tour::Parse(application));
+}
