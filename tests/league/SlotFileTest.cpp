@@ -1,7 +1,7 @@
 #include "league/SlotFile.h"
 
 #include "league/ClientVariable.h"
-#include "support/ClientFileBytes.h"
+#include "support/BytePieces.h"
 #include "support/SmallLeague.h"
 
 #include <algorithm>
@@ -18,30 +18,6 @@ using ::testing::IsEmpty;
 struct Small {
     Text<5> Code;
     bool operator==(const Small& other) const { return Code.Raw() == other.Code.Raw(); }
-};
-
-class Pieces final : public ByteSource {
-public:
-    Pieces(ByteVector all, std::size_t length) : bytes(std::move(all)), pieceLength(length) {}
-
-    Bytes Next() override
-    {
-        const std::size_t count = std::min(pieceLength, bytes.size() - at);
-        at += count;
-        return Bytes(bytes).subspan(at - count, count);
-    }
-
-private:
-    ByteVector bytes;
-    std::size_t pieceLength;
-    std::size_t at = 0;
-};
-
-class Collector final : public ByteSink {
-public:
-    void Write(Bytes bytes) override { All.insert(All.end(), bytes.begin(), bytes.end()); }
-
-    ByteVector All;
 };
 
 class SlotFileTest : public SmallLeague {

@@ -1,6 +1,6 @@
 #include "league/ZlibWrapper.h"
 
-#include "support/ClientFileBytes.h"
+#include "support/BytePieces.h"
 
 #include <algorithm>
 #include <gtest/gtest.h>
@@ -9,34 +9,6 @@
 
 namespace dravik {
 namespace {
-
-// Hands out bytes in pieces of a given length.
-class Pieces final : public ByteSource {
-public:
-    Pieces(const ByteVector& all, std::size_t length) : bytes(all), pieceLength(length) {}
-
-    Bytes Next() override
-    {
-        const std::size_t count = std::min(pieceLength, bytes.size() - at);
-        const Bytes piece = Bytes(bytes).subspan(at, count);
-        at += count;
-        return piece;
-    }
-
-    [[nodiscard]] std::size_t HandedOut() const { return at; }
-
-private:
-    ByteVector bytes;
-    std::size_t pieceLength;
-    std::size_t at = 0;
-};
-
-class Collector final : public ByteSink {
-public:
-    void Write(Bytes bytes) override { All.insert(All.end(), bytes.begin(), bytes.end()); }
-
-    ByteVector All;
-};
 
 ByteVector Inflated(const ByteVector& wrapper, std::size_t pieceLength = 1 << 16)
 {
@@ -64,7 +36,7 @@ ByteVector Deflated(const ByteVector& bytes, std::size_t pieceLength)
     return out.All;
 }
 
-enum class Kind { Zeros, Text, Random, Mixed, FarRepeats };
+enum class Kind { Zeros, Text, Random, Mixed, FarRepeats, RepeatAtReach };
 
 // Deterministic on every library: only the engine's own bits are used.
 ByteVector Sample(Kind kind, std::size_t size, unsigned seed)
@@ -86,8 +58,12 @@ ByteVector Sample(Kind kind, std::size_t size, unsigned seed)
             bytes[at] = at / 5000 % 3 == 0 ? text() : at / 5000 % 3 == 1 ? static_cast<unsigned char>(random()) : '\0';
             break;
         case Kind::FarRepeats:
-            // Repeats at the very reach of the compressor's window, where it matters how its input is cut.
             bytes[at] = at < 32506 ? static_cast<unsigned char>(random()) : bytes[at - 32506];
+            break;
+        case Kind::RepeatAtReach:
+            // One repeat at the very reach of the compressor, beginning where its window is about to slide: whether it
+            // is found depends on how much input the compressor was given by then.
+            bytes[at] = at < 65274 ? static_cast<unsigned char>(random()) : bytes[at - 32506];
             break;
         }
     }
@@ -119,16 +95,18 @@ TEST(ZlibWrapperTest, BoundIsRoundedToNearestWithHalvesToEven)
 
 TEST(ZlibWrapperTest, WrittenBytesAreThoseOfOneCallToCompress2)
 {
-    const std::size_t sizes[] = {1,     2,     3,      11,     100,    257,    258,     259,     4095,
-                                 16383, 32505, 32506,  32768,  65273,  65274,  65535,   65536,   65537,
-                                 98303, 98304, 131071, 131072, 131073, 196608, 1000003, 1 << 20, 3000000};
+    const std::size_t sizes[] = {1,     2,     3,      11,     100,    257,    258,     259,    4095,
+                                 16383, 32505, 32506,  32768,  65273,  65274,  65535,   65536,  65537,
+                                 98303, 98304, 131071, 131072, 131073, 196608, 1000003, 2500000};
     unsigned seed = 0;
-    for (const Kind kind : {Kind::Zeros, Kind::Text, Kind::Random, Kind::Mixed, Kind::FarRepeats})
+    for (const Kind kind : {Kind::Zeros, Kind::Text, Kind::Random, Kind::Mixed, Kind::FarRepeats, Kind::RepeatAtReach})
         for (const std::size_t size : sizes) {
             const ByteVector bytes = Sample(kind, size, ++seed);
             const ByteVector expected = Wrapped(bytes);
             EXPECT_TRUE(Deflated(bytes, 1 << 16) == expected) << "kind " << static_cast<int>(kind) << " size " << size;
-            EXPECT_TRUE(Deflated(bytes, 3470) == expected) << "kind " << static_cast<int>(kind) << " size " << size;
+            if (size < 200000) {
+                EXPECT_TRUE(Deflated(bytes, 3470) == expected) << "kind " << static_cast<int>(kind) << " size " << size;
+            }
         }
 }
 
@@ -136,7 +114,8 @@ TEST(ZlibWrapperTest, HowTheBytesCameDoesNotChangeWhatIsWritten)
 {
     std::mt19937 random(7);
     for (unsigned round = 0; round < 60; ++round) {
-        const ByteVector bytes = Sample(round % 2 == 0 ? Kind::Mixed : Kind::FarRepeats, 1 + random() % 300000, round);
+        const ByteVector bytes =
+            Sample(round % 2 == 0 ? Kind::Mixed : Kind::RepeatAtReach, 1 + random() % 300000, round);
         EXPECT_TRUE(Deflated(bytes, 1 + random() % 200000) == Wrapped(bytes)) << "round " << round;
     }
 }
