@@ -8,8 +8,8 @@
 namespace dravik {
 
 // Compresses the file `source` into the file `target` (4 bytes length, then one zlib stream of level 9). True when the
-// target was written. A failure is told with the ending " in Zlib Compress!" and leaves `target` as it
-// was; an empty source is one. Constant memory.
+// target was written. A failure, an empty source among them, is told with the ending " in Zlib Compress!" and leaves
+// `target` as it was. Constant memory.
 bool ZlibCompress(const std::string& source, const std::string& target);
 
 // Decompresses the file `source` into the file `target`. A stream that does not decode is not reported as long as one

@@ -6,6 +6,7 @@
 
 #include <cstring>
 #include <filesystem>
+#include <fstream>
 
 namespace dravik {
 namespace {
@@ -82,6 +83,15 @@ TEST_F(LinesFileTest, ThePlainFileIsTheSlotFile)
     EXPECT_EQ(Record(file, 11005, 39), std::string("\x25\0DRVK Lineups Files Version 1.01 - End", 39));
     EXPECT_TRUE(file == LinesSlots(5));
     EXPECT_THAT(Machine.Boxes(), IsEmpty());
+}
+
+TEST_F(LinesFileTest, ThePlainFileStartsWithTheTwoByteLength39)
+{
+    Plain();
+    EXPECT_TRUE(WriteLinesFile(5, Path));
+    std::ifstream file(Path, std::ios::binary);
+    EXPECT_EQ(file.get(), 39);
+    EXPECT_EQ(file.get(), 0);
 }
 
 TEST_F(LinesFileTest, TheWrappedFileIsThatOfCompress2)
