@@ -23,14 +23,16 @@ template <class Ids, class Ratings>
 void InsertByRating(Ids& ids, Ratings& ratings, long long id, long long rating)
 {
     const long long count = ratings[0];
-    ids[count + 1] = id;
-    ratings[count + 1] = rating;
+    if (!Ids::Has(count + 1))
+        Fail(failure::OutOfRange);
     const auto firstRating = ratings.begin() + 1;
     const auto place =
         std::partition_point(firstRating, firstRating + count, [&](long long other) { return other >= rating; }) -
         firstRating;
-    std::rotate(ids.begin() + place, ids.begin() + count, ids.begin() + count + 1);
-    std::rotate(firstRating + place, firstRating + count, firstRating + count + 1);
+    std::copy_backward(ids.begin() + place, ids.begin() + count, ids.begin() + count + 1);
+    std::copy_backward(firstRating + place, firstRating + count, firstRating + count + 1);
+    ids[place + 1] = id;
+    ratings[place + 1] = rating;
     ++ratings[0];
 }
 
