@@ -1,6 +1,7 @@
 #include "makers/Dealing.h"
 #include "makers/LinesView.h"
 #include "makers/Makers.h"
+#include "rules/Function.h"
 #include "support/SmallLeague.h"
 
 namespace dravik {
@@ -93,6 +94,7 @@ TEST_F(AutoLinesFarmTest, TheSimpleRouteNeverLooksAtTheRosterAndLeavesTheProLine
 {
     Teams[5].ProLines[3].NormalForward(1, 1) = 77;
     const auto pro = Words(Teams[5].ProLines[3]);
+    Day.NormalDefense(4, 2) = 77;
     EXPECT_THAT(Run(), ElementsAre(Success));
     EXPECT_EQ(Words(Teams[5].ProLines[3]), pro);
     EXPECT_EQ(SlotsOf(Day, 0), 67);
@@ -166,6 +168,10 @@ TEST_F(AutoLinesFarmTest, FiveDefensemenLeaveLineThreeD2AndLineFourEmpty)
     Run();
     EXPECT_THAT(Held(Day, D),
                 ElementsAre(ElementsAre(13, 14), ElementsAre(15, 16), ElementsAre(17, 0), ElementsAre(0, 0)));
+    // Where no farm roster is required, the judge forgives the holes; where one is, it does not.
+    EXPECT_TRUE(CheckLineFarm(5, false, 3, false));
+    LeagueData.FarmRosterRequired = true;
+    EXPECT_FALSE(CheckLineFarm(5, false, 3, false));
 }
 
 TEST_F(AutoLinesFarmTest, SixSevenAndEightDefensemenArePairedAsOnTheProTeam)
@@ -313,7 +319,19 @@ TEST_F(AutoLinesFarmTwinTest, AFullFarmFillsTheWholeDay)
     EXPECT_EQ(Day.Strategy[2], 2);
     EXPECT_EQ(Day.PullGoalerMinGoal, 3);
     EXPECT_TRUE(Modified);
-    EXPECT_EQ(SlotsOf(Teams[5].ProLines[3], 0), 67);
+}
+
+TEST_F(AutoLinesFarmTwinTest, TheTwinWipesTheFarmsDayAndLeavesTheProLinesAlone)
+{
+    AskForNoFarmPeople();
+    Farm(1, position::Center, 60);
+    Five.FarmsGoalies(2);
+    Teams[5].ProLines[3].NormalForward(1, 1) = 1;
+    const auto pro = Words(Teams[5].ProLines[3]);
+    Day.NormalDefense(4, 2) = 77;
+    EXPECT_THAT(Run(), ElementsAre(Success));
+    EXPECT_EQ(Words(Teams[5].ProLines[3]), pro);
+    EXPECT_EQ(Day.NormalDefense(4, 2), 0);
 }
 
 TEST_F(AutoLinesFarmTwinTest, AnIncompleteRosterIsToldAndTheDayStaysUntouched)

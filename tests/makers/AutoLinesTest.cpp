@@ -297,7 +297,9 @@ TEST_F(AutoLinesTest, ThePenaltyKillWithThreeUsesTheTwoBestForwardsAndLeavesTheR
 TEST_F(AutoLinesTest, AShortListLeavesTheLaterSlotsEmpty)
 {
     Dress(3, 15);
+    Day.PenaltyShot[5] = 3;
     Run();
+    EXPECT_EQ(Day.PenaltyShot[5], 0);
     EXPECT_THAT(Held(Day, LineField::PKForward), ElementsAre(ElementsAre(1, 2), ElementsAre(3, 0)));
     EXPECT_EQ(Day.ExtraForward[3], 3);
     EXPECT_EQ(Day.ExtraForward[4], 0);
