@@ -18,11 +18,11 @@ int PlayOnLineIntegerFarm(int team, int player, int day);
 // shows "Integrity Check Failed!" and gives 0. A sum that does not fit 16 bits gives 0 without a box.
 int CalculateOverall(int position, int id);
 
-// Payrolls, in the 32-bit float in which they are added up; callers round them.
+// Payrolls, in the 32-bit float in which they are added up; callers round them. 0 after a failure.
 float ProPayroll(int team);
 float FarmPayroll(int team);
 float CoachPayroll(int team);
-// What one game of the season costs.
+// What one game of the season costs. A cost beyond 32 bits fails with 6, which is told and gives 0.
 int ExpensePerGame(int team);
 
 // Judges the roster of a team and repairs what may not stand where it stands, silent calls included; `RosterFixed` tells
