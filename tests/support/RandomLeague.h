@@ -39,10 +39,9 @@ struct RandomSize {
     int Coaches = 6;
 };
 
-// Fills the league's rules, the first teams, people and coaches, and the lines of those teams with numbers of every
-// sort that a rule tells apart: people hurt, suspended, without contract, without position, paid too much, too good for the
-// farm, standing in lines of their own team and of others. Records
-// behind those stay as they are.
+// Fills the league's rules, the first teams, people and coaches, and the lines of those teams with numbers of every sort
+// that a rule tells apart: people hurt, suspended, without contract, without position, paid too much, too good for the
+// farm, standing in lines of their own team and of others. Records behind those stay as they are.
 void RollLeague(Dice& dice, const RandomSize& size = {});
 
 } // namespace dravik
