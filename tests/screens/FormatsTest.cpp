@@ -7,6 +7,7 @@
 
 #include <cmath>
 #include <limits>
+#include <string>
 
 namespace dravik {
 namespace {
@@ -131,11 +132,9 @@ TEST(Formats, TheLastHalfSecondOfADayIsTheNextDay)
 
 TEST(Formats, EveryMinuteOfADayReadsAsItself)
 {
-    for (int minute = 0; minute < 1440; ++minute) {
-        char expected[8];
-        (void)std::snprintf(expected, sizeof expected, "%02d:%02d", minute / 60, minute % 60);
-        ASSERT_EQ(ShortTimeText(American, 45123 + minute / 1440.0), expected);
-    }
+    const auto two = [](int number) { return (number < 10 ? "0" : "") + std::to_string(number); };
+    for (int minute = 0; minute < 1440; ++minute)
+        ASSERT_EQ(ShortTimeText(American, 45123 + minute / 1440.0), two(minute / 60) + ":" + two(minute % 60));
 }
 
 TEST(Formats, ADayOutOfTheCalendarIsEmpty)

@@ -250,7 +250,8 @@ QStringList NameFilters(const QString& filter)
     QStringList filters;
     for (qsizetype at = 0; at + 1 < parts.size(); at += 2) {
         QString pattern;
-        for (const QChar character : parts[at + 1].trimmed().replace("*.*", "*").replace(';', ' ')) {
+        const QString given = parts[at + 1].trimmed().replace("*.*", "*").replace(';', ' ');
+        for (const QChar character : given) {
             const QChar upper = character.toUpper();
             const QChar lower = character.toLower();
             // Desktops whose own dialog tells cases apart get both.
