@@ -353,8 +353,6 @@ constexpr LineRules ProRules{.Side = Side::Pro,
 const std::string& LastLinesText() { return LinesText; }
 void ForgetLinesText() { LinesText.clear(); }
 
-bool HasLineDay(int team, int day) { return TeamTable::Has(team) && decltype(Team::ProLines)::Has(day); }
-
 bool JudgeLines(int team, int day, const LineRules& rules, bool showMessage, bool log)
 {
     ForgetLinesText();

@@ -31,7 +31,4 @@ bool JudgeLines(int team, int day, const LineRules& rules, bool showMessage, boo
 // Leaves `LastLinesText` empty: there is nothing to judge, or no such day.
 void ForgetLinesText();
 
-// Whether there is such a team and such a day of lines.
-bool HasLineDay(int team, int day);
-
 } // namespace dravik

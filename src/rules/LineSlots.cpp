@@ -1,6 +1,7 @@
 #include "rules/LineSlots.h"
 
 #include <cstddef>
+#include <new>
 
 namespace dravik {
 
@@ -69,9 +70,8 @@ constexpr std::array<LineSlot, 67> MakeSkaterSlots()
 constexpr std::array<LineSlot, 67> AllSlots = MakeSkaterSlots();
 static_assert(AllSlots.back().Field == LineField::PenaltyShot && AllSlots.back().Number == 5);
 
-// A line-up is nothing but 76 words, so a word's place is its address.
-const Int16* Words(const Lines& lines) { return reinterpret_cast<const Int16*>(&lines); }
-Int16* Words(Lines& lines) { return reinterpret_cast<Int16*>(&lines); }
+// A line-up is nothing but words, but they belong to different arrays: a slot is found among the bytes of the record.
+std::size_t ByteOf(const LineSlot& slot) { return static_cast<std::size_t>(slot.Word) * sizeof(Int16); }
 
 } // namespace
 
@@ -79,8 +79,18 @@ const std::array<LineSlot, 67> SkaterSlots = AllSlots;
 
 LineSlot SlotOf(LineField field, int number, int place) { return MakeSlot(field, number, place); }
 
-Int16& At(Lines& lines, const LineSlot& slot) { return Words(lines)[slot.Word]; }
-const Int16& At(const Lines& lines, const LineSlot& slot) { return Words(lines)[slot.Word]; }
+Int16& At(Lines& lines, const LineSlot& slot)
+{
+    auto* record = reinterpret_cast<unsigned char*>(&lines);
+    return *std::launder(reinterpret_cast<Int16*>(record + ByteOf(slot)));
+}
+const Int16& At(const Lines& lines, const LineSlot& slot)
+{
+    const auto* record = reinterpret_cast<const unsigned char*>(&lines);
+    return *std::launder(reinterpret_cast<const Int16*>(record + ByteOf(slot)));
+}
+
+bool HasLineDay(int team, int day) { return TeamTable::Has(team) && decltype(Team::ProLines)::Has(day); }
 
 Lines& LinesOf(int team, int day, Side side)
 {

@@ -60,6 +60,10 @@ extern const std::array<LineSlot, 67> SkaterSlots;
 Int16& At(Lines& lines, const LineSlot& slot);
 const Int16& At(const Lines& lines, const LineSlot& slot);
 
+// The number of days that have lines, and whether there is such a team and such a day.
+inline constexpr int LineDays = static_cast<int>(decltype(Team::ProLines)::last);
+bool HasLineDay(int team, int day);
+
 // The line-up of a team's day, pro or farm. `team` 1..100, `day` 1..10; anything else fails with 9.
 enum class Side { Pro, Farm };
 Lines& LinesOf(int team, int day, Side side);

@@ -8,8 +8,6 @@ namespace dravik {
 
 namespace {
 
-constexpr int Days = 10;
-
 void EmptyIfHolding(Int16& slot, long long index)
 {
     if (slot == index)
@@ -32,7 +30,7 @@ void TakeOut(Lines& lines, int id)
 void WipesLines(int team, int day, bool pro)
 {
     Reporting(" in WipesLines!", [&] {
-        if (!TeamTable::Has(team) || day < 1 || day > Days) {
+        if (!HasLineDay(team, day)) {
             ShowIntegrityFailure();
             return;
         }
@@ -53,7 +51,7 @@ void WipePlayerFromTeamLines(int team, int id)
             ShowIntegrityFailure();
             return;
         }
-        for (int day = 1; day <= Days; ++day) {
+        for (int day = 1; day <= LineDays; ++day) {
             TakeOut(LinesOf(team, day, Side::Pro), id);
             TakeOut(LinesOf(team, day, Side::Farm), id);
         }

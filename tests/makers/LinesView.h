@@ -2,6 +2,8 @@
 
 #include "rules/LineSlots.h"
 
+#include <array>
+#include <bit>
 #include <vector>
 
 namespace dravik {
@@ -23,11 +25,8 @@ inline std::vector<std::vector<long long>> Held(const Lines& lines, LineField fi
 // The 76 words of a day, to tell whether anything has changed.
 inline std::vector<long long> Words(const Lines& lines)
 {
-    std::vector<long long> words;
-    const auto* first = reinterpret_cast<const Int16*>(&lines);
-    for (std::size_t i = 0; i < sizeof(Lines) / sizeof(Int16); ++i)
-        words.push_back(first[i]);
-    return words;
+    const auto words = std::bit_cast<std::array<Int16, sizeof(Lines) / sizeof(Int16)>>(lines);
+    return {words.begin(), words.end()};
 }
 
 // In how many skater slots of a day somebody stands.
