@@ -12,6 +12,8 @@ int ShowBox(std::string_view text, int kind)
     return pressed;
 }
 
+bool MayReport(bool requested) { return requested && MessagesAllowed; }
+
 void ShowIntegrityFailure() { ShowBox("Integrity Check Failed!", box::Critical); }
 
 std::string AskText(std::string_view prompt)

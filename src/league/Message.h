@@ -15,6 +15,10 @@ inline constexpr std::string_view LineBreak = "\r\n";
 // `MsgResult`.
 int ShowBox(std::string_view text, int kind);
 
+// Whether a report that its caller asked for is shown: not before the program allows messages. A box that nobody has to
+// ask for is shown without this question.
+bool MayReport(bool requested);
+
 // The critical box of a number out of range.
 void ShowIntegrityFailure();
 

@@ -119,7 +119,7 @@ bool Suffices(const RosterRun& run, long long available, long long required, std
     const int teamsToFill = LeagueData.FarmRosterRequired.Word() != 0 ? 2 : 1;
     if (available >= Limit16(required * teamsToFill))
         return true;
-    if (run.Verbose)
+    if (MayReport(run.Verbose))
         ShowBox("Not Enough " + std::string(what) + " available!", box::Warning);
     return false;
 }
@@ -289,7 +289,7 @@ void Close(const RosterRun& run)
                 box::Information);
     const std::string routine = run.Partial ? "Auto Roster Partial Function" : "Auto Roster Function";
     LeagueNews(routine + " has been run for " + TeamName(run) + ".");
-    if (run.Verbose)
+    if (MayReport(run.Verbose))
         ShowBox(routine + " has been run successfully.", box::Information);
 }
 

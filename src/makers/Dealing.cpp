@@ -186,7 +186,7 @@ void CloseRun(std::string_view routine, int team, bool verbose)
 {
     const std::string name(routine);
     LeagueNews(name + " has been run for " + Teams[team].Name.Trimmed() + ".");
-    if (verbose)
+    if (MayReport(verbose))
         ShowBox(name + " has been run successfully.", box::Information);
     Modified = true;
 }

@@ -1,7 +1,8 @@
 #pragma once
 
 // The automatic makers. They change records in place and leave what they changed when they stop early. Teams are 1..100,
-// days 1..10; a team out of range shows "Integrity Check Failed!" in a critical box and ends the run.
+// days 1..10; a team out of range shows "Integrity Check Failed!" in a critical box and ends the run. What `verbose` shows
+// is shown only while `MessagesAllowed` is set.
 namespace dravik {
 
 // Decides who is dressed, scratched and on the farm. Complete mode rebuilds the roster from the ratings; `partial`

@@ -4,7 +4,8 @@
 
 // The judges and money rules of the program. Teams are 1..100, days 1..10; a team out of range shows "Integrity Check
 // Failed!" in a critical box and gives False or 0, unless a routine says otherwise. Unexpected failures are told in the
-// common failure message; the routine then returns what it has so far.
+// common failure message; the routine then returns what it has so far. A text that a caller asks for is shown only while
+// `MessagesAllowed` is set.
 namespace dravik {
 
 // The tags of the skater slots of a day that hold `player`, "L-1C, PP-1C, PS-2, ", in the order of `SkaterSlots`; the

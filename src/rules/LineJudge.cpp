@@ -361,7 +361,7 @@ bool JudgeLines(int team, int day, const LineRules& rules, bool showMessage, boo
     LinesText += perfect ? "Lines are perfect!" : rules.Closing;
     if (log)
         WriteLog(LogHead(team, rules.Side) + LinesText);
-    if (showMessage)
+    if (MayReport(showMessage))
         ShowBox(LinesText, box::Information);
     return perfect;
 }

@@ -198,7 +198,7 @@ void TellRosterText(const std::string& teamName, bool log, bool showMessage)
     if (log)
         WriteLog(teamName + " roster errors : " + RosterText);
     RosterText = teamName + " Roster Error : " + std::string(LineBreak) + RosterText;
-    if (showMessage)
+    if (MayReport(showMessage))
         ShowBox(RosterText, box::Warning);
 }
 

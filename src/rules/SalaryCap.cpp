@@ -30,7 +30,7 @@ std::optional<long long> CapOf(const Team& team)
 void Tell(const std::string& name, std::string_view words, long long amount, bool showMessage)
 {
     const std::string text = name + std::string(words) + Machine().Currency(static_cast<double>(Limit32(amount))) + "!";
-    if (showMessage)
+    if (MayReport(showMessage))
         ShowBox(text, box::Warning);
     else
         WriteLog(text);
