@@ -6,35 +6,76 @@
 
 namespace dravik {
 
-SeasonProjection ProjectSeason(int team)
+namespace {
+
+// What stands where the season tells no expenses, averages and revenue.
+void TellNoMoney(SeasonFigures& season)
 {
-    const Team& record = Teams[team];
-    SeasonProjection season;
-    season.Cash = static_cast<int>(record.Cash);
+    season.ExpensePerGame = 0;
+    season.SeasonExpense = 0;
+    season.AverageAttendance = 0;
+    season.AverageIncome = 0;
     season.BankAccount = season.Cash;
+    season.Revenue = 0;
+}
+
+} // namespace
+
+void ProjectSeason(int team, SeasonFigures& season)
+{
+    season = {};
+    const Team& record = Teams[team];
+    const auto cash = static_cast<int>(record.Cash);
+    season.Cash = cash;
     season.ProPayroll = RoundToInt32(ProPayroll(team));
     season.FarmPayroll = RoundToInt32(FarmPayroll(team));
-    if (record.SeasonGames < 2)
-        return season;
+    if (record.SeasonGames < 2) {
+        season.HomeGamesLeft = 0;
+        season.GamesLeft = 0;
+        TellNoMoney(season);
+        return;
+    }
 
     const int expense = ExpensePerGame(team);
     const long long gamesLeft = record.SeasonGames - record.GamesPlayed;
     const long long seasonExpense = Limit32(gamesLeft * expense);
-    season.HomeGamesLeft = static_cast<double>(record.SeasonGames) / 2 - static_cast<double>(record.HomeGames);
+    const double homeLeft = static_cast<double>(record.SeasonGames) / 2 - static_cast<double>(record.HomeGames);
+    season.HomeGamesLeft = homeLeft;
     season.GamesLeft = static_cast<int>(gamesLeft);
     season.Form = SeasonForm::NoAverages;
-    if (record.HomeGames <= 0 || LeagueData.HideFinanceAverages)
-        return season;
+    if (record.HomeGames <= 0 || LeagueData.HideFinanceAverages) {
+        TellNoMoney(season);
+        return;
+    }
 
     const auto homeGames = static_cast<double>(record.HomeGames);
     season.Form = SeasonForm::Full;
     season.ExpensePerGame = expense;
     season.SeasonExpense = static_cast<int>(seasonExpense);
+    const double averageIncome = static_cast<double>(record.TotalIncome) / homeGames;
+    const int revenue = RoundToInt32(homeLeft * averageIncome);
     season.AverageAttendance = static_cast<double>(record.TotalAttendance) / homeGames;
-    season.AverageIncome = static_cast<double>(record.TotalIncome) / homeGames;
-    season.Revenue = RoundToInt32(season.HomeGamesLeft * season.AverageIncome);
-    season.BankAccount = static_cast<int>(Limit32(Limit32(record.Cash + season.Revenue) - seasonExpense));
-    return season;
+    season.AverageIncome = averageIncome;
+    season.BankAccount = static_cast<int>(Limit32(Limit32(cash + static_cast<long long>(revenue)) - seasonExpense));
+    season.Revenue = revenue;
+}
+
+SeasonProjection ProjectSeason(int team)
+{
+    SeasonFigures season;
+    ProjectSeason(team, season);
+    return {.Form = season.Form,
+            .Cash = season.Cash.value(),
+            .ProPayroll = season.ProPayroll.value(),
+            .FarmPayroll = season.FarmPayroll.value(),
+            .HomeGamesLeft = season.HomeGamesLeft.value(),
+            .GamesLeft = season.GamesLeft.value(),
+            .ExpensePerGame = season.ExpensePerGame.value(),
+            .SeasonExpense = season.SeasonExpense.value(),
+            .AverageAttendance = season.AverageAttendance.value(),
+            .AverageIncome = season.AverageIncome.value(),
+            .Revenue = season.Revenue.value(),
+            .BankAccount = season.BankAccount.value()};
 }
 
 } // namespace dravik

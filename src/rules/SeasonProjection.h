@@ -1,5 +1,7 @@
 #pragma once
 
+#include <optional>
+
 namespace dravik {
 
 // How much of a season can be told.
@@ -9,24 +11,45 @@ enum class SeasonForm {
     Full
 };
 
-// The money of a team's season. Figures that the form does not tell are 0.
+// The money of a team's season, figure by figure. One that was not reached is empty; one that the form does not tell
+// is 0.
+struct SeasonFigures {
+    SeasonForm Form = SeasonForm::NoSeason; // as far as it is known
+    std::optional<int> Cash;
+    std::optional<int> ProPayroll;
+    std::optional<int> FarmPayroll;
+    std::optional<double> HomeGamesLeft; // an odd season leaves a half
+    std::optional<int> GamesLeft;        // home and away
+    std::optional<int> ExpensePerGame;
+    std::optional<int> SeasonExpense;
+    std::optional<double> AverageAttendance; // in form Full shown with two digits behind the point, otherwise as 0
+    std::optional<double> AverageIncome;
+    std::optional<int> BankAccount;
+    std::optional<int> Revenue;
+};
+
+// Works out the season of `team` (1..100; anything else fails with 9) into `season`, from empty, in the order in which
+// the figures are told. Counts home games only for income, and all games left for expenses. Fails with 6 when a figure
+// does not fit 32 bits; `season` then holds what was reached. Shows nothing of its own.
+void ProjectSeason(int team, SeasonFigures& season);
+
+// The same figures of a season that was reached to its end.
 struct SeasonProjection {
     SeasonForm Form = SeasonForm::NoSeason;
     int Cash = 0;
     int ProPayroll = 0;
     int FarmPayroll = 0;
-    double HomeGamesLeft = 0; // an odd season leaves a half
-    int GamesLeft = 0;        // home and away
+    double HomeGamesLeft = 0;
+    int GamesLeft = 0;
     int ExpensePerGame = 0;
     int SeasonExpense = 0;
-    double AverageAttendance = 0; // in form Full shown with two digits behind the point, otherwise as 0
+    double AverageAttendance = 0;
     double AverageIncome = 0;
     int Revenue = 0;
     int BankAccount = 0;
 };
 
-// Works out the season of `team` (1..100; anything else fails with 9). Counts home games only for income, and all games
-// left for expenses. Fails with 6 when a figure does not fit 32 bits; shows nothing of its own.
+// The whole season of `team`, or the failure that ended it.
 SeasonProjection ProjectSeason(int team);
 
 } // namespace dravik

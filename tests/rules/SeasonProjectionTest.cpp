@@ -5,7 +5,9 @@
 #include "support/RandomLeague.h"
 #include "support/SmallLeague.h"
 
+#include <algorithm>
 #include <cmath>
+#include <iterator>
 
 namespace dravik {
 namespace {
@@ -36,8 +38,39 @@ protected:
         return 0;
     }
 
+    // Works out the season of team 5, which has to end in an overflow, and gives what was reached.
+    static SeasonFigures ReachedBeforeTheOverflow()
+    {
+        SeasonFigures season = SeasonOfAnotherDay();
+        int thrown = 0;
+        try {
+            ProjectSeason(5, season);
+        } catch (const Failure& failed) {
+            thrown = failed.Number;
+        }
+        EXPECT_EQ(thrown, failure::Overflow);
+        return season;
+    }
+
+    // A record that is full already.
+    static SeasonFigures SeasonOfAnotherDay() { return {SeasonForm::Full, 1, 2, 3, 4, 5, 6, 7, 8, 9, 10, 11}; }
+
     Team& team = Teams[5];
 };
+
+// The number of figures in a row, in the order of telling, that were reached; -1 when one behind an empty one was.
+int CountReached(const SeasonFigures& season)
+{
+    const bool reached[] = {season.Cash.has_value(),          season.ProPayroll.has_value(),
+                            season.FarmPayroll.has_value(),   season.HomeGamesLeft.has_value(),
+                            season.GamesLeft.has_value(),     season.ExpensePerGame.has_value(),
+                            season.SeasonExpense.has_value(), season.AverageAttendance.has_value(),
+                            season.AverageIncome.has_value(), season.BankAccount.has_value(),
+                            season.Revenue.has_value()};
+    const auto end = std::find(std::begin(reached), std::end(reached), false);
+    return std::find(end, std::end(reached), true) == std::end(reached) ? static_cast<int>(end - std::begin(reached))
+                                                                        : -1;
+}
 
 TEST_F(SeasonProjectionTest, FullSeasonIsProjected)
 {
@@ -200,6 +233,117 @@ TEST_F(SeasonProjectionTest, TeamOutOfRangeFailsWithNumber9)
         EXPECT_EQ(thrown, failure::OutOfRange);
     }
     EXPECT_THAT(Machine.Boxes(), ElementsAre());
+}
+
+// ---- Where a season stops ------------------------------------------------------------------------------------------
+
+TEST_F(SeasonProjectionTest, ATeamOutOfRangeReachesNothing)
+{
+    SeasonFigures season = SeasonOfAnotherDay();
+    EXPECT_THROW(ProjectSeason(101, season), Failure);
+    EXPECT_EQ(CountReached(season), 0);
+    EXPECT_EQ(season.Form, SeasonForm::NoSeason);
+}
+
+TEST_F(SeasonProjectionTest, AnOverflowOfTheProPayrollLeavesTheCash)
+{
+    Players[1].Salary = 2000000000;
+    PutSkater(3, 5, position::Center, status::Pro).Salary = 2000000000;
+    const SeasonFigures season = ReachedBeforeTheOverflow();
+    EXPECT_EQ(CountReached(season), 1);
+    EXPECT_EQ(season.Cash, 5000000);
+}
+
+TEST_F(SeasonProjectionTest, AnOverflowOfTheFarmPayrollLeavesTheProPayroll)
+{
+    Players[2].Salary = 2000000000;
+    LeagueData.FarmSalaryPct = 200;
+    const SeasonFigures season = ReachedBeforeTheOverflow();
+    EXPECT_EQ(CountReached(season), 2);
+    EXPECT_EQ(season.ProPayroll, 8200000);
+}
+
+TEST_F(SeasonProjectionTest, AnOverflowOfTheSeasonExpenseLeavesThePayrolls)
+{
+    Players[1].Salary = 2000000000;
+    team.SeasonGames = 2;
+    team.GamesPlayed = -1;
+    const SeasonFigures season = ReachedBeforeTheOverflow();
+    EXPECT_EQ(CountReached(season), 3);
+    EXPECT_EQ(season.FarmPayroll, 164000);
+    EXPECT_EQ(season.Form, SeasonForm::NoSeason);
+}
+
+TEST_F(SeasonProjectionTest, AnOverflowOfTheRevenueLeavesTheExpenses)
+{
+    team.HomeGames = 1;
+    team.TotalIncome = 2000000000;
+    const SeasonFigures season = ReachedBeforeTheOverflow();
+    EXPECT_EQ(CountReached(season), 7);
+    EXPECT_EQ(season.HomeGamesLeft, 40);
+    EXPECT_EQ(season.GamesLeft, 22);
+    EXPECT_EQ(season.ExpensePerGame, 102000);
+    EXPECT_EQ(season.SeasonExpense, 2244000);
+    EXPECT_EQ(season.Form, SeasonForm::Full);
+}
+
+TEST_F(SeasonProjectionTest, AnOverflowOfTheAccountLeavesTheAveragesAndNotTheRevenue)
+{
+    team.Cash = 2147483647;
+    const SeasonFigures season = ReachedBeforeTheOverflow();
+    EXPECT_EQ(CountReached(season), 9);
+    EXPECT_EQ(season.AverageAttendance, 15000.5);
+    EXPECT_EQ(season.AverageIncome, 300000);
+}
+
+TEST_F(SeasonProjectionTest, AnExpenseThatBringsTheAccountBelow32BitsIsTheSameStop)
+{
+    team.Cash = -2147483647;
+    team.TotalIncome = 0;
+    EXPECT_EQ(CountReached(ReachedBeforeTheOverflow()), 9);
+}
+
+TEST_F(SeasonProjectionTest, AnExpensePerGameThatFailsIsToldAndTheSeasonGoesOnWith0)
+{
+    // Without contract they cost in a game and not in the payroll: three halves of the largest salary.
+    for (const int index : {3, 4, 6})
+        PutSkater(index, 5, position::Center, status::Scratch).Salary = 2147483647;
+    for (const int index : {3, 4, 6})
+        Players[index].Contract = 0;
+    team.SeasonGames = 2;
+    SeasonFigures season;
+    ProjectSeason(5, season);
+    EXPECT_THAT(Machine.Boxes(), ElementsAre(Box{box::Critical, "6 - Overflow in ExpensePerGame!"}));
+    EXPECT_EQ(CountReached(season), 11);
+    EXPECT_EQ(season.ExpensePerGame, 0);
+    EXPECT_EQ(season.BankAccount, 5000000 + season.Revenue.value());
+}
+
+TEST_F(SeasonProjectionTest, EveryFormReachesItsEnd)
+{
+    SeasonFigures season;
+    ProjectSeason(5, season);
+    EXPECT_EQ(CountReached(season), 11);
+    EXPECT_EQ(season.Form, SeasonForm::Full);
+
+    LeagueData.HideFinanceAverages = true;
+    ProjectSeason(5, season);
+    EXPECT_EQ(CountReached(season), 11);
+    EXPECT_EQ(season.Form, SeasonForm::NoAverages);
+    EXPECT_EQ(season.BankAccount, 5000000);
+
+    team.SeasonGames = 1;
+    ProjectSeason(5, season);
+    EXPECT_EQ(CountReached(season), 11);
+    EXPECT_EQ(season.Form, SeasonForm::NoSeason);
+    EXPECT_EQ(season.HomeGamesLeft, 0);
+    EXPECT_EQ(season.BankAccount, 5000000);
+}
+
+TEST_F(SeasonProjectionTest, AveragesAreHiddenByMinusOneAlone)
+{
+    LeagueData.HideFinanceAverages.SetWord(1);
+    EXPECT_EQ(ProjectSeason(5).Form, SeasonForm::Full);
 }
 
 TEST_F(SeasonProjectionTest, RandomSeasonsAddUpAndChangeNothing)
