@@ -261,6 +261,25 @@ Men MenWho(int team, Fit&& fit)
     return men;
 }
 
+// The best of the farm's goalies who can play, and the best of the others; of equal ones the lower index.
+Keepers TwoBestOfTheFarm(int team, bool underContract)
+{
+    const auto plays = [&](int id) {
+        const Goalie& goalie = Goalies[id];
+        return goalie.InUse.Word() == -1 && goalie.Team == team && goalie.Status == 0 && goalie.Condition > 94 &&
+               goalie.Suspension == 0 && (goalie.Contract != 0 || !underContract);
+    };
+    const auto bestBut = [&](int other) {
+        int best = 0;
+        for (int id = 1; id <= 1000; ++id)
+            if (id != other && plays(id) && (best == 0 || CalculateOverall(5, id) > CalculateOverall(5, best)))
+                best = id;
+        return best;
+    };
+    const int first = bestBut(0);
+    return {first, bestBut(first)};
+}
+
 // The ids of the forwards (or defensemen) of a list, and zeroes behind them.
 std::vector<int> Kind(const Men& men, bool defense)
 {
@@ -371,6 +390,22 @@ Men FarmMenByRequirement(int team)
             chosen.push_back(man);
     SortMen(chosen);
     return chosen;
+}
+
+Keepers FarmKeepersSimply(int team)
+{
+    Keepers keepers = TwoBestOfTheFarm(team, false);
+    if (keepers.Backup > 98 && keepers.Start < 98)
+        std::swap(keepers.Start, keepers.Backup);
+    return keepers;
+}
+
+Keepers FarmKeepersUnderContract(int team)
+{
+    Keepers keepers = TwoBestOfTheFarm(team, true);
+    if (Goalies[keepers.Backup].Condition > 98 && Goalies[keepers.Start].Condition < 98)
+        std::swap(keepers.Start, keepers.Backup);
+    return keepers;
 }
 
 Lines Day::AsLines() const

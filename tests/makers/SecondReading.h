@@ -36,6 +36,14 @@ Men DressedMen(int team);
 Men FarmMenSimply(int team);
 Men FarmMenByRequirement(int team);
 
+// The goalies of the farm's day, 0 where one is missing.
+struct Keepers {
+    int Start;
+    int Backup;
+};
+Keepers FarmKeepersSimply(int team);
+Keepers FarmKeepersUnderContract(int team);
+
 // A day of lines. Slots count from 0.
 struct Day {
     int Forward[4][3] = {};
