@@ -168,8 +168,17 @@ TEST_F(AutoLinesFarmTest, FiveDefensemenLeaveLineThreeD2AndLineFourEmpty)
     Run();
     EXPECT_THAT(Held(Day, D),
                 ElementsAre(ElementsAre(13, 14), ElementsAre(15, 16), ElementsAre(17, 0), ElementsAre(0, 0)));
-    // Where no farm roster is required, the judge forgives the holes; where one is, it does not.
+}
+
+TEST_F(AutoLinesFarmTest, TheLenientJudgePassesThoseEmptySlotsAndTheStrictOneDoesNot)
+{
+    Farm(12, position::Center, 60);
+    Farm(5, position::Defense, 60);
+    Five.FarmsGoalies(2);
+    Run();
+    EXPECT_EQ(Day.NormalDefense(4, 1), 0);
     EXPECT_TRUE(CheckLineFarm(5, false, 3, false));
+    EXPECT_EQ(LastLinesText(), "Lines are perfect!");
     LeagueData.FarmRosterRequired = true;
     EXPECT_FALSE(CheckLineFarm(5, false, 3, false));
 }
@@ -216,6 +225,47 @@ TEST_F(AutoLinesFarmTest, RecordZeroIsWalkedToo)
     Run();
     // He takes the first place of the list, and his index reads as an empty slot; six are counted and repeated.
     EXPECT_THAT(Held(Day, D), ElementsAre(ElementsAre(0, 1), ElementsAre(2, 3), ElementsAre(4, 5), ElementsAre(0, 1)));
+}
+
+TEST_F(AutoLinesFarmTest, RecordZeroOfTheGoaliesIsNotWalked)
+{
+    PutGoalie(0, 5, status::Farm, 99);
+    Five.FarmsGoalies(2);
+    Run();
+    EXPECT_EQ(Day.StartGoalie, 1);
+    EXPECT_EQ(Day.BackupGoalie, 2);
+}
+
+TEST_F(AutoLinesFarmTest, RecordsNotInUseAreNotListed)
+{
+    PutSkater(1, 5, position::Center, status::Farm, 60).InUse = false;
+    PutSkater(2, 5, position::Center, status::Farm, 60).InUse.SetWord(1);
+    PutSkater(3, 5, position::Center, status::Farm, 50);
+    PutGoalie(1, 5, status::Farm, 60).InUse = false;
+    PutGoalie(2, 5, status::Farm, 60).InUse.SetWord(1);
+    PutGoalie(3, 5, status::Farm, 50);
+    Run();
+    EXPECT_EQ(Day.NormalForward(1, 1), 3);
+    EXPECT_EQ(SlotsOf(Day, 1) + SlotsOf(Day, 2), 0);
+    EXPECT_EQ(Day.StartGoalie, 3);
+    EXPECT_EQ(Day.BackupGoalie, 0);
+}
+
+TEST_F(AutoLinesFarmTest, AnInjuryTextAt95LeavesSomebodyListedAndNoneAt94Does)
+{
+    Player& skater = PutSkater(1, 5, position::Center, status::Farm, 50);
+    Goalie& goalie = PutGoalie(1, 5, status::Farm, 50);
+    skater.Condition = 95;
+    skater.Injury = "Broken Leg";
+    goalie.Condition = 95;
+    goalie.Injury = "Broken Leg";
+    PutSkater(2, 5, position::Center, status::Farm, 60).Condition = 94;
+    PutGoalie(2, 5, status::Farm, 60).Condition = 94;
+    Run();
+    EXPECT_EQ(Day.NormalForward(1, 1), 1);
+    EXPECT_EQ(SlotsOf(Day, 2), 0);
+    EXPECT_EQ(Day.StartGoalie, 1);
+    EXPECT_EQ(Day.BackupGoalie, 0);
 }
 
 TEST_F(AutoLinesFarmTest, ASkaterWithoutAPositionEndsTheRunAfterTheWipe)
@@ -411,6 +461,58 @@ TEST_F(AutoLinesFarmTwinTest, OnlyFitPeopleUnderContractPlay)
     EXPECT_THAT(Held(Day, F)[0], ElementsAre(25, 25, 0)); // the second round puts him next to himself
     EXPECT_EQ(Day.StartGoalie, 7);
     EXPECT_EQ(Day.BackupGoalie, 8);
+}
+
+TEST_F(AutoLinesFarmTwinTest, RecordsNotInUseAreNotListed)
+{
+    AskForNoFarmPeople();
+    PutSkater(20, 5, position::Center, status::Farm, 60).InUse = false;
+    PutSkater(21, 5, position::Center, status::Farm, 60).InUse.SetWord(1);
+    PutSkater(22, 5, position::Center, status::Farm, 40);
+    PutGoalie(3, 5, status::Farm, 60).InUse = false;
+    PutGoalie(4, 5, status::Farm, 60).InUse.SetWord(1);
+    PutGoalie(6, 5, status::Farm, 40);
+    PutGoalie(7, 5, status::Farm, 30);
+    EXPECT_THAT(Run(), ElementsAre(Success));
+    EXPECT_EQ(Day.NormalForward(1, 1), 22);
+    EXPECT_EQ(SlotsOf(Day, 20) + SlotsOf(Day, 21), 0);
+    EXPECT_EQ(Day.StartGoalie, 6);
+    EXPECT_EQ(Day.BackupGoalie, 7);
+}
+
+TEST_F(AutoLinesFarmTwinTest, RecordZeroIsNotWalkedEvenWithATeam)
+{
+    AskForNoFarmPeople();
+    PutSkater(0, 5, position::Center, status::Farm, 60);
+    PutGoalie(0, 5, status::Farm, 60);
+    Farm(1, position::Center, 50);
+    Five.FarmsGoalies(2);
+    EXPECT_THAT(Run(), ElementsAre(Success));
+    EXPECT_EQ(Day.NormalForward(1, 1), 19);
+    EXPECT_EQ(Day.PKForward(1, 2), 0); // he is the only one
+    EXPECT_EQ(Day.PKForward(1, 1), 19);
+    EXPECT_EQ(Day.StartGoalie, 3);
+    EXPECT_EQ(Day.BackupGoalie, 4);
+}
+
+TEST_F(AutoLinesFarmTwinTest, AnInjuryTextAt95LeavesSomebodyListedAndNoneAt94Does)
+{
+    AskForNoFarmPeople();
+    Player& skater = PutSkater(20, 5, position::Center, status::Farm, 50);
+    skater.Condition = 95;
+    skater.Injury = "Broken Leg";
+    PutSkater(21, 5, position::Center, status::Farm, 60).Condition = 94;
+    for (const int id : {3, 4}) {
+        Goalie& goalie = PutGoalie(id, 5, status::Farm, 50);
+        goalie.Condition = 95;
+        goalie.Injury = "Broken Leg";
+    }
+    PutGoalie(6, 5, status::Farm, 60).Condition = 94;
+    EXPECT_THAT(Run(), ElementsAre(Success));
+    EXPECT_EQ(Day.NormalForward(1, 1), 20);
+    EXPECT_EQ(SlotsOf(Day, 21), 0);
+    EXPECT_EQ(Day.StartGoalie, 3);
+    EXPECT_EQ(Day.BackupGoalie, 4);
 }
 
 TEST_F(AutoLinesFarmTwinTest, MoreRequiredThanDressedIsRefused)

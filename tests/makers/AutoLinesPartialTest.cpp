@@ -276,6 +276,25 @@ TEST_F(AutoLinesPartialTest, WithExclusiveLinesAForwardOfLineTwoIsSkippedForAHol
     EXPECT_EQ(Day.NormalForward(1, 1), 10);
 }
 
+TEST_F(AutoLinesPartialTest, OnlyTheWordMinus1MakesLinesExclusive)
+{
+    LeagueData.LinesOneTwoExclusive.SetWord(1);
+    Exchange(12, 6);
+    Day.NormalForward(1, 1) = 0;
+    Run();
+    EXPECT_EQ(Day.NormalForward(1, 1), 12);
+}
+
+TEST_F(AutoLinesPartialTest, AnInjuryTextAt95LeavesASlotUsableAndNoneAt94Does)
+{
+    Players[1].Condition = 95;
+    Players[1].Injury = "Broken Leg";
+    Players[2].Condition = 94;
+    EXPECT_THAT(Run(), ElementsAre(Success));
+    EXPECT_EQ(Day.NormalForward(1, 1), 1);
+    EXPECT_EQ(Day.NormalForward(1, 2), 12); // the worst forward of all
+}
+
 TEST_F(AutoLinesPartialTest, WithExclusiveLinesAForwardOfLineOneIsSkippedForAHoleOnLineTwo)
 {
     LeagueData.LinesOneTwoExclusive = true;

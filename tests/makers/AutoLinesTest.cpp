@@ -363,6 +363,52 @@ TEST_F(AutoLinesTest, TheListStopsByIndexAndNotByRating)
     EXPECT_EQ(counts[position::Defense], 6);
 }
 
+TEST_F(AutoLinesTest, RecordsNotInUseAreNotListed)
+{
+    DressFullRoster();
+    LeagueData.ProDressedSkaters = 25;
+    Run();
+    const auto expected = Words(Day);
+    PutSkater(19, 5, position::Center, status::Pro, 99).InUse = false;
+    PutSkater(20, 5, position::Defense, status::Pro, 99).InUse.SetWord(1);
+    PutGoalie(3, 5, status::Pro, 99).InUse = false;
+    PutGoalie(4, 5, status::Pro, 99).InUse.SetWord(1);
+    EXPECT_THAT(Run(), ElementsAre(Success));
+    EXPECT_EQ(Words(Day), expected);
+}
+
+TEST_F(AutoLinesTest, RecordZeroIsNotListedEvenWithATeam)
+{
+    DressFullRoster();
+    LeagueData.ProDressedSkaters = 25;
+    Run();
+    const auto expected = Words(Day);
+    PutSkater(0, 5, position::Center, status::Pro, 99);
+    PutGoalie(0, 5, status::Pro, 99);
+    EXPECT_THAT(Run(), ElementsAre(Success));
+    EXPECT_EQ(Words(Day), expected);
+}
+
+TEST_F(AutoLinesTest, AnInjuryTextAt95LeavesSomebodyListedAndNoneAt94Does)
+{
+    LeagueData.ProDressedSkaters = 20;
+    DressFullRoster();
+    Five.Dresses(1, position::Center, 20).DressesGoalies(1, 60);
+    Players[1].Condition = 95;
+    Players[1].Injury = "Broken Leg";
+    Players[4].Condition = 94;
+    Goalies[1].Condition = 95;
+    Goalies[1].Injury = "Broken Leg";
+    Goalies[2].Condition = 94;
+    LeagueData.MaxDressedGoalies = 3;
+    EXPECT_THAT(Run(), ElementsAre(Success));
+    EXPECT_EQ(Day.NormalForward(1, 1), 1);
+    EXPECT_EQ(SlotsOf(Day, 4), 0);
+    // The tired first goalie stays out of the start, but in the list.
+    EXPECT_EQ(Day.StartGoalie, 3);
+    EXPECT_EQ(Day.BackupGoalie, 1);
+}
+
 TEST_F(AutoLinesTest, FewerThan18InTheListAreRefused)
 {
     Dress(12, 6);

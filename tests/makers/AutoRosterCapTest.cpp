@@ -211,6 +211,44 @@ TEST_F(AutoRosterCapTest, TheFarmsShareLeavesThePayrollEvenWhereItWasNeverCounte
     EXPECT_EQ(Players[20].Status, 0);
 }
 
+TEST_F(AutoRosterCapTest, OnlyTheWordMinus1CountsTheFarmsPayroll)
+{
+    LeagueData.FarmSalaryPct = 10;
+    FarmCenter(19, 90, 100);
+    LeagueData.SalaryCap = 1109;
+    LeagueData.FarmPayrollInCap.SetWord(1);
+    Run();
+    EXPECT_EQ(Players[19].Status, 2);
+}
+
+TEST_F(AutoRosterCapTest, TheFarmsShareOfACallUpAsksForNoGamesPlayed)
+{
+    // He costs his full salary on the farm's payroll, yet half of it leaves the running one: 1000 - 50 + 100.
+    LeagueData.FarmPayMinGames = 10;
+    LeagueData.FarmSalaryPct = 50;
+    LeagueData.SalaryCap = 1100;
+    FarmCenter(19, 90, 100).ProGames = 10;
+    PutSkater(20, 5, position::LeftWing, status::Farm, 90).Salary = 51; // 1050 + 51
+    Run();
+    EXPECT_EQ(Players[19].Status, 2);
+    EXPECT_EQ(Players[20].Status, 0);
+}
+
+TEST_F(AutoRosterCapTest, TheFarmsShareOfSomebodySentDownAsksForNoGamesPlayed)
+{
+    // Right wing 12 goes down and leaves 1100 + 50 - 100: room for 50 more.
+    LeagueData.FarmPayMinGames = 10;
+    LeagueData.FarmSalaryPct = 50;
+    LeagueData.SalaryCap = 1100;
+    Players[12].Salary = 100;
+    Players[12].ProGames = 10;
+    PutSkater(19, 5, position::RightWing, status::Farm, 90).Salary = 0;
+    PutGoalie(3, 5, status::Farm, 90).Salary = 50;
+    Run();
+    EXPECT_EQ(Players[12].Status, 0);
+    EXPECT_EQ(Goalies[3].Status, 2);
+}
+
 TEST_F(AutoRosterCapTest, TheCoachesPayrollCountsWhereTheLeagueSaysSo)
 {
     Coaches[1].InUse = true;
@@ -222,6 +260,18 @@ TEST_F(AutoRosterCapTest, TheCoachesPayrollCountsWhereTheLeagueSaysSo)
     Run();
     EXPECT_EQ(Players[19].Status, 0);
     LeagueData.SalaryCap = 1060;
+    Run();
+    EXPECT_EQ(Players[19].Status, 2);
+}
+
+TEST_F(AutoRosterCapTest, OnlyTheWordMinus1CountsTheCoachesPayroll)
+{
+    Coaches[1].InUse = true;
+    Coaches[1].Team = 5;
+    Coaches[1].Salary = 50;
+    FarmCenter(19, 90, 10);
+    LeagueData.SalaryCap = 1059;
+    LeagueData.CoachPayrollInCap.SetWord(1);
     Run();
     EXPECT_EQ(Players[19].Status, 2);
 }
@@ -243,6 +293,34 @@ TEST_F(AutoRosterCapTest, ACapBeyond32BitsEndsTheRun)
     Teams[5].Cash = 1;
     FarmCenter(19, 90, 10);
     EXPECT_THAT(Run(), ElementsAre(Box{16, "6 - Overflow in AutoRoster!"}));
+}
+
+TEST_F(AutoRosterCapTest, ACallUpWhoBringsThePayrollBeyond32BitsEndsTheRunBetweenWipeAndStatus)
+{
+    LeagueData.SalaryCapMode = 0;
+    LeagueData.FarmSalaryPct = 0;
+    LeagueData.MaxSalary = 2147483647;
+    FarmCenter(19, 90, 2147483647);
+    PutOnLines(19);
+    EXPECT_THAT(Run(), ElementsAre(Box{16, "6 - Overflow in AutoRoster!"}));
+    EXPECT_FALSE(IsOnLines(19));
+    EXPECT_EQ(Players[19].Status, 0);
+    EXPECT_EQ(RosterChanges[19].Status, Untouched);
+    EXPECT_FALSE(Modified);
+}
+
+TEST_F(AutoRosterCapTest, SomebodySentDownWhoBringsThePayrollBeyond32BitsEndsTheRunBehindHisStatus)
+{
+    LeagueData.SalaryCapMode = 0;
+    LeagueData.FarmSalaryPct = 32767;
+    Players[12].Salary = 10000000;
+    PutSkater(19, 5, position::RightWing, status::Farm, 90).Salary = 0;
+    PutOnLines(12);
+    EXPECT_THAT(Run(), ElementsAre(Box{16, "6 - Overflow in AutoRoster!"}));
+    EXPECT_FALSE(IsOnLines(12));
+    EXPECT_EQ(Players[12].Status, 0);
+    EXPECT_EQ(RosterChanges[12].Status, 0);
+    EXPECT_FALSE(Modified);
 }
 
 TEST_F(AutoRosterCapTest, WithoutCallUpsNoSumIsMade)

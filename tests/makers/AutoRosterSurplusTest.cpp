@@ -1,4 +1,6 @@
 #include "makers/AutoRosterTeam.h"
+#include "rules/Function.h"
+#include "support/LineFindings.h"
 
 namespace dravik {
 namespace {
@@ -133,6 +135,23 @@ TEST_F(AutoRosterSurplusTest, OneHalfOfTheDeadlineHoldsNobodyBack)
     EXPECT_EQ(Players[19].Status, 0);
 }
 
+TEST_F(AutoRosterSurplusTest, OnlyTheWordMinus1IsADeadline)
+{
+    LeagueData.TradeDeadlinePassed.SetWord(1);
+    LeagueData.TradeDeadlineInForce = true;
+    PutSkater(19, 5, position::Center, status::Scratch, 40);
+    PutGoalie(3, 5, status::Scratch, 40);
+    Run();
+    EXPECT_EQ(Players[19].Status, 0);
+    EXPECT_EQ(Goalies[3].Status, 0);
+
+    LeagueData.TradeDeadlinePassed = true;
+    LeagueData.TradeDeadlineInForce.SetWord(1);
+    PutSkater(19, 5, position::Center, status::Scratch, 40);
+    Run();
+    EXPECT_EQ(Players[19].Status, 0);
+}
+
 // ---- Goalies -------------------------------------------------------------------------------------------------------
 
 TEST_F(AutoRosterSurplusTest, WithoutUsableGoaliesTheSkatersAreRebuiltAndTheOldGoaliesStay)
@@ -184,6 +203,22 @@ TEST_F(AutoRosterSurplusTest, AGoalieSentDownKeepsHisSlotsInTheLines)
     EXPECT_EQ(Goalies[3].Status, 0);
     EXPECT_EQ(RosterChangesGoalie[3].Status, 0);
     EXPECT_TRUE(IsGoalieOnLines(3));
+}
+
+TEST_F(AutoRosterSurplusTest, AGoalieSentDownIsFoundByTheNextJudgementAndLosesThatDaysSlotOnly)
+{
+    PutGoalie(3, 5, status::Scratch, 50);
+    for (const int day : {1, 2}) {
+        FillDay(Teams[5].ProLines[day], Five);
+        Teams[5].ProLines[day].StartGoalie = 3;
+    }
+    Run();
+    EXPECT_FALSE(CheckLine(5, false, 1, false));
+    EXPECT_EQ(LastLinesText(),
+              Told({"Goalie 3 is not on farm roster for this team.", "Some errors will be automatically fixed."}));
+    EXPECT_EQ(Teams[5].ProLines[1].StartGoalie, 0);
+    EXPECT_EQ(Teams[5].ProLines[1].BackupGoalie, 2);
+    EXPECT_EQ(Teams[5].ProLines[2].StartGoalie, 3);
 }
 
 TEST_F(AutoRosterSurplusTest, ACalledUpGoalieAndADressedScratchLoseTheirSlots)

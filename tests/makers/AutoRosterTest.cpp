@@ -146,6 +146,35 @@ TEST_F(AutoRosterTest, PeopleOfOtherTeamsAndUnusedRecordsAreLeftAlone)
     EXPECT_EQ(RosterChangesGoalie[3].Status, Untouched);
 }
 
+TEST_F(AutoRosterTest, RecordZeroIsNotWalkedEvenWithATeam)
+{
+    PutSkater(0, 5, position::Center, status::Scratch, 99);
+    PutGoalie(0, 5, status::Scratch, 99);
+    EXPECT_THAT(Run(), ElementsAre(Success));
+    EXPECT_EQ(Players[0].Status, 1);
+    EXPECT_EQ(Goalies[0].Status, 1);
+    for (int id = 1; id <= 18; ++id)
+        EXPECT_EQ(Players[id].Status, 2) << id;
+    EXPECT_EQ(Goalies[2].Status, 2);
+}
+
+TEST_F(AutoRosterTest, AnInjuryTextAt95LeavesSomebodyUsableAndNoneAt94Does)
+{
+    Player& skater = PutSkater(19, 5, position::Center, status::Scratch, 90);
+    Goalie& goalie = PutGoalie(3, 5, status::Scratch, 90);
+    skater.Condition = 95;
+    skater.Injury = "Broken Leg";
+    goalie.Condition = 95;
+    goalie.Injury = "Broken Leg";
+    Players[1].Condition = 94;
+    Goalies[1].Condition = 94;
+    EXPECT_THAT(Run(), ElementsAre(Success));
+    EXPECT_EQ(Players[19].Status, 2);
+    EXPECT_EQ(Goalies[3].Status, 2);
+    EXPECT_EQ(Players[1].Status, 1);
+    EXPECT_EQ(Goalies[1].Status, 1);
+}
+
 TEST_F(AutoRosterTest, AUsableSkaterWithoutAPositionEndsTheRun)
 {
     PutSkater(19, 5, 0, status::Farm, 50);
@@ -349,6 +378,46 @@ TEST_F(AutoRosterTest, APositionThatRunsDryLeavesItsPicksToNobodyElse)
     // 2 + 3 + 3 + 6 by position, and one of any position: the best left is left wing 8.
     EXPECT_EQ(Players[8].Status, 2);
     EXPECT_EQ(Players[12].Status, 0);
+}
+
+// ---- A skater in the position of a goalie --------------------------------------------------------------------------
+
+TEST_F(AutoRosterTest, ASkaterOfPosition5IsRatedAsTheGoalieOfHisIndexAndDressedByTheLastPick)
+{
+    PutSkater(19, 5, position::Goalie, status::Scratch, 10);
+    PutGoalie(19, 6, status::Pro, 90);
+    EXPECT_THAT(Run(), ElementsAre(Success)); // he is counted among the goalies' position
+    EXPECT_EQ(Players[19].Status, 2);
+    EXPECT_EQ(Players[4].Status, 2);
+    EXPECT_EQ(Players[8].Status, 2);
+    EXPECT_EQ(Players[12].Status, 0); // the last pick of the three had been his
+}
+
+TEST_F(AutoRosterTest, ASkaterOfPosition5WithoutAGoalieOfHisIndexIsWorthNothing)
+{
+    PutSkater(19, 5, position::Goalie, status::Scratch, 99);
+    PutGoalie(19, 6, status::Pro, 0);
+    Run();
+    EXPECT_EQ(Players[19].Status, 0);
+    EXPECT_EQ(Players[12].Status, 2);
+}
+
+TEST_F(AutoRosterTest, ASkaterOfPosition5IsNoPickOfAnyPosition)
+{
+    LeagueData.ProDressedSkaters = 15; // the four positions fill it
+    PutSkater(19, 5, position::Goalie, status::Scratch, 10);
+    PutGoalie(19, 6, status::Pro, 90);
+    Run();
+    EXPECT_EQ(Players[19].Status, 1); // too good for the farm
+    EXPECT_EQ(Players[3].Status, 2);
+}
+
+TEST_F(AutoRosterTest, ASkaterOfPosition5IsOneOfThePlayersAvailable)
+{
+    Players[4].InUse = false;
+    EXPECT_THAT(Run(), ElementsAre(Box{48, "Not Enough Players available!"}));
+    PutSkater(19, 5, position::Goalie, status::Scratch, 10);
+    EXPECT_THAT(Run(), ElementsAre(Success));
 }
 
 // ---- Partial mode --------------------------------------------------------------------------------------------------

@@ -109,6 +109,14 @@ TEST_F(FinanceTest, BonusIsInTheProPayrollOnlyAndOnlyWhenTheLeagueSaysSo)
     EXPECT_EQ(ExpensePerGame(5), 12195); // 1000000 / 82
 }
 
+TEST_F(FinanceTest, OnlyTheWordMinus1IncludesTheBonus)
+{
+    Pro(7);
+    Teams[5].PayrollBonus = 250000;
+    LeagueData.PayrollIncludesBonus.SetWord(1);
+    EXPECT_EQ(ProPayroll(5), 1000000);
+}
+
 TEST_F(FinanceTest, WithFarmPayMinGames0EveryFarmPlayerCostsThePercentage)
 {
     LeagueData.FarmSalaryPct = 25;
@@ -264,6 +272,13 @@ TEST_F(FinanceTest, ExpenseFlagMakesAGameFree)
     Pro(1);
     LeagueData.ExpenseFlag = true;
     EXPECT_EQ(ExpensePerGame(5), 0);
+}
+
+TEST_F(FinanceTest, OnlyTheWordMinus1MakesAGameFree)
+{
+    Pro(7);
+    LeagueData.ExpenseFlag.SetWord(1);
+    EXPECT_EQ(ExpensePerGame(5), 12195); // 1000000 / 82
 }
 
 TEST_F(FinanceTest, SeasonWithoutGamesCostsNothing)

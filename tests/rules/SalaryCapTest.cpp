@@ -106,6 +106,18 @@ TEST_F(SalaryCapTest, CoachPayrollCountsWhenTheLeagueSaysSo)
     Expect(false, {"Team 5 is over the salary cap by $700,000.00!"});
 }
 
+TEST_F(SalaryCapTest, OnlyTheWordMinus1CountsTheFarmPayroll)
+{
+    LeagueData.FarmPayrollInCap.SetWord(1);
+    Expect(true, {});
+}
+
+TEST_F(SalaryCapTest, OnlyTheWordMinus1CountsTheCoachPayroll)
+{
+    LeagueData.CoachPayrollInCap.SetWord(1);
+    Expect(true, {});
+}
+
 TEST_F(SalaryCapTest, FarmPayrollEqualToItsCapPassesAndOneUnitAboveFails)
 {
     LeagueData.FarmSalaryCap = 200000;
