@@ -10,6 +10,7 @@
 #include "screens/panels/Labels.h"
 #include "screens/panels/Shades.h"
 #include "screens/platform/CodePage.h"
+#include "screens/Stage.h"
 
 #include <QHBoxLayout>
 #include <QMenuBar>
@@ -59,7 +60,9 @@ frmMain::frmMain(Stage& stage) : Screen(stage, "frmMain")
     column->addLayout(header);
 
     cmdOpen = MakeCommand("cmdOpen", "Open ...", [this] { mnuOpen_Click(); });
-    auto* body = new QHBoxLayout;
+    lists = new QWidget(content);
+    auto* body = new QHBoxLayout(lists);
+    body->setContentsMargins(0, 0, 0, 0);
     body->setSpacing(2 * Gap);
     for (int conference = 1; conference <= 2; ++conference) {
         conferences[conference] = MakeConference(conference);
@@ -67,7 +70,7 @@ frmMain::frmMain(Stage& stage) : Screen(stage, "frmMain")
     }
     emptySpace = new QWidget(content);
     column->addWidget(emptySpace, 1);
-    column->addLayout(body, 1);
+    column->addWidget(lists);
     column->addWidget(cmdOpen, 0, Qt::AlignHCenter | Qt::AlignTop);
 
     teamBar = MakeTeamBar();
@@ -238,6 +241,7 @@ void frmMain::PlaceTeam()
         cmdOpen->hide();
         emptySpace->hide();
         emptySpaceBelow->hide();
+        static_cast<QVBoxLayout*>(centralWidget()->layout())->setStretchFactor(lists, 1);
         for (int conference = 1; conference <= 2; ++conference) {
             lblConference[conference]->setText(Shown(LeagueData.Conference[conference]));
             lblConference[conference]->setAlignment(Qt::AlignLeft | Qt::AlignVCenter);
@@ -337,7 +341,7 @@ void frmMain::mnuOpen_Click()
     });
 }
 
-void frmMain::mnuExit_Click() { Unload(); }
+void frmMain::mnuExit_Click() { Owner.Close(*this); }
 
 bool frmMain::TeamIsProved()
 {

@@ -69,6 +69,7 @@ private:
     QLabel* lblChosen;
     QLabel* lblChosenPlace;
     QPushButton* cmdOpen;
+    QWidget* lists; // the two conferences
     QWidget* teamBar;
     QWidget *emptySpace, *emptySpaceBelow; // around the words of the empty window
     Row<QWidget*, 1, 2> conferences;

@@ -487,6 +487,6 @@ void frmTeam::cmdLoadFile_Click()
     });
 }
 
-void frmTeam::cmdExit_Click() { Unload(); }
+void frmTeam::cmdExit_Click() { Owner.Close(*this); }
 
 } // namespace dravik

@@ -205,9 +205,9 @@ QWidget* frmTeam::MakeFileGroup()
     auto* column = new QVBoxLayout(group);
     column->setContentsMargins(Margin, Gap, Margin, Margin);
     column->setSpacing(Gap);
-    auto* loads = new MutedLabel("Loaded", group);
+    auto* loads = new MutedLabel("Times Loaded", group);
     loads->setBuddy(lblLoadLine);
-    lblLoadLine->setAccessibleName("Loaded");
+    lblLoadLine->setAccessibleName("Times Loaded");
     auto* commands = InARow({cmdSaveToFile, cmdLoadFile});
     commands->addStretch(1);
     commands->addWidget(loads);

@@ -202,16 +202,15 @@ TEST_F(frmTeamTest, BothJudgesRepairEvenWhenTheFarmIsIncomplete)
 TEST_F(frmTeamTest, TheFarmIsJudgedFirst)
 {
     CompleteTeam(5);
-    Own().ProLines[1].NormalForward(1, 1) = 0;
     LeagueData.FarmRosterRequired = true;
-    Own().Farm.FarmLines[1].NormalForward(1, 1) = 0;
+    Own().ProLines[1].NormalForward(1, 1) = 0;
+    Own().Farm.FarmLines[1].StartGoalie = 0;
     Office();
-    // The text of the last judgement is the pro's.
+    const std::string last = LastLinesText();
+    CheckLineFarm(5, false, 1, false);
+    EXPECT_NE(last, LastLinesText());
     CheckLine(5, false, 1, false);
-    const std::string pro = LastLinesText();
-    Own().Farm.FarmLines[1].NormalForward(1, 1) = 0;
-    Office().FormActivate();
-    EXPECT_EQ(LastLinesText(), pro);
+    EXPECT_EQ(last, LastLinesText());
 }
 
 TEST_F(frmTeamTest, SaveComesUpWhenTheLinesScreenReturnsWithCompleteLines)

@@ -13,11 +13,8 @@ namespace dravik::tour {
 
 namespace {
 
-bool IsAnswered(const QObject& dialog)
-{
-    const QString name = dialog.objectName();
-    return name == "msgBox" || name == "inputBox" || name == "dlgCommon";
-}
+// All but the wait screen, which asks nothing.
+bool WantsAnswer(const QDialog& dialog) { return dialog.objectName() != "frmWait"; }
 
 QString WordsOf(const QDialog& dialog)
 {
@@ -34,7 +31,7 @@ Answers::Answers() { qApp->installEventFilter(this); }
 bool Answers::eventFilter(QObject* watched, QEvent* event)
 {
     if (event->type() == QEvent::Show)
-        if (auto* dialog = qobject_cast<QDialog*>(watched); dialog != nullptr && IsAnswered(*dialog))
+        if (auto* dialog = qobject_cast<QDialog*>(watched); dialog != nullptr && WantsAnswer(*dialog))
             QTimer::singleShot(0, dialog, [this, dialog] { Answer(*dialog); });
     return QObject::eventFilter(watched, event);
 }

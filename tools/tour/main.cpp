@@ -2,6 +2,7 @@
 #include "Camera.h"
 #include "league/ClientVariable.h"
 #include "league/LinesFile.h"
+#include "league/OutsideCode.h"
 #include "makers/Makers.h"
 #include "rules/Function.h"
 #include "screens/frmMain.h"
@@ -90,7 +91,7 @@ private:
     void EnterOffice()
     {
         Choose();
-        answers.Type("Password Required!", plan.Password);
+        ExpectPassword();
         QKeyEvent enter(QEvent::KeyPress, Qt::Key_Return, Qt::NoModifier);
         QApplication::sendEvent(ListOf(plan.Team), &enter);
         NoComplaints("the password is proved");
@@ -120,13 +121,21 @@ private:
     {
         const QString target = PathToDesktop(LinesFilePath(plan.Team));
         Require(Team().cmdSaveToFile->isEnabled(), "the lines file can be saved");
-        answers.Type("Password Required!", plan.Password);
+        ExpectPassword();
         answers.Confirm("Lines file for " + TeamName() + " successfully save at\n" + target);
         Team().cmdSaveToFile->click();
         NoComplaints("the lines file is saved");
         Require(QFileInfo(target).size() > 0, "the lines file lies on disk");
         saved = target;
         std::cout << "saved " << saved.toStdString() << '\n';
+    }
+
+    // A team without a password is entered without a question.
+    void ExpectPassword()
+    {
+        constexpr std::size_t digestLength = 32;
+        if (RemoveSpaces(Teams[plan.Team].Password.Raw()).size() == digestLength)
+            answers.Type("Password Required!", plan.Password);
     }
 
     // Takes the saved lines back after the day's were lost.
@@ -206,6 +215,10 @@ Plan Parse(const QCoreApplication& application)
 
 int Run(const Plan& plan)
 {
+    if (!QFileInfo(plan.League).isFile()) {
+        std::cerr << "tour: there is no " << plan.League.toStdString() << '\n';
+        return 1;
+    }
     if (!QDir().mkpath(plan.Out)) {
         std::cerr << "tour: cannot make " << plan.Out.toStdString() << '\n';
         return 1;

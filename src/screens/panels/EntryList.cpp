@@ -4,15 +4,26 @@
 
 #include <algorithm>
 #include <QApplication>
+#include <QHelpEvent>
 #include <QKeyEvent>
 #include <QPainter>
+#include <QToolTip>
 
 namespace dravik {
 
 namespace {
 
 constexpr int RowPadding = 8; // above and below the text together
-constexpr int AsideMargin = 8;
+constexpr int SideMargin = 4;
+constexpr int AsideGap = 8;
+
+int AsideWidth(const QFontMetrics& metrics, const QString& word)
+{
+    return std::max(metrics.horizontalAdvance(word), metrics.horizontalAdvance("WW"));
+}
+
+// Where the text of an entry stands.
+QRect TextArea(const QRect& entry) { return entry.adjusted(SideMargin, 0, -SideMargin, 0); }
 
 bool MovesChoice(int key)
 {
@@ -26,11 +37,6 @@ void EntryDelegate::paint(QPainter* painter, const QStyleOptionViewItem& option,
 {
     QStyleOptionViewItem item = option;
     initStyleOption(&item, index);
-    const QStringList aside = index.data(entry::AsideRole).toStringList();
-    int asideWidth = 0;
-    for (const QString& word : aside)
-        asideWidth +=
-            std::max(item.fontMetrics.horizontalAdvance(word), item.fontMetrics.horizontalAdvance("WW")) + AsideMargin;
     const QString text = item.text;
     item.text.clear();
     const QStyle* style = item.widget != nullptr ? item.widget->style() : QApplication::style();
@@ -42,20 +48,26 @@ void EntryDelegate::paint(QPainter* painter, const QStyleOptionViewItem& option,
                                                                   : QPalette::Active;
     const QColor front = item.palette.color(group, isSelected ? QPalette::HighlightedText : QPalette::Text);
     const QColor back = item.palette.color(group, isSelected ? QPalette::Highlight : QPalette::Base);
+    const QRect area = TextArea(item.rect);
 
     painter->save();
     painter->setFont(item.font);
-    QRect area = item.rect.adjusted(AsideMargin / 2, 0, -AsideMargin, 0);
-    painter->setPen(Muted(front, back));
-    for (auto word = aside.rbegin(); word != aside.rend(); ++word) {
-        painter->drawText(area, Qt::AlignRight | Qt::AlignVCenter | Qt::TextSingleLine, *word);
-        const int width = std::max(item.fontMetrics.horizontalAdvance(*word), item.fontMetrics.horizontalAdvance("WW"));
-        area.setRight(area.right() - width - AsideMargin);
-    }
-    area = item.rect.adjusted(AsideMargin / 2, 0, -AsideMargin / 2 - asideWidth, 0);
     painter->setPen(front);
     painter->drawText(area, Qt::AlignLeft | Qt::AlignVCenter | Qt::TextSingleLine,
                       item.fontMetrics.elidedText(text, Qt::ElideRight, area.width()));
+    painter->setPen(Muted(front, back));
+    const QStringList aside = index.data(entry::AsideRole).toStringList();
+    int right = area.right() - SideMargin;
+    int left = right;
+    for (const QString& word : aside)
+        left -= AsideWidth(item.fontMetrics, word) + AsideGap;
+    if (area.left() + item.fontMetrics.horizontalAdvance(text) <= left)
+        for (auto word = aside.rbegin(); word != aside.rend(); ++word) {
+            const int width = AsideWidth(item.fontMetrics, *word);
+            painter->drawText(QRect(right - width + 1, area.top(), width, area.height()),
+                              Qt::AlignRight | Qt::AlignVCenter | Qt::TextSingleLine, *word);
+            right -= width + AsideGap;
+        }
     painter->restore();
 }
 
@@ -64,6 +76,18 @@ QSize EntryDelegate::sizeHint(const QStyleOptionViewItem& option, const QModelIn
     QSize size = QStyledItemDelegate::sizeHint(option, index);
     size.setHeight(option.fontMetrics.height() + RowPadding);
     return size;
+}
+
+bool EntryDelegate::helpEvent(QHelpEvent* event, QAbstractItemView* view, const QStyleOptionViewItem& option,
+                              const QModelIndex& index)
+{
+    const QString text = index.data().toString();
+    const bool isCut = option.fontMetrics.horizontalAdvance(text) > TextArea(option.rect).width();
+    if (event->type() == QEvent::ToolTip && isCut && !index.data(Qt::ToolTipRole).isValid()) {
+        QToolTip::showText(event->globalPos(), text, view, option.rect);
+        return true;
+    }
+    return QStyledItemDelegate::helpEvent(event, view, option, index);
 }
 
 EntryList::EntryList(QWidget* parent) : QListWidget(parent)

@@ -12,13 +12,16 @@ inline constexpr int NumberRole = Qt::UserRole;
 inline constexpr int AsideRole = Qt::UserRole + 1;
 } // namespace entry
 
-// Draws an entry with its secondary words at the right edge, in columns of equal width for the whole list.
+// Draws an entry with its secondary words at its right edge, each in a column of its own. Where both do not fit, the entry's
+// text comes first and the secondary words are left out; a text that does not even fit alone is told by a tooltip.
 class EntryDelegate : public QStyledItemDelegate {
 public:
     using QStyledItemDelegate::QStyledItemDelegate;
 
     void paint(QPainter* painter, const QStyleOptionViewItem& option, const QModelIndex& index) const override;
     [[nodiscard]] QSize sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const override;
+    bool helpEvent(QHelpEvent* event, QAbstractItemView* view, const QStyleOptionViewItem& option,
+                   const QModelIndex& index) override;
 };
 
 // A list of entries with numbers. Arrows, Home and End choose from the first key on, letters jump to an entry, and Enter
