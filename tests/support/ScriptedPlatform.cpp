@@ -108,11 +108,23 @@ ScriptedPlatform::~ScriptedPlatform()
     fs::remove_all(folder, ignored);
 }
 
-std::vector<Box> ScriptedPlatform::TakeBoxes() { return std::exchange(boxes, {}); }
+std::vector<Box> ScriptedPlatform::TakeBoxes()
+{
+    waitAtBoxes.clear();
+    return std::exchange(boxes, {});
+}
+
+void ScriptedPlatform::Tell(const std::string& event)
+{
+    if (OnEvent)
+        OnEvent(event);
+}
 
 int ScriptedPlatform::MessageBox(const std::string& text, int kind, const std::string& title)
 {
     boxes.push_back({kind, text, title});
+    waitAtBoxes.push_back(WaitShown);
+    Tell("box");
     return Next(buttons, kind == box::YesNo || kind == box::YesNoCancel ? button::Yes : button::Ok);
 }
 
@@ -139,14 +151,24 @@ std::string ScriptedPlatform::GetSetting(const std::string& section, const std::
 
 void ScriptedPlatform::SaveSetting(const std::string& section, const std::string& key, const std::string& value)
 {
+    if (SaveSettingFailure != 0)
+        Fail(SaveSettingFailure);
     if (section == "Settings")
         Settings[key] = value;
+    Tell("setting " + key);
 }
 
 void ScriptedPlatform::ShowWait()
 {
     WaitShown = true;
     ++WaitCount;
+    Tell("wait up");
+}
+
+void ScriptedPlatform::CloseWait()
+{
+    WaitShown = false;
+    Tell("wait down");
 }
 
 int ScriptedPlatform::OpenLocation(const std::string& location, int /*showMode*/)

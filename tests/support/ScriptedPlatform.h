@@ -3,6 +3,7 @@
 #include "league/DiskFiles.h"
 
 #include <deque>
+#include <functional>
 #include <iosfwd>
 #include <map>
 #include <string>
@@ -46,6 +47,8 @@ public:
     // What was shown and asked so far. `Boxes` clears nothing; `TakeBoxes` does.
     [[nodiscard]] const std::vector<Box>& Boxes() const { return boxes; }
     std::vector<Box> TakeBoxes();
+    // Whether the wait screen was up while each of these boxes was shown.
+    [[nodiscard]] const std::vector<bool>& WaitAtBoxes() const { return waitAtBoxes; }
     [[nodiscard]] const std::vector<Question>& Questions() const { return questions; }
     [[nodiscard]] const std::vector<std::pair<std::string, std::string>>& Dialogs() const { return dialogs; }
 
@@ -77,6 +80,9 @@ public:
     bool OtherInstance = false;
     std::map<std::string, std::string> Settings; // of section "Settings"
     std::vector<std::string> OpenedLocations;
+    int SaveSettingFailure = 0; // the number that SaveSetting fails with, if any
+    // Called, if set, while these happen: "box", "wait up", "wait down", "setting" and the key that was stored.
+    std::function<void(const std::string& event)> OnEvent;
 
     int MessageBox(const std::string& text, int kind, const std::string& title) override;
     std::string InputBox(const std::string& prompt, const std::string& title, const std::string& text) override;
@@ -87,7 +93,7 @@ public:
     std::string Version() override { return "9.8.7"; }
     bool AnotherInstanceRuns() override { return OtherInstance; }
     void ShowWait() override;
-    void CloseWait() override { WaitShown = false; }
+    void CloseWait() override;
     int OpenLocation(const std::string& location, int showMode) override;
     // A fixed form in place of a locale's: "$1,234.50", "-$5.00", and "$1,235".
     std::string Currency(double amount) override;
@@ -108,11 +114,14 @@ public:
     void Count(const std::string& operation);
 
 private:
+    void Tell(const std::string& event);
+
     std::string folder;
     std::deque<int> buttons;
     std::deque<std::string> typed;
     std::deque<std::string> chosen;
     std::vector<Box> boxes;
+    std::vector<bool> waitAtBoxes;
     std::vector<Question> questions;
     std::vector<std::pair<std::string, std::string>> dialogs;
     std::vector<std::string> operations;
