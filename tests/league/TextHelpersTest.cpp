@@ -43,5 +43,36 @@ TEST(TextHelpersTest, NothingButBlanksLeavesTheEmptyText)
     EXPECT_EQ(RemoveSpaces(""), "");
 }
 
+TEST(TextHelpersTest, LastCharactersAreCutAsLongAsThereAreAny)
+{
+    EXPECT_EQ(WithoutLastCharacters("League.dvs", 4), "League");
+    EXPECT_EQ(WithoutLastCharacters("abcde", 4), "a");
+    EXPECT_EQ(WithoutLastCharacters("abcd", 4), "");
+    EXPECT_EQ(WithoutLastCharacters("abc", 4), "");
+    EXPECT_EQ(WithoutLastCharacters("", 4), "");
+    EXPECT_EQ(WithoutLastCharacters("abc", 0), "abc");
+    EXPECT_EQ(WithoutLastCharacters("\xE9\xE8\xE7", 1), "\xE9\xE8");
+}
+
+TEST(TextHelpersTest, AnEscapedCharacterIsCutAsOne)
+{
+    EXPECT_EQ(WithoutLastCharacters("A\x1A{43B}bcd", 4), "A");
+    EXPECT_EQ(WithoutLastCharacters("A\x1A{43B}bcd", 3), "A\x1A{43B}");
+    EXPECT_EQ(WithoutLastCharacters("AB\x1A{41B}\x1A{438}\x1A{433}\x1A{1F3D2}", 4), "AB");
+    EXPECT_EQ(WithoutLastCharacters("\x1A{1A}\x1A{10FFFF}", 1), "\x1A{1A}");
+    // Three characters are fewer than four, however many bytes they take.
+    EXPECT_EQ(WithoutLastCharacters("\x1A{41B}\x1A{438}\x1A{433}", 4), "");
+}
+
+TEST(TextHelpersTest, WhatOnlyLooksLikeAnEscapedCharacterIsCutByteByByte)
+{
+    for (const std::string text :
+         {"\x1A{}", "\x1A{43b}", "\x1A{1234567}", "\x1A{43B", "\x1A{4 }", "\x1A(43B)", "{43B}"}) {
+        EXPECT_EQ(WithoutLastCharacters(text, 1), text.substr(0, text.size() - 1));
+        EXPECT_EQ(WithoutLastCharacters(text, text.size() - 1), text.substr(0, 1));
+    }
+    EXPECT_EQ(WithoutLastCharacters("\x1A", 1), "");
+}
+
 } // namespace
 } // namespace dravik
