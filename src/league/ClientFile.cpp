@@ -9,6 +9,7 @@
 #include "league/Session.h"
 #include "league/SlotFile.h"
 
+#include <cmath>
 #include <utility>
 
 namespace dravik {
@@ -27,7 +28,7 @@ void ReadTable(SlotReader& slots, Table& table)
 }
 
 // Whether both magics are right. After a wrong start magic nothing is read.
-bool ReadLeague(SlotReader& slots)
+bool ReadSlots(SlotReader& slots)
 {
     if (!slots.ReadMagic(StartMagic))
         return false;
@@ -39,6 +40,22 @@ bool ReadLeague(SlotReader& slots)
     ReadTable(slots, Coaches);
     ReadTable(slots, GameSchedule);
     return slots.ReadMagic(EndMagic);
+}
+
+// A file that cannot be read to its end is not read at all, although its head may have been: when the reading fails,
+// the tables are as they were before it.
+bool ReadLeague(SlotReader& slots)
+{
+    const League league = LeagueData;
+    const CoachTable coaches = Coaches;
+    try {
+        return ReadSlots(slots);
+    } catch (...) {
+        LeagueData = league;
+        Coaches = coaches;
+        EmptyLeagueTables();
+        throw;
+    }
 }
 
 void TellCritical(std::string_view text)
@@ -61,13 +78,15 @@ void SetMenus(MainWindow& window)
         window.SetDraftMenu(true, "Entry &Draft List");
 }
 
-// The date of the client file, as long as it is one: from 1 January 100 to 31 December 9999.
+// The date of the client file, as long as it is one: from 1 January 100 to 31 December 9999, rounded to the second as it
+// is shown.
 double CheckedFileDate()
 {
     constexpr double first = -657434;
     constexpr double behindLast = 2958466;
+    constexpr double secondsOfDay = 86400;
     const double date = LeagueData.FileDate;
-    if (!(date >= first && date < behindLast))
+    if (!(date >= first && std::round(date * secondsOfDay) < behindLast * secondsOfDay))
         Fail(failure::Overflow);
     return date;
 }
@@ -120,8 +139,8 @@ void ShowLeague(const std::string& path, MainWindow& window)
     PlayerStatCount = all ? 15 : 7;
     GoalieStatCount = all ? 13 : 7;
 
-    const std::string name = GetFileName(path);
-    WindowTitle = std::string(ProgramTitle) + " - " + name.substr(0, name.size() < 4 ? 0 : name.size() - 4);
+    constexpr std::size_t extension = 4; // whether the name has one or not
+    WindowTitle = std::string(ProgramTitle) + " - " + WithoutLastCharacters(GetFileName(path), extension);
     window.SetWindowCaption(WindowTitle);
     window.PlaceTeam();
     window.CentreOnScreen();
@@ -152,18 +171,9 @@ void OpenLeagueClient(const std::string& path, MainWindow& window)
         }
         DeleteIfExists(TempFile);
         ShowWait();
-
-        // A file that cannot be decompressed to its end is not read at all, although its head may have been: these two
-        // keep what they held.
-        const League league = LeagueData;
-        const CoachTable coaches = Coaches;
         bool whole = false;
-        if (!ReadSlotFile(ExistingPath(path), [&](SlotReader& slots) { whole = ReadLeague(slots); })) {
-            LeagueData = league;
-            Coaches = coaches;
-            EmptyLeagueTables();
-            return;
-        }
+        if (!ReadSlotFile(ExistingPath(path), [&](SlotReader& slots) { whole = ReadLeague(slots); }))
+            return; // told, and the wait screen stays
         if (!whole) {
             TellCritical("File Integrity is incorrect!");
             EmptyLeagueTables();

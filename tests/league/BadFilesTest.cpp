@@ -127,6 +127,17 @@ protected:
         return names;
     }
 
+    // The number of the failure that `work` ends in; 0 when it ends in none.
+    static int NumberOf(const std::function<void()>& work)
+    {
+        try {
+            work();
+        } catch (const Failure& failed) {
+            return failed.Number;
+        }
+        return 0;
+    }
+
     static ByteVector WithLength(ByteVector wrapper, std::int32_t length)
     {
         for (std::size_t i = 0; i < 4; ++i)
@@ -289,6 +300,31 @@ TEST_F(BadFilesTest, ADirectoryIsNoFile)
     EXPECT_TRUE(Machine.WaitShown);
 }
 
+TEST_F(BadFilesTest, ADirectoryIsNoLinesFile)
+{
+    fs::create_directory(LinesPath);
+    const ByteVector before = LinesTables();
+    EXPECT_EQ(ReadLinesFile(LinesPath), LinesFileRead::NotDecompressed);
+    EXPECT_THAT(Machine.TakeBoxes(),
+                ElementsAre(Box{box::Critical, "75 - Path/File access error in Zlib Decompress!"}));
+    Machine.Settings["SkipZIPClient"] = "YES";
+    EXPECT_EQ(NumberOf([&] { (void)ReadLinesFile(LinesPath); }), failure::PathAccess);
+    EXPECT_THAT(Machine.Boxes(), IsEmpty()) << "the screen tells it";
+    EXPECT_TRUE(LinesTables() == before);
+}
+
+TEST_F(BadFilesTest, ADirectoryAtTheTargetOfASaveStays)
+{
+    fs::create_directory(LinesPath);
+    for (const char* skip : {"No", "YES"}) {
+        Machine.Settings["SkipZIPClient"] = skip;
+        EXPECT_EQ(NumberOf([&] { (void)WriteLinesFile(5, LinesPath); }), failure::PathAccess) << skip;
+        EXPECT_TRUE(fs::is_directory(LinesPath)) << skip;
+        EXPECT_THAT(FilesLeft(), ElementsAre("Team5.dvl")) << skip;
+        EXPECT_THAT(Machine.Boxes(), IsEmpty()) << "the screen tells it";
+    }
+}
+
 TEST_F(BadFilesTest, WithoutPermissionNothingIsRead)
 {
     WriteWhole(ClientPath, {1});
@@ -318,23 +354,32 @@ TEST_F(BadFilesTest, AWorkFileThatCannotBeDeletedStopsTheOpen)
 
 TEST_F(BadFilesTest, AFaultAtAnyFileOperationOfAnOpenLeavesNoHalfLeague)
 {
-    WriteWhole(ClientPath, Wrapped(ClientSlots(), 1));
-    Open();
-    ASSERT_THAT(Machine.Boxes(), IsEmpty());
-    const std::size_t operations = Machine.FileOperations().size();
-    ASSERT_GT(operations, 6U);
-    for (std::size_t n = 1; n <= operations; ++n) {
-        Keep();
-        Machine.FailFileOperation(n, failure::PathAccess);
+    const ByteVector slots = ClientSlots();
+    for (const bool plain : {false, true}) {
+        Machine.Settings["SkipZIPClient"] = plain ? "YES" : "No";
+        WriteWhole(ClientPath, plain ? slots : Wrapped(slots, 1));
+        const std::string ending = plain ? " in OpenLeagueClient!" : " in Zlib Decompress!";
+        const std::size_t done = Machine.FileOperations().size();
         Open();
-        const std::string what = "operation " + std::to_string(n);
-        if (n == 1)
-            ExpectNothingRead({box::Critical, "Cannot find last client league file!"}, what);
-        else if (n <= 3) // looking for a work file, and for the spelling of the name, may fail
-            EXPECT_THAT(Machine.Boxes(), IsEmpty()) << what;
-        else
-            ExpectNothingRead({box::Critical, "75 - Path/File access error in Zlib Decompress!"}, what);
-        EXPECT_THAT(FilesLeft(), ElementsAre("League.dvs")) << what;
+        ASSERT_THAT(Machine.Boxes(), IsEmpty());
+        const std::size_t operations = Machine.FileOperations().size() - done;
+        ASSERT_GT(operations, 6U);
+        for (std::size_t n = 1; n <= operations; n += !plain || n < 10 || operations - n < 20 ? 1 : 19) {
+            Keep();
+            Machine.FailFileOperation(n, failure::PathAccess);
+            Open();
+            const std::string what = (plain ? "plain " : "wrapped ") + std::to_string(n);
+            if (n == 1)
+                ExpectNothingRead({box::Critical, "Cannot find last client league file!"}, what);
+            else if (n <= 3) // looking for a work file, and for the spelling of the name, may fail
+                EXPECT_THAT(Machine.Boxes(), IsEmpty()) << what;
+            else {
+                ExpectNothingRead({box::Critical, "75 - Path/File access error" + ending}, what);
+                EXPECT_THAT(Machine.WaitAtBoxes(), ElementsAre(true)) << what;
+            }
+            EXPECT_THAT(FilesLeft(), ElementsAre("League.dvs")) << what;
+        }
+        Machine.FailNoMore();
     }
 }
 

@@ -1,5 +1,6 @@
 #include "league/ClientFile.h"
 
+#include "league/Failure.h"
 #include "league/OutsideCode.h"
 #include "support/LeagueImage.h"
 #include "support/OpenedWindow.h"
@@ -46,6 +47,13 @@ protected:
     [[nodiscard]] bool LeagueDataIsUntouched() const { return ImageOf(LeagueData) == league; }
     [[nodiscard]] bool CoachesAreUntouched() const { return ImageOf(Coaches) == coaches; }
 
+    void ExpectNothingRead() const
+    {
+        EXPECT_TRUE(FiveTablesAreEmpty());
+        EXPECT_TRUE(LeagueDataIsUntouched());
+        EXPECT_TRUE(CoachesAreUntouched());
+    }
+
     [[nodiscard]] bool WorkFileIsThere() const { return std::filesystem::exists(TempFile); }
 
     // The names of what lies in the test's folder.
@@ -56,6 +64,18 @@ protected:
             names.push_back(entry.path().filename().string());
         std::sort(names.begin(), names.end());
         return names;
+    }
+
+    // What stands in the tables when an open stops between showing the teams and the placeholders: the league of a file
+    // with the protected skater 7 and without dressed skaters.
+    static void ExpectTheLeagueWithoutItsLastSteps()
+    {
+        EXPECT_TRUE(Players[7].InUse);
+        EXPECT_TRUE(Players[7].Protected);
+        EXPECT_TRUE(IsZero(ImageOf(Players[0]))) << "no placeholder";
+        EXPECT_TRUE(IsZero(ImageOf(Goalies[0]))) << "no placeholder";
+        EXPECT_FALSE(RosterChanges[7].Protected) << "not copied";
+        EXPECT_EQ(LeagueData.ProDressedSkaters, 0) << "no default";
     }
 
     OpenedWindow Window;
@@ -138,6 +158,69 @@ TEST_F(ClientFileTest, TheLastFourCharactersAreCutFromTheTitleWhateverTheyAre)
         Open(Machine.InFolder(name));
         EXPECT_EQ(WindowTitle, std::string("Dravik Hockey Simulator Client - ") + title);
     }
+}
+
+#ifndef _WIN32 // where no name may hold the escape byte
+
+TEST_F(ClientFileTest, AnEscapedCharacterOfTheNameIsCutFromTheTitleAsOne)
+{
+    Machine.Settings["SkipZIPClient"] = "YES";
+    const ByteVector slots = ClientSlots();
+    const std::pair<std::string, std::string> names[] = {
+        {"S\x1A{43B}son", "S"},
+        {"\x1A{41B}\x1A{438}\x1A{433}\x1A{430}.dvs", "\x1A{41B}\x1A{438}\x1A{433}\x1A{430}"},
+        {"\x1A{41B}\x1A{438}\x1A{433}", ""}, // three characters
+        {"\x1A{41B}\x1A{438}\x1A{433}\x1A{430}", ""},
+        {"\x1A{41B}\x1A{438}\x1A{433}\x1A{430}1", "\x1A{41B}"},
+    };
+    for (const auto& [name, title] : names) {
+        WriteSparse(Machine.InFolder(name), slots);
+        Open(Machine.InFolder(name));
+        EXPECT_EQ(WindowTitle, "Dravik Hockey Simulator Client - " + title);
+    }
+}
+
+#endif
+
+TEST_F(ClientFileTest, TheWaitScreenGoesBeforeTheSettingIsStoredAndTheMenusFollow)
+{
+    Machine.OnEvent = [this](const std::string& event) { Window.Calls.push_back(event); };
+    const std::string path = SavePlain();
+    Open(path);
+    EXPECT_THAT(Window.Calls, ElementsAre("wait up", "caption Dravik Hockey Simulator Client - League", "place teams",
+                                          "centre", "show menus", "wait down", "setting LastLoadLeague",
+                                          "draft off &Draft List", "free agents on", ::testing::StartsWith("date ")));
+}
+
+TEST_F(ClientFileTest, ASettingThatCannotBeStoredStopsTheOpenThere)
+{
+    PutSkater(7, 5, position::Center, status::Pro).Protected = true;
+    LeagueData.ProDressedSkaters = 0;
+    Players[0].Name = "Before";
+    const std::string path = SavePlain();
+    Machine.SaveSettingFailure = failure::PathAccess;
+    Open(path);
+    EXPECT_THAT(Machine.Boxes(), ElementsAre(Box{box::Critical, "75 - Path/File access error in OpenLeagueClient!"}));
+    EXPECT_THAT(Machine.WaitAtBoxes(), ElementsAre(false)) << "it had gone before";
+    EXPECT_THAT(Window.Calls,
+                ElementsAre("caption Dravik Hockey Simulator Client - League", "place teams", "centre", "show menus"));
+    EXPECT_EQ(Machine.Settings.count("LastLoadLeague"), 0U);
+    EXPECT_EQ(PlayerStatCount, 15);
+    ExpectTheLeagueWithoutItsLastSteps();
+}
+
+TEST_F(ClientFileTest, AFileDateThatIsNoDateLeavesTheLastStepsUndone)
+{
+    PutSkater(7, 5, position::Center, status::Pro).Protected = true;
+    LeagueData.ProDressedSkaters = 0;
+    LeagueData.FileDate = 1e300;
+    Players[0].Name = "Before";
+    const std::string path = SavePlain();
+    Open(path);
+    EXPECT_THAT(Machine.Boxes(), ElementsAre(Box{box::Critical, "6 - Overflow in OpenLeagueClient!"}));
+    EXPECT_THAT(Machine.WaitAtBoxes(), ElementsAre(false));
+    EXPECT_EQ(Machine.Settings["LastLoadLeague"], path);
+    ExpectTheLeagueWithoutItsLastSteps();
 }
 
 TEST_F(ClientFileTest, TheEntryFoundInAnotherCaseIsTheOneOpened)
@@ -320,6 +403,7 @@ TEST_F(ClientFileTest, AMissingFileEmptiesTheTablesAndSaysSo)
     WriteWhole(TempFile, {1, 2, 3});
     Open(Machine.InFolder("Gone.dvs"));
     EXPECT_THAT(Machine.Boxes(), ElementsAre(Box{box::Critical, "Cannot find last client league file!"}));
+    EXPECT_THAT(Machine.WaitAtBoxes(), ElementsAre(false)) << "closed if it was open";
     EXPECT_FALSE(Machine.WaitShown);
     EXPECT_EQ(Machine.WaitCount, 0);
     EXPECT_TRUE(FiveTablesAreEmpty());
@@ -357,6 +441,7 @@ TEST_F(ClientFileTest, AWrongStartMagicLeavesLeagueDataUntouched)
         Machine.TakeBoxes();
         Open(Machine.InFolder("League.dvs"));
         EXPECT_THAT(Machine.Boxes(), ElementsAre(Box{box::Critical, "File Integrity is incorrect!"})) << at;
+        EXPECT_THAT(Machine.WaitAtBoxes(), ElementsAre(false));
         EXPECT_TRUE(FiveTablesAreEmpty());
         EXPECT_TRUE(LeagueDataIsUntouched());
         EXPECT_TRUE(CoachesAreUntouched());
@@ -381,6 +466,7 @@ TEST_F(ClientFileTest, AWrongEndMagicEmptiesTheTablesAgainAndKeepsLeagueDataAndC
     PlayerStatCount = 9;
     Open(Machine.InFolder("League.dvs"));
     EXPECT_THAT(Machine.Boxes(), ElementsAre(Box{box::Critical, "File Integrity is incorrect!"}));
+    EXPECT_THAT(Machine.WaitAtBoxes(), ElementsAre(false));
     EXPECT_TRUE(FiveTablesAreEmpty());
     EXPECT_EQ(LeagueData.Name.Trimmed(), "Another League");
     EXPECT_EQ(Coaches[500].Name.Trimmed(), "Last Coach");
@@ -428,6 +514,7 @@ TEST_F(ClientFileTest, APlainFileReadAsWrappedEndsInTheDecompressionMessage)
     ScrambleTables();
     Open(path);
     EXPECT_THAT(Machine.Boxes(), ElementsAre(Box{box::Critical, "9 - Subscript out of range in Zlib Decompress!"}));
+    EXPECT_THAT(Machine.WaitAtBoxes(), ElementsAre(true));
     EXPECT_TRUE(FiveTablesAreEmpty());
     EXPECT_TRUE(LeagueDataIsUntouched());
     EXPECT_TRUE(CoachesAreUntouched());
@@ -449,51 +536,46 @@ TEST_F(ClientFileTest, AWrappedFileReadAsPlainEndsInTheMagicTest)
     EXPECT_THAT(FilesLeft(), ElementsAre("League.dvs"));
 }
 
-TEST_F(ClientFileTest, AWrappedFileThatCannotBeReadToItsEndChangesNothingOutsideTheEmptiedTables)
+TEST_F(ClientFileTest, AFileThatCannotBeReadToItsEndChangesNothingOutsideTheEmptiedTables)
 {
     ScrambleLeague(4);
-    const std::string path = SaveWrapped();
-    const auto reads = static_cast<std::size_t>(std::filesystem::file_size(path) / 65536);
-    ASSERT_GT(reads, 10U);
+    const ByteVector slots = ClientSlots();
     ResetClientVariables();
     TempFile = Machine.InFolder("ClientTemp.dvt");
     ScrambleTables();
-    // Four operations find and open the file. The last read comes when the coaches have long been read.
-    for (const std::size_t read : {std::size_t{1}, std::size_t{2}, reads / 2, reads}) {
-        Machine.TakeBoxes();
-        Machine.CloseWait();
-        Machine.FailFileOperation(4 + read, failure::PathAccess);
-        Open(path);
-        EXPECT_EQ(Machine.FileOperations().back(), "read");
-        EXPECT_THAT(Machine.Boxes(),
-                    ElementsAre(Box{box::Critical, "75 - Path/File access error in Zlib Decompress!"}));
-        EXPECT_TRUE(FiveTablesAreEmpty());
-        EXPECT_TRUE(LeagueDataIsUntouched());
-        EXPECT_TRUE(CoachesAreUntouched());
-        EXPECT_TRUE(Machine.WaitShown) << "the wait screen stays up";
-        EXPECT_THAT(Window.Calls, IsEmpty());
+    for (const bool plain : {false, true}) {
+        Machine.Settings["SkipZIPClient"] = plain ? "YES" : "No";
+        const std::string path = Machine.InFolder("League.dvs");
+        WriteWhole(path, plain ? slots : Wrapped(slots, 1));
+        const auto reads = static_cast<std::size_t>(std::filesystem::file_size(path) / 65536);
+        ASSERT_GT(reads, 10U);
+        // Nobody may see a half league behind the box.
+        Machine.OnEvent = [this](const std::string& event) {
+            if (event == "box")
+                ExpectNothingRead();
+        };
+        // Three operations find the file and one opens it. The last read comes when the coaches have long been read.
+        for (const std::size_t read : {std::size_t{1}, std::size_t{2}, reads / 2, reads}) {
+            Machine.TakeBoxes();
+            Machine.CloseWait();
+            Machine.FailFileOperation(4 + read, failure::PathAccess);
+            Open(path);
+            EXPECT_EQ(Machine.FileOperations().back(), "read");
+            const std::string ending = plain ? " in OpenLeagueClient!" : " in Zlib Decompress!";
+            EXPECT_THAT(Machine.Boxes(), ElementsAre(Box{box::Critical, "75 - Path/File access error" + ending}));
+            EXPECT_THAT(Machine.WaitAtBoxes(), ElementsAre(true));
+            EXPECT_TRUE(Machine.WaitShown) << "the wait screen stays up";
+            ExpectNothingRead();
+            EXPECT_THAT(Window.Calls, IsEmpty());
+        }
     }
-}
-
-TEST_F(ClientFileTest, APlainFileThatCannotBeReadToItsEndKeepsWhatWasRead)
-{
-    Prospects[1].Name = "First Prospect";
-    Coaches[1].Name = "Coach in the file";
-    const std::string path = SavePlain();
-    Coaches[1].Name = "Coach in memory";
-    Machine.FailFileOperation(60, failure::PathAccess);
-    Open(path);
-    EXPECT_EQ(Machine.FileOperations().back(), "read");
-    EXPECT_THAT(Machine.Boxes(), ElementsAre(Box{box::Critical, "75 - Path/File access error in OpenLeagueClient!"}));
-    EXPECT_EQ(Prospects[1].Name.Trimmed(), "First Prospect");
-    EXPECT_EQ(Coaches[1].Name.Trimmed(), "Coach in memory");
-    EXPECT_TRUE(Machine.WaitShown) << "the wait screen stays up";
-    EXPECT_THAT(Window.Calls, IsEmpty());
 }
 
 TEST_F(ClientFileTest, AFileDateThatIsNoDateEndsInTheCommonFailureMessage)
 {
-    for (const double date : {1e300, -1e300, std::numeric_limits<double>::quiet_NaN(), 2958466.0, -657435.0}) {
+    // The last one is the end of the year 9999 once it is rounded to the second.
+    for (const double date :
+         {1e300, -1e300, std::numeric_limits<double>::quiet_NaN(), 2958466.0, -657435.0, 2958465.999995}) {
         LeagueData.FileDate = date;
         Machine.TakeBoxes();
         Window.Calls.clear();
@@ -501,12 +583,15 @@ TEST_F(ClientFileTest, AFileDateThatIsNoDateEndsInTheCommonFailureMessage)
         EXPECT_THAT(Machine.Boxes(), ElementsAre(Box{box::Critical, "6 - Overflow in OpenLeagueClient!"}));
         EXPECT_EQ(Window.Calls.back(), "free agents on") << "everything before the date is shown";
     }
-    for (const double date : {2958465.0, -657434.0}) {
+    for (const double date : {2958465.0, 2958465.99999, -657434.0}) {
         LeagueData.FileDate = date;
         Machine.TakeBoxes();
         Open(SavePlain());
         EXPECT_THAT(Machine.Boxes(), IsEmpty());
     }
+    LeagueData.FileDate = 2958465.99999;
+    Open(SavePlain());
+    EXPECT_EQ(Window.Calls.back(), "date Client File Date : December 31 9999 at 23:59");
 }
 
 TEST_F(ClientFileTest, OpeningTheWorkFileItselfDeletesItFirst)
@@ -515,6 +600,18 @@ TEST_F(ClientFileTest, OpeningTheWorkFileItselfDeletesItFirst)
     ASSERT_EQ(path, TempFile);
     Open(path);
     EXPECT_THAT(Machine.Boxes(), ElementsAre(Box{box::Critical, "53 - File not found in Zlib Decompress!"}));
+    EXPECT_FALSE(WorkFileIsThere());
+}
+
+TEST_F(ClientFileTest, OpeningAPlainWorkFileItselfDeletesItFirst)
+{
+    const std::string path = SavePlain("ClientTemp.dvt");
+    ASSERT_EQ(path, TempFile);
+    Open(path);
+    EXPECT_THAT(Machine.Boxes(), ElementsAre(Box{box::Critical, "53 - File not found in OpenLeagueClient!"}));
+    EXPECT_THAT(Machine.WaitAtBoxes(), ElementsAre(true));
+    EXPECT_FALSE(WorkFileIsThere());
+    EXPECT_TRUE(FiveTablesAreEmpty());
 }
 
 } // namespace
