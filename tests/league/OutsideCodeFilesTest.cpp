@@ -162,11 +162,16 @@ TEST_F(OutsideCodeFilesTest, AFailureOfTheLookCountsAsNoFileAndShowsNothing)
     EXPECT_THAT(Machine.Boxes(), IsEmpty());
 }
 
+TEST_F(OutsideCodeFilesTest, GetFileNameOfABareFileNameGivesItUnchanged)
+{
+    for (const char* name : {"League.dvs", "League", ".dvs", " a b ", "\xC9t\xE9.dvs", "C:League.dvs"})
+        EXPECT_EQ(GetFileName(name), name);
+}
+
 TEST_F(OutsideCodeFilesTest, GetFileNameIsWhatStandsBehindTheLastSeparator)
 {
     const std::string s(1, PathSeparator);
     EXPECT_EQ(GetFileName(""), "");
-    EXPECT_EQ(GetFileName("League.dvs"), "League.dvs");
     EXPECT_EQ(GetFileName(s + "home" + s + "League.dvs"), "League.dvs");
     EXPECT_EQ(GetFileName("folder" + s), "");
     EXPECT_EQ(GetFileName(s), "");
