@@ -70,6 +70,21 @@ bool TakeMorale(EditBox* box, Int16& field)
     return true;
 }
 
+// Takes the wait screen away. That brings the team screen to the front, once the command has told what it has to tell: the
+// judges that run then may have boxes of their own.
+class WaitEnd {
+public:
+    void operator()()
+    {
+        CloseWait();
+        came = true;
+    }
+    [[nodiscard]] bool Came() const { return came; }
+
+private:
+    bool came = false;
+};
+
 } // namespace
 
 void frmTeam::FormLoad()
@@ -429,15 +444,10 @@ void frmTeam::cmdFarmChangeCoach_Click()
     OpenFromHere("Coach");
 }
 
-void frmTeam::BackFromWait()
-{
-    CloseWait();
-    FormActivate();
-}
-
 void frmTeam::cmdSaveToFile_Click()
 {
-    Reporting(" in cmdSaveToFile!", [this] {
+    WaitEnd endWait;
+    Reporting(" in cmdSaveToFile!", [&] {
         if (!CheckLine(OwnNumber(), false, 1, false)) {
             ShowBox("Lines #1 are incomplete!" + std::string(LineBreak) +
                         "You will not be able to save league files unless lines for the next day are complete!",
@@ -451,20 +461,23 @@ void frmTeam::cmdSaveToFile_Click()
             const std::string target = LinesFilePath(OwnNumber());
             if (!WriteLinesFile(OwnNumber(), target))
                 return; // told, and the wait screen stays
-            BackFromWait();
+            endWait();
             ShowBox("Lines file for " + OwnTeam().Name.Trimmed() + " successfully save at" + std::string(LineBreak) +
                         target,
                     box::Information);
         } catch (...) {
-            BackFromWait();
+            endWait();
             throw;
         }
     });
+    if (endWait.Came())
+        FormActivate();
 }
 
 void frmTeam::cmdLoadFile_Click()
 {
-    ReportingUnlessCancelled(" in cmdLoadFile!", [this] {
+    WaitEnd endWait;
+    ReportingUnlessCancelled(" in cmdLoadFile!", [&] {
         const std::string path = Machine().OpenFileDialog(Machine().ProgramFolder(),
                                                           "DRVK Client File (*.dvl) |*.dvl|All Files (*.*) | *.*");
         try {
@@ -472,7 +485,7 @@ void frmTeam::cmdLoadFile_Click()
             const LinesFileRead outcome = ReadLinesFile(path);
             if (outcome == LinesFileRead::NotDecompressed)
                 return; // told, and the wait screen stays
-            BackFromWait();
+            endWait();
             const bool loaded = outcome == LinesFileRead::Loaded;
             if (loaded)
                 FormLoad();
@@ -481,10 +494,12 @@ void frmTeam::cmdLoadFile_Click()
                         path,
                     loaded ? box::Information : box::Critical);
         } catch (...) {
-            BackFromWait();
+            endWait();
             throw;
         }
     });
+    if (endWait.Came())
+        FormActivate();
 }
 
 void frmTeam::cmdExit_Click() { Owner.Close(*this); }

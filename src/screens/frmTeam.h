@@ -98,8 +98,6 @@ private:
     void ChangeMoney(const std::string& prompt, const std::function<void(int)>& add);
     void FireCoach(Int16& coach, const Text<40>& employer, QLabel* label, QPushButton* fire);
     void OpenFromHere(std::string_view name);
-    // The wait screen goes and this screen is in front again.
-    void BackFromWait();
     // Says why the lines file cannot be saved; the judges' own words are behind it.
     void ShowSaveHint(const QStringList& reasons, const QStringList& details);
 

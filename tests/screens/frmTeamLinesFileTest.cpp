@@ -9,6 +9,7 @@ namespace {
 
 using ::testing::ElementsAre;
 using ::testing::IsEmpty;
+using ::testing::Pair;
 
 class LinesFileCommands : public OnTeamScreen {
 protected:
@@ -38,14 +39,45 @@ TEST_F(LinesFileCommands, SaveWritesTheFileAndTellsWhere)
     EXPECT_TRUE(std::filesystem::exists(target));
     EXPECT_FALSE(std::filesystem::exists(TempFile));
     EXPECT_EQ(Machine.WaitCount, 1);
+    EXPECT_THAT(Machine.WaitAtBoxes(), ElementsAre(false));
     EXPECT_FALSE(Machine.WaitShown);
 }
 
-TEST_F(LinesFileCommands, SavingTwiceGivesTheSamePath)
+TEST_F(LinesFileCommands, SavingTwiceGivesTheSamePathAndDeletesTheFirstFile)
 {
-    Save();
-    Save();
-    EXPECT_TRUE(std::filesystem::exists(target));
+    Office();
+    const auto save = [this] {
+        const auto done = static_cast<std::ptrdiff_t>(Machine.FileOperations().size());
+        Click(Office().cmdSaveToFile);
+        const auto& all = Machine.FileOperations();
+        return std::vector(all.begin() + done, all.begin() + done + 4);
+    };
+    const Box saved{64, "Lines file for Harbour City successfully save at\r\n" + target};
+    EXPECT_THAT(save(), ElementsAre("find", "find", "create", "write"));
+    const ByteVector first = ReadWhole(target);
+    Own().City = "Elsewhere";
+    // The work file and the target are looked for; the target, found, goes before anything is written.
+    EXPECT_THAT(save(), ElementsAre("find", "find", "delete", "create"));
+    EXPECT_THAT(Machine.Boxes(), ElementsAre(saved, saved));
+    EXPECT_TRUE(ReadWhole(target) == LinesSlots(5));
+    EXPECT_FALSE(ReadWhole(target) == first);
+}
+
+TEST_F(LinesFileCommands, AWrappedFileIsSavedAndLoaded)
+{
+    Machine.Settings["SkipZIPClient"] = "No";
+    Own().City = "Harbour City";
+    Click(Office().cmdSaveToFile);
+    EXPECT_TRUE(ReadWhole(target) == Wrapped(LinesSlots(5)));
+    Own().City = "Elsewhere";
+    Machine.Choose(target);
+    Click(Office().cmdLoadFile);
+    EXPECT_THAT(Machine.Boxes(),
+                ElementsAre(Box{64, "Lines file for Harbour City successfully save at\r\n" + target},
+                            Box{64, "Lines file for Harbour City successfully load from\r\n" + target}));
+    EXPECT_THAT(Machine.WaitAtBoxes(), ElementsAre(false, false));
+    EXPECT_EQ(Own().City.Trimmed(), "Harbour City");
+    EXPECT_EQ(Of(Office().txtCity), "Harbour City");
 }
 
 TEST_F(LinesFileCommands, SaveIsRefusedWhileDay1IsIncomplete)
@@ -101,6 +133,7 @@ TEST_F(LinesFileCommands, AFailedCompressionLeavesNoTargetAndTheWaitScreenUp)
     EXPECT_THAT(Machine.Boxes(), ElementsAre(Box{16, "61 - Disk full in Zlib Compress!"}));
     EXPECT_FALSE(std::filesystem::exists(target));
     EXPECT_FALSE(std::filesystem::exists(TempFile));
+    EXPECT_THAT(Machine.WaitAtBoxes(), ElementsAre(true));
     EXPECT_TRUE(Machine.WaitShown);
 }
 
@@ -110,7 +143,7 @@ TEST_F(LinesFileCommands, AFailureWhileSavingClosesTheWaitScreenAndIsReported)
     Machine.FailFileOperation(3, failure::PermissionDenied);
     office.cmdSaveToFile_Click();
     EXPECT_THAT(Machine.Boxes(), ElementsAre(Box{16, "70 - Permission denied in cmdSaveToFile!"}));
-    EXPECT_FALSE(Machine.WaitShown);
+    EXPECT_THAT(Machine.WaitAtBoxes(), ElementsAre(false));
     EXPECT_EQ(Machine.WaitCount, 1);
 }
 
@@ -119,10 +152,9 @@ TEST_F(LinesFileCommands, ATeamNameThatNoFileCanHaveIsAFailureOfTheSave)
     Own().Name = "Harbour/City";
     frmTeam& office = Office();
     office.cmdSaveToFile_Click();
-    ASSERT_EQ(Machine.Boxes().size(), 1U);
-    EXPECT_EQ(Machine.Boxes().front().Kind, 16);
-    EXPECT_TRUE(Machine.Boxes().front().Text.ends_with(" in cmdSaveToFile!")) << Machine.Boxes().front().Text;
-    EXPECT_FALSE(Machine.WaitShown);
+    EXPECT_THAT(Machine.Boxes(), ElementsAre(Box{16, "75 - Path/File access error in cmdSaveToFile!"}));
+    EXPECT_THAT(Machine.WaitAtBoxes(), ElementsAre(false));
+    EXPECT_EQ(Machine.WaitCount, 1);
 }
 
 TEST_F(LinesFileCommands, LoadAsksInTheProgramsFolderWithTheClientsFilter)
@@ -149,7 +181,8 @@ TEST_F(LinesFileCommands, LoadBringsTheTeamBackAndTellsFromWhere)
                 ElementsAre(Box{64, "Lines file for Harbour City successfully load from\r\n" + target}));
     EXPECT_EQ(Of(Office().txtCity), "Harbour City");
     EXPECT_TRUE(Office().cmdSaveToFile->isEnabled());
-    EXPECT_FALSE(Machine.WaitShown);
+    EXPECT_THAT(Machine.WaitAtBoxes(), ElementsAre(false));
+    EXPECT_EQ(Machine.WaitCount, 2); // the save's and the load's
     EXPECT_FALSE(Office().txtTeamName->isEnabled());
 }
 
@@ -175,7 +208,40 @@ TEST_F(LinesFileCommands, AFileOfAnotherTeamIsRefused)
     office.cmdLoadFile_Click();
     EXPECT_THAT(Machine.Boxes(), ElementsAre(Box{16, "File for Ironport Foxes unsuccessfully load from\r\n" + target}));
     EXPECT_EQ(Teams[6].Name.Trimmed(), "Ironport Foxes");
-    EXPECT_FALSE(Machine.WaitShown);
+    EXPECT_THAT(Machine.WaitAtBoxes(), ElementsAre(false));
+}
+
+TEST_F(LinesFileCommands, AFileOfAnotherLeagueOrKindIsRefused)
+{
+    Own().City = "Harbour City";
+    Save();
+    Own().City = "Elsewhere";
+    ByteVector start = ReadWhole(target);
+    ByteVector code = start;
+    start[2] ^= 1U;
+    code[client_file::Slot] ^= 1U;
+    for (const ByteVector& bytes : {start, code}) {
+        WriteWhole(target, bytes);
+        Machine.TakeBoxes();
+        Machine.Choose(target);
+        Click(Office().cmdLoadFile);
+        EXPECT_THAT(Machine.Boxes(),
+                    ElementsAre(Box{16, "File for Harbour City unsuccessfully load from\r\n" + target}));
+        EXPECT_THAT(Machine.WaitAtBoxes(), ElementsAre(false));
+        EXPECT_EQ(Own().City.Trimmed(), "Elsewhere");
+    }
+}
+
+TEST_F(LinesFileCommands, AFolderIsNoLinesFile)
+{
+    std::filesystem::create_directory(target);
+    Machine.Choose(target);
+    Click(Office().cmdLoadFile);
+    EXPECT_THAT(Machine.TakeBoxes(), ElementsAre(Box{16, "75 - Path/File access error in cmdLoadFile!"}));
+    Click(Office().cmdSaveToFile);
+    EXPECT_THAT(Machine.Boxes(), ElementsAre(Box{16, "75 - Path/File access error in cmdSaveToFile!"}));
+    EXPECT_THAT(Machine.WaitAtBoxes(), ElementsAre(false));
+    EXPECT_TRUE(std::filesystem::is_directory(target));
 }
 
 TEST_F(LinesFileCommands, AMissingFileIsRefusedLikeAWrongOne)
@@ -184,7 +250,7 @@ TEST_F(LinesFileCommands, AMissingFileIsRefusedLikeAWrongOne)
     Machine.Choose(gone);
     Click(Office().cmdLoadFile);
     EXPECT_THAT(Machine.Boxes(), ElementsAre(Box{16, "File for Harbour City unsuccessfully load from\r\n" + gone}));
-    EXPECT_FALSE(Machine.WaitShown);
+    EXPECT_THAT(Machine.WaitAtBoxes(), ElementsAre(false));
 }
 
 TEST_F(LinesFileCommands, AFileThatDoesNotDecompressLeavesTheWaitScreenUp)
@@ -196,6 +262,7 @@ TEST_F(LinesFileCommands, AFileThatDoesNotDecompressLeavesTheWaitScreenUp)
     Machine.Choose(empty);
     Click(Office().cmdLoadFile);
     EXPECT_THAT(Machine.Boxes(), ElementsAre(Box{16, "9 - Subscript out of range in Zlib Decompress!"}));
+    EXPECT_THAT(Machine.WaitAtBoxes(), ElementsAre(true));
     EXPECT_TRUE(Machine.WaitShown);
 }
 
@@ -211,7 +278,7 @@ TEST_F(LinesFileCommands, AWrongEndIsToldAfterTheTeamWasReplaced)
     Click(Office().cmdLoadFile);
     EXPECT_THAT(Machine.Boxes(), ElementsAre(Box{16, "File for Harbour City unsuccessfully load from\r\n" + target}));
     EXPECT_EQ(Own().City.Trimmed(), "Harbour City");
-    EXPECT_FALSE(Machine.WaitShown);
+    EXPECT_THAT(Machine.WaitAtBoxes(), ElementsAre(false));
 }
 
 TEST_F(LinesFileCommands, AFailureWhileLoadingClosesTheWaitScreenAndIsReported)
@@ -223,7 +290,68 @@ TEST_F(LinesFileCommands, AFailureWhileLoadingClosesTheWaitScreenAndIsReported)
     office.cmdLoadFile_Click();
     Machine.FailNoMore();
     EXPECT_THAT(Machine.Boxes(), ElementsAre(Box{16, "70 - Permission denied in cmdLoadFile!"}));
-    EXPECT_FALSE(Machine.WaitShown);
+    EXPECT_THAT(Machine.WaitAtBoxes(), ElementsAre(false));
 }
+
+// A slot of the farm's lines with nobody's number makes the judges fail, and tell it, whenever the screen comes to the
+// front: after everything that the command itself has to tell.
+TEST_F(LinesFileCommands, TheJudgesRunWhenAllIsTold)
+{
+    Save();
+    frmTeam& office = Office();
+    Own().Farm.FarmLines[1].StartGoalie = 20000;
+    const Box judged{16, "9 - Subscript out of range in CheckLineFarm!"};
+
+    office.cmdSaveToFile_Click();
+    EXPECT_THAT(Machine.TakeBoxes(),
+                ElementsAre(Box{64, "Lines file for Harbour City successfully save at\r\n" + target}, judged));
+    Machine.FailFileOperation(3, failure::PermissionDenied);
+    office.cmdSaveToFile_Click();
+    EXPECT_THAT(Machine.TakeBoxes(), ElementsAre(Box{16, "70 - Permission denied in cmdSaveToFile!"}, judged));
+
+    Machine.Choose(target);
+    office.cmdLoadFile_Click();
+    EXPECT_THAT(Machine.TakeBoxes(),
+                ElementsAre(Box{64, "Lines file for Harbour City successfully load from\r\n" + target}, judged));
+    Machine.Choose(Machine.InFolder("Gone.dvl"));
+    office.cmdLoadFile_Click();
+    EXPECT_THAT(Machine.TakeBoxes(), ElementsAre(Box{16, "File for Harbour City unsuccessfully load from\r\n" +
+                                                             Machine.InFolder("Gone.dvl")},
+                                                 judged));
+    Machine.Choose(target);
+    Machine.FailFileOperation(4, failure::PermissionDenied);
+    office.cmdLoadFile_Click();
+    EXPECT_THAT(Machine.TakeBoxes(), ElementsAre(Box{16, "70 - Permission denied in cmdLoadFile!"}, judged));
+}
+
+TEST_F(LinesFileCommands, TheJudgesDoNotRunWhileTheWaitScreenStaysNorAfterACancel)
+{
+    Machine.Settings["SkipZIPClient"] = "No";
+    frmTeam& office = Office();
+    Own().Farm.FarmLines[1].StartGoalie = 20000;
+    office.cmdLoadFile_Click(); // cancelled
+    EXPECT_THAT(Machine.Boxes(), IsEmpty());
+    Machine.FailFileOperation(3, failure::DiskFull);
+    office.cmdSaveToFile_Click();
+    EXPECT_THAT(Machine.Boxes(), ElementsAre(Box{16, "61 - Disk full in Zlib Compress!"}));
+}
+
+// Between the end of the wait and the box that tells it, nothing of the screen changes but what a load redisplays.
+TEST_F(LinesFileCommands, WhatTheJudgesSayShowsBehindTheBox)
+{
+    Save();
+    frmTeam& office = Office();
+    Own().ProLines[1] = {};
+    office.FormActivate();
+    ASSERT_FALSE(office.cmdSaveToFile->isEnabled());
+    std::vector<std::pair<std::string, bool>> seen;
+    Machine.OnEvent = [&](const std::string& event) { seen.emplace_back(event, office.cmdSaveToFile->isEnabled()); };
+    Machine.Choose(target);
+    office.cmdLoadFile_Click();
+    Machine.OnEvent = nullptr;
+    EXPECT_THAT(seen, ElementsAre(Pair("wait up", false), Pair("wait down", false), Pair("box", false)));
+    EXPECT_TRUE(office.cmdSaveToFile->isEnabled());
+}
+
 } // namespace
 } // namespace dravik
