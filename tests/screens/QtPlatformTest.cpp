@@ -245,6 +245,11 @@ protected:
     void paintEvent(QPaintEvent* /*event*/) override { ++Count; }
 };
 
+TEST_F(QtPlatformTest, TheWaitScreenGetsAHundredMillisecondsToPaint)
+{
+    EXPECT_EQ(QtPlatform().WaitMilliseconds(), 100);
+}
+
 TEST_F(QtPlatformTest, WhileWaitingTheScreenPaints)
 {
     Painted window;

@@ -30,6 +30,7 @@ public:
 
     // How long ShowWait lets the screen paint; 100 at first. With 0 it handles what is waiting and returns.
     void SetWaitMilliseconds(int milliseconds) { waitMilliseconds = milliseconds; }
+    [[nodiscard]] int WaitMilliseconds() const { return waitMilliseconds; }
 
     int MessageBox(const std::string& text, int kind, const std::string& title) override;
     std::string InputBox(const std::string& prompt, const std::string& title, const std::string& text) override;
