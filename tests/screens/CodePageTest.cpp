@@ -1,5 +1,10 @@
 #include "screens/platform/CodePage.h"
 
+#include "league/OutsideCode.h"
+
+#include <QList>
+#include <QStringList>
+
 #include <gtest/gtest.h>
 
 #include <map>
@@ -122,6 +127,19 @@ TEST(CodePage, WhatOnlyLooksLikeAnEscapeIsText)
             expected += QChar(PublishedCharacter(static_cast<unsigned char>(*at)));
         EXPECT_EQ(ToQString(text), expected) << text;
         EXPECT_EQ(FromQString(ToQString(text)), text);
+    }
+}
+
+TEST(CodePage, APathLosesItsLastCharactersWhateverTheyAre)
+{
+    const QString name = QString::fromUtf8("Équipe Лёд 冰🏒€\x1A{41}.dvs");
+    QStringList characters;
+    for (const char32_t character : name.toUcs4())
+        characters << Character(character);
+    for (qsizetype left = characters.size(); left >= 0; --left) {
+        const auto cut = static_cast<std::size_t>(characters.size() - left);
+        EXPECT_EQ(WithoutLastCharacters(PathToProgram(name), cut),
+                  PathToProgram(characters.first(left).join(QString())));
     }
 }
 

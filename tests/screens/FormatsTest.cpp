@@ -140,7 +140,7 @@ TEST(Formats, EveryMinuteOfADayReadsAsItself)
 TEST(Formats, ADayOutOfTheCalendarIsEmpty)
 {
     for (const double days :
-         {-657435.0, 2958466.0, 2958465.999999, 1e18, -1e300, std::numeric_limits<double>::infinity(),
+         {-657435.0, 2958466.0, 2958465.999995, 2958465.999999, 1e18, -1e300, std::numeric_limits<double>::infinity(),
           -std::numeric_limits<double>::infinity(), std::numeric_limits<double>::quiet_NaN()}) {
         EXPECT_EQ(LongDateText(American, days), "") << days;
         EXPECT_EQ(ShortTimeText(American, days), "") << days;

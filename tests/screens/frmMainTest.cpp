@@ -208,6 +208,49 @@ TEST_F(frmMainTest, ReopeningWithFourDivisionsAfterSixHidesListsAndLabels3And6)
     }
 }
 
+TEST_F(frmMainTest, AFileWithFourDivisionsOpensWithTheFourLists)
+{
+    PutTwelveTeams();
+    LeagueData.DivisionCount = 4;
+    const std::string path = SaveLeague();
+    LeagueData.DivisionCount = 6;
+    MainWithLeague();
+    Machine.Choose(path);
+    Main().mnuOpen_Click();
+    EXPECT_THAT(Machine.Boxes(), IsEmpty());
+    for (int division = 1; division <= 6; ++division) {
+        const bool isInUse = division != 3 && division != 6;
+        EXPECT_EQ(Main().lstDivision[division]->isVisible(), isInUse) << division;
+        EXPECT_EQ(Main().lblDivision[division]->isVisible(), isInUse) << division;
+    }
+    EXPECT_THAT(Listed(2), ElementsAre(Pair("Team 2", 2), Pair("Team 8", 8)));
+}
+
+TEST_F(frmMainTest, ATeamInNoDivisionStopsThePlacingButNotTheOpen)
+{
+    PutTeam(1, 1);
+    PutTeam(2, 7);
+    PutTeam(3, 1);
+    LeagueData.FileDate = 45000.5;
+    LeagueData.OffSeason = true;
+    LeagueData.EntryDraft = true;
+    LeagueData.ProDressedSkaters = 0;
+    const std::string path = SaveLeague();
+    Machine.Choose(path);
+    Main().mnuOpen_Click();
+    EXPECT_THAT(Machine.Boxes(), ElementsAre(Box{16, "9 - Subscript out of range in PlaceTeam!"}));
+    EXPECT_THAT(Machine.WaitAtBoxes(), ElementsAre(true)) << "the open still goes on";
+    EXPECT_THAT(Listed(1), ElementsAre(Pair("Team 1", 1)));
+    EXPECT_TRUE(Main().mnuTeam->menuAction()->isVisible());
+    EXPECT_TRUE(Main().mnuOutputRatingCSV->isVisible());
+    EXPECT_EQ(Main().mnuDraft->text(), "Entry &Draft List");
+    EXPECT_EQ(Main().lblDate->text(), "Client File Date : March 15 2023 at 12:00");
+    EXPECT_EQ(Machine.Settings["LastLoadLeague"], path);
+    EXPECT_EQ(Players[0].Name.Trimmed(), "Unknown Player");
+    EXPECT_EQ(LeagueData.ProDressedSkaters, 18);
+    EXPECT_FALSE(Machine.WaitShown);
+}
+
 TEST_F(frmMainTest, PlacingTeamsAgainReplacesTheLists)
 {
     PutTeam(1, 1);
