@@ -113,7 +113,7 @@ QString ChooseProgramFolder(const QString& executableFolder, const QString& docu
 {
     if (CanWriteInto(executableFolder))
         return executableFolder;
-    const QString folder = documents + '/' + Title();
+    QString folder = documents + '/' + Title();
     if (!QDir().mkpath(folder))
         Fail(failure::PathAccess);
     return folder;
