@@ -152,19 +152,19 @@ void frmTeam::CloseWhatTheLeagueKeeps()
 void frmTeam::FormActivate()
 {
     const bool farmComplete = CheckLineFarm(OwnNumber(), false, 1, false);
-    const std::string farmText = LastLinesText();
+    const QString farmText = ToQString(LastLinesText());
     const bool proComplete = CheckLine(OwnNumber(), false, 1, false);
-    const std::string proText = LastLinesText();
+    const QString proText = ToQString(LastLinesText());
     cmdSaveToFile->setEnabled(farmComplete && proComplete);
     QStringList reasons;
     QStringList details;
     if (!proComplete) {
         reasons << "Lines for Day #1 are Incomplete!";
-        details << ToQString(proText);
+        details << proText;
     }
     if (!farmComplete) {
         reasons << "Farm Lines for Day #1 are Incomplete!";
-        details << ToQString(farmText);
+        details << farmText;
     }
     ShowSaveHint(reasons, details);
 }

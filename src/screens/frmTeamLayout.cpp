@@ -117,6 +117,11 @@ void frmTeam::MakeControls()
     lblConference = makeMuted("lblConference");
     lblSaveHint = makeMuted("lblSaveHint");
     signSaveHint = new WarningSign(this);
+    // The screen keeps its shape when the hint goes.
+    QSizePolicy keepsPlace = lblSaveHint->sizePolicy();
+    keepsPlace.setRetainSizeWhenHidden(true);
+    lblSaveHint->setSizePolicy(keepsPlace);
+    lblSaveHint->setMinimumHeight(lblSaveHint->fontMetrics().height());
 
     txtTeamName = MakeBox("txtTeamName", [this] { txtTeamName_LostFocus(); });
     txtAbbre = MakeBox("txtAbbre", [this] { txtAbbre_LostFocus(); });

@@ -143,6 +143,9 @@ private:
     {
         const Lines day1 = Teams[plan.Team].ProLines[1];
         WipesLines(plan.Team, 1, true);
+        Team().FormActivate();
+        Require(!Team().cmdSaveToFile->isEnabled(), "wiped lines cannot be saved");
+        Photograph("Team", "team-wiped");
         answers.Choose(saved);
         answers.Confirm("Lines file for " + TeamName() + " successfully load from\n" + saved);
         Team().cmdLoadFile->click();
