@@ -89,6 +89,8 @@ public:
     // `amount` in the locale's currency format, with the locale's usual decimals or with none.
     virtual std::string Currency(double amount) = 0;
     virtual std::string CurrencyNoDecimals(double amount) = 0;
+    // `value` with the locale's decimal sign, `decimals` digits behind it and at least one before it, without grouping.
+    virtual std::string Fixed(double value, int decimals) = 0;
     // "mmmm d yyyy" and "hh:mm" (24-hour, rounded to the second first) of days since 30 December 1899.
     virtual std::string LongDate(double days) = 0;
     virtual std::string ShortTime(double days) = 0;

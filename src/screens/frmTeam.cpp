@@ -14,6 +14,7 @@
 #include "screens/Stage.h"
 
 #include <cmath>
+#include <QTextDocument>
 
 namespace dravik {
 
@@ -98,21 +99,31 @@ void frmTeam::FormLoad()
             Unload();
             return;
         }
-        const Team& team = OwnTeam();
-        ShowIdentity(team);
-        txtProMorale->setText(Shown(team.ProMorale));
-        txtFarmMorale->setText(Shown(team.Farm.FarmMorale));
-        lblLoadLine->setText(Shown(team.LinesLoadCount));
-        txtTeamName->setEnabled(true);
-        txtFarmTeamName->setEnabled(true);
-        ShowCoach(team.ProCoach, lblCoach, cmdFirePro);
-        ShowCoach(team.Farm.FarmCoach, lblFarmCoach, cmdFireFarm);
-        const Division& division = LeagueData.Division[team.Division];
-        lblDivision->setText(Shown(division.Name));
-        lblConference->setText(Shown(LeagueData.Conference[division.Conference]));
-        UpdateFinance();
+        // However far the filling comes, what the league keeps is closed behind it.
+        try {
+            ShowTeam(OwnTeam());
+        } catch (...) {
+            CloseWhatTheLeagueKeeps();
+            throw;
+        }
         CloseWhatTheLeagueKeeps();
     });
+}
+
+void frmTeam::ShowTeam(const Team& team)
+{
+    ShowIdentity(team);
+    txtProMorale->setText(Shown(team.ProMorale));
+    txtFarmMorale->setText(Shown(team.Farm.FarmMorale));
+    lblLoadLine->setText(Shown(team.LinesLoadCount));
+    txtTeamName->setEnabled(true);
+    txtFarmTeamName->setEnabled(true);
+    ShowCoach(team.ProCoach, lblCoach, cmdFirePro);
+    ShowCoach(team.Farm.FarmCoach, lblFarmCoach, cmdFireFarm);
+    const Division& division = LeagueData.Division[team.Division];
+    lblDivision->setText(Shown(division.Name));
+    lblConference->setText(Shown(LeagueData.Conference[division.Conference]));
+    UpdateFinance();
 }
 
 void frmTeam::ShowIdentity(const Team& team)
@@ -179,40 +190,49 @@ void frmTeam::ShowSaveHint(const QStringList& reasons, const QStringList& detail
 {
     lblSaveHint->setText(reasons.join("\n"));
     lblSaveHint->setVisible(!reasons.isEmpty());
-    lblSaveHint->setToolTip(details.join("\n\n").replace("\r\n", "\n"));
+    // A name with a tag in it stays a name.
+    const QString detail = details.join("\n\n").replace("\r\n", "\n");
+    lblSaveHint->setToolTip(detail.isEmpty() ? QString() : Qt::convertFromPlainText(detail));
     signSaveHint->setVisible(!reasons.isEmpty());
     cmdSaveToFile->setAccessibleDescription(lblSaveHint->text());
 }
 
+// What was reached before a failure is shown all the same; the other labels keep what they show.
 void frmTeam::UpdateFinance()
 {
     Reporting(" in UpdateFinance!", [this] {
-        lblFinance->setText(ShownMoney(static_cast<double>(OwnTeam().Cash)));
-        SeasonProjection season;
+        SeasonFigures season;
         try {
-            season = ProjectSeason(OwnNumber());
-        } catch (const Failure&) {
-            // A season that fits no figure leaves the payrolls, which come before it.
-            ShowPayrolls(RoundToInt32(ProPayroll(OwnNumber())), RoundToInt32(FarmPayroll(OwnNumber())));
+            ProjectSeason(OwnNumber(), season);
+        } catch (...) {
+            ShowSeason(season);
             throw;
         }
-        ShowPayrolls(season.ProPayroll, season.FarmPayroll);
-        const bool isFull = season.Form == SeasonForm::Full;
-        lblHGLeft->setText(ShownHalves(season.HomeGamesLeft));
-        lblGameLeft->setText(Shown(season.GamesLeft));
-        lblAverageAttendance->setText(isFull ? QString::number(season.AverageAttendance, 'f', 2) : Shown(0));
-        lblAverageIncome->setText(ShownMoney(season.AverageIncome));
-        lblEstimatedRevenue->setText(ShownMoney(season.Revenue));
-        lblExpensesPerGame->setText(ShownMoney(season.ExpensePerGame));
-        lblEstimatedSeasonExpense->setText(ShownMoney(season.SeasonExpense));
-        lblEstimatedBankAccount->setText(ShownMoney(season.BankAccount));
+        ShowSeason(season);
     });
 }
 
-void frmTeam::ShowPayrolls(int pro, int farm)
+void frmTeam::ShowSeason(const SeasonFigures& season)
 {
-    lblProPayRoll->setText(ShownMoney(pro));
-    lblFarmPayRoll->setText(ShownMoney(farm));
+    const auto show = [](QLabel* label, const auto& figure, const auto& shown) {
+        if (figure)
+            label->setText(shown(*figure));
+    };
+    const auto showAttendance = [&season](double average) {
+        constexpr int decimals = 2;
+        return season.Form == SeasonForm::Full ? ToQString(Machine().Fixed(average, decimals)) : Shown(0);
+    };
+    show(lblFinance, season.Cash, ShownMoney);
+    show(lblProPayRoll, season.ProPayroll, ShownMoney);
+    show(lblFarmPayRoll, season.FarmPayroll, ShownMoney);
+    show(lblHGLeft, season.HomeGamesLeft, ShownHalves);
+    show(lblGameLeft, season.GamesLeft, [](int games) { return Shown(games); });
+    show(lblExpensesPerGame, season.ExpensePerGame, ShownMoney);
+    show(lblEstimatedSeasonExpense, season.SeasonExpense, ShownMoney);
+    show(lblAverageAttendance, season.AverageAttendance, showAttendance);
+    show(lblAverageIncome, season.AverageIncome, ShownMoney);
+    show(lblEstimatedBankAccount, season.BankAccount, ShownMoney);
+    show(lblEstimatedRevenue, season.Revenue, ShownMoney);
 }
 
 void frmTeam::TakeText(EditBox* box, InputMode mode, bool required, const std::function<bool(const std::string&)>& rule)

@@ -13,6 +13,8 @@
 
 namespace dravik {
 
+struct SeasonFigures;
+
 // The office of the chosen team: who it is, what it has and will have, the way to its roster, lines and tickets, and the
 // two commands that write and read its lines file. What only the league may change stands in closed boxes and behind hidden
 // commands.
@@ -85,10 +87,12 @@ private:
     // Puts a caption and what it names into a row of a grid.
     void AddRow(QGridLayout* grid, const QString& caption, QWidget* field, int span = 1);
 
+    void ShowTeam(const Team& team);
     void ShowIdentity(const Team& team);
     void ShowCoach(long long coach, QLabel* label, QPushButton* fire);
     void CloseWhatTheLeagueKeeps();
-    void ShowPayrolls(int pro, int farm);
+    // Shows the figures that were reached.
+    void ShowSeason(const SeasonFigures& season);
 
     // The pattern of a box: `CheckInput` judges its text; a refused one gets the focus back, an accepted one goes to
     // `rule`, which says whether it was taken.

@@ -43,6 +43,15 @@ TEST(Formats, CurrencyWithoutDecimalsRoundsTiesToEven)
 
 TEST(Formats, AnAmountThatRoundsToNothingHasNoSign) { EXPECT_EQ(CurrencyTextNoDecimals(American, -0.4), "$0"); }
 
+TEST(Formats, FixedFormHasTheLocalesDecimalSignAndNoGrouping)
+{
+    EXPECT_EQ(FixedText(American, 17222.2222, 2), "17222.22");
+    EXPECT_EQ(FixedText(German, 1234567.5, 2), "1234567,50");
+    EXPECT_EQ(FixedText(French, 0.5, 2), "0,50");
+    EXPECT_EQ(FixedText(German, 0, 2), "0,00");
+    EXPECT_EQ(FixedText(American, -0.25, 2), "-0.25");
+}
+
 TEST(Formats, NoBreakSpacesAndTheEuroSignAreInTheCodePage)
 {
     EXPECT_EQ(CurrencyText(French, 1234567.5), "1\xA0"
@@ -157,6 +166,7 @@ TEST(Formats, TheDesktopUsesTheLocaleThatIsSet)
     QLocale::setDefault(German);
     EXPECT_EQ(desktop.Currency(1234.5), "1.234,50\xA0\x80");
     EXPECT_EQ(desktop.CurrencyNoDecimals(1234.6), "1.235\xA0\x80");
+    EXPECT_EQ(desktop.Fixed(17222.5, 2), "17222,50");
     EXPECT_EQ(desktop.LongDate(45000), "M\xE4rz 15 2023");
     EXPECT_EQ(desktop.ShortTime(45000.25), "06:00");
     QLocale::setDefault(before);

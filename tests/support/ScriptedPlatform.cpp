@@ -7,8 +7,11 @@
 #include <chrono>
 #include <cmath>
 #include <filesystem>
+#include <iomanip>
+#include <locale>
 #include <ostream>
 #include <random>
+#include <sstream>
 #include <utility>
 
 namespace dravik {
@@ -179,6 +182,13 @@ int ScriptedPlatform::OpenLocation(const std::string& location, int /*showMode*/
 
 std::string ScriptedPlatform::Currency(double amount) { return Dollars(amount, 2); }
 std::string ScriptedPlatform::CurrencyNoDecimals(double amount) { return Dollars(amount, 0); }
+std::string ScriptedPlatform::Fixed(double value, int decimals)
+{
+    std::ostringstream text;
+    text.imbue(std::locale::classic());
+    text << std::fixed << std::setprecision(decimals) << value;
+    return text.str();
+}
 
 std::string ScriptedPlatform::LongDate(double days)
 {

@@ -95,9 +95,10 @@ public:
     void ShowWait() override;
     void CloseWait() override;
     int OpenLocation(const std::string& location, int showMode) override;
-    // A fixed form in place of a locale's: "$1,234.50", "-$5.00", and "$1,235".
+    // A fixed form in place of a locale's: "$1,234.50", "-$5.00", and "$1,235"; "1234.50".
     std::string Currency(double amount) override;
     std::string CurrencyNoDecimals(double amount) override;
+    std::string Fixed(double value, int decimals) override;
     std::string LongDate(double days) override;
     std::string ShortTime(double days) override;
     std::array<std::uint8_t, 16> Md5(std::string_view bytes) override;

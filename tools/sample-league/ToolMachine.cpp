@@ -42,6 +42,7 @@ int ToolMachine::OpenLocation(const std::string& /*location*/, int /*showMode*/)
 // Amounts and dates stand in boxes only.
 std::string ToolMachine::Currency(double /*amount*/) { return {}; }
 std::string ToolMachine::CurrencyNoDecimals(double /*amount*/) { return {}; }
+std::string ToolMachine::Fixed(double /*value*/, int /*decimals*/) { return {}; }
 std::string ToolMachine::LongDate(double /*days*/) { return {}; }
 std::string ToolMachine::ShortTime(double /*days*/) { return {}; }
 

@@ -6,7 +6,9 @@
 #include <QApplication>
 #include <QHelpEvent>
 #include <QKeyEvent>
+#include <QMouseEvent>
 #include <QPainter>
+#include <QTextDocument>
 #include <QToolTip>
 
 namespace dravik {
@@ -84,7 +86,7 @@ bool EntryDelegate::helpEvent(QHelpEvent* event, QAbstractItemView* view, const 
     const QString text = index.data().toString();
     const bool isCut = option.fontMetrics.horizontalAdvance(text) > TextArea(option.rect).width();
     if (event->type() == QEvent::ToolTip && isCut && !index.data(Qt::ToolTipRole).isValid()) {
-        QToolTip::showText(event->globalPos(), text, view, option.rect);
+        QToolTip::showText(event->globalPos(), Qt::convertFromPlainText(text), view, option.rect);
         return true;
     }
     return QStyledItemDelegate::helpEvent(event, view, option, index);
@@ -132,6 +134,20 @@ void EntryList::keyPressEvent(QKeyEvent* event)
         return;
     }
     QListWidget::keyPressEvent(event);
+}
+
+void EntryList::mouseDoubleClickEvent(QMouseEvent* event)
+{
+    if (event->button() == Qt::LeftButton)
+        QListWidget::mouseDoubleClickEvent(event);
+}
+
+QItemSelectionModel::SelectionFlags EntryList::selectionCommand(const QModelIndex& index, const QEvent* event) const
+{
+    const auto command = QListWidget::selectionCommand(index, event);
+    if (selectionMode() != SingleSelection || (command & QItemSelectionModel::Select) != 0)
+        return command;
+    return QItemSelectionModel::NoUpdate;
 }
 
 } // namespace dravik

@@ -44,6 +44,10 @@ signals:
 
 protected:
     void keyPressEvent(QKeyEvent* event) override;
+    // Only the left button acts on an entry.
+    void mouseDoubleClickEvent(QMouseEvent* event) override;
+    // Where one entry is chosen at a time, no click and no key leaves none chosen.
+    QItemSelectionModel::SelectionFlags selectionCommand(const QModelIndex& index, const QEvent* event) const override;
 };
 
 } // namespace dravik

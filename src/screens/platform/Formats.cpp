@@ -67,6 +67,13 @@ std::string CurrencyTextNoDecimals(const QLocale& locale, double amount)
     return FormatCurrency(locale, std::nearbyint(amount) + 0.0, 0);
 }
 
+std::string FixedText(const QLocale& locale, double value, int decimals)
+{
+    QLocale plain = locale;
+    plain.setNumberOptions(QLocale::OmitGroupSeparator);
+    return FromQStringLossless(plain.toString(value, 'f', decimals));
+}
+
 std::string LongDateText(const QLocale& locale, double days) { return FormatPoint(locale, days, "MMMM d yyyy"); }
 
 std::string ShortTimeText(const QLocale& locale, double days) { return FormatPoint(locale, days, "HH:mm"); }

@@ -14,6 +14,9 @@ std::string CurrencyText(const QLocale& locale, double amount);
 // The same without decimals: `amount` is rounded to the nearest whole number, ties to even.
 std::string CurrencyTextNoDecimals(const QLocale& locale, double amount);
 
+// `value` with the locale's decimal sign, `decimals` digits behind it and at least one before it, without grouping.
+std::string FixedText(const QLocale& locale, double value, int decimals);
+
 // Days since 30 December 1899, rounded to the nearest second, as "MMMM d yyyy" and as "HH:mm". Empty for a number that is
 // no day of the years 100 to 9999.
 std::string LongDateText(const QLocale& locale, double days);

@@ -183,6 +183,8 @@ std::string QtPlatform::Currency(double amount) { return CurrencyText(QLocale(),
 
 std::string QtPlatform::CurrencyNoDecimals(double amount) { return CurrencyTextNoDecimals(QLocale(), amount); }
 
+std::string QtPlatform::Fixed(double value, int decimals) { return FixedText(QLocale(), value, decimals); }
+
 std::string QtPlatform::LongDate(double days) { return LongDateText(QLocale(), days); }
 
 std::string QtPlatform::ShortTime(double days) { return ShortTimeText(QLocale(), days); }
