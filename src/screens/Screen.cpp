@@ -11,9 +11,14 @@
 
 namespace dravik {
 
-void RunEvent(const QString& name, const std::function<void()>& routine)
+bool RunEvent(const QString& name, const std::function<void()>& routine)
 {
-    Reporting(" in " + FromQString(name) + "!", routine);
+    try {
+        return Reporting(" in " + FromQString(name) + "!", routine);
+    } catch (...) {
+        // Not even the report could be shown.
+        return false;
+    }
 }
 
 Screen::Screen(Stage& stage, const QString& name) : Owner(stage) { setObjectName(name); }
@@ -46,7 +51,7 @@ void Screen::closeEvent(QCloseEvent* event)
     unloaded = true;
     SettleFocus();
     RunEvent("Form_Unload", [this] { FormUnload(); });
-    Owner.Closed(*this);
+    RunEvent("Form_Unload", [this] { Owner.Closed(*this); });
 }
 
 bool Screen::eventFilter(QObject* watched, QEvent* event)

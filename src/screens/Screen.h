@@ -55,7 +55,7 @@ private:
     bool unloaded = false;
 };
 
-// Runs an event routine, reporting what fails under `name`.
-void RunEvent(const QString& name, const std::function<void()>& routine);
+// Runs an event routine, reporting what fails under `name`; nothing goes further. True when it came to its end.
+bool RunEvent(const QString& name, const std::function<void()>& routine);
 
 } // namespace dravik

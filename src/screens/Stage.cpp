@@ -89,9 +89,7 @@ bool Stage::Start()
     auto made = std::make_unique<frmMain>(*this);
     frmMain& main = *made;
     screens[MainName] = std::move(made);
-    loading = &main;
-    main.FormLoad();
-    loading = nullptr;
+    Load(main);
     if (main.WantsToUnload()) {
         ended = true;
         screens.clear();
@@ -122,9 +120,7 @@ void Stage::Open(std::string_view name, Screen& opener)
         Dispose(std::move(standing->second));
     }
     Screen& screen = *(screens[role->Name] = create(*this));
-    const Screen* outer = std::exchange(loading, &screen);
-    screen.FormLoad();
-    loading = outer;
+    Load(screen);
     if (screen.WantsToUnload()) {
         screen.close();
         return;
@@ -179,12 +175,19 @@ frmMain* Stage::Main() const { return static_cast<frmMain*>(Find(MainName)); }
 
 frmTeam* Stage::Team() const { return static_cast<frmTeam*>(Find(TeamName)); }
 
+void Stage::Load(Screen& screen)
+{
+    const Screen* outer = std::exchange(loading, &screen);
+    RunEvent("Form_Load", [&screen] { screen.FormLoad(); });
+    loading = outer;
+}
+
 void Stage::Show(Screen& screen)
 {
     screen.show();
     screen.raise();
     screen.activateWindow();
-    screen.FormActivate();
+    RunEvent("Form_Activate", [&screen] { screen.FormActivate(); });
 }
 
 void Stage::ShowBehind(std::string_view name)
@@ -216,7 +219,7 @@ void Stage::ShowReturningTo(std::string_view name)
         screen = Find(MainName);
     if (screen == nullptr)
         return;
-    screen->ReloadForm();
+    RunEvent("Form_Load", [screen] { screen->ReloadForm(); });
     if (!screen->WantsToUnload())
         Show(*screen);
 }

@@ -53,6 +53,8 @@ public:
 private:
     [[nodiscard]] frmMain* Main() const;
     [[nodiscard]] frmTeam* Team() const;
+    // Fills a new screen. One whose filling fails is shown as far as it came.
+    void Load(Screen& screen);
     void Show(Screen& screen);
     // Shows the screen that stands behind the closed screen `name`.
     void ShowBehind(std::string_view name);

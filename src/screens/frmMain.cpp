@@ -252,7 +252,10 @@ void frmMain::PlaceTeam()
             list->clear();
 
         const bool allSix = LeagueData.DivisionCount == AllDivisions;
-        resize(allSix ? WideWidth : NarrowWidth, FilledHeight);
+        // The size belongs to the layout: lists filled anew under the same layout leave the window as the user has it.
+        if (placedSix != allSix && !isMaximized() && !isFullScreen())
+            resize(allSix ? WideWidth : NarrowWidth, FilledHeight);
+        placedSix = allSix;
         for (int division = 1; division <= AllDivisions; ++division) {
             const bool inUse = allSix || division % DivisionsOfConference != 0;
             if (inUse)

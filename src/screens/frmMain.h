@@ -5,6 +5,7 @@
 #include "screens/panels/EntryList.h"
 #include "screens/Screen.h"
 
+#include <optional>
 #include <QAction>
 #include <QLabel>
 #include <QMenu>
@@ -75,6 +76,7 @@ private:
     Row<QWidget*, 1, 2> conferences;
 
     bool ListClickReady = false;
+    std::optional<bool> placedSix; // whether all six lists are laid out; empty before the first league
 };
 
 } // namespace dravik

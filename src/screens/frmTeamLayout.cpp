@@ -26,6 +26,13 @@ QHBoxLayout* InARow(std::initializer_list<QWidget*> widgets)
     return row;
 }
 
+QGroupBox* MakeGroup(const char* name, const QString& caption, QWidget* parent)
+{
+    auto* group = new QGroupBox(caption, parent);
+    group->setObjectName(name);
+    return group;
+}
+
 QGridLayout* MakeGrid(QGroupBox* group)
 {
     auto* grid = new QGridLayout(group);
@@ -117,6 +124,7 @@ void frmTeam::MakeControls()
     lblConference = makeMuted("lblConference");
     lblSaveHint = makeMuted("lblSaveHint");
     signSaveHint = new WarningSign(this);
+    signSaveHint->setObjectName("signSaveHint");
     // The screen keeps its shape when the hint goes.
     QSizePolicy keepsPlace = lblSaveHint->sizePolicy();
     keepsPlace.setRetainSizeWhenHidden(true);
@@ -184,15 +192,18 @@ void frmTeam::AddRow(QGridLayout* grid, const QString& caption, QWidget* field, 
 {
     const int row = grid->rowCount();
     auto* label = new MutedLabel(caption, this);
+    label->setObjectName(field->objectName() + "Caption");
     label->setBuddy(field);
-    field->setAccessibleName(caption);
+    // A label is read by its own text; the name of a figure would hide it.
+    if (qobject_cast<EditBox*>(field) != nullptr)
+        field->setAccessibleName(QString(caption).remove('&'));
     grid->addWidget(label, row, CaptionColumn);
     grid->addWidget(field, row, FieldColumn, 1, span);
 }
 
 QWidget* frmTeam::MakeCommandGroup()
 {
-    auto* group = new QGroupBox("Team", this);
+    auto* group = MakeGroup("grpTeam", "Team", this);
     auto* commands = new QHBoxLayout(group);
     commands->setContentsMargins(Margin, Gap, Margin, Margin);
     commands->setSpacing(Gap);
@@ -206,13 +217,13 @@ QWidget* frmTeam::MakeCommandGroup()
 
 QWidget* frmTeam::MakeFileGroup()
 {
-    auto* group = new QGroupBox("Lines File", this);
+    auto* group = MakeGroup("grpLinesFile", "Lines File", this);
     auto* column = new QVBoxLayout(group);
     column->setContentsMargins(Margin, Gap, Margin, Margin);
     column->setSpacing(Gap);
     auto* loads = new MutedLabel("Times Loaded", group);
+    loads->setObjectName("lblLoadLineCaption");
     loads->setBuddy(lblLoadLine);
-    lblLoadLine->setAccessibleName("Times Loaded");
     auto* commands = InARow({cmdSaveToFile, cmdLoadFile});
     commands->addStretch(1);
     commands->addWidget(loads);
@@ -227,7 +238,7 @@ QWidget* frmTeam::MakeFileGroup()
 
 QWidget* frmTeam::MakeProGroup()
 {
-    auto* group = new QGroupBox("Pro Team", this);
+    auto* group = MakeGroup("grpPro", "Pro Team", this);
     QGridLayout* grid = MakeGrid(group);
     AddRow(grid, "Name", txtTeamName);
     AddRow(grid, "City", txtCity);
@@ -241,30 +252,30 @@ QWidget* frmTeam::MakeProGroup()
 
 QWidget* frmTeam::MakeFarmGroup()
 {
-    auto* group = new QGroupBox("Farm Team", this);
+    auto* group = MakeGroup("grpFarm", "Farm Team", this);
     QGridLayout* grid = MakeGrid(group);
     AddRow(grid, "Name", txtFarmTeamName);
     AddRow(grid, "Abbreviation", txtFarmAbbre);
     AddRow(grid, "Morale", txtFarmMorale);
     AddRow(grid, "Coach", lblFarmCoach);
+    for (EditBox* box : {txtFarmTeamName, txtFarmAbbre, txtFarmMorale})
+        box->setAccessibleName("Farm: " + box->accessibleName());
     grid->addLayout(InARow({cmdFarmChangeCoach, cmdFireFarm}), grid->rowCount(), FieldColumn, Qt::AlignLeft);
     return group;
 }
 
 QWidget* frmTeam::MakeContactGroup()
 {
-    auto* group = new QGroupBox("Contact", this);
+    auto* group = MakeGroup("grpContact", "Contact", this);
     QGridLayout* grid = MakeGrid(group);
     AddRow(grid, "&Messenger", txtMessenger);
     AddRow(grid, "&E-mail", txtEmail);
-    txtMessenger->setAccessibleName("Messenger");
-    txtEmail->setAccessibleName("E-mail");
     return group;
 }
 
 QWidget* frmTeam::MakeFinanceGroup()
 {
-    auto* group = new QGroupBox("Finances", this);
+    auto* group = MakeGroup("grpFinance", "Finances", this);
     QGridLayout* grid = MakeGrid(group);
     AddRow(grid, "Bank Account", lblFinance);
     AddRow(grid, "Pro Payroll", lblProPayRoll);
@@ -275,7 +286,7 @@ QWidget* frmTeam::MakeFinanceGroup()
 
 QWidget* frmTeam::MakeProjectionGroup()
 {
-    auto* group = new QGroupBox("Season Projection", this);
+    auto* group = MakeGroup("grpProjection", "Season Projection", this);
     QGridLayout* grid = MakeGrid(group);
     AddRow(grid, "Home Games Left", lblHGLeft);
     AddRow(grid, "Average Attendance", lblAverageAttendance);

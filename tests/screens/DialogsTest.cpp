@@ -310,6 +310,19 @@ TEST_F(Dialogs, SignsAreSharpAndTellKindsApart)
     EXPECT_TRUE(BoxIcon(QMessageBox::NoIcon, QApplication::palette(), 48, 2).isNull());
 }
 
+TEST_F(Dialogs, SignsOnTheAccentAreDrawnInItsOwnInk)
+{
+    QPalette palette = QApplication::palette();
+    palette.setColor(QPalette::Highlight, QColor("#ffd75e"));
+    palette.setColor(QPalette::HighlightedText, QColor("#102030"));
+    const auto dotOf = [&palette](QMessageBox::Icon icon, double height) {
+        constexpr int size = 100;
+        return BoxIcon(icon, palette, size, 1).toImage().pixelColor(size / 2, static_cast<int>(height * size));
+    };
+    EXPECT_EQ(dotOf(QMessageBox::Information, 0.6), palette.color(QPalette::HighlightedText));
+    EXPECT_EQ(dotOf(QMessageBox::Question, 0.76), palette.color(QPalette::HighlightedText));
+}
+
 TEST_F(Dialogs, TheInputBoxReturnsWhatIsTyped)
 {
     const std::string answer = Ask(

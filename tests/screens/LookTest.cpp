@@ -3,7 +3,9 @@
 #include "screens/panels/Shades.h"
 #include "screens/platform/Palettes.h"
 
+#include <QAccessible>
 #include <QGroupBox>
+#include <set>
 
 namespace dravik {
 namespace {
@@ -44,10 +46,17 @@ protected:
 
     static void ExpectNames(const Screen& screen)
     {
-        for (const auto* button : screen.findChildren<QPushButton*>())
+        std::set<QString> names;
+        for (const auto* button : screen.findChildren<QPushButton*>()) {
             EXPECT_FALSE(button->text().isEmpty()) << button->objectName().toStdString();
-        for (const auto* box : screen.findChildren<EditBox*>())
+            const QString name = button->accessibleName().isEmpty() ? button->text() : button->accessibleName();
+            EXPECT_TRUE(names.insert(name).second) << name.toStdString();
+        }
+        for (const auto* box : screen.findChildren<EditBox*>()) {
             EXPECT_FALSE(box->accessibleName().isEmpty()) << box->objectName().toStdString();
+            EXPECT_TRUE(names.insert(box->accessibleName()).second) << box->accessibleName().toStdString();
+            EXPECT_FALSE(box->accessibleName().contains('&')) << box->accessibleName().toStdString();
+        }
         for (const auto* list : screen.findChildren<EntryList*>())
             if (list->isVisible()) {
                 EXPECT_FALSE(list->accessibleName().isEmpty()) << list->objectName().toStdString();
@@ -95,6 +104,37 @@ TEST_F(LookTest, EverythingHasANameForScreenReaders)
     MainWithLeague();
     ExpectNames(Main());
     ExpectNames(OpenTeam(5));
+}
+
+TEST_F(LookTest, AFigureIsReadByItsOwnText)
+{
+    Teams[5].LinesLoadCount = 3;
+    const frmTeam& team = OpenTeam(5);
+    for (QLabel* label : team.findChildren<QLabel*>())
+        EXPECT_EQ(label->accessibleName(), "") << label->objectName().toStdString();
+    for (QLabel* figure : {team.lblLoadLine, team.lblFinance, team.lblProPayRoll, team.lblHGLeft}) {
+        QAccessibleInterface* reader = QAccessible::queryAccessibleInterface(figure);
+        ASSERT_NE(reader, nullptr);
+        EXPECT_EQ(reader->text(QAccessible::Name), figure->text());
+        EXPECT_FALSE(figure->text().isEmpty());
+    }
+}
+
+TEST_F(LookTest, EveryCaptionGroupAndSignHasANameOfItsOwn)
+{
+    const frmTeam& team = OpenTeam(5);
+    std::set<QString> names;
+    const auto expectOwnName = [&names](const QWidget* widget) {
+        EXPECT_FALSE(widget->objectName().isEmpty());
+        EXPECT_TRUE(names.insert(widget->objectName()).second) << widget->objectName().toStdString();
+    };
+    for (const auto* label : team.findChildren<QLabel*>())
+        expectOwnName(label);
+    for (const auto* group : team.findChildren<QGroupBox*>())
+        expectOwnName(group);
+    EXPECT_NE(dynamic_cast<WarningSign*>(team.findChild<QWidget*>("signSaveHint")), nullptr);
+    EXPECT_EQ(team.txtTeamName->accessibleName(), "Name");
+    EXPECT_EQ(team.txtFarmTeamName->accessibleName(), "Farm: Name");
 }
 
 TEST_F(LookTest, NoMnemonicStandsTwice) { ExpectDistinctMnemonics(OpenTeam(5)); }

@@ -217,6 +217,19 @@ TEST_F(QtPlatformTest, TheWaitScreenHasNoButtonToCloseIt)
     Desktop.CloseWait();
 }
 
+TEST_F(QtPlatformTest, EscapeTakesAWaitScreenThatStaysOutOfTheWayUntilItIsShownAgain)
+{
+    Desktop.SetWaitMilliseconds(0);
+    Desktop.ShowWait();
+    ASSERT_NE(ShownWait(), nullptr);
+    QTest::keyClick(ShownWait(), Qt::Key_Escape);
+    EXPECT_EQ(ShownWait(), nullptr);
+    Desktop.ShowWait();
+    EXPECT_NE(ShownWait(), nullptr);
+    Desktop.CloseWait();
+    EXPECT_EQ(ShownWait(), nullptr);
+}
+
 TEST_F(QtPlatformTest, TheWaitScreenStandsInTheMiddleOfTheActiveWindowAndGoesWithIt)
 {
     Desktop.SetWaitMilliseconds(0);

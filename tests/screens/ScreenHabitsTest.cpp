@@ -1,5 +1,7 @@
 #include "OnMainScreen.h"
 #include "OnTeamScreen.h"
+#include "rules/Function.h"
+#include "screens/platform/CodePage.h"
 
 #include <QHelpEvent>
 #include <QTextDocument>
@@ -131,18 +133,16 @@ TEST_F(TeamOpening, AFailureInTheMiddleStillClosesTheEightBoxesAndHidesTheEightC
         EXPECT_FALSE(command->isVisible()) << command->objectName().toStdString();
 }
 
-TEST_F(TeamOpening, TheSaveHintShowsATagAsItIsWritten)
+TEST_F(TeamOpening, TheSaveHintShowsTheJudgesWordsAsTheyAreWritten)
 {
     CompleteTeam(5);
     Own().ProLines[1].StartGoalie = 0;
-    const frmTeam& office = Office();
-    const std::string seen = Seen(office.lblSaveHint->toolTip());
-    std::string words = LastLinesText();
-    EXPECT_TRUE(CheckLineFarm(5, false, 1, false));
-    EXPECT_FALSE(words.empty());
-    words.erase(std::remove(words.begin(), words.end(), '\r'), words.end());
-    EXPECT_EQ(seen, words);
-    EXPECT_TRUE(Qt::mightBeRichText(office.lblSaveHint->toolTip()));
+    const QString tooltip = Office().lblSaveHint->toolTip();
+    ASSERT_FALSE(CheckLine(5, false, 1, false));
+    const QString words = ToQString(LastLinesText()).replace("\r\n", "\n");
+    ASSERT_FALSE(words.isEmpty());
+    EXPECT_TRUE(Qt::mightBeRichText(tooltip));
+    EXPECT_EQ(QString::fromStdString(Seen(tooltip)).trimmed(), words.trimmed());
 }
 
 class EntryHabits : public OnMainScreen {
@@ -237,6 +237,171 @@ TEST_F(EntryHabits, ATooltipShowsATagAsItIsWritten)
     QApplication::sendEvent(list.viewport(), &help);
     EXPECT_EQ(Seen(QToolTip::text()), name);
     QToolTip::hideText();
+}
+
+// A screen that fails wherever it is told to.
+class FailingScreen : public Screen {
+public:
+    explicit FailingScreen(Stage& stage) : Screen(stage, "frmFailing") {}
+
+    void FormLoad() override
+    {
+        setWindowTitle("changed");
+        if (Fails == "load")
+            Fail(failure::Overflow);
+        if (Fails == "load and unload") {
+            Unload();
+            Fail(failure::Overflow);
+        }
+    }
+    void ReloadForm() override { FailIf("reload"); }
+    void FormActivate() override { FailIf("activate"); }
+    void FormUnload() override { FailIf("unload"); }
+
+    static inline std::string Fails;
+
+private:
+    static void FailIf(const std::string& when)
+    {
+        if (Fails == when)
+            Fail(failure::Overflow);
+    }
+};
+
+class FailingScreens : public OnStage {
+protected:
+    FailingScreens()
+    {
+        FailingScreen::Fails = "";
+        for (const char* name : {"Draft", "Team", "Roster"})
+            TheStage.Provide(name, [](Stage& stage) { return std::make_unique<FailingScreen>(stage); });
+    }
+
+    void Open(const std::string& fails)
+    {
+        MainWithLeague();
+        FailingScreen::Fails = fails;
+        TheStage.Open("Draft", Main());
+        Settle();
+    }
+
+    // Opens a screen in front of another failing one and closes it again.
+    void ReturnTo(const std::string& fails)
+    {
+        TheStage.Open("Team", MainWithLeague());
+        CallerScreen = "Team";
+        TheStage.Open("Roster", *TheStage.Find("Team"));
+        FailingScreen::Fails = fails;
+        EXPECT_NO_THROW(TheStage.Find("Roster")->close());
+        Settle();
+    }
+};
+
+TEST_F(FailingScreens, AScreenWhoseLoadingFailsIsToldAndShownAsFarAsItCame)
+{
+    Open("load");
+    EXPECT_THAT(Machine.Boxes(), ElementsAre(Box{16, "6 - Overflow in Form_Load!"}));
+    Screen* screen = TheStage.Find("Draft");
+    ASSERT_NE(screen, nullptr);
+    EXPECT_TRUE(screen->isVisible());
+    EXPECT_EQ(screen->windowTitle(), "changed");
+    EXPECT_FALSE(Main().isVisible());
+    EXPECT_FALSE(TheStage.IsLoading(*screen));
+    screen->Unload(); // nothing loads any more, so it closes at once
+    Settle();
+    EXPECT_EQ(TheStage.Find("Draft"), nullptr);
+    EXPECT_TRUE(Main().isVisible());
+}
+
+TEST_F(FailingScreens, AScreenThatWantedToCloseBeforeItFailedIsClosed)
+{
+    Open("load and unload");
+    EXPECT_EQ(TheStage.Find("Draft"), nullptr);
+    EXPECT_TRUE(Main().isVisible());
+}
+
+TEST_F(FailingScreens, TheOpenerHidesEvenWhenTheScreenFailsInFront)
+{
+    Open("activate");
+    EXPECT_THAT(Machine.Boxes(), ElementsAre(Box{16, "6 - Overflow in Form_Activate!"}));
+    EXPECT_TRUE(TheStage.Find("Draft")->isVisible());
+    EXPECT_FALSE(Main().isVisible());
+}
+
+TEST_F(FailingScreens, AScreenThatFailsWhenItIsFilledAnewComesBackAllTheSame)
+{
+    ReturnTo("reload");
+    EXPECT_THAT(Machine.Boxes(), ElementsAre(Box{16, "6 - Overflow in Form_Load!"}));
+    EXPECT_TRUE(TheStage.Find("Team")->isVisible());
+    EXPECT_EQ(TheStage.Find("Roster"), nullptr);
+}
+
+TEST_F(FailingScreens, AScreenThatFailsWhenItComesBackStaysInFront)
+{
+    ReturnTo("activate");
+    EXPECT_THAT(Machine.Boxes(), ElementsAre(Box{16, "6 - Overflow in Form_Activate!"}));
+    EXPECT_TRUE(TheStage.Find("Team")->isVisible());
+    EXPECT_EQ(TheStage.Find("Roster"), nullptr);
+}
+
+// A machine on which nothing can even be told.
+class SilentMachine : public ScriptedPlatform {
+public:
+    int MessageBox(const std::string& /*text*/, int /*kind*/, const std::string& /*title*/) override
+    {
+        Fail(failure::OutOfMemory);
+    }
+};
+
+TEST_F(FailingScreens, AFailureThatCannotEvenBeToldLeavesNoEvent)
+{
+    SilentMachine silent;
+    MainWithLeague();
+    UseMachine(silent);
+    for (const char* fails : {"load", "activate", "unload"}) {
+        FailingScreen::Fails = fails;
+        EXPECT_NO_THROW(TheStage.Open("Draft", Main())) << fails;
+        EXPECT_FALSE(Main().isVisible()) << fails;
+        EXPECT_NO_THROW(TheStage.Find("Draft")->close()) << fails;
+        Settle();
+        EXPECT_EQ(TheStage.Find("Draft"), nullptr) << fails;
+        EXPECT_TRUE(Main().isVisible()) << fails;
+    }
+    CallerScreen = "nobody"; // the way back fails as well
+    TheStage.Open("Roster", Main());
+    EXPECT_NO_THROW(TheStage.Find("Roster")->close());
+    UseMachine(Machine);
+}
+
+class MainWindowSize : public OnMainScreen {};
+
+TEST_F(MainWindowSize, TeamsPlacedAnewLeaveTheSizeThatTheUserGave)
+{
+    MainWithLeague();
+    const QSize own(1300, 700);
+    Main().resize(own);
+    TheStage.PlaceTeam();
+    EXPECT_EQ(Main().size(), own);
+    LeagueData.DivisionCount = 4;
+    TheStage.PlaceTeam();
+    EXPECT_NE(Main().size(), own);
+}
+
+TEST_F(MainWindowSize, AMaximisedOrFullScreenWindowKeepsItsSize)
+{
+    for (void (QWidget::*show)() : {&QWidget::showMaximized, &QWidget::showFullScreen}) {
+        LeagueData.DivisionCount = 6;
+        MainWithLeague();
+        (Main().*show)();
+        Settle();
+        const QSize before = Main().size();
+        LeagueData.DivisionCount = 4;
+        TheStage.PlaceTeam();
+        Settle();
+        EXPECT_EQ(Main().size(), before);
+        Main().showNormal();
+        Settle();
+    }
 }
 
 } // namespace

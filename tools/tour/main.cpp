@@ -236,8 +236,20 @@ int Run(const Plan& plan)
     } catch (const StepFailed& failed) {
         std::cerr << "tour: this did not come true: " << failed.what() << '\n';
         return 1;
+    } catch (const std::exception& failed) {
+        std::cerr << "tour: ended by a failure: " << failed.what() << '\n';
+        return 1;
     }
     return 0;
+}
+
+QtMessageHandler usualHandler = nullptr;
+
+// Without a display some wishes of a window cannot be met, which is no news here.
+void TellUnlessWithoutDisplay(QtMsgType type, const QMessageLogContext& context, const QString& message)
+{
+    if (!message.startsWith("This plugin does not support"))
+        usualHandler(type, context, message);
 }
 
 } // namespace
@@ -250,6 +262,7 @@ int main(int argc, char** argv)
         qputenv("QT_QPA_PLATFORM", "offscreen");
     QLocale::setDefault(QLocale(QLocale::English, QLocale::UnitedStates));
     QApplication::setDesktopSettingsAware(false);
+    dravik::tour::usualHandler = qInstallMessageHandler(dravik::tour::TellUnlessWithoutDisplay);
     const dravik::Application application(argc, argv);
     QApplication::setFont(QFont("DejaVu Sans", 9));
     return dravik::tour::Run(dravik::tour::Parse(application));

@@ -66,11 +66,12 @@ QPixmap BoxIcon(QMessageBox::Icon icon, const QPalette& palette, int size, doubl
         QColor Ink;
     };
     const QColor accent = palette.color(QPalette::Highlight);
+    const QColor onAccent = palette.color(QPalette::HighlightedText);
     const std::array signs{
         Sign{QMessageBox::Critical, Disc, DrawCross, QColor("#c0392b"), Qt::white},
         Sign{QMessageBox::Warning, Triangle, DrawExclamation, QColor("#e5a50a"), QColor("#241f14")},
-        Sign{QMessageBox::Information, Disc, DrawInformation, accent, Qt::white},
-        Sign{QMessageBox::Question, Disc, DrawQuestion, accent, Qt::white},
+        Sign{QMessageBox::Information, Disc, DrawInformation, accent, onAccent},
+        Sign{QMessageBox::Question, Disc, DrawQuestion, accent, onAccent},
     };
     const auto* sign = std::find_if(signs.begin(), signs.end(), [icon](const Sign& row) { return row.Icon == icon; });
     if (sign == signs.end())
