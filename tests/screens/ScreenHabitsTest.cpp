@@ -183,15 +183,6 @@ TEST_F(EntryHabits, TheChosenEntryStaysChosenUnderControlAndSpace)
     }
 }
 
-TEST_F(EntryHabits, AClickBesideTheEntriesLeavesTheChoice)
-{
-    EntryList& list = ListWithTwo();
-    ClickEntry(1, 0);
-    const int below = list.visualItemRect(list.item(1)).bottom() + 20;
-    QTest::mouseClick(list.viewport(), Qt::LeftButton, Qt::NoModifier, QPoint(20, below));
-    EXPECT_EQ(list.Chosen(), list.item(0));
-}
-
 TEST_F(EntryHabits, ControlAndClickChoosesAnotherEntry)
 {
     EntryList& list = ListWithTwo();

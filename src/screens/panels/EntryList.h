@@ -46,7 +46,7 @@ protected:
     void keyPressEvent(QKeyEvent* event) override;
     // Only the left button acts on an entry.
     void mouseDoubleClickEvent(QMouseEvent* event) override;
-    // Where one entry is chosen at a time, no click and no key leaves none chosen.
+    // Where one entry is chosen at a time, the chosen one is never toggled off by the control key.
     QItemSelectionModel::SelectionFlags selectionCommand(const QModelIndex& index, const QEvent* event) const override;
 };
 
