@@ -1,0 +1,33 @@
+#pragma once
+
+#include <optional>
+#include <string_view>
+#include <vector>
+
+namespace dravik {
+
+// One line of a person's stat panel: a caption of two letters and a number, usually 0 to 99.
+struct StatRow {
+    std::string_view Label;
+    int Value;
+
+    bool operator==(const StatRow&) const = default;
+};
+
+// What the league lets a general manager see of a person's ratings.
+struct StatRows {
+    // The rows from 1 to `PlayerStatCount` or `GoalieStatCount`: the single ratings, or the group values where the league
+    // hides those. The mean of a group is rounded to the nearest integer, ties to even.
+    std::vector<StatRow> Ratings;
+    int Overall = 0;
+    // The row behind them, in a league that shows the overall.
+    std::optional<StatRow> OverallRow;
+};
+
+// The rows of the skater or goalie in slot `index` of his table. Nothing is changed and no box is shown, save for
+// CalculateOverall's when a skater has no position. A slot outside the table, or more rows than there are captions for,
+// fails with 9.
+StatRows SkaterStatRows(int index);
+StatRows GoalieStatRows(int index);
+
+} // namespace dravik
