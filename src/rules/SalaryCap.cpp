@@ -1,3 +1,5 @@
+#include "rules/SalaryCap.h"
+
 #include "league/Arithmetic.h"
 #include "league/ClientVariable.h"
 #include "league/Message.h"
@@ -13,6 +15,8 @@
 namespace dravik {
 
 namespace {
+
+std::string CapText; // what the last judgement had to say
 
 // What the payroll of a team may reach, in the modes that have a cap.
 std::optional<long long> CapOf(const Team& team)
@@ -30,6 +34,8 @@ std::optional<long long> CapOf(const Team& team)
 void Tell(const std::string& name, std::string_view words, long long amount, bool showMessage)
 {
     const std::string text = name + std::string(words) + Machine().Currency(static_cast<double>(Limit32(amount))) + "!";
+    CapText += text;
+    CapText += LineBreak;
     if (MayReport(showMessage))
         ShowBox(text, box::Warning);
     else
@@ -37,6 +43,22 @@ void Tell(const std::string& name, std::string_view words, long long amount, boo
 }
 
 } // namespace
+
+CapStanding StandingAgainstCap(int team)
+{
+    CapStanding standing;
+    standing.Pro = RoundToInt32(ProPayroll(team));
+    standing.Farm = RoundToInt32(FarmPayroll(team));
+    standing.Total = standing.Pro;
+    if (LeagueData.FarmPayrollInCap)
+        standing.Total = Limit32(standing.Pro + standing.Farm);
+    if (LeagueData.CoachPayrollInCap)
+        standing.Total = RoundToInt32(static_cast<double>(CoachPayroll(team)) + static_cast<double>(standing.Total));
+    standing.Cap = CapOf(Teams[team]);
+    return standing;
+}
+
+const std::string& LastCapText() { return CapText; }
 
 bool CheckSalaryCap(int team, bool showMessage)
 {
@@ -47,20 +69,13 @@ bool CheckSalaryCap(int team, bool showMessage)
             return;
         }
         within = true;
+        CapText.clear();
         const League& league = LeagueData;
         if (league.SalaryCapMode == 0)
             return;
         const Team& record = Teams[team];
 
-        const long long pro = RoundToInt32(ProPayroll(team));
-        const long long farm = RoundToInt32(FarmPayroll(team));
-        long long total = pro;
-        if (league.FarmPayrollInCap)
-            total = Limit32(pro + farm);
-        if (league.CoachPayrollInCap)
-            total = RoundToInt32(static_cast<double>(CoachPayroll(team)) + static_cast<double>(total));
-
-        const auto cap = CapOf(record);
+        const auto [pro, farm, total, cap] = StandingAgainstCap(team);
         if (cap && total > *cap) {
             within = false;
             Tell(record.Name.Trimmed(), " is over the salary cap by ", total - *cap, showMessage);

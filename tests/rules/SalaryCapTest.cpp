@@ -1,3 +1,5 @@
+#include "rules/SalaryCap.h"
+
 #include "rules/Function.h"
 #include "support/LeagueImage.h"
 #include "support/RandomLeague.h"
@@ -203,6 +205,37 @@ TEST_F(SalaryCapTest, AmountBeyond32BitsIsAnOverflowAfterTheResult)
     LeagueData.SalaryCap = -2000000000;
     EXPECT_FALSE(CheckSalaryCap(5, true));
     EXPECT_THAT(Machine.Boxes(), ElementsAre(Box{box::Critical, "6 - Overflow in CheckSalaryCap!"}));
+}
+
+TEST_F(SalaryCapTest, StandingHoldsWhatCountsAgainstTheCap)
+{
+    CapStanding standing = StandingAgainstCap(5);
+    EXPECT_EQ(standing.Pro, 3000000);
+    EXPECT_EQ(standing.Farm, 200000);
+    EXPECT_EQ(standing.Total, 3000000);
+    EXPECT_EQ(standing.Cap, 3000000);
+    LeagueData.FarmPayrollInCap = true;
+    LeagueData.CoachPayrollInCap = true;
+    EXPECT_EQ(StandingAgainstCap(5).Total, 3700000);
+    LeagueData.SalaryCapMode = 2;
+    Teams[5].Cash = -1000;
+    EXPECT_EQ(StandingAgainstCap(5).Cap, 2999000);
+    LeagueData.SalaryCapMode = 0;
+    EXPECT_EQ(StandingAgainstCap(5).Cap, std::nullopt);
+}
+
+TEST_F(SalaryCapTest, TheTextOfTheLastJudgementIsKeptWhetherShownOrNot)
+{
+    LeagueData.SalaryCap = 2999999;
+    LeagueData.FarmSalaryCap = 199999;
+    const std::string text = "Team 5 is over the salary cap by $1.00!\r\nFarm 5 is over the salary cap by $1.00!\r\n";
+    CheckSalaryCap(5, false);
+    EXPECT_EQ(LastCapText(), text);
+    CheckSalaryCap(5, true);
+    EXPECT_EQ(LastCapText(), text);
+    LeagueData.SalaryCapMode = 0;
+    CheckSalaryCap(5, true);
+    EXPECT_EQ(LastCapText(), "");
 }
 
 TEST_F(SalaryCapTest, RandomLeaguesAgreeWithAPlainReadingAndNothingChanges)
