@@ -39,10 +39,15 @@ QSize WarningSign::sizeHint() const
 void WarningSign::paintEvent(QPaintEvent* /*event*/)
 {
     QPainter painter(this);
+    PaintWarningSign(painter, rect(), palette().color(QPalette::Window));
+}
+
+void PaintWarningSign(QPainter& painter, const QRectF& area, const QColor& background)
+{
+    painter.save();
     painter.setRenderHint(QPainter::Antialiasing);
-    const QColor background = palette().color(QPalette::Window);
-    const double side = std::min(width(), height());
-    painter.translate((width() - side) / 2, (height() - side) / 2);
+    const double side = std::min(area.width(), area.height());
+    painter.translate(area.center() - QPointF(side / 2, side / 2));
     painter.scale(side / 16, side / 16);
     QPainterPath triangle;
     triangle.moveTo(8, 1.5);
@@ -55,6 +60,7 @@ void WarningSign::paintEvent(QPaintEvent* /*event*/)
     painter.setPen(QPen(background, 1.7, Qt::SolidLine, Qt::RoundCap));
     painter.drawLine(QPointF(8, 5.6), QPointF(8, 9.4));
     painter.drawPoint(QPointF(8, 12));
+    painter.restore();
 }
 
 QLabel* MakeTitle(QWidget* parent)

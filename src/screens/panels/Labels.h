@@ -24,6 +24,9 @@ protected:
     void paintEvent(QPaintEvent* event) override;
 };
 
+// Paints that sign into `area`, in the colours that fit `background`.
+void PaintWarningSign(QPainter& painter, const QRectF& area, const QColor& background);
+
 // A label in the font of titles or headings.
 QLabel* MakeTitle(QWidget* parent = nullptr);
 QLabel* MakeHeading(const QString& text, QWidget* parent = nullptr);

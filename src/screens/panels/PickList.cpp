@@ -1,0 +1,96 @@
+#include "screens/panels/PickList.h"
+
+#include <QKeyEvent>
+#include <QMouseEvent>
+#include <utility>
+
+namespace dravik {
+
+PickList::PickList(QWidget* parent) : EntryList(parent)
+{
+    setSelectionMode(QAbstractItemView::ExtendedSelection);
+    const auto note = [this] {
+        if (holdsBack)
+            hasNews = true;
+        else
+            emit Picked();
+    };
+    connect(this, &QListWidget::itemSelectionChanged, this, note);
+}
+
+void PickList::Empty()
+{
+    const bool outer = std::exchange(holdsBack, true);
+    clear();
+    holdsBack = outer;
+    hasNews = false;
+}
+
+void PickList::TakeFrom(PickList& other, int row)
+{
+    const bool outer = std::exchange(other.holdsBack, true);
+    QListWidgetItem* moved = other.takeItem(row);
+    other.holdsBack = outer;
+    other.hasNews = false;
+    addItem(moved);
+}
+
+int PickList::RowOf(int number) const
+{
+    for (int row = 0; row < count(); ++row)
+        if (item(row)->data(entry::NumberRole).toInt() == number)
+            return row;
+    return -1;
+}
+
+void PickList::SetCurrentToNone() { setCurrentRow(-1, QItemSelectionModel::NoUpdate); }
+
+bool PickList::viewportEvent(QEvent* event)
+{
+    switch (event->type()) {
+    case QEvent::MouseButtonPress:
+    case QEvent::MouseButtonRelease:
+    case QEvent::MouseMove: {
+        bool done = false;
+        Handle([&] {
+            const auto* mouse = static_cast<QMouseEvent*>(event);
+            // A click on an entry counts even when it changes nothing.
+            if (event->type() == QEvent::MouseButtonPress && mouse->button() == Qt::LeftButton)
+                hasNews = itemAt(mouse->position().toPoint()) != nullptr;
+            done = EntryList::viewportEvent(event);
+        });
+        return done;
+    }
+    default:
+        return EntryList::viewportEvent(event);
+    }
+}
+
+void PickList::keyPressEvent(QKeyEvent* event)
+{
+    Handle([&] {
+        const int before = currentRow();
+        EntryList::keyPressEvent(event);
+        hasNews = hasNews || currentRow() != before;
+    });
+}
+
+// The toolkit makes the first entry current when the list gets the focus. That is no choice of the user's.
+void PickList::focusInEvent(QFocusEvent* event)
+{
+    const bool hadCurrent = currentRow() >= 0;
+    EntryList::focusInEvent(event);
+    if (!hadCurrent)
+        SetCurrentToNone();
+}
+
+void PickList::Handle(const std::function<void()>& action)
+{
+    const bool outer = std::exchange(holdsBack, true);
+    action();
+    holdsBack = outer;
+    if (!outer && std::exchange(hasNews, false))
+        emit Picked();
+}
+
+} // namespace dravik

@@ -1,0 +1,44 @@
+#pragma once
+
+#include "screens/panels/EntryList.h"
+
+#include <functional>
+
+namespace dravik {
+
+// A list of entries of which several can be chosen: by click, Ctrl-click, Shift-click, arrows and Ctrl+A. It tells once of
+// each thing that the user did, when current entry and selection both stand.
+class PickList : public EntryList {
+    Q_OBJECT
+public:
+    explicit PickList(QWidget* parent = nullptr);
+
+    // What follows tells nobody.
+    void Empty();
+    // Adds at the end a copy of the entry `row` of `other` and takes it out there.
+    void TakeFrom(PickList& other, int row);
+
+    // The row of the entry with that number, or -1.
+    [[nodiscard]] int RowOf(int number) const;
+    [[nodiscard]] bool IsChosen(int row) const { return item(row)->isSelected(); }
+    [[nodiscard]] int ChosenCount() const { return static_cast<int>(selectedItems().size()); }
+    void SetCurrentToNone();
+
+signals:
+    // The user, or code in his place, chose or let go an entry, or clicked on one.
+    void Picked();
+
+protected:
+    bool viewportEvent(QEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
+    void focusInEvent(QFocusEvent* event) override;
+
+private:
+    // Runs what handles one thing the user did, and tells of it if it chose something.
+    void Handle(const std::function<void()>& action);
+
+    bool holdsBack = false;
+    bool hasNews = false;
+};
+
+} // namespace dravik

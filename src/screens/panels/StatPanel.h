@@ -1,0 +1,34 @@
+#pragma once
+
+#include "league/Field.h"
+#include "rules/StatRows.h"
+
+#include <QGroupBox>
+#include <QLabel>
+
+namespace dravik {
+
+// A person's ratings: captions, bars from 0 to 99 and numbers, in two columns. Row 0 is his position, beside his name.
+class StatPanel : public QGroupBox {
+public:
+    explicit StatPanel(QWidget* parent = nullptr);
+
+    // Shows nobody. The panel keeps its place.
+    void HideRows();
+    // Shows the position line. A name is there for the eye only.
+    void ShowPosition(const QString& position);
+    void SetName(const QString& name);
+    // Shows the ratings, and the overall behind them where the league shows it.
+    void ShowRows(const StatRows& rows);
+
+    Row<QLabel*, 0, 16> lblStat;
+    Row<QLabel*, 0, 16> lblStatLabel;
+
+private:
+    void ShowRow(int row, const StatRow& shown);
+
+    QLabel* lblName;
+    Row<QWidget*, 1, 16> bars;
+};
+
+} // namespace dravik
