@@ -5,6 +5,7 @@
 #include "league/Message.h"
 #include "league/Platform.h"
 #include "screens/frmMain.h"
+#include "screens/frmRoster.h"
 #include "screens/frmTeam.h"
 
 #include <algorithm>
@@ -34,11 +35,12 @@ struct Role {
 
 constexpr std::string_view MainName = "Main";
 constexpr std::string_view TeamName = "Team";
+constexpr std::string_view RosterName = "Roster";
 
 // clang-format off
 constexpr Role Roles[] = {
     {"Team",       Behind::Main,   true,  Make<frmTeam>},
-    {"Roster",     Behind::Caller, true,  nullptr},
+    {"Roster",     Behind::Caller, true,  Make<frmRoster>},
     {"Line",       Behind::Caller, true,  nullptr},
     {"FarmLine",   Behind::Caller, true,  nullptr},
     {"FreeAgent",  Behind::Main,   true,  nullptr},
@@ -63,7 +65,7 @@ std::string_view ViewerOpener()
 {
     switch (static_cast<int>(ViewerReturnMode)) {
     case 2:
-        return "Roster";
+        return RosterName;
     case 3:
         return "FreeAgent";
     case 4:
@@ -150,6 +152,17 @@ void Stage::EnableSaveToFile()
         team->EnableSaveToFile();
 }
 
+void Stage::ViewerClosed(bool changed)
+{
+    frmRoster* roster = Roster();
+    if (roster == nullptr || ViewerOpener() != RosterName)
+        return;
+    if (changed)
+        roster->ShowPlayer(false);
+    else
+        roster->ShowStats();
+}
+
 void Stage::Closed(Screen& screen)
 {
     const auto found = std::find_if(screens.begin(), screens.end(),
@@ -181,6 +194,8 @@ void Stage::Load(Screen& screen)
     RunEvent("Form_Load", [&screen] { screen.FormLoad(); });
     loading = outer;
 }
+
+frmRoster* Stage::Roster() const { return static_cast<frmRoster*>(Find(RosterName)); }
 
 void Stage::Show(Screen& screen)
 {

@@ -11,6 +11,7 @@
 namespace dravik {
 
 class frmMain;
+class frmRoster;
 class frmTeam;
 class Screen;
 
@@ -46,6 +47,9 @@ public:
     // Makes the command available that saves the lines file, since day 1 of the pro lines has passed.
     void EnableSaveToFile();
 
+    // The player viewer has closed, and may have `changed` what the screen that opened it shows.
+    void ViewerClosed(bool changed);
+
     // For the screens themselves: whether one is being loaded, and what happens when one has closed.
     [[nodiscard]] bool IsLoading(const Screen& screen) const { return loading == &screen; }
     void Closed(Screen& screen);
@@ -55,6 +59,7 @@ private:
     [[nodiscard]] frmTeam* Team() const;
     // Fills a new screen. One whose filling fails is shown as far as it came.
     void Load(Screen& screen);
+    [[nodiscard]] frmRoster* Roster() const;
     void Show(Screen& screen);
     // Shows the screen that stands behind the closed screen `name`.
     void ShowBehind(std::string_view name);

@@ -54,15 +54,17 @@ TEST_F(MainMenus, ViewTeamOpensTheTeamScreenAndHidesMain)
     EXPECT_FALSE(Main().isVisible());
 }
 
-TEST_F(MainMenus, SetRosterNotesMainAsItsCaller)
+TEST_F(MainMenus, SetRosterOpensTheRosterScreenAndNotesMainAsItsCaller)
 {
-    PutTeam(1, 1);
+    CompleteTeam(1);
     MainWithLeague();
     CurrentTeam = 1;
     Main().mnuSetRoster->trigger();
     EXPECT_EQ(CallerScreen, "Main");
-    EXPECT_THAT(Machine.Boxes(), ElementsAre(Box{64, "Not available yet."}));
-    EXPECT_TRUE(Main().isVisible());
+    EXPECT_THAT(Machine.Boxes(), ElementsAre());
+    ASSERT_NE(TheStage.Find("Roster"), nullptr);
+    EXPECT_TRUE(TheStage.Find("Roster")->isVisible());
+    EXPECT_FALSE(Main().isVisible());
 }
 
 TEST_F(MainMenus, SetLinesRefusesAnIncompleteRosterWhileSetFarmLinesOpens)

@@ -307,7 +307,7 @@ TEST_F(frmTeamTest, ScreenCommandsNoteTheTeamScreenAsTheirCaller)
 {
     CompleteTeam(5);
     frmTeam& office = Office();
-    for (QPushButton* command : {office.CmdRoster, office.cmdLines, office.cmdFarmLines, office.cmdTicketArena}) {
+    for (QPushButton* command : {office.cmdLines, office.cmdFarmLines, office.cmdTicketArena}) {
         CallerScreen = "Main";
         Click(command);
         EXPECT_EQ(CallerScreen, "Team") << command->objectName().toStdString();
@@ -315,6 +315,18 @@ TEST_F(frmTeamTest, ScreenCommandsNoteTheTeamScreenAsTheirCaller)
             << command->objectName().toStdString();
         EXPECT_TRUE(office.isVisible());
     }
+}
+
+TEST_F(frmTeamTest, RosterCommandOpensTheRosterScreenAndNotesTheTeamScreenAsItsCaller)
+{
+    CompleteTeam(5);
+    CallerScreen = "Main";
+    Click(Office().CmdRoster);
+    EXPECT_EQ(CallerScreen, "Team");
+    EXPECT_THAT(Machine.Boxes(), IsEmpty());
+    ASSERT_NE(TheStage.Find("Roster"), nullptr);
+    EXPECT_TRUE(TheStage.Find("Roster")->isVisible());
+    EXPECT_FALSE(Office().isVisible());
 }
 
 TEST_F(frmTeamTest, HiddenScreenCommandsKeepTheirRoutines)

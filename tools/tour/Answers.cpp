@@ -39,6 +39,10 @@ bool Answers::eventFilter(QObject* watched, QEvent* event)
 void Answers::Answer(QDialog& dialog)
 {
     const QString says = WordsOf(dialog);
+    if (auto* box = qobject_cast<QMessageBox*>(&dialog); box != nullptr && confirmsAll) {
+        box->defaultButton()->click();
+        return;
+    }
     const bool fits =
         !expected.empty() && expected.front().Dialog == dialog.objectName() && expected.front().Says == says;
     if (!fits) {

@@ -19,6 +19,9 @@ public:
     void Type(const QString& prompt, const QString& answer) { expected.push_back({"inputBox", prompt, answer}); }
     void Choose(const QString& path) { expected.push_back({"dlgCommon", {}, path}); }
 
+    // While on, any message box is confirmed, whatever it says: what a judge finds depends on the league.
+    void ConfirmAll(bool on) { confirmsAll = on; }
+
     // What went otherwise than expected since the last call, dialogs that never came included.
     QStringList TakeComplaints();
 
@@ -36,6 +39,7 @@ private:
 
     std::deque<Expected> expected;
     QStringList complaints;
+    bool confirmsAll = false;
 };
 
 } // namespace dravik::tour

@@ -6,6 +6,7 @@
 #include "makers/Makers.h"
 #include "rules/Function.h"
 #include "screens/frmMain.h"
+#include "screens/frmRoster.h"
 #include "screens/frmTeam.h"
 #include "screens/platform/Application.h"
 #include "screens/platform/CodePage.h"
@@ -50,8 +51,9 @@ public:
         OpenLeague();
         EnterOffice();
         Photograph("Team", "team-first");
+        ShapeRoster();
         LeaveOffice();
-        MakeRosterAndLines();
+        MakeLines();
         EnterOffice();
         Photograph("Team", "team");
         SaveLines();
@@ -105,11 +107,49 @@ private:
         Require(stage.Find("Team") == nullptr && Main().isVisible(), "the main screen comes back");
     }
 
-    void MakeRosterAndLines()
+    // Looks at the roster as it came, has it made, looks through one list and moves a scratch up and down again.
+    void ShapeRoster()
     {
-        AutoRoster(plan.Team, false, false);
+        answers.ConfirmAll(true); // what opening finds depends on the league
+        Team().CmdRoster->click();
+        QApplication::processEvents();
+        answers.ConfirmAll(false);
+        Require(stage.Find("Roster") != nullptr && stage.Find("Roster")->isVisible(), "the roster screen opens");
+        Photograph("Roster", "roster-first");
+        answers.ConfirmAll(true); // the maker says what it did
+        Roster().cmdAutoRoster->click();
+        QApplication::processEvents();
+        answers.ConfirmAll(false);
+        Require(Roster().lblComplete->text() == "Roster Is Complete", "the roster is complete: " + Judged());
+        PickList* pro = Roster().lstPlayer[status::Pro];
+        pro->setFocus();
+        for (int step = 0; step < 4; ++step) {
+            QKeyEvent down(QEvent::KeyPress, Qt::Key_Down, Qt::NoModifier);
+            QApplication::sendEvent(pro, &down);
+        }
+        Require(SelectedPlayer > 0 && Roster().cmdToScratchesFromPro->isEnabled(), "a player is chosen");
         NoComplaints("the roster is made");
-        Require(CheckRoster(plan.Team, false, true, false), "the roster is complete: " + ToQString(LastRosterText()));
+        Photograph("Roster", "roster");
+        const int number = pro->currentItem()->data(entry::NumberRole).toInt();
+        Roster().cmdToScratchesFromPro->click();
+        PickList* scratches = Roster().lstPlayer[status::Scratch];
+        Require(scratches->RowOf(number) >= 0 && pro->RowOf(number) < 0, "he moves to the scratches");
+        Photograph("Roster", "roster-moved");
+        scratches->setCurrentRow(scratches->RowOf(number), QItemSelectionModel::ClearAndSelect);
+        Roster().cmdToPro->click();
+        Require(pro->RowOf(number) >= 0, "and back again");
+        Require(Roster().lblComplete->text() == "Roster Is Complete", "the roster is complete again");
+        Roster().cmdExit->click();
+        QApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+        NoComplaints("the roster is shaped");
+        Require(stage.Find("Roster") == nullptr && Team().isVisible(), "the team screen comes back");
+    }
+
+    static QString Judged() { return ToQString(LastRosterText()); }
+
+    void MakeLines()
+    {
+        Require(CheckRoster(plan.Team, false, true, false), "the roster stays complete: " + Judged());
         for (int day = 1; day <= 10; ++day) {
             AutoLines(plan.Team, false, day);
             AutoLinesFarm(plan.Team, false, day);
@@ -179,6 +219,11 @@ private:
     {
         Require(stage.Find("Team") != nullptr, "the team screen is there");
         return *static_cast<frmTeam*>(stage.Find("Team"));
+    }
+    frmRoster& Roster()
+    {
+        Require(stage.Find("Roster") != nullptr, "the roster screen is there");
+        return *static_cast<frmRoster*>(stage.Find("Roster"));
     }
     [[nodiscard]] QString TeamName() const { return ToQString(Teams[plan.Team].Name.Trimmed()); }
 

@@ -1,0 +1,366 @@
+#include "screens/frmRoster.h"
+
+#include "league/ClientVariable.h"
+#include "league/Message.h"
+#include "league/Platform.h"
+#include "league/Reporting.h"
+#include "league/Session.h"
+#include "rules/Function.h"
+#include "rules/People.h"
+#include "screens/EventGuard.h"
+#include "screens/platform/CodePage.h"
+#include "screens/RosterEntry.h"
+#include "screens/Stage.h"
+
+#include <algorithm>
+#include <type_traits>
+
+// Opening, the three lists, the person chosen in them, and the one way in which a person changes lists.
+namespace dravik {
+
+namespace {
+
+Team& OwnTeam() { return Teams[CurrentTeam]; }
+
+int OwnNumber() { return static_cast<int>(CurrentTeam); }
+
+template <class Person>
+constexpr bool IsGoalie = std::is_same_v<std::remove_cv_t<Person>, Goalie>;
+
+int PositionOf(const Player& player) { return static_cast<int>(player.Position); }
+int PositionOf(const Goalie& /*goalie*/) { return position::Goalie; }
+
+// Whoever is too good or too dear for the farm becomes a scratch here and now. The list of changes does not hear of it.
+template <class Person>
+void KeepOffFarm(Person& person, int index)
+{
+    if (CalculateOverall(PositionOf(person), index) > LeagueData.FarmMaxOverall)
+        person.Status = status::Scratch;
+    if (LeagueData.FarmMaxSalary >= 1 && person.Salary > LeagueData.FarmMaxSalary)
+        person.Status = status::Scratch;
+}
+
+// What is drawn beside a name.
+QStringList AsideOf(int position, int index)
+{
+    QStringList aside{ToQString(PositionName[position])};
+    if (LeagueData.ShowOverall)
+        aside << QString::number(CalculateOverall(position, index));
+    return aside;
+}
+
+// The findings of the last roster judgement without the heading and the closing words of its box.
+QStringList Findings(const std::string& text)
+{
+    QStringList lines = ToQString(text).split("\r\n", Qt::SkipEmptyParts);
+    constexpr int frame = 2;
+    return lines.size() > frame ? lines.mid(1, lines.size() - frame) : QStringList();
+}
+
+} // namespace
+
+void frmRoster::FormLoad()
+{
+    RunEvent("FormLoad FrmRoster", [this] {
+        CentreOnScreen();
+        if (!TeamTable::Has(CurrentTeam)) {
+            ShowIntegrityFailure();
+            Unload();
+            return;
+        }
+        const QString name = ToQString(OwnTeam().Name.Trimmed());
+        setWindowTitle(ToQString(ProgramTitle) + " - " + name + " - Roster");
+        lblTeamName->setText("Roster for " + name);
+        if (LeagueData.OffSeason) {
+            chkProtected->show();
+            lblProtectedTotal->show();
+        }
+        ShowPlayer(false);
+        for (QWidget* closed :
+             std::initializer_list<QWidget*>{cmdRelease, cmdSendToWaiver, chkNoApplyRerate, chkNoTrade})
+            closed->hide();
+        if (LeagueData.AutoRosterDisabled) {
+            cmdAutoRoster->setEnabled(false);
+            cmdAutoRosterPartial->setEnabled(false);
+        }
+        CheckRoster(OwnNumber(), false, true, true);
+        ShowReasons(true);
+    });
+}
+
+void frmRoster::FormUnload() { CheckRoster(OwnNumber(), false, true, true); }
+
+void frmRoster::ShowPlayer(bool noCheck)
+{
+    Reporting(" in ShowPlayer!", [&] {
+        for (PickList* list : lstPlayer)
+            list->Empty();
+        StatusCount = {};
+        OwnTeam().ProtectedCount = 0;
+        EachOfTeam(Players, OwnNumber(), [this](Player& player, int index) { ListPerson(player, index); });
+        EachOfTeam(Goalies, OwnNumber(), [this](Goalie& keeper, int index) { ListPerson(keeper, index); });
+        ShowListTotals();
+        HidePlayerDetails();
+        if (!noCheck)
+            JudgeLists();
+    });
+}
+
+template <class Person>
+void frmRoster::ListPerson(Person& person, int index)
+{
+    const std::string name = person.Name.Trimmed();
+    if (person.Status > status::Pro) {
+        ShowBox(name + " has no status!", box::Warning);
+        return;
+    }
+    if (person.Status == status::Farm)
+        KeepOffFarm(person, index);
+    ++StatusCount[person.Status];
+    if (person.Status > status::Farm && IsFit(person))
+        ++StatusCount[3];
+    const int position = PositionOf(person);
+    if constexpr (!IsGoalie<Person>) {
+        if (position < position::Center || position > position::Defense) {
+            ShowBox(name + " has no position!", box::Warning);
+            return;
+        }
+    }
+    if (chkPosition[position]->isChecked()) {
+        const std::string mark = OfficeMark(OwnTeam(), IsGoalie<Person>, person.Number);
+        const std::string text = EntryText(name, mark, static_cast<bool>(person.TradeAvailable));
+        lstPlayer[person.Status]->Add(ToQString(text), EntryNumber(person.Number, position), AsideOf(position, index));
+    }
+    if (person.Protected)
+        ++OwnTeam().ProtectedCount;
+}
+
+void frmRoster::JudgeLists()
+{
+    RosterFixed = 0;
+    const bool complete = CheckRoster(OwnNumber(), false, true, false);
+    if (!complete && RosterFixed == 1)
+        ShowPlayer(true);
+    ShowVerdict(complete);
+    ShowReasons(true);
+    const Team& team = OwnTeam();
+    lblProtectedTotal->setText(" Total Protected Players: " + QString::number(team.ProtectedCount));
+    if (team.ProtectedCount > LeagueData.MaxProtected)
+        ShowBox("Too Many Protected Players!", box::Information);
+}
+
+void frmRoster::ShowVerdict(bool complete)
+{
+    lblComplete->Tell(complete ? "Roster Is Complete" : "Roster Is Incomplete", complete);
+}
+
+void frmRoster::ShowReasons(bool withSalaryCap)
+{
+    QStringList lines = Findings(LastRosterText());
+    if (withSalaryCap && LeagueData.SalaryCapMode != 0)
+        lines << ToQString(LastCapText()).split("\r\n", Qt::SkipEmptyParts);
+    txtReasons->setPlainText(lines.join('\n'));
+    txtReasons->setVisible(!lines.isEmpty());
+    ShowPayroll();
+}
+
+// A payroll that fits no figure has been told by its judge; there is no bar for it.
+void frmRoster::ShowPayroll()
+{
+    try {
+        Payroll->Show(StandingAgainstCap(OwnNumber()));
+    } catch (const Failure&) {
+        Payroll->hide();
+    }
+}
+
+void frmRoster::ShowListTotals()
+{
+    const auto total = [this](int index, const char* words) {
+        lblPlayer[index]->setText(words + QString::number(lstPlayer[index]->count()));
+    };
+    total(status::Pro, "Pro Player = ");
+    total(status::Scratch, "Scratches Player = ");
+    total(status::Farm, "Farm Player = ");
+}
+
+void frmRoster::HidePlayerDetails()
+{
+    for (QWidget* command : std::initializer_list<QWidget*>{
+             cmdToFarm, cmdToPro, cmdToScratchesFromFarm, cmdToScratchesFromPro, cmdTradeAvailable, cmdCaptain,
+             cmdAssistant, cmdRelease, cmdSendToWaiver, chkProtected, chkNoApplyRerate, chkNoTrade})
+        command->setEnabled(false);
+    Stats->HideRows();
+}
+
+void frmRoster::lstPlayer_Click(int index)
+{
+    Reporting(" in LstPlayer_Click!", [&] {
+        if (ListEventGuard)
+            return;
+        const PickList* list = lstPlayer[index];
+        const QListWidgetItem* current = list->currentItem();
+        if (current != nullptr) {
+            const int number = current->data(entry::NumberRole).toInt();
+            SelectedPlayer = EntryId(number);
+            SelectedIsGoalie = EntryPosition(number) == position::Goalie;
+        }
+        HidePlayerDetails();
+        int chosen = 0;
+        {
+            const EventGuard guard;
+            for (PickList* other : lstPlayer) {
+                if (other == list)
+                    continue;
+                other->SetCurrentToNone();
+                // The first entry keeps its choice.
+                for (int row = 1; row < other->count(); ++row)
+                    other->item(row)->setSelected(false);
+            }
+            chosen = list->ChosenCount();
+        }
+        if (chosen == 1) {
+            if (current == nullptr)
+                return;
+            for (QPushButton* command : {cmdTradeAvailable, cmdCaptain, cmdAssistant, cmdRelease})
+                command->setEnabled(true);
+            if (LeagueData.WaiverAllowed)
+                cmdSendToWaiver->setEnabled(true);
+            if (LeagueData.TradeDeadlinePassed && LeagueData.TradeDeadlineInForce)
+                cmdSendToWaiver->setEnabled(false);
+            for (QCheckBox* flag : {chkProtected, chkNoApplyRerate, chkNoTrade})
+                flag->setEnabled(true);
+            Stats->ShowPosition(ToQString(PositionName[EntryPosition(current->data(entry::NumberRole).toInt())]));
+            ShowStats();
+        }
+        switch (index) {
+        case status::Farm:
+            cmdToScratchesFromFarm->setEnabled(true);
+            break;
+        case status::Scratch:
+            cmdToFarm->setEnabled(true);
+            cmdToPro->setEnabled(true);
+            break;
+        default:
+            cmdToScratchesFromPro->setEnabled(true);
+            break;
+        }
+    });
+}
+
+template <class Person>
+void frmRoster::ShowFlags(const Person& person)
+{
+    const EventGuard guard;
+    chkProtected->setChecked(static_cast<bool>(person.Protected));
+    chkNoTrade->setChecked(static_cast<bool>(person.NoTrade));
+    chkNoApplyRerate->setChecked(static_cast<bool>(person.NoApplyRerate));
+    if (person.NoTrade)
+        cmdTradeAvailable->setEnabled(false);
+}
+
+void frmRoster::ShowStats()
+{
+    Reporting(" in ShowStats!", [this] {
+        if (SelectedIsGoalie && !GoalieTable::Has(SelectedPlayer)) {
+            ShowIntegrityFailure();
+            return;
+        }
+        const int id = static_cast<int>(SelectedPlayer);
+        const StatRows rows = SelectedIsGoalie ? GoalieStatRows(id) : SkaterStatRows(id);
+        Stats->ShowRows(rows);
+        PlayerOverall = rows.Overall;
+        WithPerson(SelectedIsGoalie, id, [&](const auto& person) {
+            Stats->SetName(ToQString(person.Name.Trimmed()));
+            ShowFlags(person);
+            if (SelectedIsGoalie || person.Status == status::Farm) {
+                cmdCaptain->setEnabled(false);
+                cmdAssistant->setEnabled(false);
+            }
+        });
+    });
+}
+
+void frmRoster::Change(int from, int to, int id, int position, bool& done)
+{
+    done = false;
+    Reporting(" in Change!", [&] {
+        if (position >= position::Center && position <= position::Defense)
+            ChangePerson(Players[id], from, to, id, done);
+        else if (position == position::Goalie)
+            ChangePerson(Goalies[id], from, to, id, done);
+        else
+            ShowBox("Unable to extract position information!", box::Warning);
+    });
+}
+
+template <class Person>
+void frmRoster::ChangePerson(Person& person, int from, int to, int id, bool& done)
+{
+    constexpr bool isGoalie = IsGoalie<Person>;
+    const std::string kind = isGoalie ? "Goalie" : "Player";
+    const int commonId = CommonId(isGoalie, id);
+    if (!IsHealthy(person)) {
+        ShowBox("Cannot Move an Injured " + kind + "!", box::Warning);
+        return;
+    }
+    if (person.Suspension != 0) { // a goalie is a player here
+        ShowBox("Cannot Move an Suspended Player!", box::Warning);
+        return;
+    }
+    if (person.Contract == 0) {
+        ShowBox(kind + " without a contract can not be move!", box::Warning);
+        return;
+    }
+    if (to == status::Farm) {
+        if (LeagueData.FarmMaxSalary > 0 && person.Salary > LeagueData.FarmMaxSalary) {
+            ShowBox(kind + " Salary is too high to be send in the Farm!", box::Warning);
+            return;
+        }
+        if (WaiverCheck(commonId)) {
+            const std::string question =
+                std::string("Do you want to send this ") + (isGoalie ? "goalie" : "player") + " to waiver?";
+            if (ShowBox(question, box::YesNo) != button::Yes)
+                return;
+            if constexpr (!isGoalie) // a goalie is asked about, and goes down without being placed on waivers
+                MarkWaived(OwnNumber(), id);
+        }
+    }
+    WipePlayerFromTeamLines(OwnNumber(), commonId);
+    person.Status = to;
+    ChangeOf(isGoalie, id).Status = to;
+    StatusCount[from] -= 1;
+    StatusCount[to] += 1;
+    if (to == status::Farm)
+        StatusCount[3] -= 1;
+    if (to == status::Scratch && from == status::Farm)
+        StatusCount[3] += 1;
+    for (QPushButton* move : {cmdToFarm, cmdToPro, cmdToScratchesFromFarm, cmdToScratchesFromPro})
+        move->setEnabled(false);
+    ShowVerdict(CheckRoster(OwnNumber(), false, false, false));
+    ShowReasons(false);
+    HidePlayerDetails();
+    Modified = true;
+    done = true;
+}
+
+void frmRoster::lstPlayer_DblClick(int index)
+{
+    Reporting(" in lstPlayer_DblClick!", [&] {
+        const QListWidgetItem* current = lstPlayer[index]->currentItem();
+        if (current == nullptr)
+            return;
+        const int number = current->data(entry::NumberRole).toInt();
+        SelectedPlayer = EntryId(number);
+        SelectedIsGoalie = EntryPosition(number) == position::Goalie;
+        constexpr int fromRoster = 2;
+        ViewerReturnMode = fromRoster;
+        Open("EditPlayer");
+    });
+}
+
+void frmRoster::chkPosition_Click(int /*position*/) { ShowPlayer(false); }
+
+void frmRoster::cmdExit_Click() { Unload(); }
+
+} // namespace dravik

@@ -1,0 +1,112 @@
+#pragma once
+
+#include "league/Field.h"
+#include "screens/panels/PayrollBar.h"
+#include "screens/panels/PickList.h"
+#include "screens/panels/StatPanel.h"
+#include "screens/panels/Verdict.h"
+#include "screens/Screen.h"
+
+#include <QCheckBox>
+#include <QLabel>
+#include <QPlainTextEdit>
+#include <string>
+
+namespace dravik {
+
+// The roster of the chosen team: who stands on the farm, among the scratches and on the pro team, the moves between them,
+// and at all times whether the roster is complete. Lists and their labels go by `Status`.
+class frmRoster : public Screen {
+public:
+    explicit frmRoster(Stage& stage);
+
+    // Fills the screen for CurrentTeam. A number out of range is told and closes the screen.
+    void FormLoad() override;
+    // Judges the roster once more and tells what it finds.
+    void FormUnload() override;
+
+    // Lists everybody anew. People too good or too dear for the farm become scratches on the way, silently. Unless
+    // `noCheck`, the roster is judged afterwards, which may list everybody once more.
+    void ShowPlayer(bool noCheck);
+    // Shows the ratings and flags of SelectedPlayer.
+    void ShowStats();
+    // Moves a person between two lists in the tables; his entry is up to the caller, when `done` says that he moved. What
+    // stands against it is told in a warning box; sending him down may ask for waivers first.
+    void Change(int from, int to, int id, int position, bool& done);
+    void HidePlayerDetails();
+    void ShowListTotals();
+
+    void lstPlayer_Click(int index);
+    void lstPlayer_DblClick(int index);
+    void chkPosition_Click(int position);
+    void cmdToFarm_Click();
+    void cmdToPro_Click();
+    void cmdToScratchesFromPro_Click();
+    void cmdToScratchesFromFarm_Click();
+    void cmdSendToWaiver_Click();
+    void cmdRelease_Click();
+    void cmdCaptain_Click();
+    void cmdAssistant_Click();
+    void cmdTradeAvailable_Click();
+    void chkProtected_Click();
+    void chkNoApplyRerate_Click();
+    void chkNoTrade_Click();
+    void cmdAutoRoster_Click();
+    void cmdAutoRosterPartial_Click();
+    void cmdExit_Click();
+
+    // People of the team by `Status`, listed or not; entry 3 counts those off the farm who are fit to dress.
+    Row<Int16, 0, 3> StatusCount;
+    // The overall of the person whom ShowStats showed last.
+    Int16 PlayerOverall;
+
+    Row<PickList*, 0, 2> lstPlayer;
+    Row<QLabel*, 0, 2> lblPlayer;
+    Row<QCheckBox*, 1, 5> chkPosition;
+    StatPanel* Stats;
+    QPushButton *cmdToFarm, *cmdToPro, *cmdToScratchesFromPro, *cmdToScratchesFromFarm;
+    QPushButton *cmdTradeAvailable, *cmdCaptain, *cmdAssistant, *cmdRelease, *cmdSendToWaiver;
+    QCheckBox *chkProtected, *chkNoApplyRerate, *chkNoTrade;
+    QPushButton *cmdAutoRoster, *cmdAutoRosterPartial, *cmdExit;
+    QLabel *lblTeamName, *lblProtectedTotal;
+    VerdictLabel* lblComplete;
+    QPlainTextEdit* txtReasons; // what the last judgement found, in its own words
+    PayrollBar* Payroll;
+
+private:
+    void MakeControls();
+    PickList* MakeList(int index, const QString& caption);
+    QCheckBox* MakeFlag(const char* name, const QString& caption, void (frmRoster::*click)());
+    QWidget* MakeListColumn(int index);
+    QWidget* MakeMoves(QWidget* there, QWidget* back);
+    QWidget* MakePersonColumn();
+    void SetTabOrder();
+
+    template <class Person>
+    void ListPerson(Person& person, int index);
+    // Judges the lists that have just been filled, and shows the verdict.
+    void JudgeLists();
+    void ShowVerdict(bool complete);
+    // What the judgement said stands under the verdict; the payroll's part only when it was judged too.
+    void ShowReasons(bool withSalaryCap);
+    void ShowPayroll();
+    template <class Person>
+    void ShowFlags(const Person& person);
+    template <class Person>
+    void ChangePerson(Person& person, int from, int to, int id, bool& done);
+
+    // Moves every chosen entry of a list that `mayMove` lets pass.
+    enum class Permission { Given, Refused, Ended };
+    void MoveChosen(int from, int to, Permission (frmRoster::*mayMove)());
+    Permission MayMoveFreely() { return Permission::Given; }
+    Permission MayGoToFarm();
+    Permission MayLeaveFarm();
+    void MoveEntry(int from, int to, int row);
+    // The entry at the current index of the first list that has one, or none.
+    QListWidgetItem* CurrentEntry();
+    template <class Person>
+    void Release(Person& person);
+    void MakeAssistant(int slot, const std::string& name);
+};
+
+} // namespace dravik

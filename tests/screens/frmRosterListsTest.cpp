@@ -1,0 +1,496 @@
+#include "OnRosterScreen.h"
+
+#include "rules/Function.h"
+
+namespace dravik {
+namespace {
+
+using ::testing::ElementsAre;
+using ::testing::IsEmpty;
+
+using Entry = std::pair<std::string, int>;
+
+class frmRosterListsTest : public OnRosterScreen {
+protected:
+    // Three scratches, two farm skaters and two dressed ones, in order of their slots.
+    static void PutSeven()
+    {
+        PutSkater(1, 5, position::Center, status::Scratch);
+        PutSkater(2, 5, position::LeftWing, status::Scratch);
+        PutSkater(3, 5, position::RightWing, status::Scratch);
+        PutSkater(4, 5, position::Defense, status::Farm);
+        PutSkater(5, 5, position::Center, status::Farm);
+        PutSkater(6, 5, position::Center, status::Pro);
+        PutSkater(7, 5, position::Defense, status::Pro);
+    }
+};
+
+TEST_F(frmRosterListsTest, PeopleStandInTheListOfTheirStatusInTheOrderOfTheirSlotsGoaliesBehind)
+{
+    PutSeven();
+    PutGoalie(1, 5, status::Pro);
+    PutGoalie(2, 5, status::Scratch);
+    PutGoalie(3, 5, status::Farm);
+    EXPECT_THAT(Listed(0), ElementsAre(Entry{"Skater 4", 44}, Entry{"Skater 5", 51}, Entry{"Goalie 3", 35}));
+    EXPECT_THAT(Listed(1), ElementsAre(Entry{"Skater 1", 11}, Entry{"Skater 2", 22}, Entry{"Skater 3", 33},
+                                       Entry{"Goalie 2", 25}));
+    EXPECT_THAT(Listed(2), ElementsAre(Entry{"Skater 6", 61}, Entry{"Skater 7", 74}, Entry{"Goalie 1", 15}));
+}
+
+TEST_F(frmRosterListsTest, EntryNumberIsTheNumberOfThePersonWithTheDigitOfHisPositionBehindIt)
+{
+    PutSkater(123, 5, position::LeftWing, status::Pro);
+    PutSkater(10000, 5, position::Defense, status::Scratch);
+    EXPECT_THAT(Listed(2), ElementsAre(Entry{"Skater 123", 1232}));
+    EXPECT_THAT(Listed(1), ElementsAre(Entry{"Skater 10000", 100004}));
+    ClickEntry(1, 0);
+    EXPECT_EQ(SelectedPlayer, 10000);
+}
+
+TEST_F(frmRosterListsTest, EntriesAndMarksGoByTheNumberWhileTheFarmRuleGoesByTheSlot)
+{
+    PutSkater(8, 5, position::Center, status::Farm, 60).Number = 9;
+    PutSkater(9, 7, position::Center, status::Farm, 90);
+    Own().Captain = 9;
+    EXPECT_THAT(Listed(0), ElementsAre(Entry{"Skater 8 (C)", 91}));
+}
+
+TEST_F(frmRosterListsTest, NumbersOfEntriesAreReadBackAsIdAndPosition)
+{
+    for (const int id : {0, 1, 123, 10000, -7}) {
+        const int number = EntryNumber(id, 4);
+        EXPECT_EQ(EntryId(number), id);
+        EXPECT_EQ(EntryPosition(number), 4);
+    }
+}
+
+TEST_F(frmRosterListsTest, StarFollowsABareNameAtOnceAndAMarkWithABlank)
+{
+    for (int id = 1; id <= 8; ++id)
+        PutSkater(id, 5, position::Center, status::Pro).TradeAvailable = id % 2 == 0;
+    PutGoalie(3, 5, status::Pro);
+    PutGoalie(4, 5, status::Pro).TradeAvailable = true;
+    Own().Captain = 4;
+    Own().Assistant[1] = 5;
+    Own().Assistant[2] = 6;
+    std::vector<std::string> texts;
+    for (const auto& [text, number] : Listed(2))
+        texts.push_back(text);
+    EXPECT_THAT(texts, ElementsAre("Skater 1", "Skater 2*", "Skater 3", "Skater 4 (C) *", "Skater 5 (A)",
+                                   "Skater 6 (A) *", "Skater 7", "Skater 8*", "Goalie 3", "Goalie 4*"));
+}
+
+TEST_F(frmRosterListsTest, CaptainWithoutAStarCarriesHisMarkAlone)
+{
+    PutSkater(1, 5, position::Center, status::Pro);
+    Own().Captain = 1;
+    EXPECT_EQ(EntryTextAt(2, 0), "Skater 1 (C)");
+}
+
+TEST_F(frmRosterListsTest, PeopleOfOtherTeamsAndUnusedRecordsAreNotListed)
+{
+    PutSkater(1, 6, position::Center, status::Pro);
+    PutSkater(2, 5, position::Center, status::Pro).InUse = false;
+    PutGoalie(1, 6, status::Pro);
+    EXPECT_THAT(Listed(2), IsEmpty());
+    EXPECT_THAT(Counters(), ElementsAre(0, 0, 0, 0));
+}
+
+TEST_F(frmRosterListsTest, FarmPlayerAboveTheOverallStandsOnTheScratchListAndTheChangesKeepTheOldValue)
+{
+    Roster();
+    PutSkater(1, 5, position::Center, status::Farm, 80);
+    PutGoalie(1, 5, status::Farm, 80);
+    RosterChanges[1].Status = 0;
+    RosterChangesGoalie[1].Status = 0;
+    Roster().ShowPlayer(true);
+    EXPECT_THAT(Machine.Boxes(), IsEmpty());
+    EXPECT_THAT(Listed(1), ElementsAre(Entry{"Skater 1", 11}, Entry{"Goalie 1", 15}));
+    EXPECT_EQ(Players[1].Status, 1);
+    EXPECT_EQ(RosterChanges[1].Status, 0);
+    EXPECT_EQ(Goalies[1].Status, 1);
+    EXPECT_EQ(RosterChangesGoalie[1].Status, 0);
+}
+
+TEST_F(frmRosterListsTest, FarmPlayerAboveTheSalaryStandsOnTheScratchListWithNoWordAboutHim)
+{
+    LeagueData.FarmMaxSalary = 999999;
+    CompleteTeam(5);
+    PutSkater(900, 5, position::Center, status::Farm);
+    PutGoalie(900, 5, status::Farm);
+    for (Player& player : Players)
+        if (player.Status == status::Farm && player.Number != 900)
+            player.Salary = 900000;
+    for (Goalie& keeper : Goalies)
+        if (keeper.Status == status::Farm && keeper.Number != 900)
+            keeper.Salary = 900000;
+    OpenFrom(MainWithLeague(), "Main");
+    EXPECT_THAT(Machine.Boxes(), IsEmpty());
+    EXPECT_THAT(Listed(1), ElementsAre(Entry{"Skater 900", 9001}, Entry{"Goalie 900", 9005}));
+}
+
+TEST_F(frmRosterListsTest, WithAFarmSalaryLimitOfZeroNobodyIsTooDear)
+{
+    LeagueData.FarmMaxSalary = 0;
+    PutSkater(1, 5, position::Center, status::Farm).Salary = 90000000;
+    EXPECT_THAT(Listed(0), ElementsAre(Entry{"Skater 1", 11}));
+}
+
+TEST_F(frmRosterListsTest, APersonWithABadStatusIsToldAtEveryRebuildAndCountsNowhere)
+{
+    PutSkater(1, 5, position::Center, 3);
+    PutGoalie(1, 5, 200).Protected = true;
+    Roster().ShowPlayer(true);
+    EXPECT_THAT(Machine.TakeBoxes(),
+                ElementsAre(Box{48, "Skater 1 has no status!"}, Box{48, "Goalie 1 has no status!"}));
+    Roster().ShowPlayer(true);
+    EXPECT_EQ(Machine.TakeBoxes().size(), 2U);
+    EXPECT_THAT(Counters(), ElementsAre(0, 0, 0, 0));
+    EXPECT_EQ(Own().ProtectedCount, 0);
+}
+
+TEST_F(frmRosterListsTest, ASkaterWithABadPositionIsToldCountedAndNotListedAndHisProtectionIsPassedOver)
+{
+    for (const int bad : {0, 5}) {
+        Player& player = PutSkater(1, 5, bad, status::Scratch);
+        player.Protected = true;
+        Roster().ShowPlayer(true);
+        EXPECT_THAT(Machine.TakeBoxes(), ElementsAre(Box{48, "Skater 1 has no position!"})) << bad;
+        EXPECT_THAT(Counters(), ElementsAre(0, 1, 0, 1)) << bad;
+        EXPECT_THAT(Listed(1), IsEmpty()) << bad;
+        EXPECT_EQ(Own().ProtectedCount, 0) << bad;
+    }
+}
+
+TEST_F(frmRosterListsTest, AFarmSkaterWithoutAPositionBreaksTheOverallFirst)
+{
+    PutSkater(1, 5, 0, status::Farm);
+    Roster().ShowPlayer(true);
+    EXPECT_THAT(Machine.Boxes(), ElementsAre(Box{16, "Integrity Check Failed!"}, Box{48, "Skater 1 has no position!"}));
+}
+
+TEST_F(frmRosterListsTest, CountersCountByStatusAndThoseOffTheFarmWhoAreFit)
+{
+    PutSeven();
+    Players[1].Condition = 94;
+    Players[2].Suspension = 1;
+    Players[3].Contract = 0;
+    PutGoalie(1, 5, status::Pro);
+    PutGoalie(2, 5, status::Farm);
+    Roster();
+    EXPECT_THAT(Counters(), ElementsAre(3, 3, 3, 3));
+}
+
+TEST_F(frmRosterListsTest, UntickingAFilterHidesThePositionButLeavesItInTheCounters)
+{
+    PutSeven();
+    PutGoalie(1, 5, status::Pro);
+    EXPECT_EQ(Of(Roster().lblPlayer[2]), "Pro Player = 3");
+    Click(Roster().chkPosition[1]);
+    EXPECT_THAT(Listed(2), ElementsAre(Entry{"Skater 7", 74}, Entry{"Goalie 1", 15}));
+    EXPECT_THAT(Counters(), ElementsAre(2, 3, 3, 6));
+    EXPECT_EQ(Of(Roster().lblPlayer[2]), "Pro Player = 2");
+    EXPECT_EQ(Of(Roster().lblPlayer[1]), "Scratches Player = 2");
+    EXPECT_EQ(Of(Roster().lblPlayer[0]), "Farm Player = 1");
+    Click(Roster().chkPosition[5]);
+    EXPECT_THAT(Listed(2), ElementsAre(Entry{"Skater 7", 74}));
+    Click(Roster().chkPosition[1]);
+    EXPECT_THAT(Listed(2), ElementsAre(Entry{"Skater 6", 61}, Entry{"Skater 7", 74}));
+}
+
+TEST_F(frmRosterListsTest, HiddenPeopleCountAmongTheProtected)
+{
+    PutSeven();
+    Players[6].Protected = true;
+    PutGoalie(1, 5, status::Pro).Protected = true;
+    Click(Roster().chkPosition[1]);
+    EXPECT_EQ(Own().ProtectedCount, 2);
+    EXPECT_EQ(Of(Roster().lblProtectedTotal), " Total Protected Players: 2");
+}
+
+TEST_F(frmRosterListsTest, TooManyProtectedPlayersAreToldAtEveryRebuild)
+{
+    PutSeven();
+    Players[6].Protected = true;
+    Players[7].Protected = true;
+    LeagueData.MaxProtected = 1;
+    Roster().ShowPlayer(false);
+    EXPECT_THAT(Machine.TakeBoxes(), ElementsAre(Box{64, "Too Many Protected Players!"}));
+    LeagueData.MaxProtected = 2;
+    Roster().ShowPlayer(false);
+    EXPECT_THAT(Machine.TakeBoxes(), IsEmpty());
+}
+
+TEST_F(frmRosterListsTest, AJudgementThatMovesSomebodyAndFailsHasTheListsReadAgainOnce)
+{
+    PutSeven();
+    Roster();
+    Players[6].Condition = 50;
+    Roster().ShowPlayer(false);
+    EXPECT_THAT(Listed(2), ElementsAre(Entry{"Skater 7", 74}));
+    EXPECT_EQ(Roster().lstPlayer[1]->count(), 4);
+    EXPECT_EQ(Of(Roster().lblComplete), "Roster Is Incomplete");
+    EXPECT_THAT(Machine.Boxes(), IsEmpty());
+}
+
+// The person without a status is told once by each rebuild.
+TEST_F(frmRosterListsTest, TheSecondRebuildIsTheLastSinceItDoesNotJudge)
+{
+    PutSkater(1, 5, position::Center, 3);
+    PutSkater(3, 5, position::Center, status::Pro);
+    Roster();
+    Players[3].Condition = 50;
+    Roster().ShowPlayer(false);
+    EXPECT_THAT(Machine.Boxes(), ElementsAre(Box{48, "Skater 1 has no status!"}, Box{48, "Skater 1 has no status!"}));
+}
+
+TEST_F(frmRosterListsTest, ACompleteRosterIsNotListedAgainThoughTheJudgeMovedSomebody)
+{
+    CompleteTeam(5);
+    PutSkater(900, 5, position::Center, status::Pro);
+    Roster();
+    Players[900].Condition = 50;
+    LeagueData.ProDressedSkaters = 19;
+    Roster().ShowPlayer(false);
+    EXPECT_EQ(Of(Roster().lblComplete), "Roster Is Complete");
+    EXPECT_EQ(Players[900].Status, 1);
+    EXPECT_GE(Roster().lstPlayer[2]->RowOf(9001), 0);
+}
+
+TEST_F(frmRosterListsTest, ARebuildLosesTheSelectionAndHidesTheDetails)
+{
+    PutSeven();
+    ClickEntry(2, 0);
+    ASSERT_TRUE(IsShown(Roster().Stats->lblStat[1]));
+    Roster().ShowPlayer(true);
+    EXPECT_THAT(ChosenRows(2), IsEmpty());
+    EXPECT_EQ(Roster().lstPlayer[2]->currentRow(), -1);
+    EXPECT_FALSE(IsShown(Roster().Stats->lblStat[1]));
+    EXPECT_FALSE(Roster().cmdToScratchesFromPro->isEnabled());
+}
+
+TEST_F(frmRosterListsTest, ClickChoosesThePersonAndEnablesTheMovesOfHisList)
+{
+    PutSeven();
+    frmRoster& roster = Roster();
+    const auto moves = [&] {
+        return std::vector<bool>{roster.cmdToFarm->isEnabled(), roster.cmdToPro->isEnabled(),
+                                 roster.cmdToScratchesFromPro->isEnabled(), roster.cmdToScratchesFromFarm->isEnabled()};
+    };
+    EXPECT_THAT(moves(), ElementsAre(false, false, false, false));
+    ClickEntry(0, 1);
+    EXPECT_EQ(SelectedPlayer, 5);
+    EXPECT_THAT(moves(), ElementsAre(false, false, false, true));
+    ClickEntry(1, 1);
+    EXPECT_EQ(SelectedPlayer, 2);
+    EXPECT_THAT(moves(), ElementsAre(true, true, false, false));
+    ClickEntry(2, 1);
+    EXPECT_EQ(SelectedPlayer, 7);
+    EXPECT_FALSE(SelectedIsGoalie);
+    EXPECT_THAT(moves(), ElementsAre(false, false, true, false));
+}
+
+TEST_F(frmRosterListsTest, ClickOnAGoalieChoosesHimAsAGoalie)
+{
+    PutGoalie(3, 5, status::Scratch);
+    ClickEntry(1, 0);
+    EXPECT_EQ(SelectedPlayer, 3);
+    EXPECT_TRUE(SelectedIsGoalie);
+    EXPECT_EQ(Of(Roster().Stats->lblStat[0]), "G");
+}
+
+TEST_F(frmRosterListsTest, PositionLineTakesTheNameOfThePosition)
+{
+    PutSeven();
+    const std::pair<std::pair<int, int>, std::string> expected[] = {
+        {{1, 0}, "C"}, {{1, 1}, "LW"}, {{1, 2}, "RW"}, {{2, 1}, "D"}};
+    for (const auto& [where, words] : expected) {
+        ClickEntry(where.first, where.second);
+        EXPECT_EQ(Of(Roster().Stats->lblStat[0]), words);
+        EXPECT_EQ(Of(Roster().Stats->lblStatLabel[0]), "PO");
+        EXPECT_TRUE(IsShown(Roster().Stats->lblStat[0]));
+        EXPECT_TRUE(IsShown(Roster().Stats->lblStatLabel[0]));
+    }
+}
+
+TEST_F(frmRosterListsTest, ClickDeselectsTheOtherListsButForTheirFirstEntry)
+{
+    PutSeven();
+    ClickEntry(1, 0);
+    ClickEntry(1, 1, Qt::ControlModifier);
+    ASSERT_THAT(ChosenRows(1), ElementsAre(0, 1));
+    ClickEntry(2, 1);
+    EXPECT_THAT(ChosenRows(1), ElementsAre(0));
+    EXPECT_EQ(Roster().lstPlayer[1]->currentRow(), -1);
+    EXPECT_THAT(ChosenRows(2), ElementsAre(1));
+    EXPECT_EQ(SelectedPlayer, 7);
+    EXPECT_FALSE(ListEventGuard);
+}
+
+TEST_F(frmRosterListsTest, ClickDoesNothingWhileEventsAreHeldBack)
+{
+    PutSeven();
+    ClickEntry(1, 1);
+    ListEventGuard = true;
+    ClickEntry(2, 1);
+    ListEventGuard = false;
+    EXPECT_EQ(SelectedPlayer, 2);
+    EXPECT_TRUE(Roster().cmdToFarm->isEnabled());
+}
+
+TEST_F(frmRosterListsTest, TwoChosenEntriesHideTheStatPanelWhileTheMovesOfTheListAreEnabled)
+{
+    PutSeven();
+    ClickEntry(1, 0);
+    ClickEntry(1, 1, Qt::ControlModifier);
+    frmRoster& roster = Roster();
+    for (int row = 0; row <= 16; ++row) {
+        EXPECT_FALSE(IsShown(roster.Stats->lblStat[row])) << row;
+        EXPECT_FALSE(IsShown(roster.Stats->lblStatLabel[row])) << row;
+    }
+    EXPECT_TRUE(roster.cmdToFarm->isEnabled());
+    EXPECT_TRUE(roster.cmdToPro->isEnabled());
+    EXPECT_FALSE(roster.cmdCaptain->isEnabled());
+    EXPECT_FALSE(roster.cmdTradeAvailable->isEnabled());
+}
+
+TEST_F(frmRosterListsTest, ClickWithoutACurrentEntryKeepsTheOldSelectionAndEndsBeforeTheMoves)
+{
+    PutSeven();
+    ClickEntry(1, 0);
+    ClickEntry(2, 1); // list 1 keeps its first entry chosen and has no current one
+    Roster().lstPlayer_Click(1);
+    EXPECT_EQ(SelectedPlayer, 7);
+    EXPECT_FALSE(Roster().cmdToFarm->isEnabled());
+    EXPECT_FALSE(Roster().cmdToPro->isEnabled());
+    EXPECT_FALSE(Roster().cmdCaptain->isEnabled());
+}
+
+TEST_F(frmRosterListsTest, ClickOnAListWithNothingChosenEnablesItsMovesAllTheSame)
+{
+    PutSeven();
+    Roster().lstPlayer_Click(0);
+    EXPECT_TRUE(Roster().cmdToScratchesFromFarm->isEnabled());
+}
+
+TEST_F(frmRosterListsTest, ShiftClickChoosesARange)
+{
+    PutSeven();
+    ClickEntry(1, 0);
+    ClickEntry(1, 2, Qt::ShiftModifier);
+    EXPECT_THAT(ChosenRows(1), ElementsAre(0, 1, 2));
+    EXPECT_FALSE(Roster().cmdCaptain->isEnabled());
+    EXPECT_TRUE(Roster().cmdToPro->isEnabled());
+}
+
+TEST_F(frmRosterListsTest, CtrlClickTakesAnEntryOutOfTheChoiceAgain)
+{
+    PutSeven();
+    ClickEntry(1, 0);
+    ClickEntry(1, 1, Qt::ControlModifier);
+    ClickEntry(1, 1, Qt::ControlModifier);
+    EXPECT_THAT(ChosenRows(1), ElementsAre(0));
+    EXPECT_EQ(SelectedPlayer, 2); // of the current entry, which the last click was on
+    EXPECT_TRUE(Roster().cmdCaptain->isEnabled());
+}
+
+TEST_F(frmRosterListsTest, PlainClickOnOneOfSeveralChosenEntriesLeavesItAlone)
+{
+    PutSeven();
+    ClickEntry(1, 0);
+    ClickEntry(1, 2, Qt::ShiftModifier);
+    ClickEntry(1, 1);
+    EXPECT_THAT(ChosenRows(1), ElementsAre(1));
+    EXPECT_EQ(SelectedPlayer, 2);
+    EXPECT_TRUE(IsShown(Roster().Stats->lblStat[1]));
+}
+
+TEST_F(frmRosterListsTest, ArrowsChooseTheNextEntryAndShowHim)
+{
+    PutSeven();
+    ClickEntry(1, 0);
+    Press(Roster().lstPlayer[1], Qt::Key_Down);
+    EXPECT_THAT(ChosenRows(1), ElementsAre(1));
+    EXPECT_EQ(SelectedPlayer, 2);
+    EXPECT_EQ(Of(Roster().Stats->lblStat[0]), "LW");
+    Press(Roster().lstPlayer[1], Qt::Key_Up);
+    EXPECT_EQ(SelectedPlayer, 1);
+    Press(Roster().lstPlayer[1], Qt::Key_Down, Qt::ShiftModifier);
+    EXPECT_THAT(ChosenRows(1), ElementsAre(0, 1));
+    EXPECT_FALSE(Roster().cmdCaptain->isEnabled());
+    Press(Roster().lstPlayer[1], Qt::Key_End);
+    EXPECT_EQ(SelectedPlayer, 3);
+}
+
+TEST_F(frmRosterListsTest, FirstArrowInAListThatGotTheFocusChoosesItsFirstEntry)
+{
+    PutSeven();
+    Roster().lstPlayer[1]->setFocus();
+    EXPECT_EQ(Roster().lstPlayer[1]->currentRow(), -1);
+    Press(Roster().lstPlayer[1], Qt::Key_Down);
+    EXPECT_THAT(ChosenRows(1), ElementsAre(0));
+    EXPECT_EQ(SelectedPlayer, 1);
+}
+
+TEST_F(frmRosterListsTest, CtrlAChoosesAllEntriesOfTheList)
+{
+    PutSeven();
+    ClickEntry(1, 1);
+    Press(Roster().lstPlayer[1], Qt::Key_A, Qt::ControlModifier);
+    EXPECT_THAT(ChosenRows(1), ElementsAre(0, 1, 2));
+    EXPECT_FALSE(Roster().cmdCaptain->isEnabled());
+    EXPECT_TRUE(Roster().cmdToPro->isEnabled());
+}
+
+TEST_F(frmRosterListsTest, ChoosingInCodeCountsAsAClick)
+{
+    PutSeven();
+    Roster().lstPlayer[1]->setCurrentRow(1, QItemSelectionModel::NoUpdate);
+    Roster().lstPlayer[1]->item(1)->setSelected(true);
+    EXPECT_EQ(SelectedPlayer, 2);
+    EXPECT_TRUE(Roster().cmdToFarm->isEnabled());
+}
+
+TEST_F(frmRosterListsTest, ClickOnTheOneChosenEntryShowsHimAnew)
+{
+    PutSeven();
+    ClickEntry(1, 1);
+    Players[2].Stats[skater::CK] = 77;
+    ClickEntry(1, 1);
+    EXPECT_EQ(Of(Roster().Stats->lblStat[1]), "77");
+}
+
+TEST_F(frmRosterListsTest, EntriesCarryPositionAndOverallBesideTheirTextOnlyWhereTheLeagueShowsIt)
+{
+    PutSkater(1, 5, position::LeftWing, status::Pro, 60);
+    const auto aside = [&] { return Roster().lstPlayer[2]->item(0)->data(entry::AsideRole).toStringList(); };
+    EXPECT_EQ(aside(), (QStringList{"LW", QString::number(CalculateOverall(position::LeftWing, 1))}));
+    LeagueData.ShowOverall = false;
+    Roster().ShowPlayer(true);
+    EXPECT_EQ(aside(), QStringList{"LW"});
+    EXPECT_EQ(EntryTextAt(2, 0), "Skater 1");
+}
+
+TEST_F(frmRosterListsTest, ABrokenClickIsToldUnderItsName)
+{
+    Roster().lstPlayer_Click(3);
+    EXPECT_THAT(Machine.Boxes(), ElementsAre(Box{16, "9 - Subscript out of range in LstPlayer_Click!"}));
+}
+
+TEST_F(frmRosterListsTest, ABrokenDoubleClickIsToldUnderItsName)
+{
+    Roster().lstPlayer_DblClick(3);
+    EXPECT_THAT(Machine.Boxes(), ElementsAre(Box{16, "9 - Subscript out of range in lstPlayer_DblClick!"}));
+}
+
+TEST_F(frmRosterListsTest, ABrokenRebuildIsToldUnderItsName)
+{
+    Roster();
+    CurrentTeam = 101;
+    Roster().ShowPlayer(true);
+    CurrentTeam = 5;
+    EXPECT_THAT(Machine.Boxes(), ElementsAre(Box{16, "9 - Subscript out of range in ShowPlayer!"}));
+}
+
+} // namespace
+} // namespace dravik
