@@ -45,17 +45,30 @@ void EditBox::changeEvent(QEvent* event)
     QLineEdit::changeEvent(event);
     if (event->type() == QEvent::PaletteChange)
         ShadeDisabledText();
+    if (event->type() == QEvent::EnabledChange && readsAsLabel)
+        setFrame(isEnabled());
+}
+
+void EditBox::ReadAsLabelWhenClosed()
+{
+    readsAsLabel = true;
+    setFrame(isEnabled());
+    ShadeDisabledText();
 }
 
 void EditBox::ShadeDisabledText()
 {
     const QPalette& all = palette();
-    const QColor shaded =
-        Muted(all.color(QPalette::Active, QPalette::WindowText), all.color(QPalette::Disabled, QPalette::Base));
-    if (all.color(QPalette::Disabled, QPalette::Text) == shaded)
+    const QColor text = all.color(QPalette::Active, QPalette::WindowText);
+    const QColor base = readsAsLabel ? QColor(Qt::transparent) : all.color(QPalette::Disabled, QPalette::Base);
+    const QColor shaded = readsAsLabel ? text : Muted(text, base);
+    if (all.color(QPalette::Disabled, QPalette::Text) == shaded &&
+        all.color(QPalette::Disabled, QPalette::Base) == base)
         return;
     QPalette own;
     own.setColor(QPalette::Disabled, QPalette::Text, shaded);
+    if (readsAsLabel)
+        own.setColor(QPalette::Disabled, QPalette::Base, base);
     setPalette(own);
 }
 

@@ -16,6 +16,9 @@ public:
     bool Settle();
     // Takes the focus again, since its text was refused. Whoever calls this holds the events back meanwhile.
     void TakeFocusBack();
+    // While it is closed, the box reads like a label: no frame, no ground of its own, its text in full colour. For what is
+    // closed only because it is there to be read.
+    void ReadAsLabelWhenClosed();
 
 signals:
     void LostFocus();
@@ -29,6 +32,7 @@ private:
     // A box that is only shown stays as readable as secondary words are.
     void ShadeDisabledText();
 
+    bool readsAsLabel = false;
     bool owesAction = false;
     bool acting = false;
 };
