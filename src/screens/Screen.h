@@ -25,6 +25,9 @@ public:
     virtual void FormActivate() {}
     // Runs when the screen closes, whichever way, before another one is shown.
     virtual void FormUnload() {}
+    // Runs on the screen that the player viewer returns to, before that one is gone. `changed` tells that the viewer
+    // changed something for which lists must be rebuilt.
+    virtual void ViewerClosed(bool /*changed*/) {}
 
     // Puts the window in the middle of its screen.
     void CentreOnScreen();

@@ -4,6 +4,7 @@
 #include "league/Failure.h"
 #include "league/Message.h"
 #include "league/Platform.h"
+#include "screens/frmEditPlayer.h"
 #include "screens/frmMain.h"
 #include "screens/frmRoster.h"
 #include "screens/frmTeam.h"
@@ -46,7 +47,7 @@ constexpr Role Roles[] = {
     {"FreeAgent",  Behind::Main,   true,  nullptr},
     {"Draft",      Behind::Main,   true,  nullptr},
     {"Ticket",     Behind::Team,   true,  nullptr},
-    {"EditPlayer", Behind::Viewer, true,  nullptr},
+    {"EditPlayer", Behind::Viewer, true,  Make<frmEditPlayer>},
     {"About",      Behind::Main,   false, nullptr},
     {"Coach",      Behind::Main,   true,  nullptr},
     {"Prospect",   Behind::Main,   true,  nullptr},
@@ -154,13 +155,8 @@ void Stage::EnableSaveToFile()
 
 void Stage::ViewerClosed(bool changed)
 {
-    frmRoster* roster = Roster();
-    if (roster == nullptr || ViewerOpener() != RosterName)
-        return;
-    if (changed)
-        roster->ShowPlayer(false);
-    else
-        roster->ShowStats();
+    if (Screen* opener = Find(ViewerOpener()))
+        opener->ViewerClosed(changed);
 }
 
 void Stage::Closed(Screen& screen)

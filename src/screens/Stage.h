@@ -46,6 +46,8 @@ public:
     void PlaceTeam();
     // Makes the command available that saves the lines file, since day 1 of the pro lines has passed.
     void EnableSaveToFile();
+    // Tells the screen that the player viewer returns to that the viewer closes, and whether it changed something.
+    void ViewerClosed(bool changed);
 
     // The player viewer has closed, and may have `changed` what the screen that opened it shows.
     void ViewerClosed(bool changed);

@@ -1,0 +1,249 @@
+#include "screens/frmEditPlayer.h"
+
+#include "league/Message.h"
+#include "league/Platform.h"
+#include "league/Reporting.h"
+#include "rules/StatRows.h"
+#include "screens/platform/CodePage.h"
+#include "screens/Stage.h"
+
+#include <cstdlib>
+#include <QSignalBlocker>
+
+// What the player viewer shows: its list, the record and the ratings.
+namespace dravik {
+
+namespace {
+
+constexpr int Base = 10;
+constexpr int FirstSlot = 1;
+
+// An entry's number: the digits of the id, the position digit behind them.
+int EntryNumber(long long id, int position) { return static_cast<int>(id * Base + (id < 0 ? -position : position)); }
+
+int IdOf(int entryNumber) { return entryNumber / Base; }
+int PositionOf(int entryNumber) { return std::abs(entryNumber % Base); }
+
+bool HasPosition(const Player& player)
+{
+    return player.Position >= position::Center && player.Position <= position::Defense;
+}
+
+std::string EntryText(const std::string& name, int position)
+{
+    return name + " (" + std::string(PositionName[position]) + ")";
+}
+
+QString Title(std::string_view ending) { return ToQString(std::string(ProgramTitle) + std::string(ending)); }
+
+bool IsChosen(long long number, bool isGoalie)
+{
+    return SelectedPlayer == 0 || (number == SelectedPlayer && isGoalie == SelectedIsGoalie);
+}
+
+// Holds list and box events back as long as it lives.
+class EventsHeldBack {
+public:
+    EventsHeldBack() { ListEventGuard = true; }
+    EventsHeldBack(const EventsHeldBack&) = delete;
+    EventsHeldBack& operator=(const EventsHeldBack&) = delete;
+    ~EventsHeldBack() { ListEventGuard = false; }
+};
+
+} // namespace
+
+void frmEditPlayer::FormLoad()
+{
+    Reporting(" in FormLoad FrmEditPlayer!", [this] {
+        CentreOnScreen();
+        setWindowTitle(Title(" - Edit Player"));
+        ListEverybody();
+        if (lstPlayer->count() > 0)
+            Choose(0);
+        if (lstPlayer->count() > 1)
+            chkEdit->setChecked(true);
+        else
+            cmdSearch->setEnabled(false);
+        setWindowTitle(Title(" - Show Player"));
+    });
+    CloseEditor();
+}
+
+void frmEditPlayer::ListEverybody()
+{
+    const int asked = static_cast<int>(SelectedPlayer);
+    const auto add = [this, asked](const auto& person, int position) {
+        AddEntry(person.Name.Trimmed(), static_cast<int>(person.Number), position);
+        if (asked == 0)
+            return;
+        MakeCurrent(lstPlayer->count() - 1);
+        PlayerPosition = position;
+        for (QPushButton* command : {cmdNewPlayer, cmdNewGoaler, cmdErase})
+            command->hide();
+    };
+    for (int slot = FirstSlot; slot <= PlayerTable::last; ++slot) {
+        Player& player = Players[slot];
+        if (!player.InUse)
+            continue;
+        if (!HasPosition(player)) {
+            ShowBox(player.Name.Trimmed() + " has no position! He's now center.", box::Warning);
+            player.Position = position::Center;
+        }
+        if (IsChosen(player.Number, false))
+            add(player, static_cast<int>(player.Position));
+    }
+    for (int slot = FirstSlot; slot <= GoalieTable::last; ++slot)
+        if (Goalies[slot].InUse && IsChosen(Goalies[slot].Number, true))
+            add(Goalies[slot], position::Goalie);
+    FitList();
+}
+
+void frmEditPlayer::AddEntry(const std::string& name, int id, int position)
+{
+    const QSignalBlocker quiet(lstPlayer);
+    lstPlayer->Add(ToQString(EntryText(name, position)), EntryNumber(id, position));
+}
+
+void frmEditPlayer::RewriteEntry()
+{
+    QListWidgetItem* item = lstPlayer->item(ListPosition);
+    const auto person = ShownPerson();
+    if (item == nullptr || !person)
+        return;
+    const std::string name = On(*person, [](const auto& record) { return record.Name.Trimmed(); });
+    item->setText(ToQString(EntryText(name, PlayerPosition)));
+    item->setData(entry::NumberRole, EntryNumber(person->Id, PlayerPosition));
+}
+
+void frmEditPlayer::MakeCurrent(int entry)
+{
+    const QSignalBlocker quiet(lstPlayer);
+    lstPlayer->setCurrentRow(entry);
+}
+
+void frmEditPlayer::Choose(int entry)
+{
+    MakeCurrent(entry);
+    lstPlayer_Click();
+}
+
+std::optional<frmEditPlayer::Person> frmEditPlayer::ShownPerson() const
+{
+    if (PlayerPosition < position::Center || PlayerPosition > position::Goalie) {
+        ShowIntegrityFailure();
+        return std::nullopt;
+    }
+    return Person{PlayerPosition == position::Goalie, static_cast<int>(SelectedPlayer)};
+}
+
+void frmEditPlayer::lstPlayer_Click()
+{
+    Reporting(" in LstPlayer_Click", [this] {
+        const EventsHeldBack guard;
+        const QListWidgetItem* current = lstPlayer->currentItem();
+        if (current != nullptr) {
+            const int number = current->data(entry::NumberRole).toInt();
+            SelectedPlayer = IdOf(number);
+            PlayerPosition = PositionOf(number);
+            ListPosition = lstPlayer->currentRow();
+        }
+        HideRows();
+        if (current == nullptr)
+            return;
+        if (const auto person = ShownPerson())
+            ShowRecord(*person);
+    });
+}
+
+void frmEditPlayer::ShowRecord(const Person& person)
+{
+    optGoaler->setVisible(person.IsGoalie);
+    for (QRadioButton* option : optPosition)
+        option->setVisible(!person.IsGoalie);
+    ClearPositions();
+    ShowFields(person);
+    On(person, [this](const auto& record) {
+        txtTeam->clear();
+        if (record.Team != 0 && Teams[record.Team].InUse)
+            txtTeam->setText(ToQString(Teams[record.Team].Name.Trimmed()));
+        constexpr int perfect = 100;
+        const bool isHealthy = record.Condition >= perfect;
+        txtInjury->setEnabled(!isHealthy);
+        if (isHealthy)
+            txtInjury->clear();
+    });
+    TickPosition(person.IsGoalie ? optGoaler : optPosition[Players[person.Id].Position]);
+    On(person, [this](const auto& record) {
+        chkRookie->setChecked(static_cast<bool>(record.Rookie));
+        chkNoTrade->setChecked(static_cast<bool>(record.NoTrade));
+        chkNoApplyRerate->setChecked(static_cast<bool>(record.NoApplyRerate));
+    });
+    ShowRatings(person);
+}
+
+void frmEditPlayer::ClearPositions()
+{
+    PositionEventsOn = false;
+    positions->setExclusive(false);
+    for (QAbstractButton* option : positions->buttons())
+        option->setChecked(false);
+    positions->setExclusive(true);
+    PositionEventsOn = true;
+}
+
+void frmEditPlayer::TickPosition(QRadioButton* option)
+{
+    PositionEventsOn = false;
+    option->setChecked(true);
+    PositionEventsOn = true;
+}
+
+void frmEditPlayer::ShowRatings(const Person& person)
+{
+    const StatRows rows = person.IsGoalie ? GoalieStatRows(person.Id) : SkaterStatRows(person.Id);
+    int row = 0;
+    for (const StatRow& rating : rows.Ratings)
+        SetRow(++row, rating);
+    if (rows.OverallRow)
+        SetRow(++row, *rows.OverallRow);
+}
+
+void frmEditPlayer::SetRow(int row, const StatRow& shown)
+{
+    txtStats[row]->setText(QString::number(shown.Value));
+    bars[row]->SetValue(shown.Value);
+    ShowRow(row, shown.Label);
+}
+
+void frmEditPlayer::ShowRow(int row, std::string_view label)
+{
+    lblStatLabel[row]->setText(ToQString(label));
+    txtStats[row]->setAccessibleName(ToQString(label));
+    lblStatLabel[row]->show();
+    txtStats[row]->show();
+    bars[row]->show();
+}
+
+// Shows the overall anew after a rating has changed.
+void frmEditPlayer::ShowOverall()
+{
+    const Person person{PlayerPosition == position::Goalie, static_cast<int>(SelectedPlayer)};
+    const StatRows rows = person.IsGoalie ? GoalieStatRows(person.Id) : SkaterStatRows(person.Id);
+    if (rows.OverallRow)
+        SetRow(static_cast<int>(rows.Ratings.size()) + 1, *rows.OverallRow);
+}
+
+void frmEditPlayer::HideRows()
+{
+    for (int row = lblStatLabel.first; row <= lblStatLabel.last; ++row) {
+        lblStatLabel[row]->hide();
+        txtStats[row]->hide();
+        bars[row]->hide();
+    }
+}
+
+void frmEditPlayer::FormUnload() { Owner.ViewerClosed(Changed); }
+
+void frmEditPlayer::cmdExit_Click() { Unload(); }
+
+} // namespace dravik

@@ -1,0 +1,163 @@
+#pragma once
+
+#include "league/ClientVariable.h"
+#include "league/InputCheck.h"
+#include "screens/panels/EditBox.h"
+#include "screens/panels/EntryList.h"
+#include "screens/panels/RatingBar.h"
+#include "screens/Screen.h"
+
+#include <functional>
+#include <optional>
+#include <QButtonGroup>
+#include <QCheckBox>
+#include <QLabel>
+#include <QRadioButton>
+#include <string>
+#include <string_view>
+
+namespace dravik {
+
+struct StatRow;
+
+// The full record of one skater or goalie. The screen is a record editor as well, and the editor is always closed: every
+// control of it is disabled or hidden by the time the screen is shown.
+class frmEditPlayer : public Screen {
+public:
+    explicit frmEditPlayer(Stage& stage);
+
+    // Gives every skater of the league without a position one, lists the chosen person (`SelectedPlayer`,
+    // `SelectedIsGoalie`; 0 lists everybody), shows him and closes the editor. A person who is in neither table, such as a
+    // prospect, leaves the screen blank.
+    void FormLoad() override;
+    // Tells the opener whether there is something to rebuild.
+    void FormUnload() override;
+
+    void lstPlayer_Click();
+    void chkEdit_Click();
+
+    // Each box judges its text when it loses the focus, restores the record's value when it is empty, and otherwise stores
+    // the value within its limits. While a new record is typed, values are read when it is saved.
+    void txtName_LostFocus();
+    void txtCountry_LostFocus();
+    void txtAge_LostFocus();
+    void txtWeight_LostFocus();
+    void txtHeight_LostFocus();
+    void txtCondition_LostFocus();
+    void txtInjury_LostFocus();
+    void txtContract_LostFocus();
+    void txtSalary_LostFocus();
+    void txtSuspension_LostFocus();
+    void txtStats_LostFocus(int index);
+    void txtStats_GotFocus(int index);
+    void optPosition_Click(int index);
+    void chkRookie_Click();
+    void chkNoTrade_Click();
+    void chkNoApplyRerate_Click();
+
+    void cmdSearch_Click();
+    void cmdNewPlayer_Click();
+    void cmdNewGoaler_Click();
+    void cmdErase_Click();
+    void cmdExit_Click();
+
+    EntryList* lstPlayer;
+    EditBox *txtName, *txtCountry, *txtAge, *txtWeight, *txtHeight;
+    EditBox *txtCondition, *txtInjury, *txtContract, *txtSalary, *txtSuspension, *txtTeam;
+    Row<QRadioButton*, 1, 4> optPosition;
+    QRadioButton* optGoaler;
+    QCheckBox *chkRookie, *chkNoTrade, *chkNoApplyRerate, *chkEdit;
+    Row<EditBox*, 1, 16> txtStats;
+    Row<QLabel*, 1, 16> lblStatLabel;
+    QPushButton *cmdSearch, *cmdNewPlayer, *cmdNewGoaler, *cmdErase, *cmdExit;
+
+    int PlayerPosition = 0; // position digit of the shown person, 5 for a goalie
+    int ListPosition = -1;  // index of the current entry of the list
+    bool NewPlayerMode = false;
+    bool NewGoalieMode = false;
+    int FreeSlot = 0;             // where the new record goes
+    bool PositionEventsOn = true; // false while the screen chooses a position itself
+    bool Changed = false;         // something that the opener must rebuild for
+
+    // The record at hand.
+    struct Person {
+        bool IsGoalie;
+        int Id;
+    };
+    struct NumberField; // a box that holds a number of the record
+    struct TextField;   // a box that holds a text of it
+
+protected:
+    void changeEvent(QEvent* event) override;
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
+private:
+    // Runs `visit` on a record.
+    template <class Visit>
+    static auto On(const Person& person, Visit&& visit)
+    {
+        return person.IsGoalie ? visit(Goalies[person.Id]) : visit(Players[person.Id]);
+    }
+    // The person shown. None, with a critical box, when the position digit is out of range.
+    [[nodiscard]] std::optional<Person> ShownPerson() const;
+
+    // The list.
+    void ListEverybody();
+    void AddEntry(const std::string& name, int id, int position);
+    void RewriteEntry();
+    // Makes an entry the current one without an event, and with the same effect as a click.
+    void MakeCurrent(int entry);
+    void Choose(int entry);
+    void FitList();
+
+    // The record.
+    void ShowRecord(const Person& person);
+    void ClearPositions();
+    void TickPosition(QRadioButton* option);
+    void ShowRatings(const Person& person);
+    void ShowRow(int row, std::string_view label);
+    void SetRow(int row, const StatRow& shown);
+    void ShowOverall();
+    void HideRows();
+
+    // The boxes.
+    void ShowFields(const Person& person);
+    void LeaveBox(EditBox* box, InputMode mode, const std::function<void(const Person&)>& restore,
+                  const std::function<void(const Person&, const std::string&)>& take);
+    // A rule of one field's own: given the value before and now. `allows` may refuse the new one, which is then not
+    // stored; `follow` runs behind the storing.
+    using Rule = std::function<void(const Person&, long long before, long long now)>;
+    using Allowance = std::function<bool(const Person&, long long now)>;
+    void LeaveNumber(const NumberField& field, const Rule& follow = {}, const Allowance& allows = {});
+    void LeaveText(const TextField& field, const std::function<void()>& follow = {});
+    void ChangeCondition(const Person& person, long long before, long long now);
+    void Suspend(const Person& person, long long before, long long now);
+    void Bench(const Person& person);
+    void CopyFlag(Boolean Player::*ofSkater, Boolean Goalie::*ofGoalie, const QCheckBox* box);
+
+    // New records.
+    void BeginRecord(const Person& person);
+    void SaveRecord(const Person& person);
+    [[nodiscard]] bool IsNewRecordFilled(int ratings) const;
+    void StoreNewFields(const Person& person);
+    void ClearBoxes();
+    void LeaveNewPlayerMode();
+    void LeaveNewGoalieMode();
+
+    // The look.
+    void MakeBoxes();
+    void MakeOptions();
+    void MakeCommands();
+    QWidget* MakeIdentityGroup();
+    QWidget* MakeContractGroup();
+    QWidget* MakeConditionGroup();
+    QWidget* MakeStatsGroup();
+    void EnableEditor(bool enabled);
+    void CloseEditor();
+    void ShadeClosedControls();
+
+    QButtonGroup* positions;
+    Row<RatingBar*, 1, 16> bars;
+};
+
+} // namespace dravik

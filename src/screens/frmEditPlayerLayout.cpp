@@ -1,0 +1,339 @@
+#include "screens/frmEditPlayer.h"
+#include "screens/panels/Labels.h"
+#include "screens/panels/Shades.h"
+
+#include <algorithm>
+#include <QEvent>
+#include <QGridLayout>
+#include <QGroupBox>
+#include <QHBoxLayout>
+#include <QMetaObject>
+#include <QScrollArea>
+#include <QVBoxLayout>
+
+// What the player viewer is made of and where it stands.
+namespace dravik {
+
+namespace {
+
+constexpr QSize DefaultSize(1040, 560);
+constexpr int MostListRows = 8;
+constexpr int StatRowsInColumn = 8;
+constexpr const char* LongestCaption = "Suspension :";
+constexpr const char* WidestNumber = "-2147483648";
+constexpr int CaptionColumn = 0;
+constexpr int FieldColumn = 1;
+
+QString InParentheses(const char* name, int index) { return QString("%1(%2)").arg(name).arg(index); }
+
+QGridLayout* MakeGrid(QGroupBox* group)
+{
+    auto* grid = new QGridLayout(group);
+    grid->setContentsMargins(Margin, Gap, Margin, Margin);
+    grid->setHorizontalSpacing(Margin);
+    grid->setVerticalSpacing(Gap);
+    grid->setColumnStretch(FieldColumn, 1);
+    // One edge for the fields of all groups.
+    grid->setColumnMinimumWidth(CaptionColumn, group->fontMetrics().horizontalAdvance(LongestCaption));
+    return grid;
+}
+
+// Puts a caption and what it names into the next row of a grid.
+void AddRow(QGridLayout* grid, const QString& caption, QWidget* field)
+{
+    const int row = grid->rowCount();
+    auto* label = new MutedLabel(caption, field->parentWidget());
+    label->setBuddy(field);
+    field->setAccessibleName(caption.section(':', 0, 0).trimmed());
+    grid->addWidget(label, row, CaptionColumn);
+    grid->addWidget(field, row, FieldColumn);
+}
+
+// Puts what has a caption of its own under the fields.
+void AddBelow(QGridLayout* grid, std::initializer_list<QWidget*> widgets)
+{
+    for (QWidget* widget : widgets)
+        grid->addWidget(widget, grid->rowCount(), FieldColumn);
+}
+
+QVBoxLayout* InAColumn(std::initializer_list<QWidget*> widgets)
+{
+    auto* column = new QVBoxLayout;
+    column->setSpacing(Margin);
+    for (QWidget* widget : widgets)
+        column->addWidget(widget);
+    column->addStretch(1);
+    return column;
+}
+
+} // namespace
+
+frmEditPlayer::frmEditPlayer(Stage& stage) : Screen(stage, "frmEditPlayer")
+{
+    MakeBoxes();
+    MakeOptions();
+    MakeCommands();
+
+    auto* content = new QWidget(this);
+    auto* column = new QVBoxLayout(content);
+    column->setContentsMargins(Margin, Margin, Margin, Margin);
+    column->setSpacing(Margin);
+    column->addWidget(lstPlayer);
+
+    auto* body = new QHBoxLayout;
+    body->setSpacing(Margin);
+    body->addLayout(InAColumn({MakeIdentityGroup()}), 1);
+    body->addLayout(InAColumn({MakeContractGroup(), MakeConditionGroup()}), 1);
+    body->addLayout(InAColumn({MakeStatsGroup()}), 1);
+    column->addLayout(body, 1);
+
+    auto* footer = new QHBoxLayout;
+    footer->setSpacing(Gap);
+    footer->addWidget(chkEdit);
+    for (QPushButton* command : {cmdSearch, cmdNewPlayer, cmdNewGoaler, cmdErase})
+        footer->addWidget(command);
+    footer->addStretch(1);
+    footer->addWidget(cmdExit);
+    column->addLayout(footer);
+
+    auto* area = new QScrollArea(this);
+    area->setFrameShape(QFrame::NoFrame);
+    area->setWidgetResizable(true);
+    area->setFocusPolicy(Qt::NoFocus);
+    area->setWidget(content);
+    setCentralWidget(area);
+
+    HideRows();
+    optGoaler->hide();
+    FitList();
+    CloseEditor();
+    ShadeClosedControls();
+    cmdExit->setFocus();
+    resize(DefaultSize.expandedTo(content->minimumSizeHint()));
+}
+
+void frmEditPlayer::MakeBoxes()
+{
+    txtName = MakeBox("txtName", [this] { txtName_LostFocus(); });
+    txtTeam = MakeBox("txtTeam", [] {});
+    txtTeam->setReadOnly(true);
+    txtTeam->setFocusPolicy(Qt::NoFocus);
+    txtTeam->setEnabled(false);
+    txtCountry = MakeBox("txtCountry", [this] { txtCountry_LostFocus(); });
+    txtAge = MakeBox("txtAge", [this] { txtAge_LostFocus(); });
+    txtWeight = MakeBox("txtWeight", [this] { txtWeight_LostFocus(); });
+    txtHeight = MakeBox("txtHeight", [this] { txtHeight_LostFocus(); });
+    txtContract = MakeBox("txtContract", [this] { txtContract_LostFocus(); });
+    txtSalary = MakeBox("txtSalary", [this] { txtSalary_LostFocus(); });
+    txtCondition = MakeBox("txtCondition", [this] { txtCondition_LostFocus(); });
+    txtInjury = MakeBox("txtInjury", [this] { txtInjury_LostFocus(); });
+    txtSuspension = MakeBox("txtSuspension", [this] { txtSuspension_LostFocus(); });
+    for (EditBox* box : {txtName, txtTeam, txtCountry, txtAge, txtWeight, txtHeight, txtContract, txtSalary,
+                         txtCondition, txtInjury, txtSuspension})
+        box->ReadAsLabelWhenClosed();
+    // One column of numbers close to their captions.
+    for (EditBox* box : {txtAge, txtWeight, txtHeight, txtContract, txtSalary, txtCondition, txtSuspension}) {
+        box->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+        box->setFixedWidth(box->fontMetrics().horizontalAdvance(WidestNumber));
+    }
+    for (int row = txtStats.first; row <= txtStats.last; ++row) {
+        EditBox* box = MakeBox(InParentheses("txtStats", row), [this, row] { txtStats_LostFocus(row); });
+        box->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+        box->setFixedWidth(box->fontMetrics().horizontalAdvance("-99999"));
+        box->ReadAsLabelWhenClosed();
+        box->installEventFilter(this);
+        txtStats[row] = box;
+        lblStatLabel[row] = new MutedLabel(this);
+        lblStatLabel[row]->setObjectName(InParentheses("lblStatLabel", row));
+        lblStatLabel[row]->setTextFormat(Qt::PlainText);
+        bars[row] = new RatingBar(this);
+    }
+}
+
+void frmEditPlayer::MakeOptions()
+{
+    positions = new QButtonGroup(this);
+    const auto makeOption = [this](const QString& name, const QString& caption) {
+        auto* option = new QRadioButton(caption, this);
+        option->setObjectName(name);
+        positions->addButton(option);
+        return option;
+    };
+    const QStringList captions{"Center", "Left Wing", "Right Wing", "Defense"};
+    for (int index = position::Center; index <= position::Defense; ++index) {
+        optPosition[index] = makeOption(InParentheses("optPosition", index), captions[index - 1]);
+        connect(optPosition[index], &QRadioButton::toggled, this, [this, index](bool ticked) {
+            if (ticked)
+                optPosition_Click(index);
+        });
+    }
+    optGoaler = makeOption("optGoaler", "Goalie");
+
+    const auto makeCheck = [this](const char* name, const QString& caption) {
+        auto* check = new QCheckBox(caption, this);
+        check->setObjectName(name);
+        return check;
+    };
+    chkRookie = makeCheck("chkRookie", "Rookie");
+    chkNoTrade = makeCheck("chkNoTrade", "No Trade");
+    chkNoApplyRerate = makeCheck("chkNoApplyRerate", "Do Not Apply Rerate");
+    chkEdit = makeCheck("chkEdit", "Allow Edition");
+    connect(chkRookie, &QCheckBox::clicked, this, [this] { chkRookie_Click(); });
+    connect(chkNoTrade, &QCheckBox::clicked, this, [this] { chkNoTrade_Click(); });
+    connect(chkNoApplyRerate, &QCheckBox::clicked, this, [this] { chkNoApplyRerate_Click(); });
+    connect(chkEdit, &QCheckBox::toggled, this, [this] { chkEdit_Click(); });
+}
+
+void frmEditPlayer::MakeCommands()
+{
+    lstPlayer = new EntryList(this);
+    lstPlayer->setObjectName("lstPlayer");
+    lstPlayer->setAccessibleName("Players");
+    connect(lstPlayer, &QListWidget::currentRowChanged, this, [this] { lstPlayer_Click(); });
+    cmdSearch = MakeCommand("cmdSearch", "Search Player", [this] { cmdSearch_Click(); });
+    cmdNewPlayer = MakeCommand("cmdNewPlayer", "New Player", [this] { cmdNewPlayer_Click(); });
+    cmdNewGoaler = MakeCommand("cmdNewGoaler", "New Goalie", [this] { cmdNewGoaler_Click(); });
+    cmdErase = MakeCommand("cmdErase", "Erase", [this] { cmdErase_Click(); });
+    cmdExit = MakeCommand("cmdExit", "E&xit", [this] { cmdExit_Click(); });
+}
+
+QWidget* frmEditPlayer::MakeIdentityGroup()
+{
+    auto* group = new QGroupBox("Player", this);
+    QGridLayout* grid = MakeGrid(group);
+    AddRow(grid, "Name : ", txtName);
+    AddRow(grid, "Team : ", txtTeam);
+    AddRow(grid, "Country :", txtCountry);
+    AddRow(grid, "Age : ", txtAge);
+    AddRow(grid, "Weight :", txtWeight);
+    AddRow(grid, "Height :", txtHeight);
+    grid->addWidget(new MutedLabel("Position : ", group), grid->rowCount(), CaptionColumn);
+    const int row = grid->rowCount() - 1;
+    auto* options = new QGridLayout;
+    options->setSpacing(Gap);
+    for (int index = position::Center; index <= position::Defense; ++index)
+        options->addWidget(optPosition[index], (index - 1) / 2, (index - 1) % 2);
+    options->addWidget(optGoaler, 2, 0);
+    grid->addLayout(options, row, FieldColumn);
+    AddBelow(grid, {chkRookie});
+    return group;
+}
+
+QWidget* frmEditPlayer::MakeContractGroup()
+{
+    auto* group = new QGroupBox("Contract", this);
+    QGridLayout* grid = MakeGrid(group);
+    AddRow(grid, "Contract :", txtContract);
+    AddRow(grid, "Salary :", txtSalary);
+    AddBelow(grid, {chkNoTrade, chkNoApplyRerate});
+    return group;
+}
+
+QWidget* frmEditPlayer::MakeConditionGroup()
+{
+    auto* group = new QGroupBox("Condition", this);
+    QGridLayout* grid = MakeGrid(group);
+    AddRow(grid, "Condition :", txtCondition);
+    AddRow(grid, "Injury :", txtInjury);
+    AddRow(grid, "Suspension :", txtSuspension);
+    return group;
+}
+
+// Two columns of ratings: the label, a bar, the number.
+QWidget* frmEditPlayer::MakeStatsGroup()
+{
+    constexpr int widgetsOfRating = 3;
+    auto* group = new QGroupBox("Stats", this);
+    auto* grid = new QGridLayout(group);
+    grid->setContentsMargins(Margin, Gap, Margin, Margin);
+    grid->setHorizontalSpacing(Gap);
+    grid->setVerticalSpacing(Gap / 2);
+    for (int row = lblStatLabel.first; row <= lblStatLabel.last; ++row) {
+        const int line = (row - 1) % StatRowsInColumn;
+        const int column = (row - 1) / StatRowsInColumn * (widgetsOfRating + 1);
+        grid->addWidget(lblStatLabel[row], line, column);
+        grid->addWidget(bars[row], line, column + 1, Qt::AlignVCenter);
+        grid->addWidget(txtStats[row], line, column + 2);
+        grid->setColumnStretch(column + 1, 1);
+    }
+    grid->setColumnMinimumWidth(widgetsOfRating, Gap);
+    return group;
+}
+
+// The one person that a viewer lists is its title. A list to choose from looks like one.
+void frmEditPlayer::FitList()
+{
+    const bool isTitle = lstPlayer->count() <= 1;
+    lstPlayer->setFont(isTitle ? TitleFont(font()) : font());
+    lstPlayer->setFrameShape(isTitle ? QFrame::NoFrame : QFrame::StyledPanel);
+    lstPlayer->setAlternatingRowColors(!isTitle);
+    lstPlayer->viewport()->setAutoFillBackground(!isTitle);
+    lstPlayer->setVerticalScrollBarPolicy(isTitle ? Qt::ScrollBarAlwaysOff : Qt::ScrollBarAsNeeded);
+    lstPlayer->setSelectionMode(isTitle ? QAbstractItemView::NoSelection : QAbstractItemView::SingleSelection);
+    constexpr int rowPadding = 8;
+    const int rows = std::clamp(lstPlayer->count(), 1, MostListRows);
+    lstPlayer->setFixedHeight(rows * (lstPlayer->fontMetrics().height() + rowPadding) + 2 * lstPlayer->frameWidth());
+}
+
+void frmEditPlayer::EnableEditor(bool enabled)
+{
+    for (EditBox* box : {txtName, txtCountry, txtAge, txtWeight, txtHeight, txtCondition, txtInjury, txtContract,
+                         txtSalary, txtSuspension})
+        box->setEnabled(enabled);
+    for (QCheckBox* check : {chkRookie, chkNoTrade, chkNoApplyRerate})
+        check->setEnabled(enabled);
+    for (EditBox* box : txtStats)
+        box->setEnabled(enabled);
+    optGoaler->setEnabled(enabled);
+    for (QRadioButton* option : optPosition)
+        option->setEnabled(enabled);
+}
+
+void frmEditPlayer::chkEdit_Click()
+{
+    EnableEditor(chkEdit->isChecked());
+    cmdErase->setEnabled(chkEdit->isChecked());
+}
+
+void frmEditPlayer::CloseEditor()
+{
+    EnableEditor(false);
+    for (QPushButton* command : {cmdSearch, cmdNewPlayer, cmdNewGoaler, cmdErase}) {
+        command->setEnabled(false);
+        command->hide();
+    }
+    lstPlayer->setEnabled(false);
+    chkEdit->setEnabled(false);
+    chkEdit->hide();
+}
+
+// Everything here is closed to be read, so it keeps the colours of what is open.
+void frmEditPlayer::ShadeClosedControls()
+{
+    const QColor text = palette().color(QPalette::Active, QPalette::WindowText);
+    QPalette readable;
+    for (const QPalette::ColorRole role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText})
+        readable.setColor(QPalette::Disabled, role, text);
+    for (QWidget* control : QWidgetList{lstPlayer, optPosition[1], optPosition[2], optPosition[3], optPosition[4],
+                                        optGoaler, chkRookie, chkNoTrade, chkNoApplyRerate})
+        control->setPalette(readable);
+}
+
+void frmEditPlayer::changeEvent(QEvent* event)
+{
+    Screen::changeEvent(event);
+    if (event->type() == QEvent::PaletteChange)
+        ShadeClosedControls();
+}
+
+bool frmEditPlayer::eventFilter(QObject* watched, QEvent* event)
+{
+    if (event->type() == QEvent::FocusIn)
+        for (int row = txtStats.first; row <= txtStats.last; ++row)
+            if (watched == txtStats[row]) // once the press that brought the focus has placed its cursor
+                QMetaObject::invokeMethod(
+                    this, [this, row] { txtStats_GotFocus(row); }, Qt::QueuedConnection);
+    return Screen::eventFilter(watched, event);
+}
+
+} // namespace dravik

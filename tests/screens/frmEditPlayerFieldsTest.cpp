@@ -1,0 +1,501 @@
+#include "OnViewer.h"
+
+namespace dravik {
+namespace {
+
+using ::testing::ElementsAre;
+using ::testing::IsEmpty;
+
+class ViewerFields : public OnViewer {};
+
+// What a number box makes of what was typed.
+struct Typing {
+    const char* Text;
+    long long Stored;
+};
+
+TEST_F(ViewerFields, AgeAndWeightBelowOneBecomeOne)
+{
+    frmEditPlayer& viewer = Edit(7);
+    for (const Typing& typing : {Typing{"0", 1}, {"-5", 1}, {"1", 1}, {"35", 35}, {"32767", 32767}, {"8-2", 8}}) {
+        Enter(viewer.txtAge, typing.Text);
+        EXPECT_EQ(Tilton().Age, typing.Stored);
+        EXPECT_EQ(Of(viewer.txtAge), std::to_string(typing.Stored));
+        Enter(viewer.txtWeight, typing.Text);
+        EXPECT_EQ(Tilton().Weight, typing.Stored);
+        EXPECT_EQ(Of(viewer.txtWeight), std::to_string(typing.Stored));
+    }
+    EXPECT_TRUE(Modified);
+    EXPECT_THAT(Machine.Boxes(), IsEmpty());
+}
+
+TEST_F(ViewerFields, HeightBelowOneBecomesZeroNotOne)
+{
+    frmEditPlayer& viewer = Edit(7);
+    for (const Typing& typing : {Typing{"0", 0}, {"-5", 0}, {"1", 1}, {"75", 75}}) {
+        Enter(viewer.txtHeight, typing.Text);
+        EXPECT_EQ(Tilton().Height, typing.Stored);
+        EXPECT_EQ(Of(viewer.txtHeight), std::to_string(typing.Stored));
+    }
+}
+
+TEST_F(ViewerFields, TheSalaryStaysWithinTheLeaguesLimits)
+{
+    frmEditPlayer& viewer = Edit(7);
+    for (const Typing& typing : {Typing{"8000001", 8000000},
+                                 {"99999999999", 8000000},
+                                 {"499999", 500000},
+                                 {"-1", 500000},
+                                 {"2500000", 2500000}}) {
+        Enter(viewer.txtSalary, typing.Text);
+        EXPECT_EQ(Tilton().Salary, typing.Stored);
+        EXPECT_EQ(Of(viewer.txtSalary), std::to_string(typing.Stored));
+    }
+    LeagueData.MinSalary = 9000000; // above the most there may be: the least has the last word
+    Enter(viewer.txtSalary, "8500000");
+    EXPECT_EQ(Tilton().Salary, 9000000);
+}
+
+TEST_F(ViewerFields, TheContractRunsFromZeroToNineYears)
+{
+    Tilton().Team = 0;
+    frmEditPlayer& viewer = Edit(7);
+    for (const Typing& typing : {Typing{"10", 9}, {"9", 9}, {"0", 0}, {"-3", 0}, {"4", 4}}) {
+        Enter(viewer.txtContract, typing.Text);
+        EXPECT_EQ(Tilton().Contract, typing.Stored);
+        EXPECT_EQ(Of(viewer.txtContract), std::to_string(typing.Stored));
+    }
+    EXPECT_THAT(Machine.Boxes(), IsEmpty());
+}
+
+TEST_F(ViewerFields, AZeroYearContractIsRefusedInATeamDuringTheSeason)
+{
+    const Box refused{64, "Zero year contract is not allowed for players who are playing in a team."};
+    frmEditPlayer& viewer = Edit(7);
+    for (const char* text : {"0", "-1"}) {
+        Enter(viewer.txtContract, text);
+        EXPECT_THAT(Machine.TakeBoxes(), ElementsAre(refused));
+        EXPECT_EQ(Tilton().Contract, 3);
+        EXPECT_EQ(Of(viewer.txtContract), "3");
+        EXPECT_FALSE(Modified);
+    }
+    Vos().Team = 5;
+    frmEditPlayer& goalie = Edit(7, true);
+    Enter(goalie.txtContract, "0");
+    EXPECT_THAT(Machine.TakeBoxes(), ElementsAre(refused));
+    EXPECT_EQ(Vos().Contract, 2);
+    LeagueData.OffSeason.SetWord(1); // not True
+    Enter(goalie.txtContract, "0");
+    EXPECT_THAT(Machine.TakeBoxes(), ElementsAre(refused));
+    LeagueData.OffSeason = true;
+    Enter(goalie.txtContract, "0");
+    EXPECT_THAT(Machine.Boxes(), IsEmpty());
+    EXPECT_EQ(Vos().Contract, 0);
+    EXPECT_TRUE(Modified);
+}
+
+TEST_F(ViewerFields, ConditionStaysWithinZeroAndOneHundred)
+{
+    frmEditPlayer& viewer = Edit(7);
+    for (const Typing& typing : {Typing{"101", 100}, {"-1", 0}, {"94", 94}, {"300", 100}}) {
+        Enter(viewer.txtCondition, typing.Text);
+        EXPECT_EQ(Tilton().Condition, typing.Stored);
+        EXPECT_EQ(Of(viewer.txtCondition), std::to_string(typing.Stored));
+    }
+}
+
+TEST_F(ViewerFields, SuspensionStaysWithinZeroAndNinetyNine)
+{
+    frmEditPlayer& viewer = Edit(7);
+    for (const Typing& typing : {Typing{"100", 99}, {"-1", 0}, {"99", 99}, {"12", 12}}) {
+        Enter(viewer.txtSuspension, typing.Text);
+        EXPECT_EQ(Tilton().Suspension, typing.Stored);
+        EXPECT_EQ(Of(viewer.txtSuspension), std::to_string(typing.Stored));
+    }
+}
+
+TEST_F(ViewerFields, TheCountryHoldsThreeCharacters)
+{
+    frmEditPlayer& viewer = Edit(7);
+    Enter(viewer.txtCountry, "Sweden");
+    EXPECT_EQ(Tilton().Country.Raw(), "Swe");
+    EXPECT_EQ(Of(viewer.txtCountry), "Swe");
+    Enter(viewer.txtCountry, "S1");
+    EXPECT_THAT(Machine.Boxes(), ElementsAre(Box{48, "Only letters and spaces are allowed in that textbox!"}));
+    EXPECT_EQ(Tilton().Country.Raw(), "Swe");
+    EXPECT_TRUE(viewer.txtCountry->hasFocus());
+    EXPECT_FALSE(ListEventGuard);
+}
+
+TEST_F(ViewerFields, ANewNameRewritesTheEntry)
+{
+    frmEditPlayer& viewer = Edit(0);
+    viewer.lstPlayer->setCurrentRow(1);
+    Enter(viewer.txtName, QString::fromUtf8("Théo O'Meara"));
+    EXPECT_EQ(Vos().Name.Trimmed(), "Th\xE9o O'Meara");
+    EXPECT_EQ(viewer.lstPlayer->item(1)->text(), QString::fromUtf8("Théo O'Meara (G)"));
+    EXPECT_EQ(Entry(viewer, 0), "Ward Tilton (LW)");
+    viewer.lstPlayer->setCurrentRow(0);
+    Enter(viewer.txtName, "Ward Tilton 2");
+    EXPECT_EQ(Entry(viewer, 0), "Ward Tilton 2 (LW)");
+    EXPECT_EQ(NumberAt(viewer, 0), 72);
+    Enter(viewer.txtName, "Ward_");
+    EXPECT_THAT(Machine.Boxes(), ElementsAre(Box{48, "Only numbers, letters and spaces are allowed in that textbox!"}));
+    EXPECT_EQ(Tilton().Name.Trimmed(), "Ward Tilton 2");
+}
+
+TEST_F(ViewerFields, AnEmptyBoxIsRestoredFromTheRecord)
+{
+    Tilton().Condition = 90;
+    Tilton().Injury = "Knee";
+    Tilton().Suspension = 2;
+    frmEditPlayer& viewer = Edit(7);
+    for (EditBox* box :
+         {viewer.txtName, viewer.txtCountry, viewer.txtAge, viewer.txtWeight, viewer.txtHeight, viewer.txtCondition,
+          viewer.txtInjury, viewer.txtContract, viewer.txtSalary, viewer.txtSuspension, viewer.txtStats[3]}) {
+        const std::string before = Of(box);
+        EXPECT_FALSE(before.empty());
+        Enter(box, "");
+        EXPECT_EQ(Of(box), before) << box->objectName().toStdString();
+        EXPECT_FALSE(Modified) << box->objectName().toStdString();
+        viewer.cmdExit->setFocus();
+    }
+    EXPECT_FALSE(viewer.Changed);
+    EXPECT_THAT(Machine.Boxes(), IsEmpty());
+}
+
+TEST_F(ViewerFields, ARestoredValueIsNotLimited)
+{
+    Tilton().Age = 0;
+    frmEditPlayer& viewer = Edit(7);
+    Enter(viewer.txtAge, "");
+    EXPECT_EQ(Of(viewer.txtAge), "0");
+    EXPECT_EQ(Tilton().Age, 0);
+}
+
+TEST_F(ViewerFields, NumberBoxesRefuseWords)
+{
+    frmEditPlayer& viewer = Edit(7);
+    for (EditBox* box : {viewer.txtAge, viewer.txtWeight, viewer.txtHeight, viewer.txtCondition, viewer.txtContract,
+                         viewer.txtSalary, viewer.txtSuspension, viewer.txtStats[3]}) {
+        const std::string before = Of(box);
+        Enter(box, "12a");
+        EXPECT_THAT(Machine.TakeBoxes(), ElementsAre(Box{48, "Only numbers are allowed in that textbox!"}));
+        EXPECT_TRUE(box->hasFocus());
+        Enter(box, "-");
+        EXPECT_THAT(Machine.TakeBoxes(), ElementsAre(Box{48, "No Valid Input!"}));
+        EXPECT_TRUE(box->hasFocus());
+        Enter(box, QString::fromStdString(before));
+        EXPECT_FALSE(box->hasFocus());
+    }
+    EXPECT_EQ(Tilton().Salary, 1250000);
+}
+
+TEST_F(ViewerFields, GuardedBoxesDoNothing)
+{
+    frmEditPlayer& viewer = Edit(7);
+    ListEventGuard = true;
+    for (EditBox* box :
+         {viewer.txtName, viewer.txtCountry, viewer.txtAge, viewer.txtWeight, viewer.txtHeight, viewer.txtCondition,
+          viewer.txtInjury, viewer.txtContract, viewer.txtSalary, viewer.txtSuspension, viewer.txtStats[3]}) {
+        TypeInto(box, "_");
+        Press(box, Qt::Key_Tab);
+        EXPECT_FALSE(box->hasFocus());
+    }
+    viewer.cmdExit->setFocus();
+    ListEventGuard = false;
+    EXPECT_THAT(Machine.Boxes(), IsEmpty());
+    EXPECT_EQ(Tilton().Name.Trimmed(), "Ward Tilton");
+    EXPECT_EQ(Tilton().Age, 27);
+    EXPECT_FALSE(Modified);
+}
+
+TEST_F(ViewerFields, BoxesOfANewRecordAreJudgedAndKeptForTheSave)
+{
+    for (const bool isGoalie : {false, true}) {
+        frmEditPlayer& viewer = Edit(7);
+        (isGoalie ? viewer.NewGoalieMode : viewer.NewPlayerMode) = true;
+        Enter(viewer.txtAge, "-4");
+        EXPECT_EQ(Of(viewer.txtAge), "-4");
+        Enter(viewer.txtAge, "");
+        EXPECT_EQ(Of(viewer.txtAge), "");
+        Enter(viewer.txtStats[3], "12");
+        Enter(viewer.txtCountry, "Sweden");
+        EXPECT_EQ(Of(viewer.txtCountry), "Sweden");
+        EXPECT_THAT(Machine.TakeBoxes(), IsEmpty());
+        Enter(viewer.txtAge, "x");
+        EXPECT_THAT(Machine.TakeBoxes(), ElementsAre(Box{48, "No Valid Input!"}));
+        EXPECT_EQ(Tilton().Age, 27);
+        EXPECT_EQ(Tilton().Country.Trimmed(), "CAN");
+        EXPECT_FALSE(Modified);
+        viewer.txtAge->setText("1");
+    }
+}
+
+TEST_F(ViewerFields, AnotherPositionDigitFailsTheIntegrityCheckAndStoresNothing)
+{
+    frmEditPlayer& viewer = Edit(7);
+    for (const int digit : {0, 6, -1}) {
+        viewer.PlayerPosition = digit;
+        for (EditBox* box :
+             {viewer.txtName, viewer.txtCountry, viewer.txtAge, viewer.txtWeight, viewer.txtHeight, viewer.txtCondition,
+              viewer.txtInjury, viewer.txtContract, viewer.txtSalary, viewer.txtSuspension, viewer.txtStats[3]}) {
+            TypeInto(box, box == viewer.txtCountry ? "SWE" : "1");
+            Machine.TakeBoxes(); // of the box that lost the focus to this one
+            Press(box, Qt::Key_Tab);
+            EXPECT_THAT(Machine.TakeBoxes(), ElementsAre(Box{16, "Integrity Check Failed!"}))
+                << box->objectName().toStdString();
+        }
+        viewer.cmdExit->setFocus();
+        Machine.TakeBoxes();
+        viewer.chkRookie_Click();
+        viewer.chkNoTrade_Click();
+        viewer.chkNoApplyRerate_Click();
+        const Box failed{16, "Integrity Check Failed!"};
+        EXPECT_THAT(Machine.TakeBoxes(), ElementsAre(failed, failed, failed));
+    }
+    EXPECT_EQ(Tilton().Age, 27);
+    EXPECT_EQ(Tilton().Stats[3], 60);
+    EXPECT_FALSE(Modified);
+}
+
+TEST_F(ViewerFields, ValuesBeyondTheirFieldAreFailuresOfTheirBox)
+{
+    frmEditPlayer& viewer = Edit(7);
+    Enter(viewer.txtAge, "32768");
+    EXPECT_THAT(Machine.TakeBoxes(), ElementsAre(Box{16, "6 - Overflow in txtAge!"}));
+    Enter(viewer.txtHeight, "99999999999");
+    EXPECT_THAT(Machine.TakeBoxes(), ElementsAre(Box{16, "6 - Overflow in txtHeight!"}));
+    Enter(viewer.txtStats[4], "32768");
+    EXPECT_THAT(Machine.TakeBoxes(), ElementsAre(Box{16, "6 - Overflow in txtStats!"}));
+    EXPECT_EQ(Tilton().Age, 27);
+    EXPECT_EQ(Tilton().Height, 73);
+    EXPECT_EQ(Tilton().Stats[4], 60);
+}
+
+TEST_F(ViewerFields, ConditionBelow95InjuresAndTakesOutOfTheLines)
+{
+    DressForLines();
+    frmEditPlayer& viewer = Edit(7);
+    viewer.txtInjury->setEnabled(false);
+    Enter(viewer.txtCondition, "94");
+    EXPECT_EQ(Tilton().Condition, 94);
+    EXPECT_TRUE(viewer.txtInjury->isEnabled());
+    EXPECT_TRUE(viewer.txtInjury->hasFocus());
+    EXPECT_EQ(Of(viewer.txtInjury), "Unknown");
+    EXPECT_EQ(Tilton().Injury.Trimmed(), "Unknown");
+    EXPECT_TRUE(viewer.Changed);
+    EXPECT_EQ(Tilton().Status, 1);
+    EXPECT_EQ(Teams[5].ProLines[2].PenaltyShot[2], 0);
+    EXPECT_EQ(Teams[5].ProLines[2].PenaltyShot[1], 107);
+    EXPECT_EQ(Teams[5].ProLines[2].StartGoalie, 7);
+    EXPECT_EQ(RosterChanges[7].Status, 10); // untouched
+    Enter(viewer.txtInjury, "Left knee");
+    EXPECT_EQ(Tilton().Injury.Trimmed(), "Left knee");
+}
+
+TEST_F(ViewerFields, ConditionFallingFurtherBelow95ChangesNothingElse)
+{
+    Tilton().Condition = 94;
+    Tilton().Injury = "Knee";
+    frmEditPlayer& viewer = Edit(7);
+    Enter(viewer.txtCondition, "80");
+    EXPECT_EQ(Tilton().Condition, 80);
+    EXPECT_EQ(Tilton().Injury.Trimmed(), "Knee");
+    EXPECT_EQ(Tilton().Status, 2);
+    EXPECT_FALSE(viewer.Changed);
+}
+
+TEST_F(ViewerFields, OnlyAStatusOfTwoBecomesOne)
+{
+    Tilton().Status = 0;
+    frmEditPlayer& viewer = Edit(7);
+    Enter(viewer.txtCondition, "0");
+    EXPECT_EQ(Tilton().Status, 0);
+    EXPECT_TRUE(viewer.Changed);
+}
+
+TEST_F(ViewerFields, ConditionOf95HealsAndClearsTheInjury)
+{
+    Tilton().Condition = 90;
+    Tilton().Injury = "Knee";
+    Tilton().Status = 1;
+    frmEditPlayer& viewer = Edit(7);
+    Enter(viewer.txtCondition, "95");
+    EXPECT_EQ(Tilton().Condition, 95);
+    EXPECT_EQ(Tilton().Injury.Trimmed(), "");
+    EXPECT_EQ(Of(viewer.txtInjury), "");
+    EXPECT_FALSE(viewer.txtInjury->isEnabled());
+    EXPECT_EQ(Tilton().Status, 1);
+    EXPECT_FALSE(viewer.Changed);
+}
+
+TEST_F(ViewerFields, AnInjuredGoalieStaysInTheLinesAndTheSkaterOfHisIdPlus100LeavesThem)
+{
+    DressForLines();
+    frmEditPlayer& viewer = Edit(7, true);
+    Enter(viewer.txtCondition, "50");
+    EXPECT_EQ(Vos().Condition, 50);
+    EXPECT_EQ(Vos().Status, 1);
+    EXPECT_EQ(Vos().Injury.Trimmed(), "Unknown");
+    EXPECT_EQ(Teams[5].ProLines[2].StartGoalie, 7);
+    EXPECT_EQ(Teams[5].ProLines[2].PenaltyShot[1], 0);
+    EXPECT_EQ(Teams[5].ProLines[2].PenaltyShot[2], 7);
+    EXPECT_EQ(Players[107].Status, 2);
+}
+
+TEST_F(ViewerFields, ASuspensionBenchesAndTakesOutOfTheLines)
+{
+    DressForLines();
+    frmEditPlayer& viewer = Edit(7);
+    Enter(viewer.txtSuspension, "3");
+    EXPECT_EQ(Tilton().Suspension, 3);
+    EXPECT_TRUE(viewer.Changed);
+    EXPECT_EQ(Tilton().Status, 1);
+    EXPECT_EQ(Teams[5].ProLines[2].PenaltyShot[2], 0);
+    EXPECT_EQ(Teams[5].ProLines[2].PenaltyShot[1], 107);
+    EXPECT_THAT(Machine.Boxes(), IsEmpty());
+}
+
+TEST_F(ViewerFields, ASuspendedGoalieIsWipedByTheSameWrongNumber)
+{
+    DressForLines();
+    frmEditPlayer& viewer = Edit(7, true);
+    Enter(viewer.txtSuspension, "3");
+    EXPECT_EQ(Vos().Status, 1);
+    EXPECT_EQ(Teams[5].ProLines[2].StartGoalie, 7);
+    EXPECT_EQ(Teams[5].ProLines[2].PenaltyShot[1], 0);
+}
+
+TEST_F(ViewerFields, ALongerSuspensionAndItsEndChangeNothingElse)
+{
+    Tilton().Suspension = 3;
+    frmEditPlayer& viewer = Edit(7);
+    Enter(viewer.txtSuspension, "5");
+    Enter(viewer.txtSuspension, "0");
+    EXPECT_EQ(Tilton().Suspension, 0);
+    EXPECT_EQ(Tilton().Status, 2);
+    EXPECT_FALSE(viewer.Changed);
+}
+
+TEST_F(ViewerFields, WithoutATeamThereAreNoLinesToLeave)
+{
+    Tilton().Team = 0;
+    frmEditPlayer& viewer = Edit(7);
+    Enter(viewer.txtSuspension, "3");
+    Enter(viewer.txtCondition, "40");
+    EXPECT_EQ(Tilton().Status, 1);
+    EXPECT_TRUE(viewer.Changed);
+    EXPECT_THAT(Machine.Boxes(), IsEmpty());
+}
+
+TEST_F(ViewerFields, ASuspensionInAnImpossibleTeamIsReported)
+{
+    frmEditPlayer& viewer = Edit(7);
+    Tilton().Team = 101;
+    Enter(viewer.txtSuspension, "3");
+    EXPECT_THAT(Machine.Boxes(), ElementsAre(Box{16, "Integrity Check Failed!"},
+                                             Box{16, "9 - Subscript out of range in txtSuspension!"}));
+    EXPECT_EQ(Tilton().Suspension, 3);
+}
+
+TEST_F(ViewerFields, ARatingGoesIntoTheRecordAndTheOverallFollows)
+{
+    frmEditPlayer& viewer = Edit(7);
+    const std::string before = Of(viewer.txtStats[16]);
+    Enter(viewer.txtStats[skater::SC], "99");
+    Enter(viewer.txtStats[skater::PA], "99");
+    EXPECT_EQ(Tilton().Stats[skater::SC], 99);
+    EXPECT_EQ(Of(viewer.txtStats[16]), std::to_string(CalculateOverall(2, 7)));
+    EXPECT_NE(Of(viewer.txtStats[16]), before);
+    EXPECT_TRUE(Modified);
+    Enter(viewer.txtStats[skater::SC], "-7"); // a rating has no limits
+    EXPECT_EQ(Tilton().Stats[skater::SC], -7);
+}
+
+TEST_F(ViewerFields, ARatingOfAGoalieIsHis)
+{
+    frmEditPlayer& viewer = Edit(7, true);
+    Enter(viewer.txtStats[13], "88");
+    EXPECT_EQ(Vos().Stats[13], 88);
+    EXPECT_EQ(Tilton().Stats[13], 60);
+    EXPECT_EQ(Of(viewer.txtStats[14]), std::to_string(CalculateOverall(5, 7)));
+}
+
+TEST_F(ViewerFields, TheOverallRowHasNoRatingToStoreInto)
+{
+    frmEditPlayer& viewer = Edit(7);
+    Enter(viewer.txtStats[16], "80");
+    EXPECT_THAT(Machine.Boxes(), ElementsAre(Box{16, "9 - Subscript out of range in txtStats!"}));
+}
+
+TEST_F(ViewerFields, ARatingBoxSelectsItsTextWhenItGetsTheFocus)
+{
+    frmEditPlayer& viewer = Edit(7);
+    viewer.txtStats[2]->setFocus(Qt::OtherFocusReason);
+    EXPECT_FALSE(viewer.txtStats[2]->hasSelectedText());
+    Settle();
+    EXPECT_EQ(viewer.txtStats[2]->selectedText(), "60");
+    Click(viewer.txtStats[5]);
+    EXPECT_EQ(viewer.txtStats[5]->selectedText(), "60");
+}
+
+TEST_F(ViewerFields, AnotherPositionGoesIntoRecordAndEntry)
+{
+    frmEditPlayer& viewer = Edit(7);
+    Press(viewer.optPosition[4], Qt::Key_Space);
+    EXPECT_EQ(Tilton().Position, 4);
+    EXPECT_EQ(Entry(viewer, 0), "Ward Tilton (D)");
+    EXPECT_EQ(NumberAt(viewer, 0), 74);
+    EXPECT_EQ(viewer.PlayerPosition, 4);
+}
+
+TEST_F(ViewerFields, PositionsAreLeftAloneWhileTheScreenSetsThemAndInNewRecords)
+{
+    frmEditPlayer& viewer = Edit(7);
+    viewer.PositionEventsOn = false;
+    viewer.optPosition_Click(4);
+    viewer.PositionEventsOn = true;
+    viewer.NewPlayerMode = true;
+    viewer.optPosition_Click(4);
+    viewer.NewPlayerMode = false;
+    viewer.NewGoalieMode = true;
+    viewer.optPosition_Click(4);
+    viewer.NewGoalieMode = false;
+    EXPECT_EQ(Tilton().Position, 2);
+    EXPECT_EQ(Entry(viewer, 0), "Ward Tilton (LW)");
+}
+
+TEST_F(ViewerFields, FlagsCopyThemselvesToTheRecord)
+{
+    frmEditPlayer& viewer = Edit(7);
+    Press(viewer.chkRookie, Qt::Key_Space);
+    EXPECT_TRUE(Tilton().Rookie);
+    Press(viewer.chkNoTrade, Qt::Key_Space);
+    EXPECT_TRUE(Tilton().NoTrade);
+    Press(viewer.chkNoApplyRerate, Qt::Key_Space);
+    EXPECT_TRUE(Tilton().NoApplyRerate);
+    Press(viewer.chkRookie, Qt::Key_Space);
+    EXPECT_EQ(Tilton().Rookie.Word(), 0);
+    EXPECT_FALSE(Vos().NoTrade);
+    frmEditPlayer& goalie = Edit(7, true);
+    Press(goalie.chkNoTrade, Qt::Key_Space);
+    EXPECT_EQ(Vos().NoTrade.Word(), -1);
+}
+
+TEST_F(ViewerFields, FlagsWaitForTheSaveOfANewRecord)
+{
+    frmEditPlayer& viewer = Edit(7);
+    viewer.NewGoalieMode = true;
+    Press(viewer.chkRookie, Qt::Key_Space);
+    viewer.NewGoalieMode = false;
+    viewer.NewPlayerMode = true;
+    Press(viewer.chkNoTrade, Qt::Key_Space);
+    EXPECT_TRUE(viewer.chkRookie->isChecked());
+    EXPECT_TRUE(viewer.chkNoTrade->isChecked());
+    EXPECT_FALSE(Tilton().Rookie);
+    EXPECT_FALSE(Tilton().NoTrade);
+}
+
+} // namespace
+} // namespace dravik

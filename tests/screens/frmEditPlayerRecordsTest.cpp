@@ -1,0 +1,334 @@
+#include "OnViewer.h"
+
+namespace dravik {
+namespace {
+
+using ::testing::ElementsAre;
+using ::testing::IsEmpty;
+
+class ViewerRecords : public OnViewer {
+protected:
+    // Fills what a new record needs.
+    static void Fill(frmEditPlayer& viewer, int ratings)
+    {
+        viewer.txtName->setText("Lenny Brisk");
+        viewer.txtCountry->setText("SWE");
+        viewer.txtAge->setText("19");
+        viewer.txtWeight->setText("188");
+        viewer.txtHeight->setText("74");
+        viewer.txtContract->setText("12"); // no limits on the way in
+        viewer.txtSalary->setText("1");
+        for (int row = 1; row <= ratings; ++row)
+            viewer.txtStats[row]->setText(QString::number(50 + row));
+    }
+};
+
+TEST_F(ViewerRecords, SearchSelectsTheFirstEntryThatHoldsTheAnswerInAnyCase)
+{
+    PutSkater(20, 9, position::Center, status::Pro).Name = "Karl Dreyer";
+    frmEditPlayer& viewer = Edit(0);
+    Machine.Type("dREY");
+    viewer.cmdSearch_Click();
+    EXPECT_THAT(Machine.Questions(), ElementsAre(Question{"Complete or Part of the Player's Name?", "Player Search"}));
+    EXPECT_EQ(viewer.lstPlayer->currentRow(), 1);
+    EXPECT_EQ(Of(viewer.txtName), "Karl Dreyer");
+    EXPECT_EQ(SelectedPlayer, 20);
+    Machine.Type("(g)"); // the whole text of the entry counts
+    viewer.cmdSearch_Click();
+    EXPECT_EQ(viewer.lstPlayer->currentRow(), 2);
+    Machine.Type("r");
+    viewer.cmdSearch_Click();
+    EXPECT_EQ(viewer.lstPlayer->currentRow(), 0);
+    EXPECT_THAT(Machine.Boxes(), IsEmpty());
+}
+
+TEST_F(ViewerRecords, SearchTellsWhenNobodyIsFound)
+{
+    frmEditPlayer& viewer = Edit(0);
+    viewer.lstPlayer->setCurrentRow(1);
+    Machine.Type("Nobody");
+    viewer.cmdSearch_Click();
+    EXPECT_THAT(Machine.Boxes(), ElementsAre(Box{64, "Player not found!"}));
+    EXPECT_EQ(viewer.lstPlayer->currentRow(), 1);
+}
+
+TEST_F(ViewerRecords, ACancelledSearchFindsTheFirstEntry)
+{
+    frmEditPlayer& viewer = Edit(0);
+    viewer.lstPlayer->setCurrentRow(1);
+    viewer.cmdSearch_Click();
+    EXPECT_EQ(viewer.lstPlayer->currentRow(), 0);
+    EXPECT_THAT(Machine.Boxes(), IsEmpty());
+}
+
+TEST_F(ViewerRecords, ANewPlayerBeginsWithClearBoxesInTheFirstFreeSlot)
+{
+    Players[1].InUse = true;
+    Players[1].Position = 1;
+    frmEditPlayer& viewer = Edit(7);
+    viewer.chkEdit->setChecked(false);
+    viewer.cmdNewPlayer_Click();
+    EXPECT_TRUE(viewer.NewPlayerMode);
+    EXPECT_EQ(viewer.FreeSlot, 2);
+    EXPECT_EQ(viewer.cmdNewPlayer->text(), "Save Player");
+    EXPECT_TRUE(viewer.chkEdit->isChecked());
+    EXPECT_TRUE(viewer.cmdErase->isEnabled());
+    for (const EditBox* box : {viewer.txtName, viewer.txtCountry, viewer.txtAge, viewer.txtWeight, viewer.txtHeight,
+                               viewer.txtInjury, viewer.txtContract, viewer.txtSalary, viewer.txtTeam})
+        EXPECT_EQ(Of(box), "");
+    EXPECT_EQ(Of(viewer.txtCondition), "100");
+    EXPECT_EQ(Of(viewer.txtSuspension), "0");
+    EXPECT_THAT(Rows(viewer), ElementsAre("CK ", "FG ", "DI ", "SK ", "ST ", "DU ", "PH ", "FO ", "PA ", "SC ", "DF ",
+                                          "EX ", "LD ", "MO ", "PO "));
+    EXPECT_TRUE(viewer.txtStats[15]->isEnabled());
+    EXPECT_TRUE(viewer.optPosition[1]->isChecked());
+    EXPECT_TRUE(viewer.optPosition[4]->isEnabled());
+    EXPECT_FALSE(Players[2].InUse);
+    EXPECT_EQ(Tilton().Position, 2);
+    EXPECT_THAT(Machine.Boxes(), IsEmpty());
+}
+
+TEST_F(ViewerRecords, ANewPlayerShowsAllRatingsEvenWhereTheLeagueShowsGroups)
+{
+    LeagueData.ShowAllRatings = false;
+    PlayerStatCount = 7;
+    frmEditPlayer& viewer = Edit(7);
+    viewer.cmdNewPlayer_Click();
+    EXPECT_EQ(Rows(viewer).size(), 15U);
+}
+
+TEST_F(ViewerRecords, ANewPlayerIsSavedWithItsBoxes)
+{
+    Players[1].Suspension = 4; // what a save does not name stays
+    frmEditPlayer& viewer = Edit(7);
+    viewer.cmdNewPlayer_Click();
+    Fill(viewer, 15);
+    Press(viewer.optPosition[3], Qt::Key_Space);
+    Press(viewer.chkRookie, Qt::Key_Space);
+    viewer.cmdNewPlayer_Click();
+    EXPECT_THAT(Machine.Boxes(), ElementsAre(Box{64, "Lenny Brisk was successfully created!"}));
+    const Player& made = Players[1];
+    EXPECT_TRUE(made.InUse);
+    EXPECT_EQ(made.Number, 1);
+    EXPECT_EQ(made.Name.Trimmed(), "Lenny Brisk");
+    EXPECT_EQ(made.Country.Trimmed(), "SWE");
+    EXPECT_EQ(made.Age, 19);
+    EXPECT_EQ(made.Weight, 188);
+    EXPECT_EQ(made.Height, 74);
+    EXPECT_EQ(made.Contract, 12);
+    EXPECT_EQ(made.Salary, 1);
+    EXPECT_EQ(made.Condition, 100);
+    EXPECT_EQ(made.Team, 0);
+    EXPECT_EQ(made.Suspension, 4);
+    EXPECT_EQ(made.Position, 3);
+    EXPECT_TRUE(made.Rookie);
+    EXPECT_FALSE(made.NoTrade);
+    for (int row = 1; row <= 15; ++row)
+        EXPECT_EQ(made.Stats[row], 50 + row);
+    EXPECT_EQ(Entry(viewer, 1), "Lenny Brisk (RW)");
+    EXPECT_EQ(NumberAt(viewer, 1), 13);
+    EXPECT_EQ(viewer.lstPlayer->currentRow(), 1);
+    EXPECT_EQ(SelectedPlayer, 1);
+    EXPECT_FALSE(viewer.NewPlayerMode);
+    EXPECT_EQ(viewer.cmdNewPlayer->text(), "New Player");
+    EXPECT_TRUE(Modified);
+}
+
+TEST_F(ViewerRecords, ANewGoalieIsSavedWithItsBoxes)
+{
+    frmEditPlayer& viewer = Edit(7);
+    viewer.cmdNewGoaler_Click();
+    EXPECT_TRUE(viewer.NewGoalieMode);
+    EXPECT_EQ(viewer.FreeSlot, 1);
+    EXPECT_EQ(viewer.cmdNewGoaler->text(), "Save Goalie");
+    EXPECT_THAT(Rows(viewer),
+                ElementsAre("SK ", "DU ", "ST ", "SZ ", "AG ", "RB ", "SC ", "HS ", "RT ", "EX ", "LD ", "MO ", "PO "));
+    EXPECT_TRUE(viewer.optGoaler->isChecked());
+    EXPECT_FALSE(viewer.optGoaler->isHidden());
+    Fill(viewer, 13);
+    viewer.cmdNewGoaler_Click();
+    EXPECT_THAT(Machine.Boxes(), ElementsAre(Box{64, "Lenny Brisk was successfully created!"}));
+    EXPECT_TRUE(Goalies[1].InUse);
+    EXPECT_EQ(Goalies[1].Number, 1);
+    EXPECT_EQ(Goalies[1].Stats[13], 63);
+    EXPECT_EQ(Goalies[1].Salary, 1);
+    EXPECT_EQ(Entry(viewer, 1), "Lenny Brisk (G)");
+    EXPECT_EQ(NumberAt(viewer, 1), 15);
+    EXPECT_EQ(viewer.PlayerPosition, 5);
+    EXPECT_FALSE(viewer.NewGoalieMode);
+    EXPECT_EQ(viewer.cmdNewGoaler->text(), "New Goalie");
+    EXPECT_TRUE(Modified);
+    EXPECT_FALSE(Players[1].InUse);
+}
+
+TEST_F(ViewerRecords, EveryFieldOfANewRecordIsRequiredButInjurySuspensionAndTeam)
+{
+    frmEditPlayer& viewer = Edit(7);
+    viewer.cmdNewPlayer_Click();
+    Fill(viewer, 15);
+    std::vector<EditBox*> required{viewer.txtName,   viewer.txtCountry,  viewer.txtAge,    viewer.txtWeight,
+                                   viewer.txtHeight, viewer.txtContract, viewer.txtSalary, viewer.txtCondition};
+    required.insert(required.end(), viewer.txtStats.begin(), viewer.txtStats.begin() + 15);
+    for (EditBox* box : required) {
+        const QString text = box->text();
+        box->clear();
+        viewer.cmdNewPlayer_Click();
+        EXPECT_THAT(Machine.TakeBoxes(), ElementsAre(Box{48, "Missing Field!"})) << box->objectName().toStdString();
+        EXPECT_TRUE(viewer.NewPlayerMode);
+        EXPECT_FALSE(Players[1].InUse);
+        box->setText(text);
+    }
+    viewer.txtSuspension->clear();
+    viewer.cmdNewPlayer_Click();
+    EXPECT_THAT(Machine.TakeBoxes(), ElementsAre(Box{64, "Lenny Brisk was successfully created!"}));
+}
+
+TEST_F(ViewerRecords, AGoalieNeedsThirteenRatings)
+{
+    frmEditPlayer& viewer = Edit(7);
+    viewer.cmdNewGoaler_Click();
+    Fill(viewer, 12);
+    viewer.cmdNewGoaler_Click();
+    EXPECT_THAT(Machine.TakeBoxes(), ElementsAre(Box{48, "Missing Field!"}));
+    EXPECT_TRUE(viewer.NewGoalieMode);
+}
+
+TEST_F(ViewerRecords, Slot10000IsNeverGivenOut)
+{
+    frmEditPlayer& viewer = Edit(7);
+    for (int slot = 1; slot <= 9999; ++slot)
+        Players[slot].InUse = true;
+    viewer.cmdNewPlayer_Click();
+    EXPECT_THAT(Machine.TakeBoxes(), ElementsAre(Box{48, "You have reach the maximum number of available players!\r\n"
+                                                         "Please erase some before creating new ones."}));
+    EXPECT_FALSE(viewer.NewPlayerMode);
+    EXPECT_EQ(viewer.cmdNewPlayer->text(), "New Player");
+    EXPECT_EQ(Of(viewer.txtName), "Ward Tilton");
+    Players[9999].InUse = false;
+    viewer.cmdNewPlayer_Click();
+    EXPECT_EQ(viewer.FreeSlot, 9999);
+    EXPECT_THAT(Machine.TakeBoxes(), IsEmpty());
+}
+
+TEST_F(ViewerRecords, GoalieSlot1000IsNeverGivenOut)
+{
+    frmEditPlayer& viewer = Edit(7);
+    for (int slot = 1; slot <= 999; ++slot)
+        Goalies[slot].InUse = true;
+    viewer.cmdNewGoaler_Click();
+    EXPECT_THAT(Machine.TakeBoxes(), ElementsAre(Box{48, "You have reach the maximum number of available goalies!\r\n"
+                                                         "Please erase some before creating new ones."}));
+    EXPECT_FALSE(viewer.NewGoalieMode);
+}
+
+TEST_F(ViewerRecords, ThePressOfTheOtherButtonLeavesTheFirstMode)
+{
+    frmEditPlayer& viewer = Edit(7);
+    viewer.cmdNewPlayer_Click();
+    viewer.cmdNewGoaler_Click();
+    EXPECT_FALSE(viewer.NewPlayerMode);
+    EXPECT_EQ(viewer.cmdNewPlayer->text(), "New Player");
+    EXPECT_TRUE(viewer.NewGoalieMode);
+    viewer.cmdNewPlayer_Click();
+    EXPECT_FALSE(viewer.NewGoalieMode);
+    EXPECT_EQ(viewer.cmdNewGoaler->text(), "New Goalie");
+    EXPECT_TRUE(viewer.NewPlayerMode);
+}
+
+TEST_F(ViewerRecords, ANewRecordThatDoesNotFitIsReportedAndKeepsWhatWasStored)
+{
+    frmEditPlayer& viewer = Edit(7);
+    viewer.cmdNewPlayer_Click();
+    Fill(viewer, 15);
+    viewer.txtWeight->setText("40000");
+    viewer.cmdNewPlayer_Click();
+    EXPECT_THAT(Machine.TakeBoxes(), ElementsAre(Box{16, "6 - Overflow in cmdNewPlayer!"}));
+    EXPECT_TRUE(viewer.NewPlayerMode);
+    EXPECT_TRUE(Players[1].InUse);
+    EXPECT_EQ(Players[1].Age, 19);
+    EXPECT_EQ(Players[1].Weight, 0);
+    viewer.cmdNewGoaler_Click();
+    Fill(viewer, 13);
+    viewer.txtContract->setText("256");
+    viewer.cmdNewGoaler_Click();
+    EXPECT_THAT(Machine.TakeBoxes(), ElementsAre(Box{16, "6 - Overflow in cmdNewGoaler!"}));
+}
+
+TEST_F(ViewerRecords, EraseAsksThreeTimesForAPlayerOfATeamAndLeavesTheRecord)
+{
+    frmEditPlayer& viewer = Edit(0);
+    Machine.Answer(button::Yes);
+    Machine.Answer(button::Yes);
+    Machine.Answer(button::No);
+    viewer.cmdErase_Click();
+    EXPECT_THAT(Machine.Boxes(),
+                ElementsAre(Box{36, "Are you sure you want to erase Ward Tilton?"},
+                            Box{36, "Ward Tilton is hired by Harbour City Gulls! Do you want release the player?"},
+                            Box{36, "Is Ward Tilton retiring?"}));
+    EXPECT_TRUE(Tilton().InUse);
+    EXPECT_EQ(Tilton().Team, 5);
+    ASSERT_EQ(viewer.lstPlayer->count(), 1);
+    EXPECT_EQ(Entry(viewer, 0), "Piet Vos (G)");
+    EXPECT_EQ(viewer.lstPlayer->currentRow(), -1);
+    EXPECT_EQ(Of(viewer.txtName), "Ward Tilton"); // nobody was chosen in his place
+    EXPECT_FALSE(viewer.cmdErase->isEnabled());
+    EXPECT_TRUE(Modified);
+}
+
+TEST_F(ViewerRecords, EraseSpeaksOfAGoalie)
+{
+    frmEditPlayer& viewer = Edit(7, true);
+    viewer.cmdErase_Click();
+    EXPECT_THAT(Machine.Boxes(),
+                ElementsAre(Box{36, "Are you sure you want to erase Piet Vos?"},
+                            Box{36, "Piet Vos is hired by Harbour City Gulls! Do you want release the goalie?"},
+                            Box{36, "Is Piet Vos retiring?"}));
+    EXPECT_EQ(viewer.lstPlayer->count(), 0);
+    EXPECT_TRUE(Vos().InUse);
+}
+
+TEST_F(ViewerRecords, EraseAsksOnceWithoutATeam)
+{
+    Tilton().Team = 0;
+    frmEditPlayer& viewer = Edit(7);
+    viewer.cmdErase_Click();
+    EXPECT_THAT(Machine.Boxes(), ElementsAre(Box{36, "Are you sure you want to erase Ward Tilton?"}));
+    EXPECT_EQ(viewer.lstPlayer->count(), 0);
+}
+
+TEST_F(ViewerRecords, AnythingButYesKeepsTheEntry)
+{
+    frmEditPlayer& viewer = Edit(7);
+    Machine.Answer(button::No);
+    viewer.cmdErase_Click();
+    EXPECT_EQ(Machine.TakeBoxes().size(), 1U);
+    Machine.Answer(button::Yes);
+    Machine.Answer(button::Cancel);
+    viewer.cmdErase_Click();
+    EXPECT_EQ(Machine.TakeBoxes().size(), 2U);
+    EXPECT_EQ(viewer.lstPlayer->count(), 1);
+    EXPECT_TRUE(viewer.cmdErase->isEnabled());
+    EXPECT_FALSE(Modified);
+}
+
+TEST_F(ViewerRecords, EraseWithoutACurrentEntryDoesNothing)
+{
+    frmEditPlayer& viewer = Edit(7);
+    viewer.lstPlayer->setCurrentRow(-1);
+    viewer.cmdErase_Click();
+    EXPECT_THAT(Machine.Boxes(), IsEmpty());
+    EXPECT_EQ(viewer.lstPlayer->count(), 1);
+}
+
+TEST_F(ViewerRecords, ErasingFromAnImpossibleTeamIsReported)
+{
+    frmEditPlayer& viewer = Edit(7);
+    Tilton().Team = 101;
+    viewer.cmdErase_Click();
+    EXPECT_THAT(Machine.Boxes(), ElementsAre(Box{36, "Are you sure you want to erase Ward Tilton?"},
+                                             Box{16, "9 - Subscript out of range in cmdErase!"}));
+    EXPECT_EQ(viewer.lstPlayer->count(), 1);
+}
+
+} // namespace
+} // namespace dravik
