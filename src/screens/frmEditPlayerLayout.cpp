@@ -46,14 +46,16 @@ void AddRow(QGridLayout* grid, const QString& caption, QWidget* field)
     label->setBuddy(field);
     field->setAccessibleName(caption.section(':', 0, 0).trimmed());
     grid->addWidget(label, row, CaptionColumn);
-    grid->addWidget(field, row, FieldColumn);
+    // A box of fixed width keeps to the left of the column, and the column its width.
+    const bool isFixed = field->minimumWidth() == field->maximumWidth();
+    grid->addWidget(field, row, FieldColumn, isFixed ? Qt::AlignLeft : Qt::Alignment());
 }
 
 // Puts what has a caption of its own under the fields.
 void AddBelow(QGridLayout* grid, std::initializer_list<QWidget*> widgets)
 {
     for (QWidget* widget : widgets)
-        grid->addWidget(widget, grid->rowCount(), FieldColumn);
+        grid->addWidget(widget, grid->rowCount(), FieldColumn, Qt::AlignLeft);
 }
 
 QVBoxLayout* InAColumn(std::initializer_list<QWidget*> widgets)
