@@ -191,8 +191,6 @@ void Stage::Load(Screen& screen)
     loading = outer;
 }
 
-frmRoster* Stage::Roster() const { return static_cast<frmRoster*>(Find(RosterName)); }
-
 void Stage::Show(Screen& screen)
 {
     screen.show();

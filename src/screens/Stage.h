@@ -11,7 +11,6 @@
 namespace dravik {
 
 class frmMain;
-class frmRoster;
 class frmTeam;
 class Screen;
 
@@ -49,9 +48,6 @@ public:
     // Tells the screen that the player viewer returns to that the viewer closes, and whether it changed something.
     void ViewerClosed(bool changed);
 
-    // The player viewer has closed, and may have `changed` what the screen that opened it shows.
-    void ViewerClosed(bool changed);
-
     // For the screens themselves: whether one is being loaded, and what happens when one has closed.
     [[nodiscard]] bool IsLoading(const Screen& screen) const { return loading == &screen; }
     void Closed(Screen& screen);
@@ -61,7 +57,6 @@ private:
     [[nodiscard]] frmTeam* Team() const;
     // Fills a new screen. One whose filling fails is shown as far as it came.
     void Load(Screen& screen);
-    [[nodiscard]] frmRoster* Roster() const;
     void Show(Screen& screen);
     // Shows the screen that stands behind the closed screen `name`.
     void ShowBehind(std::string_view name);

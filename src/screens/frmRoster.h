@@ -24,6 +24,8 @@ public:
     void FormLoad() override;
     // Judges the roster once more and tells what it finds.
     void FormUnload() override;
+    // The player viewer comes back: what it may have changed is shown anew.
+    void ViewerClosed(bool changed) override { changed ? ShowPlayer(false) : ShowStats(); }
 
     // Lists everybody anew. People too good or too dear for the farm become scratches on the way, silently. Unless
     // `noCheck`, the roster is judged afterwards, which may list everybody once more.
