@@ -117,15 +117,16 @@ public:
     constexpr Text(std::string_view text) { *this = text; }            // NOLINT: a plain text is as good as a field
     constexpr Text(const char* text) : Text(std::string_view(text)) {} // NOLINT: likewise
 
-    // Stores `text` padded with blanks to the width; what is longer is cut.
-    constexpr Text& operator=(std::string_view text)
+    // Stores `text` (a literal, a string or a view) padded with blanks to the width; what is longer is cut. A template, so
+    // that assigning {} stays what it is elsewhere: the text becomes one that was never written.
+    template <std::convertible_to<std::string_view> T>
+    constexpr Text& operator=(const T& text)
     {
+        const std::string_view view = text;
         for (std::size_t i = 0; i < N; ++i)
-            characters[i] = i < text.size() ? text[i] : ' ';
+            characters[i] = i < view.size() ? view[i] : ' ';
         return *this;
     }
-    constexpr Text& operator=(const char* text) { return *this = std::string_view(text); }
-    constexpr Text& operator=(const std::string& text) { return *this = std::string_view(text); }
 
     // All N bytes as they stand.
     [[nodiscard]] std::string Raw() const { return {characters.data(), N}; }

@@ -87,6 +87,13 @@ TEST(FieldTest, AnUnwrittenTextReadsAsEmpty)
     EXPECT_EQ(Text<4>().Raw(), std::string(4, '\0'));
 }
 
+TEST(FieldTest, AssigningNothingMakesATextUnwrittenAgain)
+{
+    Text<4> text = "abcd";
+    text = {};
+    EXPECT_EQ(text.Raw(), std::string(4, '\0'));
+}
+
 TEST(FieldTest, AnIndexOutsideARowFailsWithNumber9)
 {
     Row<Int16, 1, 5> row;
