@@ -190,6 +190,7 @@ void frmEditPlayer::cmdErase_Click()
         const QSignalBlocker quiet(lstPlayer);
         delete lstPlayer->takeItem(lstPlayer->currentRow());
         lstPlayer->Unchoose();
+        ListPosition = -1; // whoever moved up in the list is not the one on show
         cmdErase->setEnabled(false);
         Modified = true;
     });

@@ -33,7 +33,7 @@ frmRoster::frmRoster(Stage& stage) : Screen(stage, "frmRoster")
     header->addWidget(lblTeamName);
     header->addWidget(lblComplete);
     header->addStretch(1);
-    header->addWidget(new MutedLabel("Show :", content));
+    header->addWidget(new MutedLabel("Show : ", content));
     for (QCheckBox* filter : chkPosition)
         header->addWidget(filter);
     column->addLayout(header);

@@ -115,5 +115,20 @@ TEST_F(MainLists, ARenameWithFourListsLeavesTheHiddenTeamsHidden)
     EXPECT_EQ(CurrentTeam, 9);
 }
 
+TEST_F(MainLists, AClickThatChoosesNoEntryDoesNothing)
+{
+    EntryList* list = MainWithLeague().lstDivision[1];
+    QTest::mouseClick(list->viewport(), Qt::LeftButton, Qt::NoModifier, list->visualItemRect(list->item(0)).center());
+    Settle();
+    const long long chosen = CurrentTeam;
+    ASSERT_EQ(chosen, list->item(0)->data(entry::NumberRole).toInt());
+    QTest::mouseClick(list->viewport(), Qt::LeftButton, Qt::NoModifier,
+                      QPoint(list->viewport()->width() / 2, list->viewport()->height() - 2));
+    Settle();
+    ASSERT_NE(list->Chosen(), nullptr);
+    EXPECT_EQ(list->Chosen(), list->item(0));
+    EXPECT_EQ(CurrentTeam, chosen);
+}
+
 } // namespace
 } // namespace dravik

@@ -145,9 +145,8 @@ void EntryList::mouseDoubleClickEvent(QMouseEvent* event)
 QItemSelectionModel::SelectionFlags EntryList::selectionCommand(const QModelIndex& index, const QEvent* event) const
 {
     const auto command = QListWidget::selectionCommand(index, event);
-    if (selectionMode() != SingleSelection || (command & QItemSelectionModel::Select) != 0)
-        return command;
-    return QItemSelectionModel::NoUpdate;
+    const bool choosesEntry = index.isValid() && (command & QItemSelectionModel::Select) != 0;
+    return selectionMode() != SingleSelection || choosesEntry ? command : QItemSelectionModel::NoUpdate;
 }
 
 } // namespace dravik
