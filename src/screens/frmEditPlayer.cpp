@@ -4,10 +4,11 @@
 #include "league/Platform.h"
 #include "league/Reporting.h"
 #include "rules/StatRows.h"
+#include "screens/EventGuard.h"
 #include "screens/platform/CodePage.h"
+#include "screens/RosterEntry.h"
 #include "screens/Stage.h"
 
-#include <cstdlib>
 #include <QSignalBlocker>
 
 // What the player viewer shows: its list, the record and the ratings.
@@ -15,21 +16,14 @@ namespace dravik {
 
 namespace {
 
-constexpr int Base = 10;
 constexpr int FirstSlot = 1;
-
-// An entry's number: the digits of the id, the position digit behind them.
-int EntryNumber(long long id, int position) { return static_cast<int>(id * Base + (id < 0 ? -position : position)); }
-
-int IdOf(int entryNumber) { return entryNumber / Base; }
-int PositionOf(int entryNumber) { return std::abs(entryNumber % Base); }
 
 bool HasPosition(const Player& player)
 {
     return player.Position >= position::Center && player.Position <= position::Defense;
 }
 
-std::string EntryText(const std::string& name, int position)
+std::string NameAndPosition(const std::string& name, int position)
 {
     return name + " (" + std::string(PositionName[position]) + ")";
 }
@@ -41,15 +35,6 @@ bool IsChosen(long long number, bool isGoalie)
     return SelectedPlayer == 0 || (number == SelectedPlayer && isGoalie == SelectedIsGoalie);
 }
 
-// Holds list and box events back as long as it lives.
-class EventsHeldBack {
-public:
-    EventsHeldBack() { ListEventGuard = true; }
-    EventsHeldBack(const EventsHeldBack&) = delete;
-    EventsHeldBack& operator=(const EventsHeldBack&) = delete;
-    ~EventsHeldBack() { ListEventGuard = false; }
-};
-
 } // namespace
 
 void frmEditPlayer::FormLoad()
@@ -57,7 +42,8 @@ void frmEditPlayer::FormLoad()
     Reporting(" in FormLoad FrmEditPlayer!", [this] {
         CentreOnScreen();
         setWindowTitle(Title(" - Edit Player"));
-        ListEverybody();
+        RepairPositions();
+        ListPeople();
         if (lstPlayer->count() > 0)
             Choose(0);
         if (lstPlayer->count() > 1)
@@ -69,29 +55,32 @@ void frmEditPlayer::FormLoad()
     CloseEditor();
 }
 
-void frmEditPlayer::ListEverybody()
+void frmEditPlayer::RepairPositions()
 {
-    const int asked = static_cast<int>(SelectedPlayer);
-    const auto add = [this, asked](const auto& person, int position) {
+    for (int slot = FirstSlot; slot <= PlayerTable::last; ++slot) {
+        Player& player = Players[slot];
+        if (!player.InUse || HasPosition(player))
+            continue;
+        ShowBox(player.Name.Trimmed() + " has no position! He's now center.", box::Warning);
+        player.Position = position::Center;
+    }
+}
+
+void frmEditPlayer::ListPeople()
+{
+    const bool isEverybody = SelectedPlayer == 0;
+    const auto add = [this, isEverybody](const auto& person, int position) {
         AddEntry(person.Name.Trimmed(), static_cast<int>(person.Number), position);
-        if (asked == 0)
+        if (isEverybody)
             return;
         MakeCurrent(lstPlayer->count() - 1);
         PlayerPosition = position;
         for (QPushButton* command : {cmdNewPlayer, cmdNewGoaler, cmdErase})
             command->hide();
     };
-    for (int slot = FirstSlot; slot <= PlayerTable::last; ++slot) {
-        Player& player = Players[slot];
-        if (!player.InUse)
-            continue;
-        if (!HasPosition(player)) {
-            ShowBox(player.Name.Trimmed() + " has no position! He's now center.", box::Warning);
-            player.Position = position::Center;
-        }
-        if (IsChosen(player.Number, false))
-            add(player, static_cast<int>(player.Position));
-    }
+    for (int slot = FirstSlot; slot <= PlayerTable::last; ++slot)
+        if (Players[slot].InUse && IsChosen(Players[slot].Number, false))
+            add(Players[slot], static_cast<int>(Players[slot].Position));
     for (int slot = FirstSlot; slot <= GoalieTable::last; ++slot)
         if (Goalies[slot].InUse && IsChosen(Goalies[slot].Number, true))
             add(Goalies[slot], position::Goalie);
@@ -101,7 +90,7 @@ void frmEditPlayer::ListEverybody()
 void frmEditPlayer::AddEntry(const std::string& name, int id, int position)
 {
     const QSignalBlocker quiet(lstPlayer);
-    lstPlayer->Add(ToQString(EntryText(name, position)), EntryNumber(id, position));
+    lstPlayer->Add(ToQString(NameAndPosition(name, position)), EntryNumber(id, position));
 }
 
 void frmEditPlayer::RewriteEntry()
@@ -111,7 +100,7 @@ void frmEditPlayer::RewriteEntry()
     if (item == nullptr || !person)
         return;
     const std::string name = On(*person, [](const auto& record) { return record.Name.Trimmed(); });
-    item->setText(ToQString(EntryText(name, PlayerPosition)));
+    item->setText(ToQString(NameAndPosition(name, PlayerPosition)));
     item->setData(entry::NumberRole, EntryNumber(person->Id, PlayerPosition));
 }
 
@@ -139,12 +128,12 @@ std::optional<frmEditPlayer::Person> frmEditPlayer::ShownPerson() const
 void frmEditPlayer::lstPlayer_Click()
 {
     Reporting(" in LstPlayer_Click", [this] {
-        const EventsHeldBack guard;
+        const EventGuard guard;
         const QListWidgetItem* current = lstPlayer->currentItem();
         if (current != nullptr) {
             const int number = current->data(entry::NumberRole).toInt();
-            SelectedPlayer = IdOf(number);
-            PlayerPosition = PositionOf(number);
+            SelectedPlayer = EntryId(number);
+            PlayerPosition = EntryPosition(number);
             ListPosition = lstPlayer->currentRow();
         }
         HideRows();
@@ -163,14 +152,12 @@ void frmEditPlayer::ShowRecord(const Person& person)
     ClearPositions();
     ShowFields(person);
     On(person, [this](const auto& record) {
-        txtTeam->clear();
-        if (record.Team != 0 && Teams[record.Team].InUse)
-            txtTeam->setText(ToQString(Teams[record.Team].Name.Trimmed()));
+        const bool isHired = record.Team != 0 && Teams[record.Team].InUse;
+        txtTeam->setText(isHired ? ToQString(Teams[record.Team].Name.Trimmed()) : QString());
         constexpr int perfect = 100;
         const bool isHealthy = record.Condition >= perfect;
         txtInjury->setEnabled(!isHealthy);
-        if (isHealthy)
-            txtInjury->clear();
+        txtInjury->setText(isHealthy ? QString() : ToQString(record.Injury.Trimmed()));
     });
     TickPosition(person.IsGoalie ? optGoaler : optPosition[Players[person.Id].Position]);
     On(person, [this](const auto& record) {

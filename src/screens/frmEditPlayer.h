@@ -102,7 +102,8 @@ private:
     [[nodiscard]] std::optional<Person> ShownPerson() const;
 
     // The list.
-    void ListEverybody();
+    void RepairPositions();
+    void ListPeople();
     void AddEntry(const std::string& name, int id, int position);
     void RewriteEntry();
     // Makes an entry the current one without an event, and with the same effect as a click.
@@ -123,7 +124,7 @@ private:
     // The boxes.
     void ShowFields(const Person& person);
     void LeaveBox(EditBox* box, InputMode mode, const std::function<void(const Person&)>& restore,
-                  const std::function<void(const Person&, const std::string&)>& take);
+                  const std::function<void(const std::string&)>& take);
     // A rule of one field's own: given the value before and now. `allows` may refuse the new one, which is then not
     // stored; `follow` runs behind the storing.
     using Rule = std::function<void(const Person&, long long before, long long now)>;

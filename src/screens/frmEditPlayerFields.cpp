@@ -4,6 +4,7 @@
 #include "league/Reporting.h"
 #include "league/Session.h"
 #include "rules/Function.h"
+#include "screens/EventGuard.h"
 #include "screens/frmEditPlayer.h"
 #include "screens/platform/CodePage.h"
 
@@ -121,11 +122,11 @@ constexpr NumberField Condition  = Number<&Player::Condition, &Goalie::Condition
 constexpr NumberField Suspension = Number<&Player::Suspension, &Goalie::Suspension>(&frmEditPlayer::txtSuspension, UpTo99);
 // clang-format on
 
-constexpr const TextField* Texts[] = {&Name, &Country, &Injury};
+// The injury stands apart: it is shown as the condition allows, and no new record has one.
+constexpr const TextField* Texts[] = {&Name, &Country};
 constexpr const NumberField* Numbers[] = {&Age, &Weight, &Height, &Contract, &Salary, &Condition, &Suspension};
 
-// What a new record must hold, and takes over, in this order. Injury and suspension are no part of it.
-constexpr const TextField* NewTexts[] = {&Name, &Country};
+// What a new record must hold, and takes over, in this order behind the texts. The suspension is no part of it.
 constexpr const NumberField* NewNumbers[] = {&Age, &Weight, &Height, &Contract, &Salary, &Condition};
 
 double Typed(const EditBox* box) { return LeadingNumber(FromQString(box->text())); }
@@ -142,29 +143,26 @@ void frmEditPlayer::ShowFields(const Person& person)
         (this->*field->Box)->setText(Shown(field->Read(person)));
 }
 
-// What all boxes have in common: a text is judged, a new record keeps it for later, an empty one is restored.
+// What all boxes have in common: a text is judged, a new record keeps it for later, an empty one is restored, and any
+// other is taken.
 void frmEditPlayer::LeaveBox(EditBox* box, InputMode mode, const std::function<void(const Person&)>& restore,
-                             const std::function<void(const Person&, const std::string&)>& take)
+                             const std::function<void(const std::string&)>& take)
 {
     if (ListEventGuard)
         return;
     Reporting(Ending(box->objectName()), [&] {
         const std::string text = FromQString(box->text());
         if (!text.empty() && !CheckInput(text, mode, false)) {
-            ListEventGuard = true;
+            const EventGuard guard;
             box->TakeFocusBack();
-            ListEventGuard = false;
             return;
         }
         if (NewPlayerMode || NewGoalieMode)
             return;
-        const auto person = ShownPerson();
-        if (!person)
-            return;
-        if (text.empty())
+        if (!text.empty())
+            take(text);
+        else if (const auto person = ShownPerson())
             restore(*person);
-        else
-            take(*person, text);
     });
 }
 
@@ -172,18 +170,21 @@ void frmEditPlayer::LeaveNumber(const NumberField& field, const Rule& follow, co
 {
     EditBox* box = this->*field.Box;
     const auto restore = [&](const Person& person) { box->setText(Shown(field.Read(person))); };
-    LeaveBox(box, InputMode::Numbers, restore, [&](const Person& person, const std::string& text) {
-        const long long before = field.Read(person);
+    LeaveBox(box, InputMode::Numbers, restore, [&](const std::string& text) {
         const long long now = RoundToInt32(field.Range().Applied(LeadingNumber(text)));
         box->setText(Shown(now));
-        if (allows && !allows(person, now)) {
-            restore(person);
+        const auto person = ShownPerson();
+        if (!person)
+            return;
+        if (allows && !allows(*person, now)) {
+            restore(*person);
             return;
         }
-        field.Store(person, now);
+        const long long before = field.Read(*person);
+        field.Store(*person, now);
         Modified = true;
         if (follow)
-            follow(person, before, now);
+            follow(*person, before, now);
     });
 }
 
@@ -191,10 +192,13 @@ void frmEditPlayer::LeaveText(const TextField& field, const std::function<void()
 {
     EditBox* box = this->*field.Box;
     const auto restore = [&](const Person& person) { box->setText(ToQString(field.Read(person))); };
-    LeaveBox(box, field.Mode, restore, [&](const Person& person, const std::string& text) {
+    LeaveBox(box, field.Mode, restore, [&](const std::string& text) {
         const std::string cut = text.substr(0, field.Width);
         box->setText(ToQString(cut));
-        field.Store(person, cut);
+        const auto person = ShownPerson();
+        if (!person)
+            return;
+        field.Store(*person, cut);
         Modified = true;
         if (follow)
             follow();
@@ -234,7 +238,7 @@ void frmEditPlayer::txtCondition_LostFocus()
 void frmEditPlayer::ChangeCondition(const Person& person, long long before, long long now)
 {
     constexpr int injuredBelow = 95;
-    if (now >= injuredBelow) {
+    if (now >= injuredBelow) { // wherever it comes from: whoever is fit has no injury
         txtInjury->setEnabled(false);
         txtInjury->clear();
         Injury.Store(person, "");
@@ -242,8 +246,7 @@ void frmEditPlayer::ChangeCondition(const Person& person, long long before, long
         txtInjury->setEnabled(true);
         txtInjury->setFocus();
         Changed = true;
-        Injury.Store(person, "Unknown");
-        txtInjury->setText(ToQString(Injury.Read(person)));
+        Injury.Store(person, "Unknown"); // until the box, which has the focus now, is left with a text
         Bench(person);
     }
 }
@@ -287,10 +290,13 @@ void frmEditPlayer::txtStats_LostFocus(int index)
     const auto restore = [&](const Person& person) {
         box->setText(Shown(On(person, [index](const auto& record) -> long long { return record.Stats[index]; })));
     };
-    LeaveBox(box, InputMode::Numbers, restore, [&](const Person& person, const std::string& text) {
+    LeaveBox(box, InputMode::Numbers, restore, [&](const std::string& text) {
         const long long rating = RoundToInt16(LeadingNumber(text));
         box->setText(Shown(rating));
-        On(person, [&](auto& record) { record.Stats[index] = rating; });
+        const auto person = ShownPerson();
+        if (!person)
+            return;
+        On(*person, [&](auto& record) { record.Stats[index] = rating; });
         bars[index]->SetValue(static_cast<int>(rating));
         Modified = true;
         ShowOverall();
@@ -338,14 +344,14 @@ void frmEditPlayer::chkNoApplyRerate_Click()
 bool frmEditPlayer::IsNewRecordFilled(int ratings) const
 {
     const auto filled = [this](const auto* field) { return !IsEmpty(this->*field->Box); };
-    return std::all_of(std::begin(NewTexts), std::end(NewTexts), filled) &&
+    return std::all_of(std::begin(Texts), std::end(Texts), filled) &&
            std::all_of(std::begin(NewNumbers), std::end(NewNumbers), filled) &&
            std::none_of(txtStats.begin(), txtStats.begin() + ratings, IsEmpty);
 }
 
 void frmEditPlayer::StoreNewFields(const Person& person)
 {
-    for (const TextField* field : NewTexts)
+    for (const TextField* field : Texts)
         field->Store(person, FromQString((this->*field->Box)->text()));
     for (const NumberField* field : NewNumbers)
         field->Store(person, RoundToInt32(Typed(this->*field->Box)));
@@ -362,6 +368,7 @@ void frmEditPlayer::ClearBoxes()
         (this->*field->Box)->clear();
     for (const NumberField* field : Numbers)
         (this->*field->Box)->clear();
+    txtInjury->clear();
     txtTeam->clear();
     for (int row = txtStats.first; row <= txtStats.last; ++row) {
         txtStats[row]->clear();

@@ -139,13 +139,15 @@ void frmEditPlayer::SaveRecord(const Person& person)
     });
     LeagueNews(name + " was created.");
     AddEntry(name, person.Id, place);
+    FitList(); // a second entry makes it a list to choose from
     Choose(lstPlayer->count() - 1);
+    (person.IsGoalie ? NewGoalieMode : NewPlayerMode) = false;
+    ShowBox(name + " was successfully created!", box::Information);
+    Modified = true;
     if (person.IsGoalie)
         LeaveNewGoalieMode();
     else
         LeaveNewPlayerMode();
-    ShowBox(name + " was successfully created!", box::Information);
-    Modified = true;
 }
 
 void frmEditPlayer::cmdSearch_Click()

@@ -6,6 +6,12 @@
 
 namespace dravik {
 
+// What a number box makes of what was typed.
+struct Typing {
+    const char* Text;
+    long long Stored;
+};
+
 // The player viewer, opened from the main screen on the skaters and goalies of a small league. Skater 7 is Ward Tilton, a
 // left wing of the Harbour City Gulls (team 5); goalie 7 is Piet Vos of the same team.
 class OnViewer : public OnStage {
@@ -103,6 +109,18 @@ protected:
                  viewer.chkEdit, viewer.cmdSearch, viewer.cmdNewPlayer, viewer.cmdNewGoaler, viewer.cmdErase})
             EXPECT_TRUE(hidden->isHidden()) << hidden->objectName().toStdString();
         EXPECT_TRUE(viewer.cmdExit->isEnabled());
+    }
+
+    // Runs `look` while the next box is up.
+    void AtNextBox(std::function<void()> look)
+    {
+        Machine.OnEvent = [this, run = std::move(look)](const std::string& event) {
+            if (event != "box")
+                return;
+            const auto once = run;
+            Machine.OnEvent = {};
+            once();
+        };
     }
 
     static std::string Of(const QLineEdit* box) { return box->text().toStdString(); }

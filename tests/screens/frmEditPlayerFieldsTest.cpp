@@ -8,12 +8,6 @@ using ::testing::IsEmpty;
 
 class ViewerFields : public OnViewer {};
 
-// What a number box makes of what was typed.
-struct Typing {
-    const char* Text;
-    long long Stored;
-};
-
 TEST_F(ViewerFields, AgeAndWeightBelowOneBecomeOne)
 {
     frmEditPlayer& viewer = Edit(7);
@@ -94,26 +88,6 @@ TEST_F(ViewerFields, AZeroYearContractIsRefusedInATeamDuringTheSeason)
     EXPECT_TRUE(Modified);
 }
 
-TEST_F(ViewerFields, ConditionStaysWithinZeroAndOneHundred)
-{
-    frmEditPlayer& viewer = Edit(7);
-    for (const Typing& typing : {Typing{"101", 100}, {"-1", 0}, {"94", 94}, {"300", 100}}) {
-        Enter(viewer.txtCondition, typing.Text);
-        EXPECT_EQ(Tilton().Condition, typing.Stored);
-        EXPECT_EQ(Of(viewer.txtCondition), std::to_string(typing.Stored));
-    }
-}
-
-TEST_F(ViewerFields, SuspensionStaysWithinZeroAndNinetyNine)
-{
-    frmEditPlayer& viewer = Edit(7);
-    for (const Typing& typing : {Typing{"100", 99}, {"-1", 0}, {"99", 99}, {"12", 12}}) {
-        Enter(viewer.txtSuspension, typing.Text);
-        EXPECT_EQ(Tilton().Suspension, typing.Stored);
-        EXPECT_EQ(Of(viewer.txtSuspension), std::to_string(typing.Stored));
-    }
-}
-
 TEST_F(ViewerFields, TheCountryHoldsThreeCharacters)
 {
     frmEditPlayer& viewer = Edit(7);
@@ -125,6 +99,62 @@ TEST_F(ViewerFields, TheCountryHoldsThreeCharacters)
     EXPECT_EQ(Tilton().Country.Raw(), "Swe");
     EXPECT_TRUE(viewer.txtCountry->hasFocus());
     EXPECT_FALSE(ListEventGuard);
+}
+
+TEST_F(ViewerFields, AnInjuryOfOtherSignsIsRefused)
+{
+    Tilton().Condition = 80;
+    Tilton().Injury = "Knee";
+    frmEditPlayer& viewer = Edit(7);
+    for (const char* text : {"Knee!", "Left_knee", "?"}) {
+        Enter(viewer.txtInjury, text);
+        EXPECT_THAT(Machine.TakeBoxes(),
+                    ElementsAre(Box{48, "Only numbers, letters and spaces are allowed in that textbox!"}));
+        EXPECT_TRUE(viewer.txtInjury->hasFocus());
+        EXPECT_EQ(Of(viewer.txtInjury), text);
+        EXPECT_EQ(Tilton().Injury.Trimmed(), "Knee");
+        EXPECT_FALSE(Modified);
+        EXPECT_FALSE(ListEventGuard);
+    }
+    Enter(viewer.txtInjury, "Knee 2");
+    EXPECT_THAT(Machine.Boxes(), IsEmpty());
+    EXPECT_EQ(Tilton().Injury.Trimmed(), "Knee 2");
+    EXPECT_TRUE(Modified);
+}
+
+TEST_F(ViewerFields, CountryAndInjuryOfAGoalieAreHis)
+{
+    Vos().Condition = 80;
+    Tilton().Injury = "Knee";
+    frmEditPlayer& viewer = Edit(7, true);
+    Enter(viewer.txtCountry, "Sweden");
+    Enter(viewer.txtInjury, "Groin");
+    EXPECT_EQ(Vos().Country.Raw(), "Swe");
+    EXPECT_EQ(Of(viewer.txtCountry), "Swe");
+    EXPECT_EQ(Vos().Injury.Trimmed(), "Groin");
+    EXPECT_EQ(Tilton().Country.Trimmed(), "CAN");
+    EXPECT_EQ(Tilton().Injury.Trimmed(), "Knee");
+}
+
+TEST_F(ViewerFields, NumbersOfAGoalieAreHis)
+{
+    frmEditPlayer& viewer = Edit(7, true);
+    Enter(viewer.txtAge, "0");
+    Enter(viewer.txtWeight, "0");
+    Enter(viewer.txtHeight, "0");
+    Enter(viewer.txtContract, "10");
+    Enter(viewer.txtSalary, "0");
+    Enter(viewer.txtSuspension, "100");
+    EXPECT_EQ(Vos().Age, 1);
+    EXPECT_EQ(Vos().Weight, 1);
+    EXPECT_EQ(Vos().Height, 0);
+    EXPECT_EQ(Vos().Contract, 9);
+    EXPECT_EQ(Vos().Salary, 500000);
+    EXPECT_EQ(Vos().Suspension, 99);
+    EXPECT_EQ(Tilton().Age, 27);
+    EXPECT_EQ(Tilton().Salary, 1250000);
+    EXPECT_EQ(Tilton().Suspension, 0);
+    EXPECT_THAT(Machine.Boxes(), IsEmpty());
 }
 
 TEST_F(ViewerFields, ANewNameRewritesTheEntry)
@@ -259,6 +289,41 @@ TEST_F(ViewerFields, AnotherPositionDigitFailsTheIntegrityCheckAndStoresNothing)
     EXPECT_FALSE(Modified);
 }
 
+TEST_F(ViewerFields, AValueIsLimitedInItsBoxBeforeTheIntegrityCheckFails)
+{
+    frmEditPlayer& viewer = Edit(7);
+    viewer.PlayerPosition = 6;
+    struct Limited {
+        EditBox* Box;
+        const char* Typed;
+        const char* Shown;
+    };
+    for (const Limited& limited : {Limited{viewer.txtAge, "-5", "1"},
+                                   {viewer.txtHeight, "-5", "0"},
+                                   {viewer.txtWeight, "0", "1"},
+                                   {viewer.txtSalary, "1", "500000"},
+                                   {viewer.txtCountry, "Sweden", "Swe"},
+                                   {viewer.txtContract, "0", "0"},
+                                   {viewer.txtCondition, "300", "100"},
+                                   {viewer.txtSuspension, "100", "99"},
+                                   {viewer.txtStats[3], "007", "7"}}) {
+        viewer.cmdExit->setFocus();
+        Machine.TakeBoxes();
+        TypeInto(limited.Box, limited.Typed);
+        std::string shown;
+        AtNextBox([&] { shown = Of(limited.Box); });
+        Press(limited.Box, Qt::Key_Tab);
+        EXPECT_EQ(Machine.TakeBoxes().front(), (Box{16, "Integrity Check Failed!"}));
+        EXPECT_EQ(shown, limited.Shown) << limited.Box->objectName().toStdString();
+    }
+    EXPECT_EQ(Tilton().Age, 27);
+    EXPECT_EQ(Tilton().Contract, 3);
+    EXPECT_EQ(Tilton().Condition, 100);
+    EXPECT_EQ(Tilton().Suspension, 0);
+    EXPECT_EQ(Tilton().Stats[3], 60);
+    EXPECT_FALSE(Modified);
+}
+
 TEST_F(ViewerFields, ValuesBeyondTheirFieldAreFailuresOfTheirBox)
 {
     frmEditPlayer& viewer = Edit(7);
@@ -271,132 +336,6 @@ TEST_F(ViewerFields, ValuesBeyondTheirFieldAreFailuresOfTheirBox)
     EXPECT_EQ(Tilton().Age, 27);
     EXPECT_EQ(Tilton().Height, 73);
     EXPECT_EQ(Tilton().Stats[4], 60);
-}
-
-TEST_F(ViewerFields, ConditionBelow95InjuresAndTakesOutOfTheLines)
-{
-    DressForLines();
-    frmEditPlayer& viewer = Edit(7);
-    viewer.txtInjury->setEnabled(false);
-    Enter(viewer.txtCondition, "94");
-    EXPECT_EQ(Tilton().Condition, 94);
-    EXPECT_TRUE(viewer.txtInjury->isEnabled());
-    EXPECT_TRUE(viewer.txtInjury->hasFocus());
-    EXPECT_EQ(Of(viewer.txtInjury), "Unknown");
-    EXPECT_EQ(Tilton().Injury.Trimmed(), "Unknown");
-    EXPECT_TRUE(viewer.Changed);
-    EXPECT_EQ(Tilton().Status, 1);
-    EXPECT_EQ(Teams[5].ProLines[2].PenaltyShot[2], 0);
-    EXPECT_EQ(Teams[5].ProLines[2].PenaltyShot[1], 107);
-    EXPECT_EQ(Teams[5].ProLines[2].StartGoalie, 7);
-    EXPECT_EQ(RosterChanges[7].Status, 10); // untouched
-    Enter(viewer.txtInjury, "Left knee");
-    EXPECT_EQ(Tilton().Injury.Trimmed(), "Left knee");
-}
-
-TEST_F(ViewerFields, ConditionFallingFurtherBelow95ChangesNothingElse)
-{
-    Tilton().Condition = 94;
-    Tilton().Injury = "Knee";
-    frmEditPlayer& viewer = Edit(7);
-    Enter(viewer.txtCondition, "80");
-    EXPECT_EQ(Tilton().Condition, 80);
-    EXPECT_EQ(Tilton().Injury.Trimmed(), "Knee");
-    EXPECT_EQ(Tilton().Status, 2);
-    EXPECT_FALSE(viewer.Changed);
-}
-
-TEST_F(ViewerFields, OnlyAStatusOfTwoBecomesOne)
-{
-    Tilton().Status = 0;
-    frmEditPlayer& viewer = Edit(7);
-    Enter(viewer.txtCondition, "0");
-    EXPECT_EQ(Tilton().Status, 0);
-    EXPECT_TRUE(viewer.Changed);
-}
-
-TEST_F(ViewerFields, ConditionOf95HealsAndClearsTheInjury)
-{
-    Tilton().Condition = 90;
-    Tilton().Injury = "Knee";
-    Tilton().Status = 1;
-    frmEditPlayer& viewer = Edit(7);
-    Enter(viewer.txtCondition, "95");
-    EXPECT_EQ(Tilton().Condition, 95);
-    EXPECT_EQ(Tilton().Injury.Trimmed(), "");
-    EXPECT_EQ(Of(viewer.txtInjury), "");
-    EXPECT_FALSE(viewer.txtInjury->isEnabled());
-    EXPECT_EQ(Tilton().Status, 1);
-    EXPECT_FALSE(viewer.Changed);
-}
-
-TEST_F(ViewerFields, AnInjuredGoalieStaysInTheLinesAndTheSkaterOfHisIdPlus100LeavesThem)
-{
-    DressForLines();
-    frmEditPlayer& viewer = Edit(7, true);
-    Enter(viewer.txtCondition, "50");
-    EXPECT_EQ(Vos().Condition, 50);
-    EXPECT_EQ(Vos().Status, 1);
-    EXPECT_EQ(Vos().Injury.Trimmed(), "Unknown");
-    EXPECT_EQ(Teams[5].ProLines[2].StartGoalie, 7);
-    EXPECT_EQ(Teams[5].ProLines[2].PenaltyShot[1], 0);
-    EXPECT_EQ(Teams[5].ProLines[2].PenaltyShot[2], 7);
-    EXPECT_EQ(Players[107].Status, 2);
-}
-
-TEST_F(ViewerFields, ASuspensionBenchesAndTakesOutOfTheLines)
-{
-    DressForLines();
-    frmEditPlayer& viewer = Edit(7);
-    Enter(viewer.txtSuspension, "3");
-    EXPECT_EQ(Tilton().Suspension, 3);
-    EXPECT_TRUE(viewer.Changed);
-    EXPECT_EQ(Tilton().Status, 1);
-    EXPECT_EQ(Teams[5].ProLines[2].PenaltyShot[2], 0);
-    EXPECT_EQ(Teams[5].ProLines[2].PenaltyShot[1], 107);
-    EXPECT_THAT(Machine.Boxes(), IsEmpty());
-}
-
-TEST_F(ViewerFields, ASuspendedGoalieIsWipedByTheSameWrongNumber)
-{
-    DressForLines();
-    frmEditPlayer& viewer = Edit(7, true);
-    Enter(viewer.txtSuspension, "3");
-    EXPECT_EQ(Vos().Status, 1);
-    EXPECT_EQ(Teams[5].ProLines[2].StartGoalie, 7);
-    EXPECT_EQ(Teams[5].ProLines[2].PenaltyShot[1], 0);
-}
-
-TEST_F(ViewerFields, ALongerSuspensionAndItsEndChangeNothingElse)
-{
-    Tilton().Suspension = 3;
-    frmEditPlayer& viewer = Edit(7);
-    Enter(viewer.txtSuspension, "5");
-    Enter(viewer.txtSuspension, "0");
-    EXPECT_EQ(Tilton().Suspension, 0);
-    EXPECT_EQ(Tilton().Status, 2);
-    EXPECT_FALSE(viewer.Changed);
-}
-
-TEST_F(ViewerFields, WithoutATeamThereAreNoLinesToLeave)
-{
-    Tilton().Team = 0;
-    frmEditPlayer& viewer = Edit(7);
-    Enter(viewer.txtSuspension, "3");
-    Enter(viewer.txtCondition, "40");
-    EXPECT_EQ(Tilton().Status, 1);
-    EXPECT_TRUE(viewer.Changed);
-    EXPECT_THAT(Machine.Boxes(), IsEmpty());
-}
-
-TEST_F(ViewerFields, ASuspensionInAnImpossibleTeamIsReported)
-{
-    frmEditPlayer& viewer = Edit(7);
-    Tilton().Team = 101;
-    Enter(viewer.txtSuspension, "3");
-    EXPECT_THAT(Machine.Boxes(), ElementsAre(Box{16, "Integrity Check Failed!"},
-                                             Box{16, "9 - Subscript out of range in txtSuspension!"}));
-    EXPECT_EQ(Tilton().Suspension, 3);
 }
 
 TEST_F(ViewerFields, ARatingGoesIntoTheRecordAndTheOverallFollows)
@@ -420,6 +359,40 @@ TEST_F(ViewerFields, ARatingOfAGoalieIsHis)
     EXPECT_EQ(Vos().Stats[13], 88);
     EXPECT_EQ(Tilton().Stats[13], 60);
     EXPECT_EQ(Of(viewer.txtStats[14]), std::to_string(CalculateOverall(5, 7)));
+}
+
+TEST_F(ViewerFields, InGroupsTheOverallsRowStoresIntoTheEighthRating)
+{
+    LeagueData.ShowAllRatings = false;
+    PlayerStatCount = 7;
+    GoalieStatCount = 7;
+    frmEditPlayer& viewer = Edit(7);
+    EXPECT_EQ(Rows(viewer).back(), "OV " + std::to_string(CalculateOverall(2, 7)));
+    Enter(viewer.txtStats[8], "12");
+    EXPECT_EQ(Tilton().Stats[8], 12);
+    EXPECT_EQ(Rows(viewer).back(), "OV " + std::to_string(CalculateOverall(2, 7)));
+    EXPECT_THAT(Machine.Boxes(), IsEmpty());
+    frmEditPlayer& goalie = Edit(7, true);
+    Enter(goalie.txtStats[8], "13");
+    EXPECT_EQ(Vos().Stats[8], 13);
+    EXPECT_EQ(Rows(goalie).back(), "OV " + std::to_string(CalculateOverall(5, 7)));
+    EXPECT_EQ(Tilton().Stats[8], 12);
+}
+
+TEST_F(ViewerFields, InGroupsTheMeanGoesIntoTheRatingOfItsRow)
+{
+    LeagueData.ShowAllRatings = false;
+    PlayerStatCount = 7;
+    Tilton().Stats[1] = 30;
+    Tilton().Stats[2] = 60;
+    Tilton().Stats[3] = 90;
+    frmEditPlayer& viewer = Edit(7);
+    EXPECT_EQ(Rows(viewer).front(), "IT 60");
+    Enter(viewer.txtStats[1], "60");
+    EXPECT_EQ(Tilton().Stats[1], 60);
+    EXPECT_EQ(Rows(viewer).front(), "IT 60"); // only the overall is worked out anew
+    EXPECT_EQ(Tilton().Stats[2], 60);
+    EXPECT_EQ(Tilton().Stats[3], 90);
 }
 
 TEST_F(ViewerFields, TheOverallRowHasNoRatingToStoreInto)

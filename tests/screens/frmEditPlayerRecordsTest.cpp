@@ -61,6 +61,15 @@ TEST_F(ViewerRecords, ACancelledSearchFindsTheFirstEntry)
     EXPECT_THAT(Machine.Boxes(), IsEmpty());
 }
 
+TEST_F(ViewerRecords, AFailureOfTheSearchIsReported)
+{
+    frmEditPlayer& viewer = Edit(7);
+    Machine.Type("Nobody");
+    AtNextBox([] { Fail(failure::OutOfMemory); });
+    viewer.cmdSearch_Click();
+    EXPECT_THAT(Machine.Boxes(), ElementsAre(Box{64, "Player not found!"}, Box{16, "7 - Out of memory in cmdSearch!"}));
+}
+
 TEST_F(ViewerRecords, ANewPlayerBeginsWithClearBoxesInTheFirstFreeSlot)
 {
     Players[1].InUse = true;
@@ -159,6 +168,71 @@ TEST_F(ViewerRecords, ANewGoalieIsSavedWithItsBoxes)
     EXPECT_EQ(viewer.cmdNewGoaler->text(), "New Goalie");
     EXPECT_TRUE(Modified);
     EXPECT_FALSE(Players[1].InUse);
+}
+
+TEST_F(ViewerRecords, TheBoxOfASaveComesBehindTheModeAndBeforeModifiedAndTheCaption)
+{
+    frmEditPlayer& viewer = Edit(7);
+    for (const bool isGoalie : {false, true}) {
+        const auto press = [&] { isGoalie ? viewer.cmdNewGoaler_Click() : viewer.cmdNewPlayer_Click(); };
+        const bool& mode = isGoalie ? viewer.NewGoalieMode : viewer.NewPlayerMode;
+        const QPushButton* command = isGoalie ? viewer.cmdNewGoaler : viewer.cmdNewPlayer;
+        press();
+        Fill(viewer, isGoalie ? 13 : 15);
+        Modified = false;
+        bool isUp = false;
+        AtNextBox([&] {
+            isUp = true;
+            EXPECT_FALSE(mode);
+            EXPECT_FALSE(Modified);
+            EXPECT_EQ(command->text(), isGoalie ? "Save Goalie" : "Save Player");
+            EXPECT_EQ(viewer.lstPlayer->currentRow(), viewer.lstPlayer->count() - 1);
+        });
+        press();
+        EXPECT_TRUE(isUp);
+        EXPECT_TRUE(Modified);
+        EXPECT_EQ(command->text(), isGoalie ? "New Goalie" : "New Player");
+    }
+}
+
+TEST_F(ViewerRecords, TheNewEntryIsChosenWhileTheModeLasts)
+{
+    frmEditPlayer& viewer = Edit(7);
+    viewer.cmdNewPlayer_Click();
+    Fill(viewer, 15);
+    viewer.txtCondition->setText("40"); // a record with an injury to show
+    Players[1].Injury = "Knee";
+    viewer.cmdNewPlayer_Click();
+    EXPECT_EQ(Of(viewer.txtName), "Lenny Brisk");
+    EXPECT_EQ(Of(viewer.txtInjury), "Knee");
+    EXPECT_EQ(viewer.PlayerPosition, 1);
+    EXPECT_EQ(viewer.ListPosition, 1);
+}
+
+TEST_F(ViewerRecords, ANewRecordHoldsThreeCharactersOfItsCountry)
+{
+    frmEditPlayer& viewer = Edit(7);
+    viewer.cmdNewGoaler_Click();
+    Fill(viewer, 13);
+    viewer.txtCountry->setText("Sweden");
+    viewer.cmdNewGoaler_Click();
+    EXPECT_EQ(Goalies[1].Country.Raw(), "Swe");
+    EXPECT_EQ(Of(viewer.txtCountry), "Swe");
+}
+
+TEST_F(ViewerRecords, ASecondEntryMakesTheTitleAListToChooseFrom)
+{
+    frmEditPlayer& viewer = Edit(7);
+    const int titleHeight = viewer.lstPlayer->height();
+    EXPECT_EQ(viewer.lstPlayer->selectionMode(), QAbstractItemView::NoSelection);
+    viewer.cmdNewPlayer_Click();
+    Fill(viewer, 15);
+    viewer.cmdNewPlayer_Click();
+    EXPECT_EQ(viewer.lstPlayer->selectionMode(), QAbstractItemView::SingleSelection);
+    EXPECT_GT(viewer.lstPlayer->height(), titleHeight);
+    EXPECT_TRUE(viewer.lstPlayer->item(1)->isSelected());
+    Press(viewer.lstPlayer, Qt::Key_Home);
+    EXPECT_EQ(Of(viewer.txtName), "Ward Tilton");
 }
 
 TEST_F(ViewerRecords, EveryFieldOfANewRecordIsRequiredButInjurySuspensionAndTeam)

@@ -1,5 +1,7 @@
 #include "OnViewer.h"
 
+#include <QGroupBox>
+
 namespace dravik {
 namespace {
 
@@ -9,6 +11,7 @@ using ::testing::IsEmpty;
 class PlayerViewer : public OnViewer {};
 
 constexpr const char* CaptionOfViewer = "Dravik Hockey Simulator Client - Show Player";
+constexpr const char* CaptionWhileLoading = "Dravik Hockey Simulator Client - Edit Player";
 
 TEST_F(PlayerViewer, OpensOnASkaterWithHisWholeRecord)
 {
@@ -74,6 +77,28 @@ TEST_F(PlayerViewer, OpensOnAGoalieWithHisWholeRecord)
     ExpectClosed(viewer);
 }
 
+TEST_F(PlayerViewer, TheTitleSpeaksOfEditingWhileTheScreenLoads)
+{
+    PutSkater(20, 9, 0, status::Pro);
+    QString title;
+    AtNextBox([&] { title = Viewer().windowTitle(); });
+    EXPECT_EQ(Show(7).windowTitle(), CaptionOfViewer);
+    EXPECT_EQ(title, CaptionWhileLoading);
+}
+
+TEST_F(PlayerViewer, AFailureWhileOpeningIsReportedAndLeavesTheEditorClosed)
+{
+    PutSkater(20, 9, 0, status::Pro).Name = "Nils Ekdahl";
+    AtNextBox([] { Fail(failure::OutOfMemory); });
+    const frmEditPlayer& viewer = Show(7);
+    EXPECT_THAT(Machine.Boxes(), ElementsAre(Box{48, "Nils Ekdahl has no position! He's now center."},
+                                             Box{16, "7 - Out of memory in FormLoad FrmEditPlayer!"}));
+    EXPECT_EQ(viewer.windowTitle(), CaptionWhileLoading);
+    EXPECT_EQ(viewer.lstPlayer->count(), 0); // nobody is listed before everybody has a position
+    EXPECT_EQ(Players[20].Position, 0);
+    ExpectClosed(viewer);
+}
+
 TEST_F(PlayerViewer, OpeningOnAnyPlayerRepairsEverySkaterWithoutPosition)
 {
     PutSkater(20, 9, 0, status::Pro).Name = "Nils Ekdahl";
@@ -107,6 +132,18 @@ TEST_F(PlayerViewer, OpeningOnAGoalieWithoutTheGoalieMarkListsTheSkaterOfThatNum
     const frmEditPlayer& viewer = Show(7, false);
     ASSERT_EQ(viewer.lstPlayer->count(), 1);
     EXPECT_EQ(Entry(viewer, 0), "Ward Tilton (LW)");
+}
+
+TEST_F(PlayerViewer, AGoalieWithoutTheGoalieMarkAndWithoutASkaterOfHisNumberOpensABlankViewer)
+{
+    PutGoalie(8, 5, status::Pro);
+    const frmEditPlayer& viewer = Show(8, false);
+    EXPECT_EQ(viewer.windowTitle(), CaptionOfViewer);
+    EXPECT_EQ(viewer.lstPlayer->count(), 0);
+    EXPECT_EQ(Of(viewer.txtName), "");
+    EXPECT_THAT(Rows(viewer), IsEmpty());
+    ExpectClosed(viewer);
+    EXPECT_THAT(Machine.Boxes(), IsEmpty());
 }
 
 TEST_F(PlayerViewer, AProspectOpensABlankViewerWithEveryControlDisabled)
@@ -195,6 +232,26 @@ TEST_F(PlayerViewer, ATeamThatIsNotInUseAndNoTeamAreEmpty)
     EXPECT_THAT(Machine.Boxes(), IsEmpty());
 }
 
+TEST_F(PlayerViewer, ATeamOutsideItsTableEndsTheShowingBeforeTeamAndInjury)
+{
+    Tilton().Condition = 90;
+    Tilton().Injury = "Knee";
+    PutSkater(20, 101, position::Defense, status::Pro).Name = "Marek Zelinka";
+    Players[20].Condition = 80;
+    Players[20].Injury = "Groin";
+    frmEditPlayer& viewer = Edit(0);
+    viewer.lstPlayer->setCurrentRow(1);
+    EXPECT_THAT(Machine.Boxes(), ElementsAre(Box{16, "9 - Subscript out of range in LstPlayer_Click"}));
+    EXPECT_EQ(Of(viewer.txtName), "Marek Zelinka");
+    EXPECT_EQ(Of(viewer.txtCondition), "80");
+    EXPECT_EQ(Of(viewer.txtTeam), "Harbour City Gulls"); // of the one before
+    EXPECT_EQ(Of(viewer.txtInjury), "Knee");
+    EXPECT_FALSE(viewer.optPosition[2]->isChecked());
+    EXPECT_FALSE(viewer.optPosition[4]->isChecked());
+    EXPECT_THAT(Rows(viewer), IsEmpty());
+    EXPECT_FALSE(ListEventGuard);
+}
+
 TEST_F(PlayerViewer, SkaterRowsShowSingleRatingsWithTheOverallBehind)
 {
     for (int i = 1; i <= 15; ++i)
@@ -207,7 +264,8 @@ TEST_F(PlayerViewer, SkaterRowsShowSingleRatingsWithTheOverallBehind)
     EXPECT_EQ(Rows(Show(7)).size(), 15U);
 }
 
-TEST_F(PlayerViewer, SkaterRowsShowGroupMeansTiesToEven)
+// The mean of three or five whole numbers never lies halfway between two.
+TEST_F(PlayerViewer, SkaterRowsShowGroupMeansRoundedToTheNearest)
 {
     LeagueData.ShowAllRatings = false;
     PlayerStatCount = 7;
@@ -352,8 +410,44 @@ TEST_F(PlayerViewer, EveryControlCarriesItsName)
     EXPECT_EQ(viewer.optPosition[4]->objectName(), "optPosition(4)");
     EXPECT_EQ(viewer.txtStats[1]->accessibleName(), "CK");
     EXPECT_EQ(viewer.txtCountry->accessibleName(), "Country");
+}
+
+TEST_F(PlayerViewer, EveryControlCarriesItsCaption)
+{
+    const frmEditPlayer& viewer = Show(7);
+    const std::pair<const QWidget*, const char*> fields[] = {
+        {viewer.txtName, "Name : "},    {viewer.txtCountry, "Country :"},
+        {viewer.txtAge, "Age : "},      {viewer.txtWeight, "Weight :"},
+        {viewer.txtHeight, "Height :"}, {viewer.txtCondition, "Condition :"},
+        {viewer.txtInjury, "Injury :"}, {viewer.txtContract, "Contract :"},
+        {viewer.txtSalary, "Salary :"}, {viewer.txtSuspension, "Suspension :"},
+        {viewer.txtTeam, "Team : "},
+    };
+    const QList<QLabel*> labels = viewer.findChildren<QLabel*>();
+    for (const auto& [field, caption] : fields) {
+        const auto label = std::find_if(labels.begin(), labels.end(),
+                                        [field = field](const QLabel* each) { return each->buddy() == field; });
+        ASSERT_NE(label, labels.end()) << caption;
+        EXPECT_EQ((*label)->text(), caption);
+    }
+    EXPECT_TRUE(
+        std::any_of(labels.begin(), labels.end(), [](const QLabel* each) { return each->text() == "Position : "; }));
+    const QStringList positions{"Center", "Left Wing", "Right Wing", "Defense"};
+    for (int index = 1; index <= 4; ++index)
+        EXPECT_EQ(viewer.optPosition[index]->text(), positions[index - 1]);
+    EXPECT_EQ(viewer.optGoaler->text(), "Goalie");
+    EXPECT_EQ(viewer.chkRookie->text(), "Rookie");
+    EXPECT_EQ(viewer.chkNoTrade->text(), "No Trade");
     EXPECT_EQ(viewer.chkNoApplyRerate->text(), "Do Not Apply Rerate");
     EXPECT_EQ(viewer.chkEdit->text(), "Allow Edition");
+    EXPECT_EQ(viewer.cmdSearch->text(), "Search Player");
+    EXPECT_EQ(viewer.cmdNewPlayer->text(), "New Player");
+    EXPECT_EQ(viewer.cmdNewGoaler->text(), "New Goalie");
+    EXPECT_EQ(viewer.cmdErase->text(), "Erase");
+    EXPECT_EQ(viewer.cmdExit->text().remove('&'), "Exit");
+    const auto* frame = qobject_cast<const QGroupBox*>(viewer.txtStats[1]->parentWidget());
+    ASSERT_NE(frame, nullptr);
+    EXPECT_EQ(frame->title(), "Stats");
 }
 
 } // namespace
