@@ -5,6 +5,7 @@
 #include "league/OutsideCode.h"
 #include "makers/Makers.h"
 #include "rules/Function.h"
+#include "screens/frmEditPlayer.h"
 #include "screens/frmMain.h"
 #include "screens/frmRoster.h"
 #include "screens/frmTeam.h"
@@ -12,6 +13,7 @@
 #include "screens/platform/CodePage.h"
 #include "screens/platform/Palettes.h"
 #include "screens/platform/QtPlatform.h"
+#include "screens/RosterEntry.h"
 #include "screens/Stage.h"
 
 #include <iostream>
@@ -21,6 +23,7 @@
 #include <QFont>
 #include <QKeyEvent>
 #include <QLocale>
+#include <QMouseEvent>
 #include <stdexcept>
 
 // Spends a typical evening with the program, on its real screens and dialogs but without a display: opens a league, proves
@@ -139,10 +142,39 @@ private:
         Roster().cmdToPro->click();
         Require(pro->RowOf(number) >= 0, "and back again");
         Require(Roster().lblComplete->text() == "Roster Is Complete", "the roster is complete again");
+        ShowPlayer(position::Center, "player-skater");
+        ShowPlayer(position::Goalie, "player-goalie");
         Roster().cmdExit->click();
         QApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
         NoComplaints("the roster is shaped");
         Require(stage.Find("Roster") == nullptr && Team().isVisible(), "the team screen comes back");
+    }
+
+    // Opens the record of the first pro of a position by a double click, and closes it again.
+    void ShowPlayer(int position, const QString& picture)
+    {
+        PickList* pro = Roster().lstPlayer[status::Pro];
+        int row = 0;
+        while (row < pro->count() && EntryPosition(pro->item(row)->data(entry::NumberRole).toInt()) != position)
+            ++row;
+        Require(row < pro->count(), "somebody plays the position of " + picture);
+        pro->scrollToItem(pro->item(row));
+        const QPointF spot = pro->visualItemRect(pro->item(row)).center();
+        for (const QEvent::Type type : {QEvent::MouseButtonPress, QEvent::MouseButtonRelease,
+                                        QEvent::MouseButtonDblClick, QEvent::MouseButtonRelease}) {
+            QMouseEvent event(type, spot, pro->viewport()->mapToGlobal(spot), Qt::LeftButton,
+                              type == QEvent::MouseButtonRelease ? Qt::NoButton : Qt::LeftButton, Qt::NoModifier);
+            QApplication::sendEvent(pro->viewport(), &event);
+        }
+        NoComplaints("the record opens");
+        auto* viewer = static_cast<frmEditPlayer*>(stage.Find("EditPlayer"));
+        Require(viewer != nullptr && viewer->isVisible() && !Roster().isVisible(), "the player viewer opens");
+        Require(viewer->lstPlayer->count() == 1, "it shows the one player");
+        Photograph("EditPlayer", picture);
+        viewer->cmdExit->click();
+        QApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+        NoComplaints("the record closes");
+        Require(stage.Find("EditPlayer") == nullptr && Roster().isVisible(), "the roster screen comes back");
     }
 
     static QString Judged() { return ToQString(LastRosterText()); }
