@@ -4,9 +4,26 @@
 #include "screens/platform/QtPlatform.h"
 #include "screens/Stage.h"
 
+#include <QIcon>
+
+namespace {
+
+// What task bars and window lists show. A desktop that knows the installed launcher takes the icon from there.
+void IntroduceToDesktop()
+{
+    QIcon icon;
+    for (const char* file : {":/icons/dravik-client-48.png", ":/icons/dravik-client-128.png"})
+        icon.addFile(file);
+    dravik::Application::setWindowIcon(icon);
+    dravik::Application::setDesktopFileName("org.example.DravikClient");
+}
+
+} // namespace
+
 int main(int argc, char** argv)
 {
     const dravik::Application application(argc, argv);
+    IntroduceToDesktop();
     dravik::UseLookOfDesktop();
     dravik::QtPlatform platform;
     dravik::UseMachine(platform);
