@@ -20,7 +20,8 @@ constexpr QSize DefaultSize(1040, 560);
 constexpr int MostListRows = 8;
 constexpr int StatRowsInColumn = 8;
 constexpr const char* LongestCaption = "Suspension :";
-constexpr const char* WidestNumber = "-2147483648";
+constexpr const char* WidestAmount = "-2147483648";
+constexpr const char* WidestNumber = "-999999";
 constexpr int CaptionColumn = 0;
 constexpr int FieldColumn = 1;
 
@@ -64,7 +65,6 @@ QVBoxLayout* InAColumn(std::initializer_list<QWidget*> widgets)
     column->setSpacing(Margin);
     for (QWidget* widget : widgets)
         column->addWidget(widget);
-    column->addStretch(1);
     return column;
 }
 
@@ -87,7 +87,8 @@ frmEditPlayer::frmEditPlayer(Stage& stage) : Screen(stage, "frmEditPlayer")
     body->addLayout(InAColumn({MakeIdentityGroup()}), 1);
     body->addLayout(InAColumn({MakeContractGroup(), MakeConditionGroup()}), 1);
     body->addLayout(InAColumn({MakeStatsGroup()}), 1);
-    column->addLayout(body, 1);
+    column->addLayout(body);
+    column->addStretch(1);
 
     auto* footer = new QHBoxLayout;
     footer->setSpacing(Gap);
@@ -133,15 +134,18 @@ void frmEditPlayer::MakeBoxes()
     for (EditBox* box : {txtName, txtTeam, txtCountry, txtAge, txtWeight, txtHeight, txtContract, txtSalary,
                          txtCondition, txtInjury, txtSuspension})
         box->ReadAsLabelWhenClosed();
-    // One column of numbers close to their captions.
-    for (EditBox* box : {txtAge, txtWeight, txtHeight, txtContract, txtSalary, txtCondition, txtSuspension}) {
+    // The numbers of a group stand in one column close to their captions.
+    const auto makeNumeric = [](EditBox* box, const char* widest) {
         box->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
-        box->setFixedWidth(box->fontMetrics().horizontalAdvance(WidestNumber));
-    }
+        box->setFixedWidth(box->fontMetrics().horizontalAdvance(widest));
+    };
+    for (EditBox* box : {txtAge, txtWeight, txtHeight, txtCondition, txtSuspension})
+        makeNumeric(box, WidestNumber);
+    for (EditBox* box : {txtContract, txtSalary})
+        makeNumeric(box, WidestAmount);
     for (int row = txtStats.first; row <= txtStats.last; ++row) {
         EditBox* box = MakeBox(InParentheses("txtStats", row), [this, row] { txtStats_LostFocus(row); });
-        box->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
-        box->setFixedWidth(box->fontMetrics().horizontalAdvance("-99999"));
+        makeNumeric(box, WidestNumber);
         box->ReadAsLabelWhenClosed();
         box->installEventFilter(this);
         txtStats[row] = box;
@@ -209,8 +213,10 @@ QWidget* frmEditPlayer::MakeIdentityGroup()
     AddRow(grid, "Age : ", txtAge);
     AddRow(grid, "Weight :", txtWeight);
     AddRow(grid, "Height :", txtHeight);
-    grid->addWidget(new MutedLabel("Position : ", group), grid->rowCount(), CaptionColumn);
-    const int row = grid->rowCount() - 1;
+    const int row = grid->rowCount();
+    auto* caption = new MutedLabel("Position : ", group);
+    caption->setMinimumHeight(optGoaler->sizeHint().height()); // level with the first row of options
+    grid->addWidget(caption, row, CaptionColumn, Qt::AlignTop);
     auto* options = new QGridLayout;
     options->setSpacing(Gap);
     for (int index = position::Center; index <= position::Defense; ++index)
@@ -316,8 +322,10 @@ void frmEditPlayer::ShadeClosedControls()
     QPalette readable;
     for (const QPalette::ColorRole role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText})
         readable.setColor(QPalette::Disabled, role, text);
-    for (QWidget* control : QWidgetList{lstPlayer, optPosition[1], optPosition[2], optPosition[3], optPosition[4],
-                                        optGoaler, chkRookie, chkNoTrade, chkNoApplyRerate})
+    lstPlayer->setPalette(readable);
+    readable.setColor(QPalette::Disabled, QPalette::Base, palette().color(QPalette::Active, QPalette::Base));
+    for (QWidget* control : QWidgetList{optPosition[1], optPosition[2], optPosition[3], optPosition[4], optGoaler,
+                                        chkRookie, chkNoTrade, chkNoApplyRerate})
         control->setPalette(readable);
 }
 

@@ -1,4 +1,5 @@
 #include "OnViewer.h"
+#include "screens/platform/Palettes.h"
 
 #include <QGroupBox>
 
@@ -399,6 +400,22 @@ INSTANTIATE_TEST_SUITE_P(Modes, ViewerReturns,
                          ::testing::Values(Return{2, "Roster"}, Return{3, "FreeAgent"}, Return{4, "Draft"},
                                            Return{1, "Main"}, Return{0, "Main"}, Return{5, "Main"}, Return{-1, "Main"}),
                          [](const auto& test) { return "Case" + std::to_string(test.index); });
+
+TEST_F(PlayerViewer, ClosedControlsKeepTheColoursOfOpenOnes)
+{
+    frmEditPlayer& viewer = Show(7);
+    for (const QPalette& look : {DarkPalette(), LightPalette()}) {
+        viewer.setPalette(look);
+        const QColor text = look.color(QPalette::Active, QPalette::WindowText);
+        const QColor base = look.color(QPalette::Active, QPalette::Base);
+        for (const QWidget* check : std::initializer_list<QWidget*>{viewer.chkRookie, viewer.optPosition[1]}) {
+            EXPECT_EQ(check->palette().color(QPalette::Disabled, QPalette::WindowText), text);
+            EXPECT_EQ(check->palette().color(QPalette::Disabled, QPalette::Base), base);
+        }
+        EXPECT_EQ(viewer.lstPlayer->palette().color(QPalette::Disabled, QPalette::Text), text);
+        EXPECT_EQ(viewer.txtName->palette().color(QPalette::Disabled, QPalette::Text), text);
+    }
+}
 
 TEST_F(PlayerViewer, EveryControlCarriesItsName)
 {
