@@ -3,7 +3,7 @@
 #include "league/Reporting.h"
 #include "league/Session.h"
 #include "screens/frmEditPlayer.h"
-#include "screens/platform/CodePage.h"
+#include "screens/panels/NameSearch.h"
 
 #include <QSignalBlocker>
 
@@ -153,14 +153,9 @@ void frmEditPlayer::SaveRecord(const Person& person)
 void frmEditPlayer::cmdSearch_Click()
 {
     Reporting(" in cmdSearch!", [this] {
-        const QString part =
-            ToQString(Machine().InputBox("Complete or Part of the Player's Name?", "Player Search", {}));
-        for (int entry = 0; entry < lstPlayer->count(); ++entry)
-            if (lstPlayer->item(entry)->text().contains(part, Qt::CaseInsensitive)) {
-                Choose(entry);
-                return;
-            }
-        ShowBox("Player not found!", box::Information);
+        const int found = SearchPlayer(*lstPlayer, "Complete or Part of the Player's Name?");
+        if (found >= 0)
+            Choose(found);
     });
 }
 

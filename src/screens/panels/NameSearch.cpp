@@ -1,0 +1,19 @@
+#include "screens/panels/NameSearch.h"
+
+#include "league/Message.h"
+#include "league/Platform.h"
+#include "screens/platform/CodePage.h"
+
+namespace dravik {
+
+int SearchPlayer(const EntryList& list, const std::string& prompt)
+{
+    const QString part = ToQString(Machine().InputBox(prompt, "Player Search", {}));
+    for (int row = 0; row < list.count(); ++row)
+        if (list.item(row)->text().contains(part, Qt::CaseInsensitive))
+            return row;
+    ShowBox("Player not found!", box::Information);
+    return -1;
+}
+
+} // namespace dravik
