@@ -81,11 +81,7 @@ void CloseWait() { Machine().CloseWait(); }
 
 bool SkipZIPClient()
 {
-    std::string setting = Machine().GetSetting("Settings", "SkipZIPClient", "No");
-    const auto first = setting.find_first_not_of(' ');
-    if (first == std::string::npos)
-        return false;
-    setting = setting.substr(first, setting.find_last_not_of(' ') - first + 1);
+    std::string setting = WithoutOuterBlanks(Machine().GetSetting("Settings", "SkipZIPClient", "No"));
     std::transform(setting.begin(), setting.end(), setting.begin(),
                    [](char c) { return c >= 'a' && c <= 'z' ? static_cast<char>(c - 'a' + 'A') : c; });
     return setting == "YES";

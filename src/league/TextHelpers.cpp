@@ -32,6 +32,14 @@ std::string RemoveSpaces(std::string_view text)
     return kept;
 }
 
+std::string WithoutOuterBlanks(std::string_view text)
+{
+    const auto first = text.find_first_not_of(' ');
+    if (first == std::string_view::npos)
+        return {};
+    return std::string(text.substr(first, text.find_last_not_of(' ') - first + 1));
+}
+
 std::string WithoutLastCharacters(std::string_view text, std::size_t count)
 {
     std::vector<std::size_t> begins;

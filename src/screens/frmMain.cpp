@@ -5,6 +5,7 @@
 #include "league/Message.h"
 #include "league/OutsideCode.h"
 #include "league/Platform.h"
+#include "league/RatingsExport.h"
 #include "league/Reporting.h"
 #include "rules/Function.h"
 #include "screens/panels/Labels.h"
@@ -406,6 +407,15 @@ void frmMain::mnuDraft_Click()
 
 void frmMain::mnuAbout_Click() { Open("About"); }
 
-void frmMain::mnuOutputRatingCSV_Click() { ShowBox("Not available yet.", box::Information); }
+void frmMain::mnuOutputRatingCSV_Click()
+{
+    Reporting(" in mnuOutputRatingCSV!", [] {
+        if (ShowBox("Are you sure you want to output a Rating CSV file of your league?", box::YesNo) != button::Yes)
+            return;
+        const std::string folder = Machine().ProgramFolder();
+        ExportRatings(folder);
+        ShowBox("Output done in " + WithoutOuterBlanks(folder), box::Information);
+    });
+}
 
 } // namespace dravik

@@ -37,6 +37,14 @@ TEST(TextHelpersTest, AccentedLettersAndTheHardSpaceOf160Stay)
               "al\xA0X");
 }
 
+TEST(TextHelpersTest, OuterBlanksGoAndNothingElse)
+{
+    EXPECT_EQ(WithoutOuterBlanks("  /home/New York  "), "/home/New York");
+    EXPECT_EQ(WithoutOuterBlanks("\tX\n"), "\tX\n");
+    EXPECT_EQ(WithoutOuterBlanks("   "), "");
+    EXPECT_EQ(WithoutOuterBlanks(""), "");
+}
+
 TEST(TextHelpersTest, NothingButBlanksLeavesTheEmptyText)
 {
     EXPECT_EQ(RemoveSpaces("   "), "");

@@ -123,8 +123,11 @@ TEST_F(MainMenus, AboutAndTheExportNeedNoTeam)
 {
     MainWithLeague();
     Main().mnuAbout->trigger();
+    EXPECT_THAT(Machine.TakeBoxes(), ElementsAre(Box{64, "Not available yet."}));
+    Machine.Answer(button::No);
     Main().mnuOutputRatingCSV->trigger();
-    EXPECT_THAT(Machine.Boxes(), ElementsAre(Box{64, "Not available yet."}, Box{64, "Not available yet."}));
+    EXPECT_THAT(Machine.Boxes(),
+                ElementsAre(Box{36, "Are you sure you want to output a Rating CSV file of your league?"}));
     EXPECT_TRUE(Main().isVisible());
 }
 
