@@ -4,10 +4,14 @@
 #include "league/Failure.h"
 #include "league/Message.h"
 #include "league/Platform.h"
+#include "screens/frmAbout.h"
+#include "screens/frmCoach.h"
 #include "screens/frmEditPlayer.h"
 #include "screens/frmMain.h"
+#include "screens/frmProspect.h"
 #include "screens/frmRoster.h"
 #include "screens/frmTeam.h"
+#include "screens/frmTicket.h"
 
 #include <algorithm>
 #include <iterator>
@@ -46,11 +50,11 @@ constexpr Role Roles[] = {
     {"FarmLine",   Behind::Caller, true,  nullptr},
     {"FreeAgent",  Behind::Main,   true,  nullptr},
     {"Draft",      Behind::Main,   true,  nullptr},
-    {"Ticket",     Behind::Team,   true,  nullptr},
+    {"Ticket",     Behind::Team,   true,  Make<frmTicket>},
     {"EditPlayer", Behind::Viewer, true,  Make<frmEditPlayer>},
-    {"About",      Behind::Main,   false, nullptr},
-    {"Coach",      Behind::Main,   true,  nullptr},
-    {"Prospect",   Behind::Main,   true,  nullptr},
+    {"About",      Behind::Main,   false, Make<frmAbout>},
+    {"Coach",      Behind::Main,   true,  Make<frmCoach>},
+    {"Prospect",   Behind::Main,   true,  Make<frmProspect>},
 };
 // clang-format on
 

@@ -1,0 +1,71 @@
+#include "screens/frmAbout.h"
+
+#include "league/Message.h"
+#include "league/OutsideCode.h"
+#include "league/Platform.h"
+#include "league/Reporting.h"
+#include "screens/panels/Labels.h"
+#include "screens/panels/Shades.h"
+#include "screens/platform/CodePage.h"
+
+#include <QShortcut>
+#include <QVBoxLayout>
+
+namespace dravik {
+
+frmAbout::frmAbout(Stage& stage) : Screen(stage, "frmAbout")
+{
+    auto* content = new QWidget(this);
+    QLabel* title = MakeTitle(content);
+    title->setObjectName("lblTitle");
+    title->setText(ToQString(ProgramTitle));
+    lblVersion = new MutedLabel(content);
+    lblVersion->setObjectName("lblVersion");
+    lblThank = new QLabel(content);
+    lblThank->setObjectName("lblThank");
+    lblThank->setTextFormat(Qt::PlainText);
+    lblWebSite = new LinkLabel(WebSite, content);
+    lblWebSite->setObjectName("lblWebSite");
+    lblWebSite->setAccessibleDescription("Opens the web site");
+    connect(lblWebSite, &LinkLabel::Clicked, this, [this] { RunEvent("lblWebSite", [this] { lblWebSite_Click(); }); });
+    cmdExit = MakeCommand("cmdExit", "E&xit", [this] { cmdExit_Click(); });
+    cmdExit->setDefault(true);
+    connect(new QShortcut(Qt::Key_Escape, this), &QShortcut::activated, cmdExit, &QPushButton::click);
+
+    auto* column = new QVBoxLayout(content);
+    column->setContentsMargins(2 * Margin, 2 * Margin, 2 * Margin, Margin);
+    column->setSpacing(Gap);
+    column->addWidget(title);
+    column->addWidget(lblVersion);
+    column->addSpacing(Margin);
+    column->addWidget(lblThank);
+    column->addWidget(lblWebSite, 0, Qt::AlignLeft);
+    column->addSpacing(Margin);
+    column->addStretch(1);
+    column->addWidget(cmdExit, 0, Qt::AlignRight);
+    setCentralWidget(content);
+    setTabOrder(cmdExit, lblWebSite);
+}
+
+void frmAbout::FormLoad()
+{
+    Reporting(" inFormLoad!", [this] {
+        setWindowTitle(ToQString(ProgramTitle) + " - About");
+        lblThank->setText("Thank you to everyone who helped me make this software!\n"
+                          "And thank you for playing: a league is its general managers.");
+        lblVersion->setText("Version : " + ToQString(Machine().Version()));
+        resize(sizeHint());
+        CentreOnScreen();
+        cmdExit->setFocus();
+    });
+}
+
+void frmAbout::lblWebSite_Click()
+{
+    constexpr int normalWindow = 1;
+    OpenLocation(FromQString(lblWebSite->text()), normalWindow);
+}
+
+void frmAbout::cmdExit_Click() { Unload(); }
+
+} // namespace dravik

@@ -1,0 +1,15 @@
+#include "screens/frmCoach.h"
+
+namespace dravik {
+
+namespace {
+constexpr QSize DefaultSize(480, 320);
+} // namespace
+
+frmCoach::frmCoach(Stage& stage) : Screen(stage, "frmCoach")
+{
+    setWindowTitle("Coach");
+    resize(DefaultSize);
+}
+
+} // namespace dravik

@@ -1,0 +1,15 @@
+#include "screens/frmProspect.h"
+
+namespace dravik {
+
+namespace {
+constexpr QSize DefaultSize(480, 320);
+} // namespace
+
+frmProspect::frmProspect(Stage& stage) : Screen(stage, "frmProspect")
+{
+    setWindowTitle("Prospect");
+    resize(DefaultSize);
+}
+
+} // namespace dravik

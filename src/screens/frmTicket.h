@@ -1,0 +1,42 @@
+#pragma once
+
+#include "league/Field.h"
+#include "screens/panels/EditBox.h"
+#include "screens/Screen.h"
+
+#include <QLabel>
+
+namespace dravik {
+
+// The arena of the chosen team and the price of each of its five seat levels. The arena is there to be read; the prices
+// are the general manager's, unless the league keeps them.
+class frmTicket : public Screen {
+public:
+    explicit frmTicket(Stage& stage);
+
+    // Fills the screen for CurrentTeam. A number out of range is told and closes the screen.
+    void FormLoad() override;
+
+    // A price is 1 to 999; what lies beyond is brought to the limit. A number that fits no price field stores nothing and is
+    // told nobody: the box shows the price that stands.
+    void txtTicket_LostFocus(int level);
+    // At most 99999 seats.
+    void txtArenaCapacity_LostFocus(int level);
+    void txtArena_LostFocus();
+    void cmdExit_Click();
+
+    EditBox* txtArena;
+    Row<EditBox*, 1, 5> txtArenaCapacity;
+    Row<EditBox*, 1, 5> txtTicket;
+    QLabel* lblArenaCapacityTotal;
+    QPushButton* cmdExit;
+
+private:
+    QWidget* MakeArenaGroup();
+    void SetTabOrder();
+    void ShowTotal();
+
+    QLabel* lblTitle;
+};
+
+} // namespace dravik

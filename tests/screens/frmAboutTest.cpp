@@ -1,0 +1,124 @@
+#include "screens/frmAbout.h"
+#include "OnStage.h"
+
+namespace dravik {
+namespace {
+
+using ::testing::ElementsAre;
+using ::testing::IsEmpty;
+
+class frmAboutTest : public OnStage {
+protected:
+    frmAbout& About()
+    {
+        if (TheStage.Find("About") == nullptr) {
+            Main().mnuAbout->trigger();
+            Settle();
+        }
+        return *static_cast<frmAbout*>(TheStage.Find("About"));
+    }
+};
+
+TEST_F(frmAboutTest, ShowsThanksVersionAndWebSite)
+{
+    EXPECT_EQ(About().windowTitle(), "Dravik Hockey Simulator Client - About");
+    const QStringList thanks = About().lblThank->text().split('\n');
+    ASSERT_EQ(thanks.size(), 2);
+    EXPECT_EQ(thanks[0], "Thank you to everyone who helped me make this software!");
+    EXPECT_FALSE(thanks[1].isEmpty());
+    EXPECT_EQ(About().lblVersion->text(), "Version : 9.8.7") << "that of the machine at hand";
+    EXPECT_EQ(About().lblWebSite->text(), WebSite);
+    EXPECT_EQ(About().cmdExit->text().remove('&'), "Exit");
+    EXPECT_THAT(Machine.Boxes(), IsEmpty());
+}
+
+TEST_F(frmAboutTest, TheAddressStandsInTheReservedDomain)
+{
+    EXPECT_THAT(WebSite, ::testing::MatchesRegex("https://(www\\.)?example\\.org/.*"));
+}
+
+TEST_F(frmAboutTest, StandsBesideTheMainScreenInTheMiddle)
+{
+    EXPECT_TRUE(About().isVisible());
+    EXPECT_TRUE(Main().isVisible());
+    const QPoint middle = About().screen()->availableGeometry().center();
+    constexpr int frame = 8; // of the window, which is not known before it is shown
+    EXPECT_LE((About().frameGeometry().center() - middle).manhattanLength(), frame);
+}
+
+TEST_F(frmAboutTest, AClickOnTheWebSiteOpensItsText)
+{
+    Click(About().lblWebSite);
+    EXPECT_THAT(Machine.OpenedLocations, ElementsAre(WebSite));
+    EXPECT_THAT(Machine.Boxes(), IsEmpty());
+}
+
+TEST_F(frmAboutTest, TheWebSiteOpensByKeyboardToo)
+{
+    Press(About().cmdExit, Qt::Key_Tab);
+    ASSERT_TRUE(About().lblWebSite->hasFocus());
+    for (const Qt::Key key : {Qt::Key_Return, Qt::Key_Enter, Qt::Key_Space})
+        Press(About().lblWebSite, key);
+    EXPECT_THAT(Machine.OpenedLocations, ElementsAre(WebSite, WebSite, WebSite));
+}
+
+TEST_F(frmAboutTest, APressThatLeavesTheWebSiteOrIsNoLeftOneOpensNothing)
+{
+    LinkLabel* link = About().lblWebSite;
+    QTest::mouseClick(link, Qt::RightButton);
+    QTest::mousePress(link, Qt::LeftButton);
+    QTest::mouseRelease(link, Qt::LeftButton, {}, QPoint(-20, -20));
+    Press(link, Qt::Key_A);
+    EXPECT_THAT(Machine.OpenedLocations, IsEmpty());
+}
+
+class BrokenDesktop : public ScriptedPlatform {
+public:
+    int OpenLocation(const std::string& /*location*/, int /*showMode*/) override { Fail(failure::FileNotFound); }
+    std::string Version() override { Fail(failure::OutOfMemory); }
+};
+
+TEST_F(frmAboutTest, ADesktopThatCannotOpenTheWebSiteIsTold)
+{
+    About();
+    BrokenDesktop broken;
+    UseMachine(broken);
+    Click(About().lblWebSite);
+    UseMachine(Machine);
+    EXPECT_THAT(broken.Boxes(), ElementsAre(Box{16, "53 - File not found in OpenLocation Function!"}));
+}
+
+TEST_F(frmAboutTest, AFailureOfTheOpeningIsToldInItsOwnWords)
+{
+    Main();
+    BrokenDesktop broken;
+    UseMachine(broken);
+    About();
+    UseMachine(Machine);
+    EXPECT_THAT(broken.Boxes(), ElementsAre(Box{16, "7 - Out of memory inFormLoad!"}));
+    EXPECT_TRUE(About().isVisible());
+}
+
+TEST_F(frmAboutTest, ExitEnterAndEscapeCloseItAndShowTheMainScreen)
+{
+    Click(About().cmdExit);
+    EXPECT_EQ(TheStage.Find("About"), nullptr);
+    EXPECT_TRUE(Main().isVisible());
+    for (const Qt::Key key : {Qt::Key_Return, Qt::Key_Escape}) {
+        ASSERT_TRUE(About().cmdExit->hasFocus());
+        Press(About().cmdExit, key);
+        EXPECT_EQ(TheStage.Find("About"), nullptr);
+        EXPECT_TRUE(Main().isVisible());
+    }
+}
+
+TEST_F(frmAboutTest, ClosingItShowsAMainScreenThatWasHidden)
+{
+    About();
+    Main().hide();
+    About().close();
+    EXPECT_TRUE(Main().isVisible());
+}
+
+} // namespace
+} // namespace dravik
