@@ -51,16 +51,16 @@ int Mean(const Stats& stats, const Group& group)
     return RoundToInt16(sum / (group.Last - group.First + 1));
 }
 
-template <class Person, class Names, class GroupNames>
-StatRows RowsOf(const Person& person, int overall, long long count, const Names& names, const GroupNames& groupNames,
+template <class Stats, class Names, class GroupNames>
+StatRows RowsOf(const Stats& stats, int overall, long long count, const Names& names, const GroupNames& groupNames,
                 const Groups& groups)
 {
     StatRows rows;
     for (int row = 1; row <= count; ++row) {
         if (LeagueData.ShowAllRatings)
-            rows.Ratings.push_back({names[row], static_cast<int>(person.Stats[row])});
+            rows.Ratings.push_back({names[row], static_cast<int>(stats[row])});
         else
-            rows.Ratings.push_back({groupNames[row], Mean(person.Stats, groups[row])});
+            rows.Ratings.push_back({groupNames[row], Mean(stats, groups[row])});
     }
     rows.Overall = overall;
     if (LeagueData.ShowOverall)
@@ -73,15 +73,19 @@ StatRows RowsOf(const Person& person, int overall, long long count, const Names&
 StatRows SkaterStatRows(int index)
 {
     const Player& player = Players[index];
-    const int overall = CalculateOverall(static_cast<int>(player.Position), index);
-    return RowsOf(player, overall, PlayerStatCount, SkaterStatName, SkaterGroupName, SkaterGroups);
+    return SkaterStatRows(player.Stats, CalculateOverall(static_cast<int>(player.Position), index));
+}
+
+StatRows SkaterStatRows(const SkaterRatings& ratings, int overall)
+{
+    return RowsOf(ratings, overall, PlayerStatCount, SkaterStatName, SkaterGroupName, SkaterGroups);
 }
 
 StatRows GoalieStatRows(int index)
 {
     const Goalie& keeper = Goalies[index];
     const int overall = CalculateOverall(position::Goalie, index);
-    return RowsOf(keeper, overall, GoalieStatCount, GoalieStatName, GoalieGroupName, GoalieGroups);
+    return RowsOf(keeper.Stats, overall, GoalieStatCount, GoalieStatName, GoalieGroupName, GoalieGroups);
 }
 
 } // namespace dravik

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "league/Person.h"
+
 #include <optional>
 #include <string_view>
 #include <vector>
@@ -29,5 +31,9 @@ struct StatRows {
 // fails with 9.
 StatRows SkaterStatRows(int index);
 StatRows GoalieStatRows(int index);
+
+// The same rows of ratings that belong to no one skater, such as the averages of a line.
+using SkaterRatings = decltype(Player::Stats);
+StatRows SkaterStatRows(const SkaterRatings& ratings, int overall);
 
 } // namespace dravik
