@@ -115,11 +115,17 @@ StatPanel::StatPanel(QWidget* parent) : QGroupBox("Stats", parent)
 void StatPanel::HideRows()
 {
     lblName->clear();
-    for (int row = 0; row <= RowCount; ++row) {
+    lblStat[0]->hide();
+    lblStatLabel[0]->hide();
+    HideRatings();
+}
+
+void StatPanel::HideRatings()
+{
+    for (int row = 1; row <= RowCount; ++row) {
         lblStat[row]->hide();
         lblStatLabel[row]->hide();
-        if (row >= 1)
-            bars[row]->hide();
+        bars[row]->hide();
     }
 }
 

@@ -15,6 +15,8 @@ public:
 
     // Shows nobody. The panel keeps its place.
     void HideRows();
+    // Hides the ratings alone; the position line stays as it is.
+    void HideRatings();
     // Shows the position line. A name is there for the eye only.
     void ShowPosition(const QString& position);
     void SetName(const QString& name);
