@@ -8,6 +8,7 @@
 #include "rules/Function.h"
 #include "rules/People.h"
 #include "screens/EventGuard.h"
+#include "screens/PersonWords.h"
 #include "screens/platform/CodePage.h"
 #include "screens/RosterEntry.h"
 #include "screens/Stage.h"
@@ -38,15 +39,6 @@ void KeepOffFarm(Person& person, int index)
         person.Status = status::Scratch;
     if (LeagueData.FarmMaxSalary >= 1 && person.Salary > LeagueData.FarmMaxSalary)
         person.Status = status::Scratch;
-}
-
-// What is drawn beside a name.
-QStringList AsideOf(int position, int index)
-{
-    QStringList aside{ToQString(PositionName[position])};
-    if (LeagueData.ShowOverall)
-        aside << QString::number(CalculateOverall(position, index));
-    return aside;
 }
 
 // The findings of the last roster judgement without the heading and the closing words of its box.

@@ -1,0 +1,21 @@
+#pragma once
+
+#include <QString>
+#include <QStringList>
+
+// What the lists and slots say about people beside their names.
+namespace dravik {
+
+// What is drawn muted beside a name: the position, and the overall where the league shows it. `position` 1..4 takes a
+// `Player` index, 5 a `Goalie` index.
+QStringList AsideOf(int position, int index);
+
+// The overall of a skater or goalie in a league that shows it; nothing for a skater without a position or somebody outside
+// the tables. No box is shown.
+QString OverallOf(bool isGoalie, long long index);
+
+// The tooltip of a person: name, position, overall where the league shows it, condition, and behind those the slots that
+// he `standsIn`, if any. Shown as written, whatever characters a name holds.
+QString DescriptionOf(bool isGoalie, long long index, const QString& standsIn);
+
+} // namespace dravik
