@@ -7,6 +7,8 @@
 #include "screens/frmAbout.h"
 #include "screens/frmCoach.h"
 #include "screens/frmEditPlayer.h"
+#include "screens/frmFarmLine.h"
+#include "screens/frmLine.h"
 #include "screens/frmMain.h"
 #include "screens/frmProspect.h"
 #include "screens/frmRoster.h"
@@ -46,8 +48,8 @@ constexpr std::string_view RosterName = "Roster";
 constexpr Role Roles[] = {
     {"Team",       Behind::Main,   true,  Make<frmTeam>},
     {"Roster",     Behind::Caller, true,  Make<frmRoster>},
-    {"Line",       Behind::Caller, true,  nullptr},
-    {"FarmLine",   Behind::Caller, true,  nullptr},
+    {"Line",       Behind::Caller, true,  Make<frmLine>},
+    {"FarmLine",   Behind::Caller, true,  Make<frmFarmLine>},
     {"FreeAgent",  Behind::Main,   true,  nullptr},
     {"Draft",      Behind::Main,   true,  nullptr},
     {"Ticket",     Behind::Team,   true,  Make<frmTicket>},

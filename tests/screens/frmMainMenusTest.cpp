@@ -78,8 +78,11 @@ TEST_F(MainMenus, SetLinesRefusesAnIncompleteRosterWhileSetFarmLinesOpens)
         ElementsAre(Box{48, "Roster is not Complete!\r\nYou cannot make your lines if your roster is not done!"}));
     EXPECT_EQ(CallerScreen, "");
     Main().mnuSetFarmLines->trigger();
-    EXPECT_THAT(Machine.TakeBoxes(), ElementsAre(Box{64, "Not available yet."}));
+    EXPECT_THAT(Machine.TakeBoxes(), ElementsAre());
     EXPECT_EQ(CallerScreen, "Main");
+    ASSERT_NE(TheStage.Find("FarmLine"), nullptr);
+    EXPECT_TRUE(TheStage.Find("FarmLine")->isVisible());
+    EXPECT_FALSE(Main().isVisible());
 }
 
 TEST_F(MainMenus, SetLinesOpensForACompleteRoster)
@@ -88,8 +91,11 @@ TEST_F(MainMenus, SetLinesOpensForACompleteRoster)
     MainWithLeague();
     CurrentTeam = 1;
     Main().mnuSetLines->trigger();
-    EXPECT_THAT(Machine.Boxes(), ElementsAre(Box{64, "Not available yet."}));
+    EXPECT_THAT(Machine.Boxes(), ElementsAre());
     EXPECT_EQ(CallerScreen, "Main");
+    ASSERT_NE(TheStage.Find("Line"), nullptr);
+    EXPECT_TRUE(TheStage.Find("Line")->isVisible());
+    EXPECT_FALSE(Main().isVisible());
 }
 
 TEST_F(MainMenus, SetLinesCountsTheSalaryCap)

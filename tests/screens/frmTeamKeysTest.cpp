@@ -10,10 +10,18 @@ namespace {
 
 using ::testing::IsEmpty;
 
+// A screen that closes before anybody sees it.
+class FleetingScreen : public Screen {
+public:
+    explicit FleetingScreen(Stage& stage) : Screen(stage, "frmFleeting") {}
+    void FormLoad() override { Unload(); }
+};
+
 class TeamKeys : public OnTeamScreen {};
 
 TEST_F(TeamKeys, EnterPressesTheCommandThatHasTheFocus)
 {
+    TheStage.Provide("FarmLine", [](Stage& stage) { return std::make_unique<FleetingScreen>(stage); });
     for (const Qt::Key key : {Qt::Key_Return, Qt::Key_Enter}) {
         Office().cmdFarmLines->setFocus();
         CallerScreen = "before";

@@ -302,18 +302,23 @@ TEST_F(frmTeamTest, ABoxActsOnceForEachLeaving)
     EXPECT_EQ(Machine.TakeBoxes().size(), 1U);
 }
 
-TEST_F(frmTeamTest, ScreenCommandsNoteTheTeamScreenAsTheirCaller)
+TEST_F(frmTeamTest, LinesCommandsOpenTheLinesScreensAndNoteTheTeamScreenAsTheirCaller)
 {
     CompleteTeam(5);
-    frmTeam& office = Office();
-    for (QPushButton* command : {office.cmdLines, office.cmdFarmLines}) {
+    const std::pair<QPushButton*, const char*> commands[] = {{Office().cmdLines, "Line"},
+                                                             {Office().cmdFarmLines, "FarmLine"}};
+    for (const auto& [command, screen] : commands) {
         CallerScreen = "Main";
         Click(command);
-        EXPECT_EQ(CallerScreen, "Team") << command->objectName().toStdString();
-        EXPECT_THAT(Machine.TakeBoxes(), ElementsAre(Box{64, "Not available yet."}))
-            << command->objectName().toStdString();
-        EXPECT_TRUE(office.isVisible());
+        EXPECT_EQ(CallerScreen, "Team") << screen;
+        ASSERT_NE(TheStage.Find(screen), nullptr) << screen;
+        EXPECT_TRUE(TheStage.Find(screen)->isVisible());
+        EXPECT_FALSE(Office().isVisible());
+        TheStage.Find(screen)->close();
+        Settle();
+        EXPECT_TRUE(Office().isVisible());
     }
+    EXPECT_THAT(Machine.Boxes(), IsEmpty());
 }
 
 TEST_F(frmTeamTest, RosterCommandOpensTheRosterScreenAndNotesTheTeamScreenAsItsCaller)

@@ -3,9 +3,10 @@
 #include "league/ClientVariable.h"
 #include "league/LinesFile.h"
 #include "league/OutsideCode.h"
-#include "makers/Makers.h"
 #include "rules/Function.h"
 #include "screens/frmEditPlayer.h"
+#include "screens/frmFarmLine.h"
+#include "screens/frmLine.h"
 #include "screens/frmMain.h"
 #include "screens/frmRoster.h"
 #include "screens/frmTeam.h"
@@ -55,9 +56,7 @@ public:
         EnterOffice();
         Photograph("Team", "team-first");
         ShapeRoster();
-        LeaveOffice();
         MakeLines();
-        EnterOffice();
         Photograph("Team", "team");
         SaveLines();
         LoadLines();
@@ -182,11 +181,47 @@ private:
     void MakeLines()
     {
         Require(CheckRoster(plan.Team, false, true, false), "the roster stays complete: " + Judged());
-        for (int day = 1; day <= 10; ++day) {
-            AutoLines(plan.Team, false, day);
-            AutoLinesFarm(plan.Team, false, day);
+        MakeLinesOn(*Team().cmdLines, "Line", "lines");
+        MakeLinesOn(*Team().cmdFarmLines, "FarmLine", "farmlines");
+        Require(Team().cmdSaveToFile->isEnabled(), "both first days are complete");
+    }
+
+    // Looks at the lines as they came, has those of every day made, and looks at every tab of the first day.
+    void MakeLinesOn(QPushButton& command, std::string_view name, const QString& picture)
+    {
+        answers.ConfirmAll(true); // the maker says what it did, and what opening finds depends on the league
+        command.click();
+        QApplication::processEvents();
+        Require(stage.Find(name) != nullptr && stage.Find(name)->isVisible(), "the lines screen opens");
+        auto& screen = static_cast<LinesScreen&>(*stage.Find(name));
+        Photograph(name, picture + "-first");
+        for (int day = screen.vscDay->maximum(); day >= 1; --day) {
+            screen.vscDay->setValue(day);
+            screen.cmdAutoLines->click();
+            Require(screen.lblComplete->text() == "Lines are Complete",
+                    "the lines are complete: " + ToQString(LastLinesText()));
         }
+        screen.cmdCopyAll->click();
+        answers.ConfirmAll(false);
+        PickFirst(screen);
+        for (int tab = 0; tab < screen.TabLine->count(); ++tab) {
+            screen.TabLine->setCurrentIndex(tab);
+            Photograph(name, QString("%1-tab%2").arg(picture).arg(tab + 1));
+        }
+        screen.TabLine->setCurrentIndex(0);
+        screen.cmdExit->click();
+        QApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
         NoComplaints("the lines are made");
+        Require(stage.Find(name) == nullptr && Team().isVisible(), "the team screen comes back");
+    }
+
+    // Picks the first player of the list by keyboard.
+    static void PickFirst(LinesScreen& screen)
+    {
+        screen.lstPlayer->setFocus();
+        QKeyEvent down(QEvent::KeyPress, Qt::Key_Down, Qt::NoModifier);
+        QApplication::sendEvent(screen.lstPlayer, &down);
+        Require(SelectedPlayer > 0 && !screen.lblPlaying->text().isEmpty(), "a player is picked");
     }
 
     void SaveLines()

@@ -1,0 +1,326 @@
+#include "screens/EventGuard.h"
+#include "screens/LinesScreen.h"
+#include "screens/panels/Labels.h"
+#include "screens/panels/Shades.h"
+
+#include <QGroupBox>
+#include <QHBoxLayout>
+#include <QHelpEvent>
+#include <QTabBar>
+#include <QVBoxLayout>
+
+// What the lines screens are made of and where it stands.
+namespace dravik {
+
+namespace {
+
+constexpr QSize DefaultSize(1240, 780);
+constexpr int PeopleColumnWidth = 310;
+constexpr int LeastReasonsWidth = 300;
+constexpr int LinesOfReasons = 3;
+constexpr int MostPoints = 5;
+constexpr int StrategyPageWidth = 460;
+
+QString Indexed(const char* name, int index) { return QString("%1(%2)").arg(name).arg(index); }
+
+QLabel* MakeLabel(const char* name, QWidget* parent)
+{
+    auto* label = new QLabel(parent);
+    label->setObjectName(name);
+    label->setTextFormat(Qt::PlainText);
+    return label;
+}
+
+QVBoxLayout* MakeColumn(QWidget* parent)
+{
+    auto* column = new QVBoxLayout(parent);
+    column->setContentsMargins(0, 0, 0, 0);
+    column->setSpacing(Gap);
+    return column;
+}
+
+QHBoxLayout* MakeRow()
+{
+    auto* row = new QHBoxLayout;
+    row->setSpacing(Gap);
+    return row;
+}
+
+} // namespace
+
+LinesScreen::LinesScreen(Stage& stage, const LinesKind& kind) : Screen(stage, kind.Name), Kind(kind)
+{
+    MakeControls();
+    MakeCommands();
+    MakeStrategyPage();
+
+    auto* content = new QWidget(this);
+    auto* column = new QVBoxLayout(content);
+    column->setContentsMargins(Margin, Margin, Margin, Margin);
+    column->setSpacing(Gap);
+    column->addWidget(MakeHeader());
+    auto* days = MakeRow();
+    auto* caption = new MutedLabel("Da&y", content);
+    caption->setBuddy(vscDay);
+    days->addWidget(caption);
+    days->addWidget(vscDay, 1);
+    column->addLayout(days);
+    auto* body = new QHBoxLayout;
+    body->setSpacing(Margin);
+    body->addWidget(MakePeopleColumn());
+    body->addWidget(MakeLinesColumn(), 1);
+    column->addLayout(body, 1);
+    Commands = MakeRow();
+    for (QPushButton* command : {cmdAutoLines, cmdWipeLines, cmdCopy, cmdCopyAll})
+        Commands->addWidget(command);
+    Commands->addStretch(1);
+    Commands->addWidget(cmdExit);
+    column->addLayout(Commands);
+
+    setCentralWidget(content);
+    SetTabOrder();
+    resize(DefaultSize.expandedTo(content->minimumSizeHint()));
+}
+
+void LinesScreen::MakeControls()
+{
+    lblTeamName = MakeTitle(this);
+    lblTeamName->setObjectName("lblTeamName");
+    lblGame = MakeLabel("lblGame", this);
+    lblPlaying = MakeLabel("lblPlaying", this);
+    // What a player plays may be longer than the screen is wide.
+    lblPlaying->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
+    lblComplete = new VerdictLabel(this);
+    lblComplete->setObjectName("lblComplete");
+
+    txtReasons = new QPlainTextEdit(this);
+    txtReasons->setObjectName("txtReasons");
+    txtReasons->setAccessibleName("What stands against these lines");
+    txtReasons->setReadOnly(true);
+    txtReasons->setTabChangesFocus(true);
+    txtReasons->setMinimumWidth(LeastReasonsWidth);
+    txtReasons->setFixedHeight(txtReasons->fontMetrics().lineSpacing() * LinesOfReasons +
+                               static_cast<int>(2 * txtReasons->document()->documentMargin()) +
+                               2 * txtReasons->frameWidth());
+    QSizePolicy policy = txtReasons->sizePolicy();
+    policy.setRetainSizeWhenHidden(true);
+    txtReasons->setSizePolicy(policy);
+
+    vscDay = new DayStrip(this);
+    vscDay->setObjectName("vscDay");
+    vscDay->setAccessibleName("Day");
+    connect(vscDay, &QAbstractSlider::valueChanged, this,
+            [this] { RunEvent("vscDay_Change", [this] { vscDay_Change(); }); });
+
+    const char* captions[] = {"C", "LW", "RW", "D", "G"};
+    const char* positions[] = {"Center", "Left Wing", "Right Wing", "Defense", "Goalie"};
+    for (int position = 1; position <= 5; ++position) {
+        auto* filter = new QCheckBox(captions[position - 1], this);
+        filter->setObjectName(Indexed("chkPosition", position));
+        filter->setAccessibleName(positions[position - 1]);
+        filter->setToolTip(positions[position - 1]);
+        filter->setChecked(true);
+        connect(filter, &QCheckBox::toggled, this, [this, position] { chkPosition_Click(position); });
+        chkPosition[position] = filter;
+    }
+    lstPlayer = new PickList(this);
+    lstPlayer->setObjectName("lstPlayer");
+    lstPlayer->setAccessibleName("Players");
+    lstPlayer->setSelectionMode(QAbstractItemView::SingleSelection);
+    lstPlayer->setDragEnabled(true);
+    lstPlayer->setDragDropMode(QAbstractItemView::DragOnly);
+    connect(lstPlayer, &PickList::Picked, this, [this] { lstPlayer_Click(); });
+    lstPlayer->viewport()->installEventFilter(this);
+    frmStat = new StatPanel(this);
+    frmStat->setObjectName("frmStat");
+
+    TabLine = new LineBoard(this);
+    TabLine->tabBar()->setFocusPolicy(Qt::StrongFocus); // a press on a tab leaves a text box first
+    connect(TabLine, &LineBoard::SlotPressed, this, [this](int index) { Slot_Click(index); });
+    connect(TabLine, &LineBoard::HeadingPressed, this, [this](int index) { Heading_Click(index); });
+    for (const BoardSlot& slot : TabLine->Slots) {
+        slot.Label->installEventFilter(this);
+        slot.Label->MayDrop = [this, rule = slot.Rule](const QDropEvent& event) {
+            return event.source() == lstPlayer && lstPlayer->Chosen() != nullptr && TakesPicked(rule);
+        };
+    }
+    for (const BoardHeading& heading : TabLine->Headings)
+        heading.Label->installEventFilter(this);
+    for (QWidget* pressed : std::initializer_list<QWidget*>{vscDay, TabLine->tabBar()})
+        pressed->installEventFilter(this);
+    for (QCheckBox* filter : chkPosition)
+        filter->installEventFilter(this);
+}
+
+void LinesScreen::MakeCommands()
+{
+    cmdAutoLines = MakeCommand("cmdAutoLines", "&Auto Lines", [this] { cmdAutoLines_Click(); });
+    cmdWipeLines = MakeCommand("cmdWipeLines", "&Wipe Lines", [this] { cmdWipeLines_Click(); });
+    cmdCopy = MakeCommand("cmdCopy", "&Copy To Day ...", [this] { cmdCopy_Click(); });
+    cmdCopyAll = MakeCommand("cmdCopyAll", "Copy To A&ll Days", [this] { cmdCopyAll_Click(); });
+    cmdDebug = MakeCommand("cmdDebug", "W&hy are my lines incomplete?", [this] { cmdDebug_Click(); });
+    cmdExit = MakeCommand("cmdExit", "E&xit", [this] { cmdExit_Click(); });
+}
+
+void LinesScreen::MakeStrategyPage()
+{
+    QWidget* page = TabLine->AddPage("S&trategy");
+    auto* panel = new QWidget(page);
+    panel->setMaximumWidth(StrategyPageWidth);
+    auto* row = new QHBoxLayout(page);
+    row->setContentsMargins(Margin, Gap, Margin, Gap);
+    row->addWidget(panel, 1);
+    row->addStretch(0);
+    auto* column = MakeColumn(panel);
+
+    auto* strategy = new QGroupBox("Strategy", panel);
+    auto* points = new QGridLayout(strategy);
+    points->setContentsMargins(Margin, Gap, Margin, Margin);
+    points->setSpacing(Gap);
+    points->setColumnStretch(1, 1);
+    const char* styles[] = {"Physical Style : ", "Defense Style : ", "Offense Style : "};
+    for (int style = 0; style <= 2; ++style) {
+        auto* bar = new QScrollBar(Qt::Horizontal, strategy);
+        bar->setObjectName(Indexed("hscStats", style));
+        bar->setAccessibleName(styles[style]);
+        bar->setRange(0, MostPoints);
+        bar->setPageStep(1);
+        bar->setFocusPolicy(Qt::StrongFocus);
+        connect(bar, &QScrollBar::valueChanged, this,
+                [this, style] { RunEvent("hscStats_Change", [this, style] { hscStats_Change(style); }); });
+        hscStats[style] = bar;
+        lblStatsPoint[style] = MakeLabel("", strategy);
+        lblStatsPoint[style]->setObjectName(Indexed("lblStatsPoint", style));
+        points->addWidget(new MutedLabel(styles[style], strategy), style, 0);
+        points->addWidget(bar, style, 1);
+        points->addWidget(lblStatsPoint[style], style, 2);
+    }
+    lblPoint = MakeLabel("lblPoint", strategy);
+    points->addWidget(new MutedLabel("Points Left :", strategy), 3, 0);
+    points->addWidget(lblPoint, 3, 2);
+    for (QLabel* figure : {lblStatsPoint[0], lblStatsPoint[1], lblStatsPoint[2], lblPoint}) {
+        figure->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+        figure->setMinimumWidth(figure->fontMetrics().horizontalAdvance("000"));
+    }
+    column->addWidget(strategy);
+
+    txtPullGoalerMinGoal = MakeBox("txtPullGoalerMinGoal", [this] { txtPullGoalerMinGoal_LostFocus(); });
+    txtPullGoalerMinPct = MakeBox("txtPullGoalerMinPct", [this] { txtPullGoalerMinPct_LostFocus(); });
+    auto* pull = new QGroupBox("Goalie Pull", panel);
+    auto* boxes = new QGridLayout(pull);
+    boxes->setContentsMargins(Margin, Gap, Margin, Margin);
+    boxes->setSpacing(Gap);
+    boxes->setColumnStretch(0, 1);
+    const std::pair<EditBox*, const char*> captioned[] = {{txtPullGoalerMinGoal, "Minimum # of Goals :"},
+                                                          {txtPullGoalerMinPct, "Save PCT Under :"}};
+    int line = 0;
+    for (const auto& [box, caption] : captioned) {
+        box->setAccessibleName(caption);
+        box->setAlignment(Qt::AlignRight);
+        box->setMaximumWidth(box->fontMetrics().horizontalAdvance("0") * 10);
+        boxes->addWidget(new MutedLabel(caption, pull), line, 0);
+        boxes->addWidget(box, line++, 1);
+    }
+    column->addWidget(pull);
+    column->addStretch(1);
+}
+
+QWidget* LinesScreen::MakeHeader()
+{
+    auto* header = new QWidget(this);
+    auto* row = new QHBoxLayout(header);
+    row->setContentsMargins(0, 0, 0, 0);
+    row->setSpacing(Margin);
+    auto* left = MakeColumn(nullptr);
+    auto* title = MakeRow();
+    title->setSpacing(Margin);
+    title->addWidget(lblTeamName);
+    title->addStretch(1);
+    left->addLayout(title);
+    auto* verdict = MakeRow();
+    verdict->setSpacing(Margin);
+    verdict->addWidget(lblComplete);
+    verdict->addWidget(cmdDebug);
+    verdict->addStretch(1);
+    verdict->addWidget(lblGame);
+    left->addLayout(verdict);
+    row->addLayout(left, 3);
+    row->addWidget(txtReasons, 2);
+    return header;
+}
+
+QWidget* LinesScreen::MakePeopleColumn()
+{
+    auto* panel = new QWidget(this);
+    panel->setFixedWidth(PeopleColumnWidth);
+    auto* column = MakeColumn(panel);
+    auto* filters = MakeRow();
+    filters->addWidget(new MutedLabel("Show : ", panel));
+    for (QCheckBox* filter : chkPosition)
+        filters->addWidget(filter);
+    filters->addStretch(1);
+    column->addLayout(filters);
+    column->addWidget(lstPlayer, 1);
+    column->addWidget(frmStat);
+    return panel;
+}
+
+QWidget* LinesScreen::MakeLinesColumn()
+{
+    auto* panel = new QWidget(this);
+    auto* column = MakeColumn(panel);
+    column->addWidget(TabLine, 1);
+    auto* playing = MakeRow();
+    playing->addWidget(new MutedLabel("Playing the Following Lines : ", panel));
+    playing->addWidget(lblPlaying, 1);
+    column->addLayout(playing);
+    return panel;
+}
+
+void LinesScreen::SetTabOrder()
+{
+    QList<QWidget*> order{lstPlayer};
+    for (QCheckBox* filter : chkPosition)
+        order << filter;
+    order << vscDay << TabLine->tabBar() << TabLine->Walk;
+    for (QScrollBar* bar : hscStats)
+        order << bar;
+    order << txtPullGoalerMinGoal << txtPullGoalerMinPct << cmdDebug << txtReasons << cmdAutoLines << cmdWipeLines
+          << cmdCopy << cmdCopyAll << cmdExit;
+    for (qsizetype i = 1; i < order.size(); ++i)
+        setTabOrder(order[i - 1], order[i]);
+}
+
+bool LinesScreen::eventFilter(QObject* watched, QEvent* event)
+{
+    if (event->type() == QEvent::MouseButtonPress && qobject_cast<QPushButton*>(watched) == nullptr) {
+        // Whatever is watched takes the focus when it is pressed. A box that has it all the same took it back, and the
+        // press goes no further.
+        if (qobject_cast<EditBox*>(focusWidget()) != nullptr)
+            return true;
+    }
+    if (event->type() == QEvent::ToolTip) {
+        if (watched == lstPlayer->viewport())
+            TellOfEntry(static_cast<QHelpEvent*>(event)->pos());
+        else if (auto* label = qobject_cast<SlotLabel*>(watched))
+            for (const BoardSlot& slot : TabLine->Slots)
+                if (slot.Label == label)
+                    TellOfSlot(slot);
+    }
+    return Screen::eventFilter(watched, event);
+}
+
+void LinesScreen::ReturnTo(EditBox* box)
+{
+    const auto takeBack = [this, box] {
+        const EventGuard guard;
+        TabLine->setCurrentIndex(TabLine->count() - 1);
+        box->TakeFocusBack();
+    };
+    if (box->isVisible())
+        takeBack();
+    else // its page is being left
+        QMetaObject::invokeMethod(this, takeBack, Qt::QueuedConnection);
+}
+
+} // namespace dravik

@@ -1,0 +1,64 @@
+#include "screens/frmLine.h"
+
+#include "league/ClientVariable.h"
+#include "makers/Makers.h"
+#include "rules/Function.h"
+#include "screens/Stage.h"
+
+namespace dravik {
+
+namespace {
+
+constexpr LinesKind Pro{
+    .Name = "frmLine",
+    .Side = Side::Pro,
+    .Status = status::Pro,
+    .NameOf = [](const Team& team) { return team.Name.Trimmed(); },
+    .AbbreOf = [](const Team& team) { return team.Abbre.Trimmed(); },
+    .OnLoad = " in FormLoad FrmLine!",
+    .OnPick = " in lstPlayer_Click!",
+    .ClosingWarning = "Lines for Day #1 are Incomplete!",
+    .ShowsPlaceholder = false,
+    .Judge = CheckLine,
+    .PlayOnLineString = PlayOnLineString,
+    .PlayOnLineInteger = PlayOnLineInteger,
+    .AutoLines = AutoLines,
+    .Game = &ScheduleRow::ProGame,
+    .Played = &ScheduleRow::ProPlayed,
+    .Home = &ScheduleRow::ProHome,
+    .Away = &ScheduleRow::ProAway,
+};
+
+} // namespace
+
+frmLine::frmLine(Stage& stage) : LinesScreen(stage, Pro)
+{
+    cmdPartialLine = MakeCommand("cmdPartialLine", "Pa&rtial Auto Lines", [this] { cmdPartialLine_Click(); });
+    Commands->insertWidget(1, cmdPartialLine);
+    setTabOrder(cmdAutoLines, cmdPartialLine);
+}
+
+void frmLine::CloseMakers()
+{
+    LinesScreen::CloseMakers();
+    cmdPartialLine->setEnabled(false);
+}
+
+void frmLine::ShowPickedName(const QString& name)
+{
+    frmStat->setTitle(QString(name).replace('&', "&&")); // no mnemonic
+}
+
+void frmLine::CheckInTurn()
+{
+    JudgeShownDay();
+    if (SelectedPlayer != 0 && !SelectedIsGoalie)
+        RefreshPlaying();
+    if (CheckLine(static_cast<int>(CurrentTeam), false, 1, false))
+        Owner.EnableSaveToFile();
+    Modified = true;
+}
+
+void frmLine::cmdPartialLine_Click() { MakeLines(AutoLinesPartial); }
+
+} // namespace dravik

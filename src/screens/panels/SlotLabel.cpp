@@ -1,0 +1,225 @@
+#include "screens/panels/SlotLabel.h"
+
+#include "screens/panels/Labels.h"
+#include "screens/panels/Shades.h"
+#include "screens/platform/Palettes.h"
+
+#include <QDragEnterEvent>
+#include <QKeyEvent>
+#include <QMouseEvent>
+#include <QPainter>
+#include <QStyleOptionFocusRect>
+
+namespace dravik {
+
+namespace {
+
+constexpr QSize UsualSize(170, 34);
+constexpr QSize LeastSize(110, 26);
+constexpr double Roundness = 4;
+constexpr double FramePart = 0.28;  // how much of the text is in the frame
+constexpr double PickedPart = 0.16; // how much of the highlight is in the ground of a slot that stands out
+
+} // namespace
+
+PressLabel::PressLabel(QWidget* parent) : QLabel(parent)
+{
+    setTextFormat(Qt::PlainText);
+    setFocusPolicy(Qt::StrongFocus);
+    setCursor(Qt::PointingHandCursor);
+}
+
+void PressLabel::mousePressEvent(QMouseEvent* event)
+{
+    isDown = event->button() == Qt::LeftButton;
+    event->setAccepted(isDown);
+}
+
+// A release without a press of its own is no click: the press may have been held back.
+void PressLabel::mouseReleaseEvent(QMouseEvent* event)
+{
+    const bool isClick = isDown && event->button() == Qt::LeftButton && rect().contains(event->position().toPoint());
+    isDown = false;
+    if (isClick)
+        emit Pressed();
+}
+
+void PressLabel::keyPressEvent(QKeyEvent* event)
+{
+    const int key = event->key();
+    if (key == Qt::Key_Return || key == Qt::Key_Enter || key == Qt::Key_Space)
+        emit Pressed();
+    else
+        QLabel::keyPressEvent(event);
+}
+
+void PressLabel::focusInEvent(QFocusEvent* event)
+{
+    QLabel::focusInEvent(event);
+    update();
+}
+
+void PressLabel::focusOutEvent(QFocusEvent* event)
+{
+    QLabel::focusOutEvent(event);
+    update();
+}
+
+void PressLabel::paintEvent(QPaintEvent* event)
+{
+    QLabel::paintEvent(event);
+    if (!hasFocus())
+        return;
+    QPainter painter(this);
+    QStyleOptionFocusRect option;
+    option.initFrom(this);
+    style()->drawPrimitive(QStyle::PE_FrameFocusRect, &option, &painter, this);
+}
+
+SlotLabel::SlotLabel(const QString& where, const QString& tag, QWidget* parent) :
+    PressLabel(parent), slot(where), position(tag)
+{
+    setAcceptDrops(true);
+    setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Preferred);
+    Describe();
+}
+
+QSize SlotLabel::sizeHint() const { return UsualSize.expandedTo({0, fontMetrics().height() + 2 * Gap}); }
+
+QSize SlotLabel::minimumSizeHint() const { return LeastSize.expandedTo({0, fontMetrics().height() + Gap}); }
+
+void SlotLabel::SetName(const QString& name)
+{
+    setText(name);
+    Describe();
+}
+
+void SlotLabel::SetMark(Mark shown)
+{
+    if (mark == shown)
+        return;
+    mark = shown;
+    Describe();
+    update();
+}
+
+void SlotLabel::SetAside(const QString& words)
+{
+    if (aside == words)
+        return;
+    aside = words;
+    update();
+}
+
+void SlotLabel::SetPicked(bool picked)
+{
+    if (isPicked == picked)
+        return;
+    isPicked = picked;
+    update();
+}
+
+void SlotLabel::Describe()
+{
+    const char* state = mark == Mark::Refused ? " (may not play)" : mark == Mark::Empty ? " (empty)" : "";
+    const QString name = slot + ": " + text() + state;
+    if (accessibleName() != name)
+        setAccessibleName(name);
+}
+
+void SlotLabel::keyPressEvent(QKeyEvent* event)
+{
+    switch (event->key()) {
+    case Qt::Key_Left:
+    case Qt::Key_Right:
+    case Qt::Key_Up:
+    case Qt::Key_Down:
+        emit Arrow(event->key());
+        break;
+    default:
+        PressLabel::keyPressEvent(event);
+    }
+}
+
+void SlotLabel::SetDropTarget(bool target)
+{
+    isDropTarget = target;
+    update();
+}
+
+void SlotLabel::dragEnterEvent(QDragEnterEvent* event)
+{
+    if (!MayDrop || !MayDrop(*event)) {
+        event->ignore();
+        return;
+    }
+    event->acceptProposedAction();
+    SetDropTarget(true);
+}
+
+void SlotLabel::dragMoveEvent(QDragMoveEvent* event) { event->acceptProposedAction(); }
+
+void SlotLabel::dragLeaveEvent(QDragLeaveEvent* /*event*/) { SetDropTarget(false); }
+
+void SlotLabel::dropEvent(QDropEvent* event)
+{
+    SetDropTarget(false);
+    if (!MayDrop || !MayDrop(*event)) {
+        event->ignore();
+        return;
+    }
+    event->acceptProposedAction();
+    emit Pressed();
+}
+
+void SlotLabel::paintEvent(QPaintEvent* /*event*/)
+{
+    QPainter painter(this);
+    painter.setRenderHint(QPainter::Antialiasing);
+    const QColor window = palette().color(QPalette::Window);
+    const QColor words = palette().color(QPalette::Text);
+    const QColor accent = palette().color(QPalette::Active, QPalette::Highlight);
+    const bool isEmpty = mark == Mark::Empty;
+    const bool isRefused = mark == Mark::Refused;
+    const bool standsOut = hasFocus() || isDropTarget || isPicked;
+    QColor ground = isEmpty ? window : palette().color(QPalette::Base);
+    if (isPicked || isDropTarget)
+        ground = Mixed(ground, accent, PickedPart);
+
+    const QColor frame = isRefused ? Alarming(ground) : standsOut ? accent : Mixed(window, words, FramePart);
+    const double width = hasFocus() || isDropTarget ? 2 : 1;
+    painter.setPen(QPen(frame, width, isEmpty ? Qt::DashLine : Qt::SolidLine));
+    painter.setBrush(ground);
+    const QRectF whole = QRectF(rect()).adjusted(1, 1, -1, -1);
+    painter.drawRoundedRect(whole, Roundness, Roundness);
+    if (isRefused && hasFocus()) { // both can be told
+        painter.setPen(QPen(accent, 1, Qt::DotLine));
+        painter.setBrush(Qt::NoBrush);
+        painter.drawRoundedRect(whole.adjusted(3, 3, -3, -3), Roundness, Roundness);
+    }
+
+    const QColor secondary = Muted(words, ground);
+    QRect area = rect().adjusted(Gap, 0, -Gap, 0);
+    constexpr int flags = Qt::AlignVCenter | Qt::TextSingleLine;
+    painter.setFont(HeadingFont(font()));
+    painter.setPen(secondary);
+    painter.drawText(area, Qt::AlignLeft | flags, position);
+    area.setLeft(area.left() + painter.fontMetrics().horizontalAdvance("RW") + Gap);
+
+    painter.setFont(font());
+    if (!aside.isEmpty()) {
+        painter.drawText(area, Qt::AlignRight | flags, aside);
+        area.setRight(area.right() - painter.fontMetrics().horizontalAdvance(aside) - Gap);
+    }
+    if (isRefused) {
+        const int side = painter.fontMetrics().height();
+        PaintWarningSign(painter, QRect(area.right() - side + 1, area.center().y() - side / 2, side, side), ground);
+        area.setRight(area.right() - side - Gap / 2);
+    }
+    painter.setPen(isRefused ? Alarming(ground) : isEmpty ? secondary : words);
+    const QString shown = isEmpty && text().isEmpty() ? QString("empty") : text();
+    painter.drawText(area, Qt::AlignLeft | flags,
+                     painter.fontMetrics().elidedText(shown, Qt::ElideRight, area.width()));
+}
+
+} // namespace dravik

@@ -1,0 +1,84 @@
+#pragma once
+
+#include <functional>
+#include <QDropEvent>
+#include <QLabel>
+
+namespace dravik {
+
+// A label that is pressed like a button: with the left mouse button, or with Enter or the space bar while it has the
+// focus.
+class PressLabel : public QLabel {
+    Q_OBJECT
+public:
+    explicit PressLabel(QWidget* parent = nullptr);
+
+signals:
+    void Pressed();
+
+protected:
+    void mousePressEvent(QMouseEvent* event) override;
+    void mouseReleaseEvent(QMouseEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
+    void focusInEvent(QFocusEvent* event) override;
+    void focusOutEvent(QFocusEvent* event) override;
+    void paintEvent(QPaintEvent* event) override;
+
+private:
+    bool isDown = false;
+};
+
+// One slot of a line-up: a frame with the position at its left, the name, and secondary words at its right edge. The text
+// is the name alone. A drop on it counts as a press.
+class SlotLabel : public PressLabel {
+    Q_OBJECT
+public:
+    enum class Mark {
+        Filled,
+        Empty,  // dashed
+        Refused // red, with the warning sign
+    };
+
+    // `where` says to a screen reader which slot this is; `tag` is the position that is painted.
+    SlotLabel(const QString& where, const QString& tag, QWidget* parent = nullptr);
+
+    void SetName(const QString& name);
+    void SetMark(Mark shown);
+    [[nodiscard]] Mark Shown() const { return mark; }
+    void SetAside(const QString& words);
+    [[nodiscard]] const QString& Aside() const { return aside; }
+    // A slot that holds the person at hand stands out.
+    void SetPicked(bool picked);
+    [[nodiscard]] bool IsPicked() const { return isPicked; }
+
+    // Asked whether what hovers over the slot may be dropped on it; without it nothing may.
+    std::function<bool(const QDropEvent&)> MayDrop;
+
+    [[nodiscard]] QSize sizeHint() const override;
+    [[nodiscard]] QSize minimumSizeHint() const override;
+
+signals:
+    // An arrow key was pressed (Qt::Key).
+    void Arrow(int key);
+
+protected:
+    void keyPressEvent(QKeyEvent* event) override;
+    void dragEnterEvent(QDragEnterEvent* event) override;
+    void dragMoveEvent(QDragMoveEvent* event) override;
+    void dragLeaveEvent(QDragLeaveEvent* event) override;
+    void dropEvent(QDropEvent* event) override;
+    void paintEvent(QPaintEvent* event) override;
+
+private:
+    void Describe();
+    void SetDropTarget(bool target);
+
+    QString slot;
+    QString position;
+    QString aside;
+    Mark mark = Mark::Empty;
+    bool isPicked = false;
+    bool isDropTarget = false;
+};
+
+} // namespace dravik
