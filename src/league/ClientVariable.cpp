@@ -1,5 +1,8 @@
 #include "league/ClientVariable.h"
 
+#include <cstring>
+#include <type_traits>
+
 namespace dravik {
 
 League LeagueData;
@@ -38,12 +41,12 @@ constexpr Row<std::string_view, 1, Count> Captions(const std::string_view (&all)
     return captions;
 }
 
-// Assigns zeroes in place: a temporary of a whole table would not fit on every stack.
+// In place: a temporary of a whole table would not fit on every stack.
 template <class Table>
 void Zero(Table& table)
 {
-    for (auto& record : table)
-        record = {};
+    static_assert(std::is_trivially_copyable_v<Table>);
+    std::memset(static_cast<void*>(&table), 0, sizeof table);
 }
 
 } // namespace

@@ -3,6 +3,8 @@
 #include "league/Field.h"
 
 #include <algorithm>
+#include <cstring>
+#include <type_traits>
 
 namespace dravik {
 
@@ -13,8 +15,9 @@ namespace dravik {
 template <class Ids, class Ratings>
 void EmptyRatingList(Ids& ids, Ratings& ratings)
 {
-    std::fill(ids.begin(), ids.end(), Int16());
-    std::fill(ratings.begin(), ratings.end(), Int16());
+    static_assert(std::is_trivially_copyable_v<Ids> && std::is_trivially_copyable_v<Ratings>);
+    std::memset(static_cast<void*>(&ids), 0, sizeof ids);
+    std::memset(static_cast<void*>(&ratings), 0, sizeof ratings);
 }
 
 // Puts `id` before the first entry whose rating is lower than `rating`, so that among equals the earlier inserted stands

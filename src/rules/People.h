@@ -11,16 +11,16 @@ bool BelongsTo(const Person& person, int team)
     return person.Team == team && person.InUse;
 }
 
+// The first person of the table behind slot `after` who belongs to `team`; 0 when there is none.
+int NextOfTeam(const PlayerTable& people, int team, int after);
+int NextOfTeam(const GoalieTable& people, int team, int after);
+
 // Calls `visit(person, index)` for every person of `people` (from slot 1 on) who belongs to `team`, in index order.
 template <class People, class Visit>
 void EachOfTeam(People& people, int team, Visit&& visit)
 {
-    int index = 0;
-    for (auto& person : people) {
-        if (index >= 1 && BelongsTo(person, team))
-            visit(person, index);
-        ++index;
-    }
+    for (int index = NextOfTeam(people, team, 0); index != 0; index = NextOfTeam(people, team, index))
+        visit(people[index], index);
 }
 
 // Healthy enough to play.
