@@ -1,9 +1,10 @@
 // What the files cost, each against the bare work of the compressor inside one run, so that the figures of a busy machine
-// hold too: the counter "ratio" is the time of ours divided by the time of the bare work.
+// hold too: the counter "ratio" is the time of ours divided by the time of the bare work; both times are in milliseconds.
 //
 //     files_bench            the ratios
 //     files_bench --memory   the most memory that opening and saving take beyond the tables
 
+#include "bench/Ratio.h"
 #include "league/ClientFile.h"
 #include "league/LinesFile.h"
 #include "league/SlotFile.h"
@@ -12,11 +13,8 @@
 #include "support/ScriptedPlatform.h"
 #include "support/SmallLeague.h"
 
-#include <algorithm>
 #include <benchmark/benchmark.h>
-#include <chrono>
 #include <cstdio>
-#include <functional>
 #include <random>
 #include <string_view>
 #ifndef _WIN32
@@ -30,6 +28,7 @@
 namespace dravik {
 namespace {
 
+constexpr double Millisecond = 1e-3;
 constexpr std::string_view StartMagic = "DRVK Client Files Version 1.12 - Start";
 constexpr std::string_view EndMagic = "DRVK Client Files Version 1.12 - End";
 
@@ -168,41 +167,11 @@ void InflateAndThrowAway(const std::string& path)
         std::abort();
 }
 
-double Seconds(const std::function<void()>& work)
-{
-    const auto start = std::chrono::steady_clock::now();
-    work();
-    return std::chrono::duration<double>(std::chrono::steady_clock::now() - start).count();
-}
-
-double Median(std::vector<double> values)
-{
-    std::nth_element(values.begin(), values.begin() + static_cast<std::ptrdiff_t>(values.size() / 2), values.end());
-    return values[values.size() / 2];
-}
-
-// Runs both in turn, so that both meet the same weather.
-void Compare(benchmark::State& state, const std::function<void()>& ours, const std::function<void()>& bare)
-{
-    ours();
-    bare();
-    std::vector<double> oursTimes;
-    std::vector<double> bareTimes;
-    for ([[maybe_unused]] auto _ : state) {
-        oursTimes.push_back(Seconds(ours));
-        bareTimes.push_back(Seconds(bare));
-        state.SetIterationTime(oursTimes.back());
-    }
-    state.counters["ours_ms"] = Median(oursTimes) * 1000;
-    state.counters["bare_ms"] = Median(bareTimes) * 1000;
-    state.counters["ratio"] = Median(oursTimes) / Median(bareTimes);
-}
-
 void OpenAgainstInflateThrownAway(benchmark::State& state)
 {
     Bench& bench = TheBench();
     Compare(
-        state, [&] { bench.Open(); }, [&] { InflateAndThrowAway(bench.ClientPath); });
+        state, [&] { bench.Open(); }, [&] { InflateAndThrowAway(bench.ClientPath); }, Millisecond);
 }
 BENCHMARK(OpenAgainstInflateThrownAway)->Iterations(41)->UseManualTime()->Unit(benchmark::kMillisecond);
 
@@ -217,7 +186,8 @@ void OpenAgainstUncompress(benchmark::State& state)
             uLongf length = 59236503;
             uncompress(output.get(), &length, file.data() + 4, static_cast<uLong>(file.size() - 4));
             benchmark::DoNotOptimize(output.get());
-        });
+        },
+        Millisecond);
 }
 BENCHMARK(OpenAgainstUncompress)->Iterations(41)->UseManualTime()->Unit(benchmark::kMillisecond);
 
@@ -233,7 +203,8 @@ void SaveLinesAgainstCompress2(benchmark::State& state)
             auto length = static_cast<uLong>(output.size());
             compress2(output.data(), &length, slots.data(), static_cast<uLong>(slots.size()), 9);
             benchmark::DoNotOptimize(output.data());
-        });
+        },
+        Millisecond);
 }
 BENCHMARK(SaveLinesAgainstCompress2)->Iterations(15)->UseManualTime()->Unit(benchmark::kMillisecond);
 

@@ -1,0 +1,157 @@
+// What the judges, the money rules and the makers cost, each against one bare walk over the 11000 people of a full league
+// inside one run: the counter "ratio" is the time of ours divided by the time of the walk; both times are in microseconds.
+//
+//     judges_bench
+
+#include "bench/Ratio.h"
+#include "league/ClientVariable.h"
+#include "makers/Makers.h"
+#include "rules/Function.h"
+#include "support/SmallLeague.h"
+
+#include <cstdlib>
+
+namespace dravik {
+namespace {
+
+constexpr int Own = 5;
+constexpr int Skaters = 52;
+constexpr int Keepers = 6;
+
+void SetRules()
+{
+    League& league = LeagueData;
+    SetPlainWeights();
+    league.MaxProPlayers = 60;
+    league.FarmMaxOverall = 99;
+    league.MaxSalary = 10000000;
+    league.SalaryCapMode = 1;
+    league.SalaryCap = 500000000;
+    league.FarmSalaryPct = 10;
+    league.FarmEnabled = true;
+    league.FarmRosterRequired = true;
+    league.FarmPayrollInCap = true;
+    league.CoachPayrollInCap = true;
+    league.FarmSalaryCap = 500000000;
+    league.ProDressedSkaters = 18;
+    league.MaxDressedGoalies = 2;
+    league.RequiredCenters = 3;
+    league.RequiredLeftWings = 3;
+    league.RequiredRightWings = 3;
+    league.RequiredDefensemen = 6;
+}
+
+// Every slot of the tables is in use: the people of the team at hand, spread over the tables, and others in all the rest.
+// The pro roster, the farm's and all lines are complete.
+void FillLeague()
+{
+    ResetClientVariables();
+    MessagesAllowed = true;
+    MarkRosterChangesUntouched();
+    SetRules();
+    TeamMaker{Own};
+    for (int id = 1; id <= PlayerTable::last; ++id)
+        PutSkater(id, 6 + id % 30, 1 + id % 4, status::Pro, 40 + id % 50);
+    for (int id = 1; id <= GoalieTable::last; ++id)
+        PutGoalie(id, 6 + id % 30, status::Pro, 40 + id % 50);
+    // Eighteen of either side are enough of every position: 4, 4, 4 and 6.
+    const auto positionOf = [](int place) { return place % 18 < 12 ? 1 + place % 18 % 3 : position::Defense; };
+    for (int place = 0; place < Skaters; ++place) {
+        const int status = place < 18 ? status::Pro : place < 36 ? status::Farm : status::Scratch;
+        PutSkater(1 + place * 190, Own, positionOf(place), status, 60 + place % 30);
+    }
+    for (int place = 0; place < Keepers; ++place) {
+        const int status = place < 2 ? status::Pro : place < 4 ? status::Farm : status::Scratch;
+        PutGoalie(1 + place * 160, Own, status, 70 + place);
+    }
+    for (int day = 1; day <= 10; ++day) {
+        AutoLines(Own, false, day);
+        AutoLinesFarm(Own, false, day);
+    }
+    if (!CheckRoster(Own, false, true, false) || !CheckLine(Own, false, 1, false) ||
+        !CheckLineFarm(Own, false, 1, false))
+        std::abort();
+}
+
+// Looks at every record of both tables once, as whoever wants to know a team's people must.
+long long WalkTables()
+{
+    long long found = 0;
+    for (const Player& player : Players)
+        found += player.Team == Own && player.InUse ? 1 : 0;
+    for (const Goalie& keeper : Goalies)
+        found += keeper.Team == Own && keeper.InUse ? 1 : 0;
+    return found;
+}
+
+void UseFullLeague()
+{
+    static ScriptedPlatform machine;
+    static const bool filled = [] {
+        UseMachine(machine);
+        FillLeague();
+        return true;
+    }();
+    benchmark::DoNotOptimize(filled);
+    if (WalkTables() != Skaters + Keepers)
+        std::abort();
+}
+
+void AgainstAWalk(benchmark::State& state, void (*work)(), void (*prepare)())
+{
+    constexpr double microsecond = 1e-6;
+    UseFullLeague();
+    Compare(
+        state, work, [] { benchmark::DoNotOptimize(WalkTables()); }, microsecond, prepare);
+}
+
+// What must come true does so on this league; a wrong answer would be a cheap one.
+void Must(bool right)
+{
+    if (!right)
+        std::abort();
+}
+
+void Nothing() {}
+void EmptyDay() { WipesLines(Own, 1, true); }
+void RefillDay() { AutoLines(Own, false, 1); }
+void ScratchEverybody()
+{
+    for (int place = 0; place < Skaters; ++place)
+        Players[1 + place * 190].Status = status::Scratch;
+    for (int place = 0; place < Keepers; ++place)
+        Goalies[1 + place * 160].Status = status::Scratch;
+}
+
+#define AGAINST_A_WALK(name, prepare, work)                                                                            \
+    void name(benchmark::State& state)                                                                                 \
+    {                                                                                                                  \
+        AgainstAWalk(                                                                                                  \
+            state, [] { work; }, prepare);                                                                             \
+    }                                                                                                                  \
+    BENCHMARK(name)->Iterations(2001)->UseManualTime()->Unit(benchmark::kMicrosecond)
+
+AGAINST_A_WALK(JudgeRoster, Nothing, Must(CheckRoster(Own, true, false, false)));
+AGAINST_A_WALK(JudgeRosterAndCap, Nothing, Must(CheckRoster(Own, true, true, false)));
+AGAINST_A_WALK(JudgeCap, Nothing, Must(CheckSalaryCap(Own, false)));
+AGAINST_A_WALK(JudgeLines, RefillDay, Must(CheckLine(Own, false, 1, true)));
+AGAINST_A_WALK(JudgeEmptyLines, EmptyDay, Must(!CheckLine(Own, false, 1, true)));
+AGAINST_A_WALK(JudgeFarmLines, Nothing, Must(CheckLineFarm(Own, false, 1, true)));
+AGAINST_A_WALK(PayPro, Nothing, Must(ProPayroll(Own) > 0));
+AGAINST_A_WALK(PayFarm, Nothing, Must(FarmPayroll(Own) > 0));
+AGAINST_A_WALK(MakeLines, EmptyDay, AutoLines(Own, false, 1));
+AGAINST_A_WALK(MakeLinesPartly, EmptyDay, AutoLinesPartial(Own, false, 1));
+AGAINST_A_WALK(MakeFarmLines, Nothing, AutoLinesFarm(Own, false, 1));
+// These two come last: who is dressed afterwards is their own choice.
+AGAINST_A_WALK(MakeRoster, ScratchEverybody, AutoRoster(Own, false, false));
+AGAINST_A_WALK(MakeRosterPartly, ScratchEverybody, AutoRoster(Own, false, true));
+
+} // namespace
+} // namespace dravik
+
+int main(int argc, char** argv)
+{
+    benchmark::Initialize(&argc, argv);
+    benchmark::RunSpecifiedBenchmarks();
+    return 0;
+}

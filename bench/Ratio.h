@@ -1,0 +1,46 @@
+#pragma once
+
+#include <algorithm>
+#include <benchmark/benchmark.h>
+#include <chrono>
+#include <functional>
+#include <vector>
+
+namespace dravik {
+
+inline double Seconds(const std::function<void()>& work)
+{
+    const auto start = std::chrono::steady_clock::now();
+    work();
+    return std::chrono::duration<double>(std::chrono::steady_clock::now() - start).count();
+}
+
+inline double Median(std::vector<double> values)
+{
+    std::nth_element(values.begin(), values.begin() + static_cast<std::ptrdiff_t>(values.size() / 2), values.end());
+    return values[values.size() / 2];
+}
+
+// Runs both in turn, so that both meet the same weather, and counts the median of ours divided by that of the bare work.
+// `prepare` goes before each of ours, outside its time. The counters of the times are in units of `unit` seconds.
+inline void Compare(
+    benchmark::State& state, const std::function<void()>& ours, const std::function<void()>& bare, double unit,
+    const std::function<void()>& prepare = [] {})
+{
+    prepare();
+    ours();
+    bare();
+    std::vector<double> oursTimes;
+    std::vector<double> bareTimes;
+    for ([[maybe_unused]] auto _ : state) {
+        prepare();
+        oursTimes.push_back(Seconds(ours));
+        bareTimes.push_back(Seconds(bare));
+        state.SetIterationTime(oursTimes.back());
+    }
+    state.counters["ours"] = Median(oursTimes) / unit;
+    state.counters["bare"] = Median(bareTimes) / unit;
+    state.counters["ratio"] = Median(oursTimes) / Median(bareTimes);
+}
+
+} // namespace dravik
