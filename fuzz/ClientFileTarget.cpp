@@ -1,0 +1,57 @@
+// Opens a client file of any bytes: it ends in a league or in no league, and leaves nothing behind on the disk.
+
+#include "fuzz/MemoryPlatform.h"
+#include "fuzz/ReadFileTarget.h"
+#include "league/ClientFile.h"
+#include "league/ClientVariable.h"
+
+#include <cstring>
+
+namespace dravik::fuzz {
+
+namespace {
+
+class Window final : public MainWindow {
+public:
+    bool ShowsLeague = false;
+
+    void SetWindowCaption(const std::string& /*caption*/) override {}
+    void PlaceTeam() override { ShowsLeague = true; }
+    void CentreOnScreen() override {}
+    void ShowLeagueMenus() override {}
+    void SetDraftMenu(bool /*enabled*/, std::string_view /*caption*/) override {}
+    void SetFreeAgentsMenu(bool /*enabled*/) override {}
+    void SetDateLabel(const std::string& /*text*/) override {}
+};
+
+template <class Table>
+bool IsEmpty(const Table& table)
+{
+    const auto* bytes = reinterpret_cast<const unsigned char*>(&table);
+    return bytes[0] == 0 && std::memcmp(bytes, bytes + 1, sizeof table - 1) == 0;
+}
+
+bool NoLeague()
+{
+    return IsEmpty(Prospects) && IsEmpty(Players) && IsEmpty(Goalies) && IsEmpty(Teams) && IsEmpty(GameSchedule);
+}
+
+} // namespace
+
+void RunTarget(Input input)
+{
+    MemoryPlatform machine;
+    UseMachine(machine);
+    // The five tables are emptied by the opening itself.
+    LeagueData = {};
+    Coaches = {};
+    TempFile = InFolder("ClientTemp.dvt");
+    machine.SkipsWrapper = FilesArePlain();
+    machine.Files[InFolder("League.dvs")] = FileOf(input);
+    Window window;
+    OpenLeagueClient(InFolder("League.dvs"), window);
+    Require(machine.Files.size() == 1 && machine.Files.count(InFolder("League.dvs")) == 1);
+    Require(window.ShowsLeague || (machine.BoxCount == 1 && NoLeague()));
+}
+
+} // namespace dravik::fuzz

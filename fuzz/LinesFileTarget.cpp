@@ -1,0 +1,58 @@
+// Reads a lines file of any bytes over a small league: nobody gets a status that is none, a refused head changes nothing,
+// and nothing is left behind on the disk.
+
+#include "fuzz/MemoryPlatform.h"
+#include "fuzz/ReadFileTarget.h"
+#include "fuzz/TableLeague.h"
+#include "league/ClientVariable.h"
+#include "league/LinesFile.h"
+#include "league/Reporting.h"
+
+#include <cstring>
+
+namespace dravik::fuzz {
+
+namespace {
+
+template <class Table>
+bool StatusesAreKnown(const Table& people)
+{
+    for (const auto& person : people)
+        if (person.Status > status::Pro)
+            return false;
+    return true;
+}
+
+} // namespace
+
+void RunTarget(Input input)
+{
+    static MemoryPlatform machine;
+    static const bool made = [] {
+        UseMachine(machine);
+        MakeTableLeague();
+        return true;
+    }();
+    static const PlayerChangeTable changes = RosterChanges;
+    static const GoalieChangeTable goalieChanges = RosterChangesGoalie;
+    Require(made);
+    ResetTableLeague();
+    RosterChanges = changes;
+    RosterChangesGoalie = goalieChanges;
+    machine.BoxCount = 0;
+    machine.SkipsWrapper = FilesArePlain();
+    machine.Files = {{InFolder("Lines.dvl"), FileOf(input)}};
+    CurrentTeam = 1;
+    TempFile = InFolder("ClientTemp.dvt");
+    const Team before = Teams[1];
+
+    LinesFileRead result = LinesFileRead::Loaded;
+    const bool ended = Reporting(" in cmdLoadFile!", [&] { result = ReadLinesFile(InFolder("Lines.dvl")); });
+    Require(machine.Files.size() == 1 && machine.Files.count(InFolder("Lines.dvl")) == 1);
+    Require(ended && machine.BoxCount == (result == LinesFileRead::NotDecompressed ? 1 : 0));
+    Require(StatusesAreKnown(Players) && StatusesAreKnown(Goalies));
+    if (result == LinesFileRead::NotDecompressed)
+        Require(std::memcmp(&before, &Teams[1], sizeof before) == 0);
+}
+
+} // namespace dravik::fuzz

@@ -1,0 +1,80 @@
+#pragma once
+
+#include "league/Platform.h"
+
+#include <cstddef>
+#include <cstdint>
+#include <map>
+#include <memory>
+#include <string>
+#include <vector>
+
+namespace dravik::fuzz {
+
+// What a file of the machine holds.
+class Content {
+public:
+    Content() = default;
+    Content(const Content&) = delete;
+    Content& operator=(const Content&) = delete;
+    virtual ~Content() = default;
+
+    [[nodiscard]] virtual std::int64_t Length() const = 0;
+    // Copies `size` bytes from `at` on; all of them are within the length.
+    virtual void Copy(std::int64_t at, void* data, std::size_t size) const = 0;
+};
+
+// Bytes as they are.
+class PlainContent final : public Content {
+public:
+    explicit PlainContent(std::vector<std::uint8_t> all = {}) : bytes(std::move(all)) {}
+
+    void Append(const void* data, std::size_t size);
+
+    [[nodiscard]] std::int64_t Length() const override { return static_cast<std::int64_t>(bytes.size()); }
+    void Copy(std::int64_t at, void* data, std::size_t size) const override;
+
+private:
+    std::vector<std::uint8_t> bytes;
+};
+
+// A machine whose disk is memory. It shows nothing, remembers how often it should have, and answers every question with
+// the default.
+class MemoryPlatform final : public Platform {
+public:
+    std::map<std::string, std::shared_ptr<const Content>> Files;
+    bool SkipsWrapper = false; // the setting `SkipZIPClient`
+    long BoxCount = 0;
+    bool WaitShown = false;
+
+    int MessageBox(const std::string& text, int kind, const std::string& title) override;
+    std::string InputBox(const std::string& prompt, const std::string& title, const std::string& text) override;
+    std::string OpenFileDialog(const std::string& folder, const std::string& filter) override;
+    std::string GetSetting(const std::string& section, const std::string& key, const std::string& otherwise) override;
+    void SaveSetting(const std::string& section, const std::string& key, const std::string& value) override;
+    std::string ProgramFolder() override { return "folder"; }
+    std::string Version() override { return "1.0"; }
+    bool AnotherInstanceRuns() override { return false; }
+    void ShowWait() override { WaitShown = true; }
+    void CloseWait() override { WaitShown = false; }
+    int OpenLocation(const std::string& location, int showMode) override;
+    std::string Currency(double amount) override;
+    std::string CurrencyNoDecimals(double amount) override;
+    std::string Fixed(double value, int decimals) override;
+    std::string LongDate(double days) override;
+    std::string ShortTime(double days) override;
+    std::array<std::uint8_t, 16> Md5(std::string_view bytes) override;
+
+    std::unique_ptr<File> OpenFile(const std::string& path) override;
+    std::unique_ptr<File> CreateFile(const std::string& path) override;
+    std::int64_t FileLength(const std::string& path) override;
+    void RenameFile(const std::string& from, const std::string& to) override;
+    void DeleteFile(const std::string& path) override;
+    void CopyFile(const std::string& from, const std::string& to) override;
+    std::optional<std::string> FindEntry(const std::string& path) override;
+};
+
+// A path in the machine's folder.
+std::string InFolder(const std::string& name);
+
+} // namespace dravik::fuzz

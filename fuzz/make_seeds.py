@@ -1,0 +1,102 @@
+#!/usr/bin/env python3
+"""Writes the seeds of the fuzz targets: small valid files, and scripts that call every routine once.
+
+    make_seeds.py FOLDER     one folder for each target below FOLDER
+"""
+
+import struct
+import sys
+import zlib
+from pathlib import Path
+
+SLOT = 3470
+CLIENT_START = b"DRVK Client Files Version 1.12 - Start"
+CLIENT_END = b"DRVK Client Files Version 1.12 - End"
+LINES_START = b"DRVK Lineups Files Version 1.01 - Start"
+LINES_END = b"DRVK Lineups Files Version 1.01 - End"
+LEAGUE_CODE = b"FUZZ!"
+FILE_DATE = 501  # offset within the record of the league
+
+
+def magic(text):
+    return struct.pack("<H", len(text)) + text
+
+
+def pieces(*parts):
+    """Parts are (slot from 0, offset, bytes), in order."""
+    out, last = b"", 0
+    for slot, offset, content in parts:
+        out += struct.pack("<HHB", slot - last, offset, len(content)) + content
+        last = slot
+    return out
+
+
+def slots(*parts):
+    """The same parts as the bytes of the slot file itself."""
+    out = bytearray()
+    for slot, offset, content in parts:
+        at = slot * SLOT + offset
+        out.extend(bytes(at - len(out)))
+        out += content
+    return bytes(out)
+
+
+def wrapper(content, level=9):
+    return struct.pack("<i", len(content)) + zlib.compress(content, level)
+
+
+def client(end=16902):
+    date = struct.pack("<d", 45000.5)
+    player = struct.pack("<hh", -1, 1) + b"Ward Tilton".ljust(40)
+    return [(0, 0, magic(CLIENT_START)), (1, FILE_DATE, date), (2, 0, b"A Prospect".ljust(40)),
+            (302, 0, struct.pack("<hh", -1, 1) + b"Team".ljust(40)), (402, 0, player), (end, 0, magic(CLIENT_END))]
+
+
+def lines(end=11004):
+    team = struct.pack("<hh", -1, 1) + b"New York".ljust(40)
+    change = struct.pack("<Bhh", 1, -1, 0)
+    return [(0, 0, magic(LINES_START)), (1, 0, LEAGUE_CODE), (2, 0, struct.pack("<h", 1)), (3, 0, team),
+            (4, 0, change), (5, 0, change), (10004, 0, change), (end, 0, magic(LINES_END))]
+
+
+def head(parts, count):
+    return parts[:count]
+
+
+def seeds():
+    yield "client_plain", "whole", pieces(*client())
+    yield "client_plain", "head", pieces(*head(client(), 4))
+    yield "client_plain", "wrong_end", pieces(*client(16901))
+    yield "lines_plain", "whole", pieces(*lines())
+    yield "lines_plain", "head", pieces(*head(lines(), 5))
+    yield "lines_plain", "wrong_end", pieces(*lines(11003))
+    yield "client_wrapped", "head", wrapper(slots(*head(client(), 3)))
+    yield "client_wrapped", "stored", wrapper(slots(*head(client(), 1)), 0)
+    yield "lines_wrapped", "head", wrapper(slots(*head(lines(), 6)))
+    yield "lines_wrapped", "stored", wrapper(slots(*head(lines(), 3)), 0)
+    text = b"Lines of ten days, one after the other, one after the other. " * 4
+    yield "wrapper", "out", bytes([40]) + wrapper(text)
+    yield "wrapper", "out_stored", bytes([2]) + wrapper(text, 0)
+    yield "wrapper", "in", bytes([41]) + text
+    yield "wrapper", "in_zeros", bytes([255]) + bytes(300)
+    for target, count in (("judges", 14), ("makers", 6)):
+        for routine in range(count):
+            # Everything that the flags choose, on day 1; first on the league as it is, then with a hurt skater.
+            call = bytes([64 + routine, 0, 0, 7, 1, 0])
+            hurt = bytes([3, 1, 1]) + struct.pack("<HB", 112, 1) + bytes([50])
+            yield target, f"routine_{routine:02}", call + hurt + call
+    for target in ("judges", "makers"):
+        yield target, "clones", bytes([1, 1, 40, 2, 3, 10, 64, 0, 0, 0, 0, 0, 66, 0, 0, 0, 0, 0])
+    yield "makers", "crowd", bytes([5, 25, 64, 0, 0, 0, 0, 0, 67, 0, 0, 0, 0, 0])
+
+
+def main():
+    if len(sys.argv) != 2:
+        sys.exit(__doc__)
+    for target, name, content in seeds():
+        folder = Path(sys.argv[1]) / target
+        folder.mkdir(parents=True, exist_ok=True)
+        (folder / name).write_bytes(content)
+
+
+main()
