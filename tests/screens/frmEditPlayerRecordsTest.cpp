@@ -1,3 +1,4 @@
+#include "AnswerDialog.h"
 #include "OnViewer.h"
 
 namespace dravik {
@@ -40,6 +41,23 @@ TEST_F(ViewerRecords, SearchSelectsTheFirstEntryThatHoldsTheAnswerInAnyCase)
     viewer.cmdSearch_Click();
     EXPECT_EQ(viewer.lstPlayer->currentRow(), 0);
     EXPECT_THAT(Machine.Boxes(), IsEmpty());
+}
+
+TEST_F(ViewerRecords, SearchThroughTheRealDialogs)
+{
+    frmEditPlayer& viewer = Edit(0);
+    OnDesktop([&] {
+        OnDialog<QDialog>([](QDialog& question) {
+            EXPECT_EQ(question.windowTitle(), "Player Search");
+            auto* answer = question.findChild<QLineEdit*>();
+            ASSERT_NE(answer, nullptr);
+            QTest::keyClicks(answer, "vos");
+            dravik::Press(question, Qt::Key_Return);
+        });
+        viewer.cmdSearch_Click();
+    });
+    EXPECT_EQ(Of(viewer.txtName), "Piet Vos");
+    EXPECT_EQ(viewer.lstPlayer->currentRow(), 1);
 }
 
 TEST_F(ViewerRecords, SearchTellsWhenNobodyIsFound)

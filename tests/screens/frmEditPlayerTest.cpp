@@ -1,3 +1,4 @@
+#include "AnswerDialog.h"
 #include "OnViewer.h"
 #include "screens/platform/Palettes.h"
 
@@ -117,6 +118,24 @@ TEST_F(PlayerViewer, OpeningOnAnyPlayerRepairsEverySkaterWithoutPosition)
     Machine.TakeBoxes();
     Show(7);
     EXPECT_THAT(Machine.Boxes(), IsEmpty());
+}
+
+TEST_F(PlayerViewer, OpensBehindTheRealBoxOfARepair)
+{
+    Tilton().Position = 0;
+    MainWithLeague();
+    SelectedPlayer = 7;
+    OnDesktop([this] {
+        OnDialog<QDialog>([this](QDialog& box) {
+            EXPECT_FALSE(Viewer().isVisible());
+            EXPECT_EQ(Tilton().Position, 0);
+            dravik::Click(box, "cmdOk");
+        });
+        TheStage.Open("EditPlayer", Main());
+    });
+    EXPECT_TRUE(Viewer().isVisible());
+    EXPECT_EQ(Tilton().Position, 1);
+    EXPECT_EQ(Entry(Viewer(), 0), "Ward Tilton (C)");
 }
 
 TEST_F(PlayerViewer, ARepairedSkaterIsListedAsACentre)
