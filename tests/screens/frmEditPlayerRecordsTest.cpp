@@ -213,7 +213,7 @@ TEST_F(ViewerRecords, TheBoxOfASaveComesBehindTheModeAndBeforeModifiedAndTheCapt
     }
 }
 
-TEST_F(ViewerRecords, TheNewEntryIsChosenWhileTheModeLasts)
+TEST_F(ViewerRecords, ANewRecordIsShownFromItsEntry)
 {
     frmEditPlayer& viewer = Edit(7);
     viewer.cmdNewPlayer_Click();
