@@ -1,0 +1,38 @@
+#include "league/DraftFile.h"
+
+#include "league/ClientVariable.h"
+#include "league/OutsideCode.h"
+#include "league/SlotFile.h"
+
+namespace dravik {
+
+namespace {
+
+constexpr std::string_view StartMagic = "DRVKFDFV1S";
+constexpr std::string_view EndMagic = "DRVKFDFV1E";
+constexpr std::size_t DraftSlot = MagicLength(StartMagic); // the longest record fills its slot
+constexpr std::int64_t RecordCount = 3 + (DraftRanking::last + 1) + 1;
+constexpr std::int64_t FileLength = SlotFileLength(RecordCount, MagicLength(EndMagic), DraftSlot);
+
+static_assert(DraftSlot == 12 && RecordCount == 1005 && FileLength == 12060);
+
+} // namespace
+
+std::string DraftFilePath(int team) { return TeamFilePath(Teams[team].Name.Trimmed(), ".dvd"); }
+
+bool WriteDraftFile(int team, const DraftRanking& ranking, const std::string& target)
+{
+    DeleteIfExists(TempFile);
+    DeleteIfExists(target);
+    const auto write = [&](SlotWriter& slots) {
+        slots.WriteMagic(StartMagic);
+        slots.Write(LeagueData.LeagueCode);
+        slots.Write(Int16(team));
+        for (const Int16& id : ranking)
+            slots.Write(id);
+        slots.WriteMagic(EndMagic);
+    };
+    return WriteSlotFile(target, FileLength, write, DraftSlot);
+}
+
+} // namespace dravik

@@ -1,0 +1,22 @@
+#pragma once
+
+#include "league/Field.h"
+
+#include <string>
+
+namespace dravik {
+
+// The ranking of a draft, best first: ids of skaters, of goalies (+ 10000) and of prospects (+ 20000), without gaps; 0
+// behind the last.
+using DraftRanking = Row<Int16, 0, 1000>;
+
+// Where the draft file of `team` (1..100) is saved: the program's folder, the team's name without spaces, ".dvd". Fails
+// with 75 when the name holds a character that no file name may hold.
+std::string DraftFilePath(int team);
+
+// Writes `ranking` as the draft file of `team` to `target`, plain or compressed as the settings say. A work file left
+// behind and what stood at `target` are deleted before; the new file appears when it is whole. False after a failed
+// compression, which is told; any other failure is thrown.
+bool WriteDraftFile(int team, const DraftRanking& ranking, const std::string& target);
+
+} // namespace dravik
