@@ -6,6 +6,7 @@
 #include "league/Platform.h"
 #include "screens/frmAbout.h"
 #include "screens/frmCoach.h"
+#include "screens/frmDraft.h"
 #include "screens/frmEditPlayer.h"
 #include "screens/frmFarmLine.h"
 #include "screens/frmLine.h"
@@ -51,7 +52,7 @@ constexpr Role Roles[] = {
     {"Line",       Behind::Caller, true,  Make<frmLine>},
     {"FarmLine",   Behind::Caller, true,  Make<frmFarmLine>},
     {"FreeAgent",  Behind::Main,   true,  nullptr},
-    {"Draft",      Behind::Main,   true,  nullptr},
+    {"Draft",      Behind::Main,   true,  Make<frmDraft>},
     {"Ticket",     Behind::Team,   true,  Make<frmTicket>},
     {"EditPlayer", Behind::Viewer, true,  Make<frmEditPlayer>},
     {"About",      Behind::Main,   false, Make<frmAbout>},

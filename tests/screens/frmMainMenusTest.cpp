@@ -112,17 +112,30 @@ TEST_F(MainMenus, SetLinesCountsTheSalaryCap)
         ElementsAre(Box{48, "Roster is not Complete!\r\nYou cannot make your lines if your roster is not done!"}));
 }
 
-TEST_F(MainMenus, OffersAndTheDraftListLeaveTheCallerAlone)
+TEST_F(MainMenus, OffersLeaveTheCallerAlone)
 {
     PutTeam(1, 1);
     MainWithLeague();
     CurrentTeam = 1;
     CallerScreen = "Team";
     Main().mnuFreeAgents->trigger();
-    Main().mnuDraft->trigger();
-    EXPECT_THAT(Machine.Boxes(), ElementsAre(Box{64, "Not available yet."}, Box{64, "Not available yet."}));
+    EXPECT_THAT(Machine.Boxes(), ElementsAre(Box{64, "Not available yet."}));
     EXPECT_EQ(CallerScreen, "Team");
     EXPECT_TRUE(Main().isVisible());
+}
+
+TEST_F(MainMenus, TheDraftListOpensAndLeavesTheCallerAlone)
+{
+    PutTeam(1, 1);
+    MainWithLeague();
+    CurrentTeam = 1;
+    CallerScreen = "Team";
+    Main().mnuDraft->trigger();
+    EXPECT_THAT(Machine.Boxes(), IsEmpty());
+    ASSERT_NE(TheStage.Find("Draft"), nullptr);
+    EXPECT_TRUE(TheStage.Find("Draft")->isVisible());
+    EXPECT_EQ(CallerScreen, "Team");
+    EXPECT_FALSE(Main().isVisible());
 }
 
 TEST_F(MainMenus, AboutAndTheExportNeedNoTeam)

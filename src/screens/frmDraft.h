@@ -1,0 +1,64 @@
+#pragma once
+
+#include "league/DraftFile.h"
+#include "screens/panels/RankList.h"
+#include "screens/Screen.h"
+
+#include <QCheckBox>
+#include <QLabel>
+#include <string>
+
+namespace dravik {
+
+// Ranks who is to be drafted, and saves the ranking to the draft file: everybody without a team in a fantasy draft, the
+// prospects of the league in an entry draft. The ranking lives in the screen alone and starts empty.
+class frmDraft : public Screen {
+public:
+    explicit frmDraft(Stage& stage);
+
+    // Lists who can be drafted. A CurrentTeam out of range is told and leaves the screen empty.
+    void FormLoad() override;
+
+    // Lists who can be drafted anew.
+    void ShowPlayer();
+    // Lists the ranking anew. Nobody is chosen in it afterwards.
+    void PlaceOffer();
+
+    void lstPlayers_DblClick();
+    void lstDraftList_DblClick();
+    // An entry of the ranking was dragged to another row: it moves there one rank at a time.
+    void lstDraftList_Dropped(int from, int to);
+    void chkPosition_Click(int position);
+    void cmdChoose_Click();
+    void cmdRemove_Click();
+    void cmdUp_Click();
+    void cmdDown_Click();
+    void cmdSearch_Click();
+    void cmdSaveToFile_Click();
+    void cmdExit_Click();
+
+    std::string DraftType; // "Fantasy Draft" or "Entry Draft"; empty when there is no draft
+    DraftRanking DraftList;
+
+    EntryList* lstPlayers;
+    RankList* lstDraftList;
+    QLabel *lblTotal, *lblTeam;
+    Row<QCheckBox*, 1, 5> chkPosition;
+    QPushButton *cmdChoose, *cmdRemove, *cmdUp, *cmdDown, *cmdSearch, *cmdSaveToFile, *cmdExit;
+
+private:
+    void MakeControls();
+    QWidget* MakeListColumn(QLabel* heading, EntryList* list);
+    QWidget* MakeCommandColumn(std::initializer_list<QPushButton*> commands);
+    void SetTabOrder();
+
+    void ListFreeAgents();
+    void ListProspects();
+    // Moves the chosen entry by one rank, -1 or 1.
+    void MoveChosen(int step, QPushButton* command);
+    // Exchanges an entry with its neighbour, unless nobody stands there. True when it did.
+    bool SwapWithNeighbour(int rank, int step);
+    void OpenViewer(int id);
+};
+
+} // namespace dravik
