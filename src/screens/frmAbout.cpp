@@ -8,6 +8,7 @@
 #include "screens/panels/Shades.h"
 #include "screens/platform/CodePage.h"
 
+#include <QGridLayout>
 #include <QShortcut>
 #include <QVBoxLayout>
 
@@ -15,16 +16,16 @@ namespace dravik {
 
 frmAbout::frmAbout(Stage& stage) : Screen(stage, "frmAbout")
 {
-    auto* content = new QWidget(this);
-    QLabel* title = MakeTitle(content);
+    auto* sheet = new QWidget(this);
+    QLabel* title = MakeTitle(sheet);
     title->setObjectName("lblTitle");
     title->setText(ToQString(ProgramTitle));
-    lblVersion = new MutedLabel(content);
+    lblVersion = new MutedLabel(sheet);
     lblVersion->setObjectName("lblVersion");
-    lblThank = new QLabel(content);
+    lblThank = new QLabel(sheet);
     lblThank->setObjectName("lblThank");
     lblThank->setTextFormat(Qt::PlainText);
-    lblWebSite = new LinkLabel(WebSite, content);
+    lblWebSite = new LinkLabel(WebSite, sheet);
     lblWebSite->setObjectName("lblWebSite");
     lblWebSite->setAccessibleDescription("Opens the web site");
     connect(lblWebSite, &LinkLabel::Clicked, this, [this] { RunEvent("lblWebSite", [this] { lblWebSite_Click(); }); });
@@ -32,7 +33,7 @@ frmAbout::frmAbout(Stage& stage) : Screen(stage, "frmAbout")
     cmdExit->setDefault(true);
     connect(new QShortcut(Qt::Key_Escape, this), &QShortcut::activated, cmdExit, &QPushButton::click);
 
-    auto* column = new QVBoxLayout(content);
+    auto* column = new QVBoxLayout(sheet);
     column->setContentsMargins(2 * Margin, 2 * Margin, 2 * Margin, Margin);
     column->setSpacing(Gap);
     column->addWidget(title);
@@ -41,8 +42,11 @@ frmAbout::frmAbout(Stage& stage) : Screen(stage, "frmAbout")
     column->addWidget(lblThank);
     column->addWidget(lblWebSite, 0, Qt::AlignLeft);
     column->addSpacing(Margin);
-    column->addStretch(1);
     column->addWidget(cmdExit, 0, Qt::AlignRight);
+    auto* content = new QWidget(this);
+    auto* middle = new QGridLayout(content);
+    middle->setContentsMargins(0, 0, 0, 0);
+    middle->addWidget(sheet, 0, 0, Qt::AlignCenter);
     setCentralWidget(content);
     setTabOrder(cmdExit, lblWebSite);
 }

@@ -12,13 +12,15 @@
 
 #include <QGridLayout>
 #include <QGroupBox>
+#include <QHBoxLayout>
 #include <QVBoxLayout>
 
 namespace dravik {
 
 namespace {
 
-constexpr QSize DefaultSize(560, 400);
+constexpr QSize DefaultSize(560, 360);
+constexpr int DigitIndent = 4; // of the digits in a box
 constexpr const char* LevelCaption[] = {"Level 1 :", "Level 2 :", "Level 3 :", "Level 4 :", "Luxury Box :"};
 
 Team& OwnTeam() { return Teams[CurrentTeam]; }
@@ -54,6 +56,7 @@ frmTicket::frmTicket(Stage& stage) : Screen(stage, "frmTicket")
     lblArenaCapacityTotal = new QLabel(this);
     lblArenaCapacityTotal->setObjectName("lblArenaCapacityTotal");
     lblArenaCapacityTotal->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+    lblArenaCapacityTotal->setContentsMargins(0, 0, DigitIndent, 0);
     lblArenaCapacityTotal->setTextInteractionFlags(Qt::TextSelectableByMouse);
     cmdExit = MakeCommand("cmdExit", "E&xit", [this] { cmdExit_Click(); });
 
@@ -63,14 +66,22 @@ frmTicket::frmTicket(Stage& stage) : Screen(stage, "frmTicket")
             box->ReadAsLabelWhenClosed();
         }
 
-    auto* content = new QWidget(this);
-    auto* column = new QVBoxLayout(content);
+    // On a large window the sheet stays a sheet.
+    auto* sheet = new QWidget(this);
+    sheet->setMaximumWidth(DefaultSize.width());
+    auto* column = new QVBoxLayout(sheet);
     column->setContentsMargins(Margin, Margin, Margin, Margin);
     column->setSpacing(Margin);
     column->addWidget(lblTitle);
     column->addWidget(MakeArenaGroup());
-    column->addStretch(1);
     column->addWidget(cmdExit, 0, Qt::AlignRight);
+    column->addStretch(1);
+    auto* content = new QWidget(this);
+    auto* middle = new QHBoxLayout(content);
+    middle->setContentsMargins(0, 0, 0, 0);
+    middle->addStretch(1);
+    middle->addWidget(sheet, DefaultSize.width());
+    middle->addStretch(1);
     setCentralWidget(content);
     SetTabOrder();
     resize(DefaultSize.expandedTo(content->minimumSizeHint()));
@@ -91,6 +102,8 @@ QWidget* frmTicket::MakeArenaGroup()
     const auto caption = [&](const QString& text, int row, int column, Qt::Alignment alignment = {}) {
         auto* label = new MutedLabel(text, group);
         label->setTextFormat(Qt::PlainText);
+        if (column != captions)
+            label->setContentsMargins(0, 0, DigitIndent, 0);
         grid->addWidget(label, row, column, alignment);
     };
 
