@@ -1,15 +1,19 @@
 #include "Answers.h"
 #include "Camera.h"
 #include "league/ClientVariable.h"
+#include "league/DraftFile.h"
 #include "league/LinesFile.h"
 #include "league/OutsideCode.h"
 #include "rules/Function.h"
+#include "screens/frmAbout.h"
+#include "screens/frmDraft.h"
 #include "screens/frmEditPlayer.h"
 #include "screens/frmFarmLine.h"
 #include "screens/frmLine.h"
 #include "screens/frmMain.h"
 #include "screens/frmRoster.h"
 #include "screens/frmTeam.h"
+#include "screens/frmTicket.h"
 #include "screens/platform/Application.h"
 #include "screens/platform/CodePage.h"
 #include "screens/platform/Palettes.h"
@@ -28,8 +32,8 @@
 #include <stdexcept>
 
 // Spends a typical evening with the program, on its real screens and dialogs but without a display: opens a league, proves
-// a team's password, makes its roster and lines, saves the lines file and takes it back. It leaves a picture of every
-// screen that it visits.
+// a team's password, makes its roster and lines, saves the lines file and takes it back, sets a price, ranks a draft and
+// exports the ratings. It leaves a picture of every screen that it visits.
 namespace dravik::tour {
 
 namespace {
@@ -60,7 +64,12 @@ public:
         Photograph("Team", "team");
         SaveLines();
         LoadLines();
+        ShowTickets();
         LeaveOffice();
+        RankDraft();
+        ExportTheRatings();
+        ShowAbout();
+        ShowEmptyScreens();
     }
 
 private:
@@ -261,6 +270,100 @@ private:
                     Teams[plan.Team].ProLines[1].StartGoalie == day1.StartGoalie,
                 "the lines are back");
         Require(Team().cmdSaveToFile->isEnabled(), "the lines are complete again");
+    }
+
+    // Raises the price of the first seats by one.
+    void ShowTickets()
+    {
+        Team().cmdTicketArena->click();
+        QApplication::processEvents();
+        auto* tickets = static_cast<frmTicket*>(stage.Find("Ticket"));
+        Require(tickets != nullptr && tickets->isVisible(), "the ticket screen opens");
+        Int16& price = Teams[plan.Team].TicketPrice[1];
+        const long long wanted = price + 1;
+        tickets->txtTicket[1]->setFocus();
+        tickets->txtTicket[1]->setText(QString::number(wanted));
+        tickets->cmdExit->setFocus();
+        Require(price == wanted, "the price is stored");
+        Photograph("Ticket", "tickets");
+        Leave("Ticket", Team(), tickets->cmdExit);
+    }
+
+    // Ranks four free agents, moves the third to the top, shows him and saves the list. The league is taken for one that is
+    // about to draft.
+    void RankDraft()
+    {
+        LeagueData.FantasyDraft = true;
+        stage.Open("Draft", Main());
+        auto& draft = *static_cast<frmDraft*>(stage.Find("Draft"));
+        Require(draft.isVisible(), "the draft screen opens");
+        Photograph("Draft", "draft-first");
+        constexpr int wanted = 4;
+        Require(draft.lstPlayers->count() >= wanted, "there are players without a team");
+        for (int row = 0; row < wanted; ++row) {
+            draft.lstPlayers->setCurrentRow(row * (draft.lstPlayers->count() / wanted));
+            draft.cmdChoose->click();
+        }
+        draft.lstDraftList->setCurrentRow(2);
+        const QString favourite = draft.lstDraftList->currentItem()->text();
+        draft.cmdUp->click();
+        draft.cmdUp->click();
+        Require(draft.lstDraftList->item(0)->text() == favourite, "the third moves to the top");
+        NoComplaints("the draft list is made");
+        Photograph("Draft", "draft");
+        draft.lstDraftList_DblClick();
+        auto* viewer = static_cast<frmEditPlayer*>(stage.Find("EditPlayer"));
+        Require(viewer != nullptr && viewer->isVisible() && !draft.isVisible(), "the player viewer opens");
+        Leave("EditPlayer", draft, viewer->cmdExit);
+        const QString target = PathToDesktop(DraftFilePath(plan.Team));
+        ExpectPassword();
+        answers.Confirm("Fantasy Draft File save for " + TeamName() + " succesfully at\n" + target);
+        draft.cmdSaveToFile->click();
+        NoComplaints("the draft file is saved");
+        Require(QFileInfo(target).size() > 0, "the draft file lies on disk");
+        std::cout << "saved " << target.toStdString() << '\n';
+        Leave("Draft", Main(), draft.cmdExit);
+    }
+
+    void ExportTheRatings()
+    {
+        answers.Confirm("Are you sure you want to output a Rating CSV file of your league?");
+        answers.Confirm("Output done in " + plan.Out);
+        Main().mnuOutputRatingCSV->trigger();
+        NoComplaints("the ratings are exported");
+        for (const char* name : {"/PlayersRatings.csv", "/CoachesRatings.csv"})
+            Require(QFileInfo(plan.Out + name).size() > 0, "the ratings lie on disk");
+    }
+
+    void ShowAbout()
+    {
+        Main().mnuAbout->trigger();
+        auto* about = static_cast<frmAbout*>(stage.Find("About"));
+        Require(about != nullptr && about->isVisible() && Main().isVisible(),
+                "the about screen opens beside the main one");
+        Photograph("About", "about");
+        Leave("About", Main(), about->cmdExit);
+    }
+
+    // The screens whose commands are hidden.
+    void ShowEmptyScreens()
+    {
+        for (const char* name : {"Coach", "Prospect"}) {
+            stage.Open(name, Main());
+            Require(stage.Find(name) != nullptr && stage.Find(name)->isVisible(), "an empty screen opens");
+            Photograph(name, QString(name).toLower());
+            stage.Find(name)->close();
+            QApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+            Require(Main().isVisible(), "the main screen comes back");
+        }
+    }
+
+    // Leaves a screen, which brings `behind` back.
+    void Leave(const char* name, const Screen& behind, QPushButton* exit)
+    {
+        exit->click();
+        QApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+        Require(stage.Find(name) == nullptr && behind.isVisible(), QString("the way back from ") + name);
     }
 
     void Photograph(std::string_view screen, const QString& name)
