@@ -60,22 +60,4 @@ void ProjectSeason(int team, SeasonFigures& season)
     season.Revenue = revenue;
 }
 
-SeasonProjection ProjectSeason(int team)
-{
-    SeasonFigures season;
-    ProjectSeason(team, season);
-    return {.Form = season.Form,
-            .Cash = season.Cash.value(),
-            .ProPayroll = season.ProPayroll.value(),
-            .FarmPayroll = season.FarmPayroll.value(),
-            .HomeGamesLeft = season.HomeGamesLeft.value(),
-            .GamesLeft = season.GamesLeft.value(),
-            .ExpensePerGame = season.ExpensePerGame.value(),
-            .SeasonExpense = season.SeasonExpense.value(),
-            .AverageAttendance = season.AverageAttendance.value(),
-            .AverageIncome = season.AverageIncome.value(),
-            .Revenue = season.Revenue.value(),
-            .BankAccount = season.BankAccount.value()};
-}
-
 } // namespace dravik

@@ -33,23 +33,4 @@ struct SeasonFigures {
 // does not fit 32 bits; `season` then holds what was reached. Shows nothing of its own.
 void ProjectSeason(int team, SeasonFigures& season);
 
-// The same figures of a season that was reached to its end.
-struct SeasonProjection {
-    SeasonForm Form = SeasonForm::NoSeason;
-    int Cash = 0;
-    int ProPayroll = 0;
-    int FarmPayroll = 0;
-    double HomeGamesLeft = 0;
-    int GamesLeft = 0;
-    int ExpensePerGame = 0;
-    int SeasonExpense = 0;
-    double AverageAttendance = 0;
-    double AverageIncome = 0;
-    int Revenue = 0;
-    int BankAccount = 0;
-};
-
-// The whole season of `team`, or the failure that ended it.
-SeasonProjection ProjectSeason(int team);
-
 } // namespace dravik

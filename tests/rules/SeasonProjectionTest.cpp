@@ -28,10 +28,18 @@ protected:
         team.TotalAttendance = 450015;
     }
 
-    static int NumberThrown()
+    // The season of a team that comes to its end.
+    static SeasonFigures SeasonOf(int number)
+    {
+        SeasonFigures season;
+        ProjectSeason(number, season);
+        return season;
+    }
+
+    static int NumberThrown(int number = 5)
     {
         try {
-            (void)ProjectSeason(5);
+            SeasonOf(number);
         } catch (const Failure& failed) {
             return failed.Number;
         }
@@ -74,7 +82,7 @@ int CountReached(const SeasonFigures& season)
 
 TEST_F(SeasonProjectionTest, FullSeasonIsProjected)
 {
-    const SeasonProjection season = ProjectSeason(5);
+    const SeasonFigures season = SeasonOf(5);
     EXPECT_EQ(season.Form, SeasonForm::Full);
     EXPECT_EQ(season.Cash, 5000000);
     EXPECT_EQ(season.ProPayroll, 8200000);
@@ -92,7 +100,7 @@ TEST_F(SeasonProjectionTest, FullSeasonIsProjected)
 TEST_F(SeasonProjectionTest, SeasonOf1GameShowsZerosAndOneOf2ShowsFigures)
 {
     team.SeasonGames = 1;
-    SeasonProjection season = ProjectSeason(5);
+    SeasonFigures season = SeasonOf(5);
     EXPECT_EQ(season.Form, SeasonForm::NoSeason);
     EXPECT_EQ(season.Cash, 5000000);
     EXPECT_EQ(season.ProPayroll, 8200000);
@@ -107,7 +115,7 @@ TEST_F(SeasonProjectionTest, SeasonOf1GameShowsZerosAndOneOf2ShowsFigures)
     EXPECT_EQ(season.BankAccount, 5000000);
 
     team.SeasonGames = 2;
-    season = ProjectSeason(5);
+    season = SeasonOf(5);
     EXPECT_EQ(season.Form, SeasonForm::Full);
     EXPECT_EQ(season.HomeGamesLeft, -29);
     EXPECT_EQ(season.GamesLeft, -58);
@@ -122,7 +130,7 @@ TEST_F(SeasonProjectionTest, WithoutAHomeGameTheAveragesAre0AndNothingIsDivided)
 {
     for (const int homeGames : {0, -3}) {
         team.HomeGames = homeGames;
-        const SeasonProjection season = ProjectSeason(5);
+        const SeasonFigures season = SeasonOf(5);
         EXPECT_EQ(season.Form, SeasonForm::NoAverages);
         EXPECT_EQ(season.ProPayroll, 8200000);
         EXPECT_EQ(season.HomeGamesLeft, 41 - homeGames);
@@ -139,7 +147,7 @@ TEST_F(SeasonProjectionTest, WithoutAHomeGameTheAveragesAre0AndNothingIsDivided)
 TEST_F(SeasonProjectionTest, HiddenAveragesHideTheExpensesToo)
 {
     LeagueData.HideFinanceAverages = true;
-    const SeasonProjection season = ProjectSeason(5);
+    const SeasonFigures season = SeasonOf(5);
     EXPECT_EQ(season.Form, SeasonForm::NoAverages);
     EXPECT_EQ(season.HomeGamesLeft, 11);
     EXPECT_EQ(season.GamesLeft, 22);
@@ -152,13 +160,13 @@ TEST_F(SeasonProjectionTest, OddSeasonLeavesAHalfHomeGame)
 {
     team.SeasonGames = 81;
     team.HomeGames = 40;
-    EXPECT_EQ(ProjectSeason(5).HomeGamesLeft, 0.5);
+    EXPECT_EQ(SeasonOf(5).HomeGamesLeft, 0.5);
 }
 
 TEST_F(SeasonProjectionTest, WithExpenseFlagTheAccountIsCashAndRevenue)
 {
     LeagueData.ExpenseFlag = true;
-    const SeasonProjection season = ProjectSeason(5);
+    const SeasonFigures season = SeasonOf(5);
     EXPECT_EQ(season.ExpensePerGame, 0);
     EXPECT_EQ(season.SeasonExpense, 0);
     EXPECT_EQ(season.BankAccount, 8300000);
@@ -169,20 +177,20 @@ TEST_F(SeasonProjectionTest, RevenueIsRoundedOnceToTheEvenNumber)
     team.SeasonGames = 81;
     team.HomeGames = 40;
     team.TotalIncome = 200; // half a game of 5
-    EXPECT_EQ(ProjectSeason(5).Revenue, 2);
+    EXPECT_EQ(SeasonOf(5).Revenue, 2);
     team.TotalIncome = 280; // half a game of 7
-    EXPECT_EQ(ProjectSeason(5).Revenue, 4);
+    EXPECT_EQ(SeasonOf(5).Revenue, 4);
     team.TotalIncome = 100; // half a game of 2.5, no average is rounded on the way
-    EXPECT_EQ(ProjectSeason(5).Revenue, 1);
-    EXPECT_EQ(ProjectSeason(5).AverageIncome, 2.5);
+    EXPECT_EQ(SeasonOf(5).Revenue, 1);
+    EXPECT_EQ(SeasonOf(5).AverageIncome, 2.5);
 }
 
 TEST_F(SeasonProjectionTest, PayrollsAreRoundedToTheEvenNumber)
 {
     Players[2].Salary = 25; // a tenth of it on the farm
-    EXPECT_EQ(ProjectSeason(5).FarmPayroll, 2);
+    EXPECT_EQ(SeasonOf(5).FarmPayroll, 2);
     Players[2].Salary = 35;
-    EXPECT_EQ(ProjectSeason(5).FarmPayroll, 4);
+    EXPECT_EQ(SeasonOf(5).FarmPayroll, 4);
 }
 
 TEST_F(SeasonProjectionTest, PayrollBeyond32BitsIsAnOverflow)
@@ -218,20 +226,13 @@ TEST_F(SeasonProjectionTest, AccountBeyond32BitsIsAnOverflowOnTheWay)
     team.Cash = 2147483647;
     EXPECT_EQ(NumberThrown(), failure::Overflow); // Cash + Revenue, although the expense would bring it back
     team.Cash = 2147483647 - 3300000;
-    EXPECT_EQ(ProjectSeason(5).BankAccount, 2147483647 - 2244000);
+    EXPECT_EQ(SeasonOf(5).BankAccount, 2147483647 - 2244000);
 }
 
 TEST_F(SeasonProjectionTest, TeamOutOfRangeFailsWithNumber9)
 {
-    for (const int number : {0, 101}) {
-        int thrown = 0;
-        try {
-            (void)ProjectSeason(number);
-        } catch (const Failure& failed) {
-            thrown = failed.Number;
-        }
-        EXPECT_EQ(thrown, failure::OutOfRange);
-    }
+    for (const int number : {0, 101})
+        EXPECT_EQ(NumberThrown(number), failure::OutOfRange);
     EXPECT_THAT(Machine.Boxes(), ElementsAre());
 }
 
@@ -343,7 +344,7 @@ TEST_F(SeasonProjectionTest, EveryFormReachesItsEnd)
 TEST_F(SeasonProjectionTest, AveragesAreHiddenByMinusOneAlone)
 {
     LeagueData.HideFinanceAverages.SetWord(1);
-    EXPECT_EQ(ProjectSeason(5).Form, SeasonForm::Full);
+    EXPECT_EQ(SeasonOf(5).Form, SeasonForm::Full);
 }
 
 TEST_F(SeasonProjectionTest, RandomSeasonsAddUpAndChangeNothing)
@@ -354,7 +355,7 @@ TEST_F(SeasonProjectionTest, RandomSeasonsAddUpAndChangeNothing)
         const auto before = ImageOf(Teams);
         for (int number = 1; number <= 3; ++number) {
             const Team& record = Teams[number];
-            const SeasonProjection season = ProjectSeason(number);
+            const SeasonFigures season = SeasonOf(number);
             const auto games = static_cast<double>(record.SeasonGames);
             const auto home = static_cast<double>(record.HomeGames);
             const bool none = games < 2;
@@ -366,12 +367,12 @@ TEST_F(SeasonProjectionTest, RandomSeasonsAddUpAndChangeNothing)
             ASSERT_EQ(season.GamesLeft, none ? 0 : record.SeasonGames - record.GamesPlayed);
             const bool full = season.Form == SeasonForm::Full;
             ASSERT_EQ(season.ExpensePerGame, full ? ExpensePerGame(number) : 0);
-            ASSERT_EQ(season.SeasonExpense, season.GamesLeft * season.ExpensePerGame);
+            ASSERT_EQ(season.SeasonExpense, *season.GamesLeft * *season.ExpensePerGame);
             const double income = full ? static_cast<double>(record.TotalIncome) / home : 0;
             ASSERT_EQ(season.AverageIncome, income);
             ASSERT_EQ(season.AverageAttendance, full ? static_cast<double>(record.TotalAttendance) / home : 0);
-            ASSERT_EQ(season.Revenue, std::llrint(season.HomeGamesLeft * income));
-            ASSERT_EQ(season.BankAccount, record.Cash + season.Revenue - season.SeasonExpense);
+            ASSERT_EQ(season.Revenue, std::llrint(*season.HomeGamesLeft * income));
+            ASSERT_EQ(season.BankAccount, record.Cash + *season.Revenue - *season.SeasonExpense);
         }
         ASSERT_EQ(ImageOf(Teams), before);
     }
