@@ -1,3 +1,4 @@
+#include "screens/ElementName.h"
 #include "screens/frmEditPlayer.h"
 #include "screens/panels/Labels.h"
 #include "screens/panels/Shades.h"
@@ -24,8 +25,6 @@ constexpr const char* WidestAmount = "-2147483648";
 constexpr const char* WidestNumber = "-999999";
 constexpr int CaptionColumn = 0;
 constexpr int FieldColumn = 1;
-
-QString InParentheses(const char* name, int index) { return QString("%1(%2)").arg(name).arg(index); }
 
 QGridLayout* MakeGrid(QGroupBox* group)
 {
@@ -144,13 +143,13 @@ void frmEditPlayer::MakeBoxes()
     for (EditBox* box : {txtContract, txtSalary})
         makeNumeric(box, WidestAmount);
     for (int row = txtStats.first; row <= txtStats.last; ++row) {
-        EditBox* box = MakeBox(InParentheses("txtStats", row), [this, row] { txtStats_LostFocus(row); });
+        EditBox* box = MakeBox(ElementName("txtStats", row), [this, row] { txtStats_LostFocus(row); });
         makeNumeric(box, WidestNumber);
         box->ReadAsLabelWhenClosed();
         box->installEventFilter(this);
         txtStats[row] = box;
         lblStatLabel[row] = new MutedLabel(this);
-        lblStatLabel[row]->setObjectName(InParentheses("lblStatLabel", row));
+        lblStatLabel[row]->setObjectName(ElementName("lblStatLabel", row));
         lblStatLabel[row]->setTextFormat(Qt::PlainText);
         bars[row] = new RatingBar(this);
     }
@@ -167,7 +166,7 @@ void frmEditPlayer::MakeOptions()
     };
     const QStringList captions{"Center", "Left Wing", "Right Wing", "Defense"};
     for (int index = position::Center; index <= position::Defense; ++index) {
-        optPosition[index] = makeOption(InParentheses("optPosition", index), captions[index - 1]);
+        optPosition[index] = makeOption(ElementName("optPosition", index), captions[index - 1]);
         connect(optPosition[index], &QRadioButton::toggled, this, [this, index](bool ticked) {
             if (ticked)
                 optPosition_Click(index);

@@ -8,6 +8,7 @@
 #include "league/RatingsExport.h"
 #include "league/Reporting.h"
 #include "rules/Function.h"
+#include "screens/ElementName.h"
 #include "screens/panels/Labels.h"
 #include "screens/panels/Shades.h"
 #include "screens/platform/CodePage.h"
@@ -30,8 +31,6 @@ constexpr int FilledHeight = 480;
 constexpr int NarrowWidth = 920;
 constexpr int WideWidth = 1240;
 constexpr int LeastListWidth = 130;
-
-QString InParentheses(const char* name, int index) { return QString("%1(%2)").arg(name).arg(index); }
 
 template <std::size_t N>
 QString Shown(const Text<N>& text)
@@ -140,7 +139,7 @@ QWidget* frmMain::MakeConference(int conference)
     rows->setContentsMargins(0, 0, 0, 0);
     rows->setSpacing(Gap / 2);
     lblConference[conference] = MakeHeading({}, panel);
-    lblConference[conference]->setObjectName(InParentheses("lblConference", conference));
+    lblConference[conference]->setObjectName(ElementName("lblConference", conference));
     rows->addWidget(lblConference[conference]);
     auto* divisions = new QHBoxLayout;
     divisions->setSpacing(Gap);
@@ -148,10 +147,10 @@ QWidget* frmMain::MakeConference(int conference)
     const int first = (conference - 1) * DivisionsOfConference + 1;
     for (int division = first; division < first + DivisionsOfConference; ++division) {
         lblDivision[division] = new MutedLabel("Division Name", panel);
-        lblDivision[division]->setObjectName(InParentheses("lblDivision", division));
+        lblDivision[division]->setObjectName(ElementName("lblDivision", division));
         lblDivision[division]->setTextFormat(Qt::PlainText);
         lstDivision[division] = new EntryList(panel);
-        lstDivision[division]->setObjectName(InParentheses("lstDivision", division));
+        lstDivision[division]->setObjectName(ElementName("lstDivision", division));
         lstDivision[division]->setMinimumWidth(LeastListWidth);
         auto* column = new QVBoxLayout;
         column->setSpacing(Gap / 2);
