@@ -52,40 +52,73 @@ int Mean(const Stats& stats, const Group& group)
 }
 
 template <class Stats, class Names, class GroupNames>
-StatRows RowsOf(const Stats& stats, int overall, long long count, const Names& names, const GroupNames& groupNames,
-                const Groups& groups)
+void TellRatings(const Stats& stats, long long count, const Names& names, const GroupNames& groupNames,
+                 const Groups& groups, const TellStatRow& tell)
 {
-    StatRows rows;
     for (int row = 1; row <= count; ++row) {
         if (LeagueData.ShowAllRatings)
-            rows.Ratings.push_back({names[row], static_cast<int>(stats[row])});
+            tell(row, {names[row], static_cast<int>(stats[row])});
         else
-            rows.Ratings.push_back({groupNames[row], Mean(stats, groups[row])});
+            tell(row, {groupNames[row], Mean(stats, groups[row])});
     }
+}
+
+template <class Names, class GroupNames>
+StatRow OverallRowOf(int overall, const Names& names, const GroupNames& groupNames)
+{
+    return {LeagueData.ShowAllRatings ? names[names.last] : groupNames[groupNames.last], overall};
+}
+
+TellStatRow Into(std::vector<StatRow>& rows)
+{
+    return [&rows](int /*row*/, const StatRow& shown) { rows.push_back(shown); };
+}
+
+void AddOverall(StatRows& rows, int overall, StatRow (*row)(int))
+{
     rows.Overall = overall;
     if (LeagueData.ShowOverall)
-        rows.OverallRow = StatRow{LeagueData.ShowAllRatings ? names[names.last] : groupNames[groupNames.last], overall};
-    return rows;
+        rows.OverallRow = row(overall);
 }
 
 } // namespace
 
+void TellSkaterRatings(int index, const TellStatRow& tell)
+{
+    TellRatings(Players[index].Stats, PlayerStatCount, SkaterStatName, SkaterGroupName, SkaterGroups, tell);
+}
+
+void TellGoalieRatings(int index, const TellStatRow& tell)
+{
+    TellRatings(Goalies[index].Stats, GoalieStatCount, GoalieStatName, GoalieGroupName, GoalieGroups, tell);
+}
+
+StatRow SkaterOverallRow(int overall) { return OverallRowOf(overall, SkaterStatName, SkaterGroupName); }
+
+StatRow GoalieOverallRow(int overall) { return OverallRowOf(overall, GoalieStatName, GoalieGroupName); }
+
 StatRows SkaterStatRows(int index)
 {
-    const Player& player = Players[index];
-    return SkaterStatRows(player.Stats, CalculateOverall(static_cast<int>(player.Position), index));
+    StatRows rows;
+    TellSkaterRatings(index, Into(rows.Ratings));
+    AddOverall(rows, CalculateOverall(static_cast<int>(Players[index].Position), index), SkaterOverallRow);
+    return rows;
 }
 
 StatRows SkaterStatRows(const SkaterRatings& ratings, int overall)
 {
-    return RowsOf(ratings, overall, PlayerStatCount, SkaterStatName, SkaterGroupName, SkaterGroups);
+    StatRows rows;
+    TellRatings(ratings, PlayerStatCount, SkaterStatName, SkaterGroupName, SkaterGroups, Into(rows.Ratings));
+    AddOverall(rows, overall, SkaterOverallRow);
+    return rows;
 }
 
 StatRows GoalieStatRows(int index)
 {
-    const Goalie& keeper = Goalies[index];
-    const int overall = CalculateOverall(position::Goalie, index);
-    return RowsOf(keeper.Stats, overall, GoalieStatCount, GoalieStatName, GoalieGroupName, GoalieGroups);
+    StatRows rows;
+    TellGoalieRatings(index, Into(rows.Ratings));
+    AddOverall(rows, CalculateOverall(position::Goalie, index), GoalieOverallRow);
+    return rows;
 }
 
 } // namespace dravik

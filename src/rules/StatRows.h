@@ -2,6 +2,7 @@
 
 #include "league/Person.h"
 
+#include <functional>
 #include <optional>
 #include <string_view>
 #include <vector>
@@ -35,5 +36,14 @@ StatRows GoalieStatRows(int index);
 // The same rows of ratings that belong to no one skater, such as the averages of a line.
 using SkaterRatings = decltype(Player::Stats);
 StatRows SkaterStatRows(const SkaterRatings& ratings, int overall);
+
+// Tells the rows of the ratings alone, from row 1 on, each as soon as it is known: `tell(row, shown)`. Fails like the
+// above; the rows before the one that failed have been told by then.
+using TellStatRow = std::function<void(int row, const StatRow& shown)>;
+void TellSkaterRatings(int index, const TellStatRow& tell);
+void TellGoalieRatings(int index, const TellStatRow& tell);
+// The row of an overall, which stands behind the ratings.
+StatRow SkaterOverallRow(int overall);
+StatRow GoalieOverallRow(int overall);
 
 } // namespace dravik

@@ -7,6 +7,7 @@
 #include "league/Session.h"
 #include "rules/Function.h"
 #include "rules/People.h"
+#include "rules/StatRows.h"
 #include "screens/EventGuard.h"
 #include "screens/PersonWords.h"
 #include "screens/platform/CodePage.h"
@@ -41,12 +42,16 @@ void KeepOffFarm(Person& person, int index)
         person.Status = status::Scratch;
 }
 
-// The findings of the last roster judgement without the heading and the closing words of its box.
+QStringList LinesOf(const std::string& text) { return ToQString(text).split("\r\n", Qt::SkipEmptyParts); }
+
+// The findings of the last roster judgement without the heading and the closing words of its box. A judgement that broke
+// off got neither.
 QStringList Findings(const std::string& text)
 {
-    QStringList lines = ToQString(text).split("\r\n", Qt::SkipEmptyParts);
-    constexpr int frame = 2;
-    return lines.size() > frame ? lines.mid(1, lines.size() - frame) : QStringList();
+    QStringList lines = LinesOf(text);
+    if (lines.size() < 2 || lines.back() != "Some errors will be automatically fixed.")
+        return lines;
+    return lines.mid(1, lines.size() - 2);
 }
 
 } // namespace
@@ -150,13 +155,14 @@ void frmRoster::ShowReasons(bool withSalaryCap)
 {
     QStringList lines = Findings(LastRosterText());
     if (withSalaryCap && LeagueData.SalaryCapMode != 0)
-        lines << ToQString(LastCapText()).split("\r\n", Qt::SkipEmptyParts);
+        lines << LinesOf(LastCapText());
     txtReasons->setPlainText(lines.join('\n'));
     txtReasons->setVisible(!lines.isEmpty());
     ShowPayroll();
 }
 
-// A payroll that fits no figure has been told by its judge; there is no bar for it.
+// There is no bar for a payroll or a cap beyond 32 bits. Judging the payroll tells of it; a move, which does not judge
+// it, goes on without a word.
 void frmRoster::ShowPayroll()
 {
     try {
@@ -240,6 +246,24 @@ void frmRoster::lstPlayer_Click(int index)
     });
 }
 
+// Row by row, so that what breaks leaves the rows before it, and the overall's own box comes up over the ratings.
+template <class Person>
+void frmRoster::ShowRatings(const Person& person, int index)
+{
+    constexpr bool isGoalie = IsGoalie<Person>;
+    const auto show = [this](int row, const StatRow& shown) { Stats->ShowRow(row, shown); };
+    if constexpr (isGoalie)
+        TellGoalieRatings(index, show);
+    else
+        TellSkaterRatings(index, show);
+    const int overall = CalculateOverall(PositionOf(person), index);
+    PlayerOverall = overall;
+    if (LeagueData.ShowOverall) {
+        const auto behind = static_cast<int>((isGoalie ? GoalieStatCount : PlayerStatCount) + 1);
+        Stats->ShowRow(behind, isGoalie ? GoalieOverallRow(overall) : SkaterOverallRow(overall));
+    }
+}
+
 template <class Person>
 void frmRoster::ShowFlags(const Person& person)
 {
@@ -259,11 +283,9 @@ void frmRoster::ShowStats()
             return;
         }
         const int id = static_cast<int>(SelectedPlayer);
-        const StatRows rows = SelectedIsGoalie ? GoalieStatRows(id) : SkaterStatRows(id);
-        Stats->ShowRows(rows);
-        PlayerOverall = rows.Overall;
         WithPerson(SelectedIsGoalie, id, [&](const auto& person) {
             Stats->SetName(ToQString(person.Name.Trimmed()));
+            ShowRatings(person, id);
             ShowFlags(person);
             if (SelectedIsGoalie || person.Status == status::Farm) {
                 cmdCaptain->setEnabled(false);

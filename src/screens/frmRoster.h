@@ -93,6 +93,8 @@ private:
     void ShowReasons(bool withSalaryCap);
     void ShowPayroll();
     template <class Person>
+    void ShowRatings(const Person& person, int index);
+    template <class Person>
     void ShowFlags(const Person& person);
     template <class Person>
     void ChangePerson(Person& person, int from, int to, int id, bool& done);

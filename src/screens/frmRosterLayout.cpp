@@ -1,3 +1,4 @@
+#include "screens/ElementName.h"
 #include "screens/frmRoster.h"
 #include "screens/panels/Labels.h"
 #include "screens/panels/Shades.h"
@@ -14,8 +15,6 @@ constexpr QSize DefaultSize(1180, 760);
 constexpr int LeastListWidth = 150;
 constexpr int PersonColumnWidth = 310;
 constexpr int LinesOfReasons = 3;
-
-QString Indexed(const char* name, int index) { return QString("%1(%2)").arg(name).arg(index); }
 
 } // namespace
 
@@ -84,15 +83,12 @@ void frmRoster::MakeControls()
     txtReasons->setFixedHeight(txtReasons->fontMetrics().lineSpacing() * LinesOfReasons +
                                static_cast<int>(2 * txtReasons->document()->documentMargin()) +
                                2 * txtReasons->frameWidth());
-    // The lists stay where they are when the last reason goes.
-    QSizePolicy policy = txtReasons->sizePolicy();
-    policy.setRetainSizeWhenHidden(true);
-    txtReasons->setSizePolicy(policy);
+    txtReasons->hide();
 
     const char* positions[] = {"Center", "Left Wing", "Right Wing", "Defense", "Goalie"};
     for (int position = 1; position <= 5; ++position) {
         auto* filter = new QCheckBox(positions[position - 1], this);
-        filter->setObjectName(Indexed("chkPosition", position));
+        filter->setObjectName(ElementName("chkPosition", position));
         filter->setChecked(true);
         connect(filter, &QCheckBox::toggled, this, [this, position] { chkPosition_Click(position); });
         chkPosition[position] = filter;
@@ -100,7 +96,7 @@ void frmRoster::MakeControls()
     const char* captions[] = {"Farm Players", "Scratch Players", "Pro Players"};
     for (int index = 0; index <= 2; ++index) {
         lblPlayer[index] = MakeHeading(captions[index], this);
-        lblPlayer[index]->setObjectName(Indexed("lblPlayer", index));
+        lblPlayer[index]->setObjectName(ElementName("lblPlayer", index));
         lstPlayer[index] = MakeList(index, captions[index]);
     }
     Stats = new StatPanel(this);
@@ -133,9 +129,10 @@ void frmRoster::MakeControls()
 PickList* frmRoster::MakeList(int index, const QString& caption)
 {
     auto* list = new PickList(this);
-    list->setObjectName(Indexed("lstPlayer", index));
+    list->setObjectName(ElementName("lstPlayer", index));
     list->setAccessibleName(caption);
     list->setMinimumWidth(LeastListWidth);
+    list->CutNamesFirst(); // positions and overalls are what the eye compares
     connect(list, &PickList::Picked, this, [this, index] { lstPlayer_Click(index); });
     connect(list, &QListWidget::itemDoubleClicked, this, [this, index] { lstPlayer_DblClick(index); });
     connect(list, &EntryList::EnterPressed, this, [this, index] { lstPlayer_DblClick(index); });

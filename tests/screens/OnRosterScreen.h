@@ -6,6 +6,19 @@
 
 namespace dravik {
 
+// A desktop that fails to show its next boxes, so that the failure leaves the routine that wanted to tell.
+class FailingBoxes : public ScriptedPlatform {
+public:
+    int FailuresLeft = 0;
+
+    int MessageBox(const std::string& text, int kind, const std::string& title) override
+    {
+        if (FailuresLeft-- > 0)
+            Fail(failure::Overflow);
+        return ScriptedPlatform::MessageBox(text, kind, title);
+    }
+};
+
 // The roster screen of team 5, the Harbour City Gulls, with a test's own people on it.
 class OnRosterScreen : public OnStage {
 protected:
@@ -26,6 +39,29 @@ protected:
         LeagueData.ShowAllRatings = all;
         PlayerStatCount = all ? 15 : 7;
         GoalieStatCount = all ? 13 : 7;
+    }
+
+    // Three scratches, two farm skaters and two dressed ones, in order of their slots.
+    static void PutSeven()
+    {
+        PutSkater(1, 5, position::Center, status::Scratch);
+        PutSkater(2, 5, position::LeftWing, status::Scratch);
+        PutSkater(3, 5, position::RightWing, status::Scratch);
+        PutSkater(4, 5, position::Defense, status::Farm);
+        PutSkater(5, 5, position::Center, status::Farm);
+        PutSkater(6, 5, position::Center, status::Pro);
+        PutSkater(7, 5, position::Defense, status::Pro);
+    }
+    // So many centers of one list, from slot 1 on.
+    static void PutSkaters(int count, int status, int rating = 60)
+    {
+        for (int id = 1; id <= count; ++id)
+            PutSkater(id, 5, position::Center, status, rating);
+    }
+    static void PassDeadline()
+    {
+        LeagueData.TradeDeadlinePassed = true;
+        LeagueData.TradeDeadlineInForce = true;
     }
 
     // The screen, opened from the main screen; what opening told is forgotten.

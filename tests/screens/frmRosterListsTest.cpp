@@ -10,20 +10,7 @@ using ::testing::IsEmpty;
 
 using Entry = std::pair<std::string, int>;
 
-class frmRosterListsTest : public OnRosterScreen {
-protected:
-    // Three scratches, two farm skaters and two dressed ones, in order of their slots.
-    static void PutSeven()
-    {
-        PutSkater(1, 5, position::Center, status::Scratch);
-        PutSkater(2, 5, position::LeftWing, status::Scratch);
-        PutSkater(3, 5, position::RightWing, status::Scratch);
-        PutSkater(4, 5, position::Defense, status::Farm);
-        PutSkater(5, 5, position::Center, status::Farm);
-        PutSkater(6, 5, position::Center, status::Pro);
-        PutSkater(7, 5, position::Defense, status::Pro);
-    }
-};
+class frmRosterListsTest : public OnRosterScreen {};
 
 TEST_F(frmRosterListsTest, PeopleStandInTheListOfTheirStatusInTheOrderOfTheirSlotsGoaliesBehind)
 {
@@ -269,197 +256,6 @@ TEST_F(frmRosterListsTest, ARebuildLosesTheSelectionAndHidesTheDetails)
     EXPECT_FALSE(Roster().cmdToScratchesFromPro->isEnabled());
 }
 
-TEST_F(frmRosterListsTest, ClickChoosesThePersonAndEnablesTheMovesOfHisList)
-{
-    PutSeven();
-    frmRoster& roster = Roster();
-    const auto moves = [&] {
-        return std::vector<bool>{roster.cmdToFarm->isEnabled(), roster.cmdToPro->isEnabled(),
-                                 roster.cmdToScratchesFromPro->isEnabled(), roster.cmdToScratchesFromFarm->isEnabled()};
-    };
-    EXPECT_THAT(moves(), ElementsAre(false, false, false, false));
-    ClickEntry(0, 1);
-    EXPECT_EQ(SelectedPlayer, 5);
-    EXPECT_THAT(moves(), ElementsAre(false, false, false, true));
-    ClickEntry(1, 1);
-    EXPECT_EQ(SelectedPlayer, 2);
-    EXPECT_THAT(moves(), ElementsAre(true, true, false, false));
-    ClickEntry(2, 1);
-    EXPECT_EQ(SelectedPlayer, 7);
-    EXPECT_FALSE(SelectedIsGoalie);
-    EXPECT_THAT(moves(), ElementsAre(false, false, true, false));
-}
-
-TEST_F(frmRosterListsTest, ClickOnAGoalieChoosesHimAsAGoalie)
-{
-    PutGoalie(3, 5, status::Scratch);
-    ClickEntry(1, 0);
-    EXPECT_EQ(SelectedPlayer, 3);
-    EXPECT_TRUE(SelectedIsGoalie);
-    EXPECT_EQ(Of(Roster().Stats->lblStat[0]), "G");
-}
-
-TEST_F(frmRosterListsTest, PositionLineTakesTheNameOfThePosition)
-{
-    PutSeven();
-    const std::pair<std::pair<int, int>, std::string> expected[] = {
-        {{1, 0}, "C"}, {{1, 1}, "LW"}, {{1, 2}, "RW"}, {{2, 1}, "D"}};
-    for (const auto& [where, words] : expected) {
-        ClickEntry(where.first, where.second);
-        EXPECT_EQ(Of(Roster().Stats->lblStat[0]), words);
-        EXPECT_EQ(Of(Roster().Stats->lblStatLabel[0]), "PO");
-        EXPECT_TRUE(IsShown(Roster().Stats->lblStat[0]));
-        EXPECT_TRUE(IsShown(Roster().Stats->lblStatLabel[0]));
-    }
-}
-
-TEST_F(frmRosterListsTest, ClickDeselectsTheOtherListsButForTheirFirstEntry)
-{
-    PutSeven();
-    ClickEntry(1, 0);
-    ClickEntry(1, 1, Qt::ControlModifier);
-    ASSERT_THAT(ChosenRows(1), ElementsAre(0, 1));
-    ClickEntry(2, 1);
-    EXPECT_THAT(ChosenRows(1), ElementsAre(0));
-    EXPECT_EQ(Roster().lstPlayer[1]->currentRow(), -1);
-    EXPECT_THAT(ChosenRows(2), ElementsAre(1));
-    EXPECT_EQ(SelectedPlayer, 7);
-    EXPECT_FALSE(ListEventGuard);
-}
-
-TEST_F(frmRosterListsTest, ClickDoesNothingWhileEventsAreHeldBack)
-{
-    PutSeven();
-    ClickEntry(1, 1);
-    ListEventGuard = true;
-    ClickEntry(2, 1);
-    ListEventGuard = false;
-    EXPECT_EQ(SelectedPlayer, 2);
-    EXPECT_TRUE(Roster().cmdToFarm->isEnabled());
-}
-
-TEST_F(frmRosterListsTest, TwoChosenEntriesHideTheStatPanelWhileTheMovesOfTheListAreEnabled)
-{
-    PutSeven();
-    ClickEntry(1, 0);
-    ClickEntry(1, 1, Qt::ControlModifier);
-    frmRoster& roster = Roster();
-    for (int row = 0; row <= 16; ++row) {
-        EXPECT_FALSE(IsShown(roster.Stats->lblStat[row])) << row;
-        EXPECT_FALSE(IsShown(roster.Stats->lblStatLabel[row])) << row;
-    }
-    EXPECT_TRUE(roster.cmdToFarm->isEnabled());
-    EXPECT_TRUE(roster.cmdToPro->isEnabled());
-    EXPECT_FALSE(roster.cmdCaptain->isEnabled());
-    EXPECT_FALSE(roster.cmdTradeAvailable->isEnabled());
-}
-
-TEST_F(frmRosterListsTest, ClickWithoutACurrentEntryKeepsTheOldSelectionAndEndsBeforeTheMoves)
-{
-    PutSeven();
-    ClickEntry(1, 0);
-    ClickEntry(2, 1); // list 1 keeps its first entry chosen and has no current one
-    Roster().lstPlayer_Click(1);
-    EXPECT_EQ(SelectedPlayer, 7);
-    EXPECT_FALSE(Roster().cmdToFarm->isEnabled());
-    EXPECT_FALSE(Roster().cmdToPro->isEnabled());
-    EXPECT_FALSE(Roster().cmdCaptain->isEnabled());
-}
-
-TEST_F(frmRosterListsTest, ClickOnAListWithNothingChosenEnablesItsMovesAllTheSame)
-{
-    PutSeven();
-    Roster().lstPlayer_Click(0);
-    EXPECT_TRUE(Roster().cmdToScratchesFromFarm->isEnabled());
-}
-
-TEST_F(frmRosterListsTest, ShiftClickChoosesARange)
-{
-    PutSeven();
-    ClickEntry(1, 0);
-    ClickEntry(1, 2, Qt::ShiftModifier);
-    EXPECT_THAT(ChosenRows(1), ElementsAre(0, 1, 2));
-    EXPECT_FALSE(Roster().cmdCaptain->isEnabled());
-    EXPECT_TRUE(Roster().cmdToPro->isEnabled());
-}
-
-TEST_F(frmRosterListsTest, CtrlClickTakesAnEntryOutOfTheChoiceAgain)
-{
-    PutSeven();
-    ClickEntry(1, 0);
-    ClickEntry(1, 1, Qt::ControlModifier);
-    ClickEntry(1, 1, Qt::ControlModifier);
-    EXPECT_THAT(ChosenRows(1), ElementsAre(0));
-    EXPECT_EQ(SelectedPlayer, 2); // of the current entry, which the last click was on
-    EXPECT_TRUE(Roster().cmdCaptain->isEnabled());
-}
-
-TEST_F(frmRosterListsTest, PlainClickOnOneOfSeveralChosenEntriesLeavesItAlone)
-{
-    PutSeven();
-    ClickEntry(1, 0);
-    ClickEntry(1, 2, Qt::ShiftModifier);
-    ClickEntry(1, 1);
-    EXPECT_THAT(ChosenRows(1), ElementsAre(1));
-    EXPECT_EQ(SelectedPlayer, 2);
-    EXPECT_TRUE(IsShown(Roster().Stats->lblStat[1]));
-}
-
-TEST_F(frmRosterListsTest, ArrowsChooseTheNextEntryAndShowHim)
-{
-    PutSeven();
-    ClickEntry(1, 0);
-    Press(Roster().lstPlayer[1], Qt::Key_Down);
-    EXPECT_THAT(ChosenRows(1), ElementsAre(1));
-    EXPECT_EQ(SelectedPlayer, 2);
-    EXPECT_EQ(Of(Roster().Stats->lblStat[0]), "LW");
-    Press(Roster().lstPlayer[1], Qt::Key_Up);
-    EXPECT_EQ(SelectedPlayer, 1);
-    Press(Roster().lstPlayer[1], Qt::Key_Down, Qt::ShiftModifier);
-    EXPECT_THAT(ChosenRows(1), ElementsAre(0, 1));
-    EXPECT_FALSE(Roster().cmdCaptain->isEnabled());
-    Press(Roster().lstPlayer[1], Qt::Key_End);
-    EXPECT_EQ(SelectedPlayer, 3);
-}
-
-TEST_F(frmRosterListsTest, FirstArrowInAListThatGotTheFocusChoosesItsFirstEntry)
-{
-    PutSeven();
-    Roster().lstPlayer[1]->setFocus();
-    EXPECT_EQ(Roster().lstPlayer[1]->currentRow(), -1);
-    Press(Roster().lstPlayer[1], Qt::Key_Down);
-    EXPECT_THAT(ChosenRows(1), ElementsAre(0));
-    EXPECT_EQ(SelectedPlayer, 1);
-}
-
-TEST_F(frmRosterListsTest, CtrlAChoosesAllEntriesOfTheList)
-{
-    PutSeven();
-    ClickEntry(1, 1);
-    Press(Roster().lstPlayer[1], Qt::Key_A, Qt::ControlModifier);
-    EXPECT_THAT(ChosenRows(1), ElementsAre(0, 1, 2));
-    EXPECT_FALSE(Roster().cmdCaptain->isEnabled());
-    EXPECT_TRUE(Roster().cmdToPro->isEnabled());
-}
-
-TEST_F(frmRosterListsTest, ChoosingInCodeCountsAsAClick)
-{
-    PutSeven();
-    Roster().lstPlayer[1]->setCurrentRow(1, QItemSelectionModel::NoUpdate);
-    Roster().lstPlayer[1]->item(1)->setSelected(true);
-    EXPECT_EQ(SelectedPlayer, 2);
-    EXPECT_TRUE(Roster().cmdToFarm->isEnabled());
-}
-
-TEST_F(frmRosterListsTest, ClickOnTheOneChosenEntryShowsHimAnew)
-{
-    PutSeven();
-    ClickEntry(1, 1);
-    Players[2].Stats[skater::CK] = 77;
-    ClickEntry(1, 1);
-    EXPECT_EQ(Of(Roster().Stats->lblStat[1]), "77");
-}
-
 TEST_F(frmRosterListsTest, EntriesCarryPositionAndOverallBesideTheirTextOnlyWhereTheLeagueShowsIt)
 {
     PutSkater(1, 5, position::LeftWing, status::Pro, 60);
@@ -471,18 +267,6 @@ TEST_F(frmRosterListsTest, EntriesCarryPositionAndOverallBesideTheirTextOnlyWher
     EXPECT_EQ(EntryTextAt(2, 0), "Skater 1");
 }
 
-TEST_F(frmRosterListsTest, ABrokenClickIsToldUnderItsName)
-{
-    Roster().lstPlayer_Click(3);
-    EXPECT_THAT(Machine.Boxes(), ElementsAre(Box{16, "9 - Subscript out of range in LstPlayer_Click!"}));
-}
-
-TEST_F(frmRosterListsTest, ABrokenDoubleClickIsToldUnderItsName)
-{
-    Roster().lstPlayer_DblClick(3);
-    EXPECT_THAT(Machine.Boxes(), ElementsAre(Box{16, "9 - Subscript out of range in lstPlayer_DblClick!"}));
-}
-
 TEST_F(frmRosterListsTest, ABrokenRebuildIsToldUnderItsName)
 {
     Roster();
@@ -490,6 +274,17 @@ TEST_F(frmRosterListsTest, ABrokenRebuildIsToldUnderItsName)
     Roster().ShowPlayer(true);
     CurrentTeam = 5;
     EXPECT_THAT(Machine.Boxes(), ElementsAre(Box{16, "9 - Subscript out of range in ShowPlayer!"}));
+}
+
+TEST_F(frmRosterListsTest, AGoalieStandsUnderHisNumberWhileTheFarmRuleGoesByHisSlot)
+{
+    PutGoalie(8, 5, status::Farm, 60).Number = 9;
+    PutGoalie(9, 7, status::Farm, 90);
+    Own().Captain = 9;
+    EXPECT_THAT(Listed(0), ElementsAre(Entry{"Goalie 8", 95}));
+    ClickEntry(0, 0);
+    EXPECT_EQ(SelectedPlayer, 9);
+    EXPECT_TRUE(SelectedIsGoalie);
 }
 
 } // namespace

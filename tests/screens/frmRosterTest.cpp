@@ -1,24 +1,13 @@
 #include "OnRosterScreen.h"
 
-#include "rules/Function.h"
-
 namespace dravik {
 namespace {
 
 using ::testing::ElementsAre;
 using ::testing::IsEmpty;
 
-constexpr int DeadlinePassedAndInForce = 3;
-
 class frmRosterTest : public OnRosterScreen {
 protected:
-    bool Move(int from, int to, int id, int position)
-    {
-        bool done = true;
-        Roster().Change(from, to, id, position, done);
-        return done;
-    }
-
     // How the screen of a viewer comes and goes.
     class PaperViewer : public Screen {
     public:
@@ -31,16 +20,6 @@ protected:
     {
         PaperViewer::HasChanged = hasChanged;
         TheStage.Provide("EditPlayer", [](Stage& stage) { return std::make_unique<PaperViewer>(stage); });
-    }
-
-    // What the stat panel shows from row 1 on.
-    std::vector<std::string> PanelRows()
-    {
-        std::vector<std::string> rows;
-        for (int row = 1; row <= 16; ++row)
-            if (IsShown(Roster().Stats->lblStat[row]))
-                rows.push_back(Of(Roster().Stats->lblStatLabel[row]) + " " + Of(Roster().Stats->lblStat[row]));
-        return rows;
     }
 };
 
@@ -233,297 +212,6 @@ TEST_F(frmRosterTest, ClosingForAnUnknownCallerIsAnIntegrityFailureAndShowsNothi
     EXPECT_FALSE(Main().isVisible());
 }
 
-TEST_F(frmRosterTest, StatPanelShowsAllRatingsOfASkaterWithHisOverallBehindThem)
-{
-    Player& player = PutSkater(1, 5, position::Center, status::Pro);
-    for (int stat = 1; stat <= 15; ++stat)
-        player.Stats[stat] = 40 + stat;
-    ClickEntry(2, 0);
-    const int overall = CalculateOverall(position::Center, 1);
-    EXPECT_THAT(PanelRows(),
-                ElementsAre("CK 41", "FG 42", "DI 43", "SK 44", "ST 45", "DU 46", "PH 47", "FO 48", "PA 49", "SC 50",
-                            "DF 51", "EX 52", "LD 53", "MO 54", "PO 55", "OV " + std::to_string(overall)));
-    EXPECT_EQ(Roster().PlayerOverall, overall);
-}
-
-TEST_F(frmRosterTest, StatPanelShowsTheGroupsOfAGoalieWithHisOverallInTheEighthRow)
-{
-    ShowAllRatings(false);
-    Goalie& keeper = PutGoalie(1, 5, status::Pro);
-    for (int stat = 1; stat <= 13; ++stat)
-        keeper.Stats[stat] = 40 + stat;
-    ClickEntry(2, 0);
-    const int overall = CalculateOverall(position::Goalie, 1);
-    EXPECT_THAT(PanelRows(), ElementsAre("PH 43", "RD 46", "SC 47", "HS 48", "RT 49", "ME 51", "PO 53",
-                                         "OV " + std::to_string(overall)));
-    EXPECT_EQ(Roster().PlayerOverall, overall);
-}
-
-TEST_F(frmRosterTest, TheOverallHasNoRowWhereTheLeagueHidesItButTheScreenKnowsIt)
-{
-    LeagueData.ShowOverall = false;
-    PutSkater(1, 5, position::Center, status::Pro, 66);
-    PutGoalie(1, 5, status::Pro, 55);
-    ClickEntry(2, 0);
-    EXPECT_EQ(PanelRows().size(), 15U);
-    EXPECT_EQ(Roster().PlayerOverall, CalculateOverall(position::Center, 1));
-    ClickEntry(2, 1);
-    EXPECT_EQ(PanelRows().size(), 13U);
-    EXPECT_EQ(Roster().PlayerOverall, CalculateOverall(position::Goalie, 1));
-}
-
-TEST_F(frmRosterTest, NumbersOfTheStatPanelStandAtTheRight)
-{
-    for (const QLabel* number : Roster().Stats->lblStat)
-        EXPECT_TRUE(number->alignment() & Qt::AlignRight);
-}
-
-TEST_F(frmRosterTest, AGoalieNumberOutOfRangeEndsTheStatPanel)
-{
-    PutSkater(1, 5, position::Center, status::Pro, 66);
-    ClickEntry(2, 0);
-    SelectedIsGoalie = true;
-    for (const int id : {-1, 1001, 10001}) {
-        SelectedPlayer = id;
-        Roster().ShowStats();
-        EXPECT_THAT(Machine.TakeBoxes(), ElementsAre(Box{16, "Integrity Check Failed!"})) << id;
-    }
-    EXPECT_EQ(Roster().PlayerOverall, CalculateOverall(position::Center, 1));
-}
-
-TEST_F(frmRosterTest, ASkaterNumberOutOfRangeIsAFailureOfTheStatPanel)
-{
-    Roster();
-    SelectedPlayer = 10001;
-    Roster().ShowStats();
-    EXPECT_THAT(Machine.Boxes(), ElementsAre(Box{16, "9 - Subscript out of range in ShowStats!"}));
-}
-
-TEST_F(frmRosterTest, ClickEnablesTheCommandsOfOnePerson)
-{
-    PutSkater(1, 5, position::Center, status::Pro);
-    ClickEntry(2, 0);
-    frmRoster& roster = Roster();
-    for (const QWidget* enabled : std::initializer_list<QWidget*>{
-             roster.cmdTradeAvailable, roster.cmdCaptain, roster.cmdAssistant, roster.cmdRelease, roster.chkProtected,
-             roster.chkNoApplyRerate, roster.chkNoTrade})
-        EXPECT_TRUE(enabled->isEnabled()) << enabled->objectName().toStdString();
-    EXPECT_FALSE(roster.cmdSendToWaiver->isEnabled());
-}
-
-TEST_F(frmRosterTest, WaiversAreOpenWhereTheLeagueAllowsThemUntilTheDeadlineHasPassedAndIsInForce)
-{
-    LeagueData.WaiverAllowed = true;
-    PutSkater(1, 5, position::Center, status::Pro);
-    for (int both = 0; both <= DeadlinePassedAndInForce; ++both) {
-        LeagueData.TradeDeadlinePassed = (both & 1) != 0;
-        LeagueData.TradeDeadlineInForce = (both & 2) != 0;
-        ClickEntry(2, 0);
-        EXPECT_EQ(Roster().cmdSendToWaiver->isEnabled(), both != DeadlinePassedAndInForce) << both;
-    }
-}
-
-TEST_F(frmRosterTest, FarmPlayersAndGoaliesCannotBeMadeCaptainOrAssistant)
-{
-    PutSkater(1, 5, position::Center, status::Farm);
-    PutSkater(2, 5, position::Center, status::Scratch);
-    PutGoalie(1, 5, status::Pro);
-    for (const auto& [id, position, may] : {std::tuple{1, 1, false}, std::tuple{2, 1, true}, std::tuple{1, 5, false}}) {
-        Choose(id, position);
-        EXPECT_EQ(Roster().cmdCaptain->isEnabled(), may) << id << ' ' << position;
-        EXPECT_EQ(Roster().cmdAssistant->isEnabled(), may) << id << ' ' << position;
-        EXPECT_TRUE(Roster().cmdTradeAvailable->isEnabled()) << id << ' ' << position;
-    }
-}
-
-TEST_F(frmRosterTest, FlagBoxesAreSetFromTheRecordWithoutCountingAsAnEdit)
-{
-    Player& player = PutSkater(1, 5, position::Center, status::Pro);
-    player.Protected = true;
-    player.NoTrade = true;
-    player.NoApplyRerate = true;
-    Goalie& keeper = PutGoalie(1, 5, status::Pro);
-    keeper.NoApplyRerate = true;
-    ClickEntry(2, 0);
-    EXPECT_TRUE(Roster().chkProtected->isChecked());
-    EXPECT_TRUE(Roster().chkNoTrade->isChecked());
-    EXPECT_TRUE(Roster().chkNoApplyRerate->isChecked());
-    EXPECT_FALSE(Roster().cmdTradeAvailable->isEnabled());
-    ClickEntry(2, 1);
-    EXPECT_FALSE(Roster().chkProtected->isChecked());
-    EXPECT_FALSE(Roster().chkNoTrade->isChecked());
-    EXPECT_TRUE(Roster().chkNoApplyRerate->isChecked());
-    EXPECT_TRUE(Roster().cmdTradeAvailable->isEnabled());
-    EXPECT_TRUE(player.NoTrade);
-    EXPECT_EQ(Own().ProtectedCount, 1);
-    EXPECT_FALSE(Modified);
-    EXPECT_FALSE(ListEventGuard);
-}
-
-TEST_F(frmRosterTest, ChangeRefusesAPositionThatIsNone)
-{
-    PutSkater(1, 5, position::Center, status::Pro);
-    for (const int position : {0, 6}) {
-        EXPECT_FALSE(Move(2, 1, 1, position));
-        EXPECT_THAT(Machine.TakeBoxes(), ElementsAre(Box{48, "Unable to extract position information!"}));
-    }
-    EXPECT_EQ(Players[1].Status, 2);
-    EXPECT_FALSE(Modified);
-}
-
-TEST_F(frmRosterTest, ChangeTellsASkaterOfInjuryThenSuspensionThenContractThenSalary)
-{
-    LeagueData.FarmMaxSalary = 999999;
-    Player& player = PutSkater(1, 5, position::Center, status::Scratch);
-    player.Condition = 94;
-    player.Suspension = 3;
-    player.Contract = 0;
-    EXPECT_FALSE(Move(1, 0, 1, 1));
-    EXPECT_THAT(Machine.TakeBoxes(), ElementsAre(Box{48, "Cannot Move an Injured Player!"}));
-    player.Condition = 95;
-    EXPECT_FALSE(Move(1, 0, 1, 1));
-    EXPECT_THAT(Machine.TakeBoxes(), ElementsAre(Box{48, "Cannot Move an Suspended Player!"}));
-    player.Suspension = 0;
-    EXPECT_FALSE(Move(1, 0, 1, 1));
-    EXPECT_THAT(Machine.TakeBoxes(), ElementsAre(Box{48, "Player without a contract can not be move!"}));
-    player.Contract = 1;
-    EXPECT_FALSE(Move(1, 0, 1, 1));
-    EXPECT_THAT(Machine.TakeBoxes(), ElementsAre(Box{48, "Player Salary is too high to be send in the Farm!"}));
-    player.Salary = 999999;
-    EXPECT_TRUE(Move(1, 0, 1, 1));
-    EXPECT_THAT(Machine.TakeBoxes(), IsEmpty());
-}
-
-TEST_F(frmRosterTest, ChangeTellsAGoalieTheSameButCallsASuspendedOnePlayer)
-{
-    LeagueData.FarmMaxSalary = 999999;
-    Goalie& keeper = PutGoalie(1, 5, status::Scratch);
-    keeper.Condition = 94;
-    keeper.Suspension = 3;
-    keeper.Contract = 0;
-    EXPECT_FALSE(Move(1, 0, 1, 5));
-    EXPECT_THAT(Machine.TakeBoxes(), ElementsAre(Box{48, "Cannot Move an Injured Goalie!"}));
-    keeper.Condition = 95;
-    EXPECT_FALSE(Move(1, 0, 1, 5));
-    EXPECT_THAT(Machine.TakeBoxes(), ElementsAre(Box{48, "Cannot Move an Suspended Player!"}));
-    keeper.Suspension = 0;
-    EXPECT_FALSE(Move(1, 0, 1, 5));
-    EXPECT_THAT(Machine.TakeBoxes(), ElementsAre(Box{48, "Goalie without a contract can not be move!"}));
-    keeper.Contract = 1;
-    EXPECT_FALSE(Move(1, 0, 1, 5));
-    EXPECT_THAT(Machine.TakeBoxes(), ElementsAre(Box{48, "Goalie Salary is too high to be send in the Farm!"}));
-    keeper.Salary = 999999;
-    EXPECT_TRUE(Move(1, 0, 1, 5));
-    EXPECT_EQ(Goalies[1].Status, 0);
-}
-
-TEST_F(frmRosterTest, ChangeTestsTheSalaryOnTheWayToTheFarmOnlyAndNotAtALimitOfZero)
-{
-    PutSkater(1, 5, position::Center, status::Scratch).Salary = 9000000;
-    LeagueData.FarmMaxSalary = 999999;
-    EXPECT_TRUE(Move(1, 2, 1, 1));
-    LeagueData.FarmMaxSalary = 0;
-    EXPECT_TRUE(Move(1, 0, 1, 1));
-    EXPECT_THAT(Machine.Boxes(), IsEmpty());
-}
-
-TEST_F(frmRosterTest, ASkaterWhoNeedsWaiversIsAskedAboutAndPlacedOnThem)
-{
-    LeagueData.WaiverAllowed = true;
-    PutSkater(1, 5, position::Center, status::Scratch);
-    Roster();
-    Machine.Answer(button::No);
-    EXPECT_FALSE(Move(1, 0, 1, 1));
-    EXPECT_THAT(Machine.TakeBoxes(), ElementsAre(Box{36, "Do you want to send this player to waiver?"}));
-    EXPECT_EQ(Players[1].Status, 1);
-    EXPECT_EQ(Players[1].Suspension, 0);
-    EXPECT_FALSE(Modified);
-    Machine.Answer(button::Yes);
-    EXPECT_TRUE(Move(1, 0, 1, 1));
-    EXPECT_EQ(Players[1].Status, 0);
-    EXPECT_EQ(Players[1].Suspension, 99);
-}
-
-TEST_F(frmRosterTest, AGoalieWhoNeedsWaiversIsAskedAboutAndGoesDownWithoutThem)
-{
-    LeagueData.WaiverAllowed = true;
-    PutGoalie(1, 5, status::Scratch);
-    Roster();
-    Machine.Answer(button::No);
-    EXPECT_FALSE(Move(1, 0, 1, 5));
-    EXPECT_THAT(Machine.TakeBoxes(), ElementsAre(Box{36, "Do you want to send this goalie to waiver?"}));
-    EXPECT_EQ(Goalies[1].Status, 1);
-    Machine.Answer(button::Yes);
-    EXPECT_TRUE(Move(1, 0, 1, 5));
-    EXPECT_EQ(Goalies[1].Status, 0);
-    EXPECT_EQ(Goalies[1].Suspension, 0);
-}
-
-TEST_F(frmRosterTest, ChangeTakesThePersonOffTheLinesAndWritesStatusAndChanges)
-{
-    const TeamMaker made = CompleteTeam(5);
-    const int center = made.Skaters[0];
-    const int keeper = made.GoalieIds[0];
-    ASSERT_GT(PlayOnLineInteger(5, center, 1), 0);
-    ASSERT_EQ(Own().ProLines[1].StartGoalie, keeper);
-    EXPECT_TRUE(Move(2, 1, center, 1));
-    EXPECT_TRUE(Move(2, 1, keeper, 5));
-    EXPECT_EQ(PlayOnLineInteger(5, center, 1), 0);
-    EXPECT_EQ(Own().ProLines[1].StartGoalie, 0);
-    EXPECT_EQ(Players[center].Status, 1);
-    EXPECT_EQ(RosterChanges[center].Status, 1);
-    EXPECT_EQ(Goalies[keeper].Status, 1);
-    EXPECT_EQ(RosterChangesGoalie[keeper].Status, 1);
-    EXPECT_TRUE(Modified);
-}
-
-TEST_F(frmRosterTest, ChangeKeepsTheCountersAndTheFourthOneOnlyByTheFarm)
-{
-    PutSkater(1, 5, position::Center, status::Pro);
-    Roster();
-    EXPECT_THAT(Counters(), ElementsAre(0, 0, 1, 1));
-    Move(2, 1, 1, 1);
-    EXPECT_THAT(Counters(), ElementsAre(0, 1, 0, 1));
-    Move(1, 0, 1, 1);
-    EXPECT_THAT(Counters(), ElementsAre(1, 0, 0, 0));
-    Move(0, 1, 1, 1);
-    EXPECT_THAT(Counters(), ElementsAre(0, 1, 0, 1));
-    Move(1, 2, 1, 1);
-    EXPECT_THAT(Counters(), ElementsAre(0, 0, 1, 1));
-    Move(2, 0, 1, 1);
-    EXPECT_THAT(Counters(), ElementsAre(1, 0, 0, 0));
-    Move(0, 2, 1, 1); // no command does this; the fourth entry would not hear of it
-    EXPECT_THAT(Counters(), ElementsAre(0, 0, 1, 0));
-}
-
-TEST_F(frmRosterTest, ChangeShowsTheVerdictWithoutThePayrollAndHidesTheDetails)
-{
-    const TeamMaker made = CompleteTeam(5);
-    PutSkater(900, 5, position::Center, status::Scratch);
-    LeagueData.SalaryCapMode = 1;
-    LeagueData.SalaryCap = 1;
-    LeagueData.ProDressedSkaters = 19;
-    ClickEntry(1, 0);
-    EXPECT_EQ(Of(Roster().lblComplete), "Roster Is Incomplete");
-    EXPECT_TRUE(Move(1, 2, 900, 1));
-    EXPECT_EQ(Of(Roster().lblComplete), "Roster Is Complete");
-    EXPECT_EQ(Roster().txtReasons->toPlainText(), "");
-    EXPECT_FALSE(IsShown(Roster().Stats->lblStat[1]));
-    EXPECT_FALSE(Roster().cmdToPro->isEnabled());
-    EXPECT_FALSE(Roster().cmdTradeAvailable->isEnabled());
-    EXPECT_TRUE(Move(2, 1, made.Skaters[0], 1));
-    EXPECT_TRUE(Move(2, 1, made.Skaters[1], 2));
-    EXPECT_EQ(Of(Roster().lblComplete), "Roster Is Incomplete");
-    EXPECT_EQ(Roster().txtReasons->toPlainText(), "Not enough players available in Pro Team! 17 Dressed. 18 Required.");
-    EXPECT_THAT(Machine.Boxes(), IsEmpty());
-}
-
-TEST_F(frmRosterTest, ABrokenChangeIsToldUnderItsName)
-{
-    EXPECT_FALSE(Move(2, 1, 10001, 1));
-    EXPECT_THAT(Machine.Boxes(), ElementsAre(Box{16, "9 - Subscript out of range in Change!"}));
-}
-
 TEST_F(frmRosterTest, DoubleClickOpensTheViewerAndHidesTheScreen)
 {
     ProvideViewer(false);
@@ -583,6 +271,129 @@ TEST_F(frmRosterTest, AViewerOpenedByAnotherScreenLeavesTheRosterAlone)
     ViewerReturnMode = 3;
     TheStage.ViewerClosed(true);
     EXPECT_EQ(EntryTextAt(2, 0), "Skater 3");
+}
+
+TEST_F(frmRosterTest, ClosingJudgesThePayrollToo)
+{
+    CompleteTeam(5);
+    Roster();
+    LeagueData.SalaryCapMode = 1;
+    LeagueData.SalaryCap = 19999999;
+    Click(Roster().cmdExit);
+    EXPECT_THAT(Machine.Boxes(), ElementsAre(Box{48, "Team 5 is over the salary cap by $1.00!"}));
+}
+
+TEST_F(frmRosterTest, ABrokenOpeningIsToldUnderItsName)
+{
+    MainWithLeague();
+    FailingBoxes desktop;
+    desktop.FailuresLeft = 1;
+    UseMachine(desktop);
+    OpenFrom(Main(), "Main", 101);
+    EXPECT_THAT(desktop.TakeBoxes(), ElementsAre(Box{16, "6 - Overflow in FormLoad FrmRoster!"}));
+    UseMachine(Machine);
+}
+
+// The line that the second judgement broke off behind is no heading, and the last one no closing.
+TEST_F(frmRosterTest, AJudgementThatBrokeOffShowsEverythingItHadFound)
+{
+    CompleteTeam(5);
+    LeagueData.FarmEnabled = true;
+    LeagueData.FarmRosterRequired = true;
+    LeagueData.RequiredCenters = 5;
+    LeagueData.RequiredLeftWings = 20000; // twice as many fit no count
+    OpenFrom(MainWithLeague(), "Main");
+    const Box broken{16, "6 - Overflow in CheckRoster!"};
+    EXPECT_THAT(Machine.Boxes(), ElementsAre(broken, broken));
+    EXPECT_EQ(Of(Roster().lblComplete), "Roster Is Incomplete");
+    EXPECT_EQ(Roster().txtReasons->toPlainText(),
+              "Not enough Centers available in Pro Team! 4 Dressed. 5 Required.\n"
+              "Not enough Left Wings available in Pro Team! 4 Dressed. 20000 Required.\n"
+              "Not enough Centers available in Pro and Farm Team! 8 Dressed. 10 Required.");
+}
+
+TEST_F(frmRosterTest, ReasonsTakePlaceOnlyWhileThereAreSome)
+{
+    CompleteTeam(5);
+    const auto topOfLists = [&] {
+        Settle();
+        return Roster().lstPlayer[2]->mapTo(&Roster(), QPoint()).y();
+    };
+    const int complete = topOfLists();
+    LeagueData.RequiredRightWings = 5;
+    Roster().ShowPlayer(false);
+    EXPECT_GE(topOfLists(), complete + Roster().txtReasons->height());
+    LeagueData.RequiredRightWings = 3;
+    Roster().ShowPlayer(false);
+    EXPECT_EQ(topOfLists(), complete);
+}
+
+TEST_F(frmRosterTest, EnterOpensTheCurrentOneOfSeveralChosenEntriesAsADoubleClickDoes)
+{
+    ProvideViewer(false);
+    PutSeven();
+    ClickEntry(1, 0);
+    ClickEntry(1, 2, Qt::ShiftModifier);
+    Press(Roster().lstPlayer[1], Qt::Key_Return);
+    EXPECT_NE(TheStage.Find("EditPlayer"), nullptr);
+    EXPECT_EQ(SelectedPlayer, 3);
+}
+
+TEST_F(frmRosterTest, EnterOpensNobodyWhereTheCurrentEntryIsNotChosenOrThereIsNone)
+{
+    ProvideViewer(false);
+    PutSeven();
+    ClickEntry(1, 0);
+    ClickEntry(1, 1, Qt::ControlModifier);
+    ClickEntry(1, 1, Qt::ControlModifier);
+    ASSERT_THAT(ChosenRows(1), ElementsAre(0));
+    ASSERT_EQ(Roster().lstPlayer[1]->currentRow(), 1);
+    Press(Roster().lstPlayer[1], Qt::Key_Return);
+    EXPECT_EQ(TheStage.Find("EditPlayer"), nullptr);
+    ClickEntry(2, 1); // list 1 keeps its first entry chosen and has no current one
+    Press(Roster().lstPlayer[1], Qt::Key_Return);
+    EXPECT_EQ(TheStage.Find("EditPlayer"), nullptr);
+    EXPECT_EQ(SelectedPlayer, 7);
+}
+
+TEST_F(frmRosterTest, TheRealViewerThatChangedNothingHasTheStatsShownAnewAndTheListsLeftAlone)
+{
+    PutSkater(3, 5, position::Center, status::Pro);
+    DoubleClickEntry(2, 0);
+    ASSERT_NE(TheStage.Find("EditPlayer"), nullptr);
+    EXPECT_EQ(ViewerReturnMode, 2);
+    Players[3].Name = "Ward Tilton";
+    Players[3].Stats[skater::CK] = 77;
+    TheStage.Find("EditPlayer")->close();
+    Settle();
+    EXPECT_EQ(TheStage.Find("EditPlayer"), nullptr);
+    EXPECT_TRUE(Roster().isVisible());
+    EXPECT_EQ(EntryTextAt(2, 0), "Skater 3");
+    EXPECT_THAT(ChosenRows(2), ElementsAre(0));
+    EXPECT_EQ(Of(Roster().Stats->lblStat[1]), "77");
+    EXPECT_THAT(Machine.Boxes(), IsEmpty());
+}
+
+// At the right edge of an entry stands what the eye compares; the name gives way.
+TEST_F(frmRosterTest, ALongNameIsCutAndHisPositionAndOverallStay)
+{
+    PutSkaters(3, status::Pro);
+    Players[2].Name = "Perry Pemlow-Crumcombe Anderssen";
+    Players[3].Name = "Perry Pemlow-Crumcombe Anderssen";
+    Own().Captain = 3;
+    Roster().resize(1180, 760);
+    Settle();
+    PickList* list = Roster().lstPlayer[2];
+    list->setAlternatingRowColors(false);
+    const QStringList aside = list->item(0)->data(entry::AsideRole).toStringList();
+    const int right = list->fontMetrics().horizontalAdvance("WW") * static_cast<int>(aside.size() + 1);
+    const auto edgeOf = [&](int row, int width) {
+        const QRect area = list->visualItemRect(list->item(row));
+        return list->viewport()->grab(QRect(area.right() - width, area.top(), width, area.height())).toImage();
+    };
+    ASSERT_LT(list->viewport()->width(), right + list->fontMetrics().horizontalAdvance(list->item(1)->text()));
+    EXPECT_EQ(edgeOf(1, right), edgeOf(0, right));
+    EXPECT_EQ(edgeOf(2, right), edgeOf(0, right));
 }
 
 } // namespace

@@ -8,6 +8,7 @@
 #include <QKeyEvent>
 #include <QMouseEvent>
 #include <QPainter>
+#include <QRegularExpression>
 #include <QTextDocument>
 #include <QToolTip>
 
@@ -24,8 +25,38 @@ int AsideWidth(const QFontMetrics& metrics, const QString& word)
     return std::max(metrics.horizontalAdvance(word), metrics.horizontalAdvance("WW"));
 }
 
-// Where the text of an entry stands.
-QRect TextArea(const QRect& entry) { return entry.adjusted(SideMargin, 0, -SideMargin, 0); }
+// Where text and secondary words of an entry stand.
+QRect ContentArea(const QRect& entry) { return entry.adjusted(SideMargin, 0, -SideMargin, 0); }
+
+QStringList AsideOf(const QModelIndex& index) { return index.data(entry::AsideRole).toStringList(); }
+
+// What the secondary words of an entry take from its right end; nothing where they are left out.
+int AsideRoom(const QStyleOptionViewItem& option, const QModelIndex& index)
+{
+    const QStringList aside = AsideOf(index);
+    if (aside.isEmpty())
+        return 0;
+    int room = SideMargin;
+    for (const QString& word : aside)
+        room += AsideWidth(option.fontMetrics, word) + AsideGap;
+    const int width = ContentArea(option.rect).width();
+    int least = option.fontMetrics.horizontalAdvance(index.data().toString());
+    const auto* list = qobject_cast<const EntryList*>(option.widget);
+    if (list != nullptr && list->CutsNamesFirst())
+        least = std::min(least, width / 2);
+    return least <= width - room ? room : 0;
+}
+
+// The text cut to `width` in its name; the marks behind the name stay.
+QString Cut(const QString& text, const QFontMetrics& metrics, int width)
+{
+    if (metrics.horizontalAdvance(text) <= width)
+        return text;
+    static const QRegularExpression marks(R"(( \([A-Z]\))?( ?\*)*$)");
+    const QString behind = marks.match(text).captured();
+    const QString name = text.chopped(behind.size());
+    return metrics.elidedText(name, Qt::ElideRight, width - metrics.horizontalAdvance(behind)) + behind;
+}
 
 bool MovesChoice(int key)
 {
@@ -50,26 +81,25 @@ void EntryDelegate::paint(QPainter* painter, const QStyleOptionViewItem& option,
                                                                   : QPalette::Active;
     const QColor front = item.palette.color(group, isSelected ? QPalette::HighlightedText : QPalette::Text);
     const QColor back = item.palette.color(group, isSelected ? QPalette::Highlight : QPalette::Base);
-    const QRect area = TextArea(item.rect);
+    const QRect area = ContentArea(item.rect);
+    const int room = AsideRoom(item, index);
 
     painter->save();
     painter->setFont(item.font);
     painter->setPen(front);
     painter->drawText(area, Qt::AlignLeft | Qt::AlignVCenter | Qt::TextSingleLine,
-                      item.fontMetrics.elidedText(text, Qt::ElideRight, area.width()));
-    painter->setPen(Muted(front, back));
-    const QStringList aside = index.data(entry::AsideRole).toStringList();
-    int right = area.right() - SideMargin;
-    int left = right;
-    for (const QString& word : aside)
-        left -= AsideWidth(item.fontMetrics, word) + AsideGap;
-    if (area.left() + item.fontMetrics.horizontalAdvance(text) <= left)
+                      Cut(text, item.fontMetrics, area.width() - room));
+    if (room > 0) {
+        painter->setPen(Muted(front, back));
+        const QStringList aside = AsideOf(index);
+        int right = area.right() - SideMargin;
         for (auto word = aside.rbegin(); word != aside.rend(); ++word) {
             const int width = AsideWidth(item.fontMetrics, *word);
             painter->drawText(QRect(right - width + 1, area.top(), width, area.height()),
                               Qt::AlignRight | Qt::AlignVCenter | Qt::TextSingleLine, *word);
             right -= width + AsideGap;
         }
+    }
     painter->restore();
 }
 
@@ -84,7 +114,8 @@ bool EntryDelegate::helpEvent(QHelpEvent* event, QAbstractItemView* view, const 
                               const QModelIndex& index)
 {
     const QString text = index.data().toString();
-    const bool isCut = option.fontMetrics.horizontalAdvance(text) > TextArea(option.rect).width();
+    const int width = ContentArea(option.rect).width() - AsideRoom(option, index);
+    const bool isCut = option.fontMetrics.horizontalAdvance(text) > width;
     if (event->type() == QEvent::ToolTip && isCut && !index.data(Qt::ToolTipRole).isValid()) {
         QToolTip::showText(event->globalPos(), Qt::convertFromPlainText(text), view, option.rect);
         return true;
@@ -122,15 +153,14 @@ QListWidgetItem* EntryList::Chosen() const
 void EntryList::keyPressEvent(QKeyEvent* event)
 {
     const bool isEnter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
-    if (isEnter && Chosen() != nullptr) {
+    if (isEnter && currentItem() != nullptr && currentItem()->isSelected()) {
         emit EnterPressed();
         return;
     }
     // The toolkit makes the first entry current when the list gets the focus, without choosing it; the first arrow would
     // then skip it.
     if (MovesChoice(event->key()) && Chosen() == nullptr && count() > 0) {
-        setCurrentRow(event->key() == Qt::Key_End ? count() - 1 : std::max(0, currentRow()),
-                      QItemSelectionModel::ClearAndSelect);
+        setCurrentRow(event->key() == Qt::Key_End ? count() - 1 : FirstChoice(), QItemSelectionModel::ClearAndSelect);
         return;
     }
     QListWidget::keyPressEvent(event);

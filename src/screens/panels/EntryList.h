@@ -1,5 +1,6 @@
 #pragma once
 
+#include <algorithm>
 #include <QListWidget>
 #include <QStyledItemDelegate>
 
@@ -12,8 +13,9 @@ inline constexpr int NumberRole = Qt::UserRole;
 inline constexpr int AsideRole = Qt::UserRole + 1;
 } // namespace entry
 
-// Draws an entry with its secondary words at its right edge, each in a column of its own. Where both do not fit, the entry's
-// text comes first and the secondary words are left out; a text that does not even fit alone is told by a tooltip.
+// Draws an entry with its secondary words at its right edge, each in a column of its own. Where both do not fit, the list
+// decides: either the secondary words are left out, or they stay and the name is cut, as long as half of the entry is left
+// for it. The marks behind a name (" (C) *") stay; a text that is cut is told whole by a tooltip.
 class EntryDelegate : public QStyledItemDelegate {
 public:
     using QStyledItemDelegate::QStyledItemDelegate;
@@ -25,7 +27,7 @@ public:
 };
 
 // A list of entries with numbers. Arrows, Home and End choose from the first key on, letters jump to an entry, and Enter
-// acts on the chosen one.
+// acts on the current one if it is chosen, as a double click does.
 class EntryList : public QListWidget {
     Q_OBJECT
 public:
@@ -33,21 +35,29 @@ public:
 
     // Adds an entry behind the others.
     void Add(const QString& text, int number, const QStringList& aside = {});
+    // Has names cut where they and the secondary words do not fit. Without this call the secondary words are left out.
+    void CutNamesFirst() { cutsNamesFirst = true; }
+    [[nodiscard]] bool CutsNamesFirst() const { return cutsNamesFirst; }
     // Takes the choice away, so that the next click or key on any entry is a new one.
     void Unchoose();
     // The chosen entry, or none.
     [[nodiscard]] QListWidgetItem* Chosen() const;
 
 signals:
-    // Enter was pressed on the chosen entry.
+    // Enter was pressed on the current entry, which is chosen.
     void EnterPressed();
 
 protected:
+    // The row that the first arrow chooses when nothing is chosen.
+    [[nodiscard]] virtual int FirstChoice() const { return std::max(0, currentRow()); }
     void keyPressEvent(QKeyEvent* event) override;
     // Only the left button acts on an entry.
     void mouseDoubleClickEvent(QMouseEvent* event) override;
     // Where one entry is chosen at a time, the chosen one is never toggled off by the control key.
     QItemSelectionModel::SelectionFlags selectionCommand(const QModelIndex& index, const QEvent* event) const override;
+
+private:
+    bool cutsNamesFirst = false;
 };
 
 } // namespace dravik

@@ -1,5 +1,6 @@
 #include "screens/panels/PickList.h"
 
+#include <algorithm>
 #include <QKeyEvent>
 #include <QMouseEvent>
 #include <utility>
@@ -24,11 +25,18 @@ void PickList::Empty()
     clear();
     holdsBack = outer;
     hasNews = false;
+    gapRow = 0;
 }
 
 void PickList::TakeFrom(PickList& other, int row)
 {
     const bool outer = std::exchange(other.holdsBack, true);
+    if (other.currentRow() == row) { // the toolkit would make a neighbour current, whom nobody has chosen
+        other.SetCurrentToNone();
+        other.gapRow = row;
+    } else if (row < other.gapRow) {
+        --other.gapRow;
+    }
     QListWidgetItem* moved = other.takeItem(row);
     other.holdsBack = outer;
     other.hasNews = false;
@@ -44,6 +52,8 @@ int PickList::RowOf(int number) const
 }
 
 void PickList::SetCurrentToNone() { setCurrentRow(-1, QItemSelectionModel::NoUpdate); }
+
+int PickList::FirstChoice() const { return currentRow() >= 0 ? currentRow() : std::min(gapRow, count() - 1); }
 
 bool PickList::viewportEvent(QEvent* event)
 {

@@ -15,7 +15,8 @@ public:
 
     // What follows tells nobody.
     void Empty();
-    // Adds at the end a copy of the entry `row` of `other` and takes it out there.
+    // Takes the entry `row` out of `other` and puts it at the end here. If it was the current one, none is current there
+    // afterwards; the next arrow goes on where it stood.
     void TakeFrom(PickList& other, int row);
 
     // The row of the entry with that number, or -1.
@@ -29,6 +30,7 @@ signals:
     void Picked();
 
 protected:
+    [[nodiscard]] int FirstChoice() const override;
     bool viewportEvent(QEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
     void focusInEvent(QFocusEvent* event) override;
@@ -39,6 +41,7 @@ private:
 
     bool holdsBack = false;
     bool hasNews = false;
+    int gapRow = 0; // where the current entry was taken away
 };
 
 } // namespace dravik

@@ -1,13 +1,11 @@
 #include "screens/panels/StatPanel.h"
 
+#include "screens/ElementName.h"
 #include "screens/panels/Labels.h"
 #include "screens/panels/Shades.h"
 #include "screens/platform/CodePage.h"
-#include "screens/platform/Palettes.h"
 
-#include <algorithm>
 #include <QGridLayout>
-#include <QPainter>
 
 namespace dravik {
 
@@ -16,43 +14,6 @@ namespace {
 constexpr int RowCount = 16;
 constexpr int RowsOfColumn = 8;
 constexpr int CellsOfColumn = 4; // caption, bar, number, space to the next column
-constexpr int BestRating = 99;
-constexpr int LeastBarWidth = 40;
-constexpr int BarHeight = 9;
-
-QString Indexed(const char* name, int index) { return QString("%1(%2)").arg(name).arg(index); }
-
-// How far a rating reaches.
-class RatingBar : public QWidget {
-public:
-    explicit RatingBar(QWidget* parent) : QWidget(parent)
-    {
-        setMinimumSize(LeastBarWidth, BarHeight);
-        setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
-    }
-
-    void SetRating(int shown)
-    {
-        rating = std::clamp(shown, 0, BestRating);
-        update();
-    }
-
-protected:
-    void paintEvent(QPaintEvent* /*event*/) override
-    {
-        QPainter painter(this);
-        const QColor back = palette().color(QPalette::Window);
-        const QColor front = palette().color(QPalette::WindowText);
-        const QRectF whole = rect();
-        painter.fillRect(whole, Mixed(back, front, 0.1));
-        QRectF reached = whole;
-        reached.setWidth(whole.width() * rating / BestRating);
-        painter.fillRect(reached, Mixed(palette().color(QPalette::Active, QPalette::Highlight), back, 0.3));
-    }
-
-private:
-    int rating = 0;
-};
 
 void KeepPlaceWhenHidden(QWidget* widget)
 {
@@ -67,9 +28,9 @@ StatPanel::StatPanel(QWidget* parent) : QGroupBox("Stats", parent)
 {
     for (int row = 0; row <= RowCount; ++row) {
         lblStatLabel[row] = new MutedLabel(this);
-        lblStatLabel[row]->setObjectName(Indexed("lblStatLabel", row));
+        lblStatLabel[row]->setObjectName(ElementName("lblStatLabel", row));
         lblStat[row] = new QLabel(this);
-        lblStat[row]->setObjectName(Indexed("lblStat", row));
+        lblStat[row]->setObjectName(ElementName("lblStat", row));
         lblStat[row]->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
         for (QLabel* label : {lblStat[row], lblStatLabel[row]})
             label->setTextFormat(Qt::PlainText);
@@ -156,7 +117,7 @@ void StatPanel::ShowRow(int row, const StatRow& shown)
     lblStat[row]->setText(QString::number(shown.Value));
     lblStat[row]->setAccessibleName(QString("%1 %2").arg(caption).arg(shown.Value));
     lblStat[row]->show();
-    static_cast<RatingBar*>(bars[row])->SetRating(shown.Value);
+    bars[row]->SetValue(shown.Value);
     bars[row]->show();
 }
 

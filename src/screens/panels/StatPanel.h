@@ -2,6 +2,7 @@
 
 #include "league/Field.h"
 #include "rules/StatRows.h"
+#include "screens/panels/RatingBar.h"
 
 #include <QGroupBox>
 #include <QLabel>
@@ -22,15 +23,15 @@ public:
     void SetName(const QString& name);
     // Shows the ratings, and the overall behind them where the league shows it.
     void ShowRows(const StatRows& rows);
+    // Shows one of the rows 1 to 16.
+    void ShowRow(int row, const StatRow& shown);
 
     Row<QLabel*, 0, 16> lblStat;
     Row<QLabel*, 0, 16> lblStatLabel;
 
 private:
-    void ShowRow(int row, const StatRow& shown);
-
     QLabel* lblName;
-    Row<QWidget*, 1, 16> bars;
+    Row<RatingBar*, 1, 16> bars;
 };
 
 } // namespace dravik

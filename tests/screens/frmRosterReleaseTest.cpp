@@ -1,0 +1,338 @@
+#include "OnRosterScreen.h"
+
+#include "AnswerDialog.h"
+#include "screens/platform/QtPlatform.h"
+
+namespace dravik {
+namespace {
+
+using ::testing::ElementsAre;
+using ::testing::IsEmpty;
+
+using Entry = std::pair<std::string, int>;
+
+const Box Integrity{16, "Integrity Check Failed!"};
+const Box DeadlinePassed{64, "Trade Deadline is Passed!"};
+
+class frmRosterReleaseTest : public OnRosterScreen {
+protected:
+    // A released person's contract, priced by the answers given before.
+    void Release(int percent)
+    {
+        Machine.Type(std::to_string(percent));
+        Roster().cmdRelease_Click();
+    }
+    Player& PutExpensive()
+    {
+        Player& player = PutSkater(1, 5, position::Center, status::Scratch);
+        player.Contract = 3;
+        player.Salary = 1000000;
+        Own().SeasonGames = 82;
+        Own().GamesPlayed = 41;
+        Own().Cash = 5000000;
+        Choose(1, 1);
+        return player;
+    }
+
+    // Releases the person of PutExpensive for `percent`, which has to end in an overflow and leave him as he is.
+    void ExpectOverflow(int percent)
+    {
+        const long long cash = Own().Cash;
+        const long long contract = Players[1].Contract;
+        Own().ProLines[1].NormalForward(1, 1) = 1;
+        Release(percent);
+        EXPECT_THAT(Machine.TakeBoxes(), ElementsAre(Box{36, "Are you sure you want to release Skater 1?"},
+                                                     Box{16, "6 - Overflow in cmdRelease!"}));
+        EXPECT_EQ(Players[1].Team, 5);
+        EXPECT_EQ(Players[1].Contract, contract);
+        EXPECT_EQ(Own().Cash, cash);
+        EXPECT_EQ(Own().ProLines[1].NormalForward(1, 1), 1);
+        EXPECT_FALSE(Modified);
+    }
+};
+
+TEST_F(frmRosterReleaseTest, WaiversAfterTheDeadlineAreRefused)
+{
+    PutSkaters(1, status::Pro);
+    Choose(1, 1);
+    PassDeadline();
+    Roster().cmdSendToWaiver_Click();
+    EXPECT_THAT(Machine.Boxes(), ElementsAre(DeadlinePassed));
+    EXPECT_EQ(Players[1].Suspension, 0);
+}
+
+TEST_F(frmRosterReleaseTest, AProPlayerGoesToTheScratchesAndOnWaivers)
+{
+    PutSkaters(2, status::Pro);
+    Choose(2, 1);
+    Roster().cmdSendToWaiver_Click();
+    EXPECT_THAT(Machine.Boxes(), ElementsAre(Box{64, "Skater 2 was sent to Waiver."}));
+    EXPECT_THAT(Listed(1), ElementsAre(Entry{"Skater 2", 21}));
+    EXPECT_THAT(Listed(2), ElementsAre(Entry{"Skater 1", 11}));
+    EXPECT_EQ(Of(Roster().lblPlayer[1]), "Scratches Player = 1");
+    EXPECT_EQ(Players[2].Suspension, 99);
+    EXPECT_EQ(Players[2].Status, 1);
+    EXPECT_TRUE(Modified);
+}
+
+TEST_F(frmRosterReleaseTest, AnInjuredProGoalieGoesOnWaiversFromTheProList)
+{
+    PutGoalie(1, 5, status::Pro);
+    Choose(1, 5);
+    Goalies[1].Condition = 50;
+    Roster().cmdSendToWaiver_Click();
+    EXPECT_THAT(Machine.Boxes(), ElementsAre(Box{48, "Cannot Move an Injured Goalie!"}, Integrity,
+                                             Box{64, "Goalie 1 was sent to Waiver."}));
+    EXPECT_THAT(Listed(2), ElementsAre(Entry{"Goalie 1", 15}));
+    EXPECT_EQ(Goalies[1].Suspension, 99);
+    EXPECT_EQ(Goalies[1].Status, 2);
+    EXPECT_FALSE(Modified);
+}
+
+TEST_F(frmRosterReleaseTest, AScratchGoesOnWaiversWhereHeStandsAndNothingIsModified)
+{
+    PutSkaters(1, status::Scratch);
+    Choose(1, 1);
+    Roster().cmdSendToWaiver_Click();
+    EXPECT_THAT(Machine.Boxes(), ElementsAre(Box{64, "Skater 1 was sent to Waiver."}));
+    EXPECT_EQ(Players[1].Suspension, 99);
+    EXPECT_FALSE(Modified);
+}
+
+TEST_F(frmRosterReleaseTest, ReleaseChargesTheRestOfTheContractByTheGamesLeft)
+{
+    Player& player = PutExpensive();
+    player.Protected = true;
+    player.NoApplyRerate = true;
+    player.TradeAvailable = true;
+    player.NoTrade = true;
+    RosterChanges[1].Status = 1;
+    RosterChanges[1].Protected = true;
+    Release(50);
+    EXPECT_THAT(Machine.Boxes(), ElementsAre(Box{36, "Are you sure you want to release Skater 1?"}));
+    EXPECT_THAT(Machine.Questions(),
+                ElementsAre(Question{.Prompt = "How much % does team paid the player for the rest of is contract?",
+                                     .Default = "0"}));
+    EXPECT_EQ(Own().Cash, 3750000);
+    EXPECT_EQ(player.Team, 0);
+    EXPECT_EQ(player.Contract, 0);
+    for (const Boolean& flag : {player.Protected, player.NoApplyRerate, player.TradeAvailable, player.NoTrade})
+        EXPECT_FALSE(flag);
+    EXPECT_EQ(player.Status, 1);
+    EXPECT_EQ(player.Salary, 1000000);
+    EXPECT_EQ(RosterChanges[1].Status, 1);
+    EXPECT_TRUE(RosterChanges[1].Protected);
+    EXPECT_THAT(Listed(1), IsEmpty());
+    EXPECT_TRUE(Modified);
+}
+
+TEST_F(frmRosterReleaseTest, ReleaseWithoutASeasonChargesTheFullContract)
+{
+    PutExpensive();
+    Own().SeasonGames = 0;
+    Release(50);
+    EXPECT_EQ(Own().Cash, 3500000);
+}
+
+TEST_F(frmRosterReleaseTest, ReleaseOfAGoalieAsksForTheGoalerAndTakesHimOffTheLines)
+{
+    const TeamMaker made = CompleteTeam(5);
+    const int keeper = made.GoalieIds[0];
+    Choose(keeper, 5);
+    Machine.TakeBoxes();
+    Machine.Type("0");
+    Roster().cmdRelease_Click();
+    EXPECT_THAT(Machine.Questions(),
+                ElementsAre(Question{.Prompt = "How much % does team paid the goaler for the rest of is contract?",
+                                     .Default = "0"}));
+    EXPECT_EQ(Own().ProLines[1].StartGoalie, 0);
+    EXPECT_EQ(Goalies[keeper].Team, 0);
+}
+
+TEST_F(frmRosterReleaseTest, APercentThatIsNoNumberOrACancelledBoxReleasesForNothing)
+{
+    for (const char* answer : {"abc", ""}) {
+        PutExpensive();
+        Machine.Type(answer);
+        Roster().cmdRelease_Click();
+        EXPECT_EQ(Own().Cash, 5000000) << answer;
+        EXPECT_EQ(Players[1].Team, 0) << answer;
+        Roster().ShowPlayer(true);
+        PutSkater(1, 5, position::Center, status::Scratch);
+        Roster().ShowPlayer(true);
+    }
+}
+
+TEST_F(frmRosterReleaseTest, APercentIsHeldBetweenZeroAndAHundred)
+{
+    PutExpensive();
+    Release(150);
+    EXPECT_EQ(Own().Cash, 2500000);
+    Player& again = PutSkater(1, 5, position::Center, status::Scratch);
+    again.Contract = 3;
+    Own().Cash = 5000000;
+    Release(-5);
+    EXPECT_EQ(Own().Cash, 5000000);
+    EXPECT_EQ(again.Team, 0);
+}
+
+TEST_F(frmRosterReleaseTest, APercentIsRoundedTiesToEven)
+{
+    PutExpensive();
+    Machine.Type("2.5 or so");
+    Roster().cmdRelease_Click();
+    EXPECT_EQ(Own().Cash, 4950000);
+}
+
+TEST_F(frmRosterReleaseTest, NoReleasesNobodyAndStillCountsAsModified)
+{
+    PutExpensive();
+    Machine.Answer(button::No);
+    Roster().cmdRelease_Click();
+    EXPECT_THAT(Machine.Questions(), IsEmpty());
+    EXPECT_EQ(Players[1].Team, 5);
+    EXPECT_EQ(Own().Cash, 5000000);
+    EXPECT_TRUE(Modified);
+}
+
+TEST_F(frmRosterReleaseTest, AContractBeyondThirtyTwoBitsIsAFailureThatReleasesNobody)
+{
+    Player& player = PutExpensive();
+    player.Salary = 2000000000;
+    Own().SeasonGames = 0;
+    Release(0);
+    EXPECT_EQ(Machine.Boxes().back(), (Box{16, "6 - Overflow in cmdRelease!"}));
+    EXPECT_EQ(player.Team, 5);
+    EXPECT_FALSE(Modified);
+}
+
+TEST_F(frmRosterReleaseTest, APercentBeyondSixteenBitsFailsBeforeItIsCut)
+{
+    const Player& player = PutExpensive();
+    Release(40000);
+    EXPECT_EQ(Machine.Boxes().back(), (Box{16, "6 - Overflow in cmdRelease!"}));
+    EXPECT_EQ(player.Team, 5);
+}
+
+// The whole way through the real dialogs: the question and the amount of a release.
+TEST_F(frmRosterReleaseTest, ReleaseThroughTheRealDialogs)
+{
+    PutExpensive();
+    QtPlatform desktop({QString::fromStdString(Machine.InFolder("settings.ini")),
+                        QString::fromStdString(Machine.Folder()), QString::fromStdString(Machine.InFolder("lock"))});
+    UseMachine(desktop);
+    OnDialog<QDialog>([](QDialog& question) {
+        dravik::Click(question, "cmdYes");
+        OnDialog<QDialog>([](QDialog& amount) {
+            auto* box = amount.findChild<QLineEdit*>();
+            ASSERT_NE(box, nullptr);
+            EXPECT_EQ(box->text(), "0");
+            box->setText("50");
+            dravik::Press(amount, Qt::Key_Return);
+        });
+    });
+    Roster().cmdRelease_Click();
+    UseMachine(Machine);
+    EXPECT_EQ(Own().Cash, 3750000);
+    EXPECT_EQ(Players[1].Team, 0);
+}
+
+TEST_F(frmRosterReleaseTest, WaiversAreOpenWithOnlyOneFlagOfTheDeadline)
+{
+    PutSkaters(2, status::Scratch);
+    for (const int id : {1, 2}) {
+        LeagueData.TradeDeadlinePassed = id == 1;
+        LeagueData.TradeDeadlineInForce = id == 2;
+        Choose(id, 1);
+        Roster().cmdSendToWaiver_Click();
+        EXPECT_THAT(Machine.TakeBoxes(), ElementsAre(Box{64, "Skater " + std::to_string(id) + " was sent to Waiver."}));
+        EXPECT_EQ(Players[id].Suspension, 99);
+    }
+}
+
+TEST_F(frmRosterReleaseTest, ReleaseOfAGoalieClearsHisFlagsAndContractAndLeavesHisChanges)
+{
+    Goalie& keeper = PutGoalie(4, 5, status::Scratch);
+    keeper.Protected = true;
+    keeper.NoApplyRerate = true;
+    keeper.TradeAvailable = true;
+    keeper.NoTrade = true;
+    keeper.Contract = 2;
+    Own().SeasonGames = 0;
+    Own().Cash = 5000000;
+    Choose(4, 5);
+    RosterChangesGoalie[4].Status = 1;
+    RosterChangesGoalie[4].Protected = true;
+    RosterChangesGoalie[4].TradeAvailable = true;
+    Release(100);
+    EXPECT_EQ(Own().Cash, 3000000);
+    EXPECT_EQ(keeper.Team, 0);
+    EXPECT_EQ(keeper.Contract, 0);
+    for (const Boolean& flag : {keeper.Protected, keeper.NoApplyRerate, keeper.TradeAvailable, keeper.NoTrade})
+        EXPECT_FALSE(flag);
+    EXPECT_EQ(keeper.Status, 1);
+    EXPECT_EQ(keeper.Salary, 1000000);
+    EXPECT_EQ(RosterChangesGoalie[4].Status, 1);
+    EXPECT_TRUE(RosterChangesGoalie[4].Protected);
+    EXPECT_TRUE(RosterChangesGoalie[4].TradeAvailable);
+    EXPECT_THAT(Listed(1), IsEmpty());
+    EXPECT_TRUE(Modified);
+}
+
+TEST_F(frmRosterReleaseTest, ContractYearsAheadBeyondThirtyTwoBitsAreAFailureThatReleasesNobody)
+{
+    PutExpensive().Salary = 2000000000; // two more years of it
+    ExpectOverflow(0);
+    PutExpensive().Salary = 1073741823; // just fits
+    Own().GamesPlayed = 82;
+    Release(0);
+    EXPECT_EQ(Players[1].Team, 0);
+}
+
+TEST_F(frmRosterReleaseTest, ARestBeyondThirtyTwoBitsIsAFailureThatReleasesNobodyEvenForNothing)
+{
+    Player& player = PutExpensive();
+    player.Contract = 2;
+    player.Salary = 1431655765; // and half a year more
+    Own().GamesPlayed = 40;
+    ExpectOverflow(0);
+}
+
+TEST_F(frmRosterReleaseTest, AnAccountBelowThirtyTwoBitsIsAFailureThatReleasesNobody)
+{
+    PutExpensive();
+    Own().Cash = -2147000000;
+    ExpectOverflow(50);
+}
+
+TEST_F(frmRosterReleaseTest, TheRestIsRoundedTiesToEvenBeforeThePercentIsTaken)
+{
+    for (const auto& [salary, charged] : {std::pair{5, 2}, std::pair{7, 4}}) { // 2.5 and 3.5
+        Player& player = PutExpensive();
+        player.Contract = 1;
+        player.Salary = salary;
+        Release(100);
+        EXPECT_EQ(Own().Cash, 5000000 - charged) << salary;
+        PutSkater(1, 5, position::Center, status::Scratch);
+        Roster().ShowPlayer(true);
+    }
+}
+
+// What is left is rounded, not what is paid.
+TEST_F(frmRosterReleaseTest, TheAccountAfterABuyOutIsRoundedTiesToEven)
+{
+    for (const auto& [before, after] : {std::pair{11, 8}, std::pair{10, 8}}) { // 8.5 and 7.5
+        Player& player = PutExpensive();
+        player.Contract = 1;
+        player.Salary = 5;
+        Own().SeasonGames = 0;
+        Own().Cash = before;
+        Release(50);
+        EXPECT_EQ(Own().Cash, after);
+        PutSkater(1, 5, position::Center, status::Scratch);
+        Roster().ShowPlayer(true);
+    }
+}
+
+} // namespace
+} // namespace dravik
