@@ -150,7 +150,7 @@ void LineBoard::MakeGroupPage(const LineGroup& group, const QString& caption)
 {
     auto* column = new QVBoxLayout(AddPage(caption));
     column->setContentsMargins(Margin, Gap, Margin, Gap);
-    column->setSpacing(Gap);
+    column->setSpacing(Margin);
     for (int number = 1; number <= group.Count; ++number)
         column->addWidget(MakeUnit(group, number));
     column->addStretch(1);

@@ -13,7 +13,7 @@
 #include "screens/platform/CodePage.h"
 #include "screens/RosterEntry.h"
 
-#include <algorithm>
+#include <type_traits>
 
 // Opening and closing, the list, the days, strategy, goalie pull and the commands on the lines.
 namespace dravik {
@@ -71,7 +71,8 @@ void LinesScreen::FindGames()
         for (auto row = ScheduleTable::first; row <= ScheduleTable::last && games < LineDays; ++row) {
             const ScheduleRow& game = GameSchedule[row];
             const bool isHome = game.*Kind.Home == CurrentTeam;
-            if (!(game.*Kind.Game) || game.*Kind.Played || !(isHome || game.*Kind.Away == CurrentTeam))
+            const bool isToCome = game.*Kind.Game && (game.*Kind.Played).Word() == 0;
+            if (!isToCome || !(isHome || game.*Kind.Away == CurrentTeam))
                 continue;
             ++games;
             GameRow[games] = row;
@@ -116,7 +117,8 @@ void LinesScreen::ListPerson(const Person& person, int index, int position)
     if (person.Status != Kind.Status || !IsDressable(person))
         return;
     const std::string name = person.Name.Trimmed();
-    if (!chkPosition.Has(position)) {
+    constexpr bool isSkater = std::is_same_v<Person, Player>;
+    if (isSkater && (position < position::Center || position > position::Defense)) {
         ShowBox(name + " has no position!", box::Critical);
         return;
     }

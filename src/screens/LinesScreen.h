@@ -139,6 +139,8 @@ private:
     void ShowStrategy();
     template <class Person>
     void ListPerson(const Person& person, int index, int position);
+    // Whether the person picked in the list may be let go on a slot.
+    [[nodiscard]] bool MayDropOn(const SlotLabel& label) const;
     // Names a person in a slot.
     void ShowIn(BoardSlot& slot, long long id);
     // Shows of every slot what stands in it now, whatever name it still reads, and the averages of the lines.

@@ -1,5 +1,6 @@
 #include "screens/EventGuard.h"
 #include "screens/LinesScreen.h"
+#include "screens/panels/EntryDrag.h"
 #include "screens/panels/Labels.h"
 #include "screens/panels/Shades.h"
 
@@ -86,7 +87,8 @@ void LinesScreen::MakeControls()
 {
     lblTeamName = MakeTitle(this);
     lblTeamName->setObjectName("lblTeamName");
-    lblGame = MakeLabel("lblGame", this);
+    lblGame = MakeHeading({}, this);
+    lblGame->setObjectName("lblGame");
     lblPlaying = MakeLabel("lblPlaying", this);
     // What a player plays may be longer than the screen is wide.
     lblPlaying->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
@@ -127,10 +129,7 @@ void LinesScreen::MakeControls()
     lstPlayer->setObjectName("lstPlayer");
     lstPlayer->setAccessibleName("Players");
     lstPlayer->setSelectionMode(QAbstractItemView::SingleSelection);
-    lstPlayer->setDragEnabled(true);
-    lstPlayer->setDragDropMode(QAbstractItemView::DragOnly);
     connect(lstPlayer, &PickList::Picked, this, [this] { lstPlayer_Click(); });
-    lstPlayer->viewport()->installEventFilter(this);
     frmStat = new StatPanel(this);
     frmStat->setObjectName("frmStat");
 
@@ -138,14 +137,12 @@ void LinesScreen::MakeControls()
     TabLine->tabBar()->setFocusPolicy(Qt::StrongFocus); // a press on a tab leaves a text box first
     connect(TabLine, &LineBoard::SlotPressed, this, [this](int index) { Slot_Click(index); });
     connect(TabLine, &LineBoard::HeadingPressed, this, [this](int index) { Heading_Click(index); });
-    for (const BoardSlot& slot : TabLine->Slots) {
+    for (const BoardSlot& slot : TabLine->Slots)
         slot.Label->installEventFilter(this);
-        slot.Label->MayDrop = [this, rule = slot.Rule](const QDropEvent& event) {
-            return event.source() == lstPlayer && lstPlayer->Chosen() != nullptr && TakesPicked(rule);
-        };
-    }
     for (const BoardHeading& heading : TabLine->Headings)
         heading.Label->installEventFilter(this);
+    new EntryDrag(lstPlayer, [this](const SlotLabel& label) { return MayDropOn(label); });
+    lstPlayer->viewport()->installEventFilter(this); // behind the drag's own, so that a press held back starts none
     for (QWidget* pressed : std::initializer_list<QWidget*>{vscDay, TabLine->tabBar()})
         pressed->installEventFilter(this);
     for (QCheckBox* filter : chkPosition)
@@ -182,9 +179,10 @@ void LinesScreen::MakeStrategyPage()
     for (int style = 0; style <= 2; ++style) {
         auto* bar = new QScrollBar(Qt::Horizontal, strategy);
         bar->setObjectName(Indexed("hscStats", style));
-        bar->setAccessibleName(styles[style]);
+        bar->setAccessibleName(QString(styles[style]).remove(" : "));
         bar->setRange(0, MostPoints);
         bar->setPageStep(1);
+        bar->setInvertedControls(false); // the right arrow key gives a point
         bar->setFocusPolicy(Qt::StrongFocus);
         connect(bar, &QScrollBar::valueChanged, this,
                 [this, style] { RunEvent("hscStats_Change", [this, style] { hscStats_Change(style); }); });
@@ -215,7 +213,7 @@ void LinesScreen::MakeStrategyPage()
                                                           {txtPullGoalerMinPct, "Save PCT Under :"}};
     int line = 0;
     for (const auto& [box, caption] : captioned) {
-        box->setAccessibleName(caption);
+        box->setAccessibleName(QString(caption).remove(" :"));
         box->setAlignment(Qt::AlignRight);
         box->setMaximumWidth(box->fontMetrics().horizontalAdvance("0") * 10);
         boxes->addWidget(new MutedLabel(caption, pull), line, 0);

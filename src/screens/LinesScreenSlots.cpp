@@ -5,7 +5,7 @@
 #include "screens/platform/CodePage.h"
 #include "screens/RosterEntry.h"
 
-#include <QHelpEvent>
+#include <algorithm>
 
 // The slots and headings of the board: who stands there, what a press does, and what they tell.
 namespace dravik {
@@ -41,6 +41,13 @@ void LinesScreen::Slot_Click(int index)
         ShowIn(slot, SelectedPlayer);
         Check();
     });
+}
+
+bool LinesScreen::MayDropOn(const SlotLabel& label) const
+{
+    const auto slot = std::find_if(TabLine->Slots.begin(), TabLine->Slots.end(),
+                                   [&label](const BoardSlot& other) { return other.Label == &label; });
+    return slot != TabLine->Slots.end() && lstPlayer->Chosen() != nullptr && TakesPicked(slot->Rule);
 }
 
 void LinesScreen::ShowSlots()

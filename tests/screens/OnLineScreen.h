@@ -1,6 +1,7 @@
 #pragma once
 
 #include "OnStage.h"
+#include "rules/Function.h"
 #include "screens/frmFarmLine.h"
 #include "screens/frmLine.h"
 #include "screens/RosterEntry.h"

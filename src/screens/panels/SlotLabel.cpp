@@ -4,7 +4,6 @@
 #include "screens/panels/Shades.h"
 #include "screens/platform/Palettes.h"
 
-#include <QDragEnterEvent>
 #include <QKeyEvent>
 #include <QMouseEvent>
 #include <QPainter>
@@ -14,7 +13,7 @@ namespace dravik {
 
 namespace {
 
-constexpr QSize UsualSize(170, 34);
+constexpr QSize UsualSize(170, 44);
 constexpr QSize LeastSize(110, 26);
 constexpr double Roundness = 4;
 constexpr double FramePart = 0.28;  // how much of the text is in the frame
@@ -79,12 +78,11 @@ void PressLabel::paintEvent(QPaintEvent* event)
 SlotLabel::SlotLabel(const QString& where, const QString& tag, QWidget* parent) :
     PressLabel(parent), slot(where), position(tag)
 {
-    setAcceptDrops(true);
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Preferred);
     Describe();
 }
 
-QSize SlotLabel::sizeHint() const { return UsualSize.expandedTo({0, fontMetrics().height() + 2 * Gap}); }
+QSize SlotLabel::sizeHint() const { return UsualSize.expandedTo({0, fontMetrics().height() + 2 * Margin}); }
 
 QSize SlotLabel::minimumSizeHint() const { return LeastSize.expandedTo({0, fontMetrics().height() + Gap}); }
 
@@ -143,33 +141,10 @@ void SlotLabel::keyPressEvent(QKeyEvent* event)
 
 void SlotLabel::SetDropTarget(bool target)
 {
+    if (isDropTarget == target)
+        return;
     isDropTarget = target;
     update();
-}
-
-void SlotLabel::dragEnterEvent(QDragEnterEvent* event)
-{
-    if (!MayDrop || !MayDrop(*event)) {
-        event->ignore();
-        return;
-    }
-    event->acceptProposedAction();
-    SetDropTarget(true);
-}
-
-void SlotLabel::dragMoveEvent(QDragMoveEvent* event) { event->acceptProposedAction(); }
-
-void SlotLabel::dragLeaveEvent(QDragLeaveEvent* /*event*/) { SetDropTarget(false); }
-
-void SlotLabel::dropEvent(QDropEvent* event)
-{
-    SetDropTarget(false);
-    if (!MayDrop || !MayDrop(*event)) {
-        event->ignore();
-        return;
-    }
-    event->acceptProposedAction();
-    emit Pressed();
 }
 
 void SlotLabel::paintEvent(QPaintEvent* /*event*/)

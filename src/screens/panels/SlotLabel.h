@@ -1,7 +1,5 @@
 #pragma once
 
-#include <functional>
-#include <QDropEvent>
 #include <QLabel>
 
 namespace dravik {
@@ -29,7 +27,7 @@ private:
 };
 
 // One slot of a line-up: a frame with the position at its left, the name, and secondary words at its right edge. The text
-// is the name alone. A drop on it counts as a press.
+// is the name alone.
 class SlotLabel : public PressLabel {
     Q_OBJECT
 public:
@@ -51,8 +49,9 @@ public:
     void SetPicked(bool picked);
     [[nodiscard]] bool IsPicked() const { return isPicked; }
 
-    // Asked whether what hovers over the slot may be dropped on it; without it nothing may.
-    std::function<bool(const QDropEvent&)> MayDrop;
+    // Somebody is being dragged over the slot and may be let go there.
+    void SetDropTarget(bool target);
+    [[nodiscard]] bool IsDropTarget() const { return isDropTarget; }
 
     [[nodiscard]] QSize sizeHint() const override;
     [[nodiscard]] QSize minimumSizeHint() const override;
@@ -63,15 +62,10 @@ signals:
 
 protected:
     void keyPressEvent(QKeyEvent* event) override;
-    void dragEnterEvent(QDragEnterEvent* event) override;
-    void dragMoveEvent(QDragMoveEvent* event) override;
-    void dragLeaveEvent(QDragLeaveEvent* event) override;
-    void dropEvent(QDropEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
 
 private:
     void Describe();
-    void SetDropTarget(bool target);
 
     QString slot;
     QString position;

@@ -1,0 +1,59 @@
+#pragma once
+
+#include <QAbstractItemView>
+#include <QApplication>
+#include <QMouseEvent>
+#include <QTest>
+
+namespace dravik {
+
+// A drag of an entry of a list with the mouse, step by step. The pointer stays with the list that was pressed, wherever it
+// goes, as it does while a button is down.
+class EntryDragging {
+public:
+    // Presses the entry `row` and moves off far enough for a drag.
+    EntryDragging(QAbstractItemView* pressed, int row) : list(pressed)
+    {
+        const QModelIndex entry = list->model()->index(row, 0);
+        list->scrollTo(entry);
+        const QPoint from = list->visualRect(entry).center();
+        QTest::mousePress(list->viewport(), Qt::LeftButton, {}, from);
+        Send(QEvent::MouseMove, list->viewport()->mapToGlobal(from + QPoint(1, 0)));
+        Send(QEvent::MouseMove, list->viewport()->mapToGlobal(from + QPoint(2 * QApplication::startDragDistance(), 0)));
+    }
+
+    void MoveTo(const QWidget* widget) { MoveTo(widget, widget->rect().center()); }
+    void MoveTo(const QWidget* widget, const QPoint& point)
+    {
+        pointer = widget->mapToGlobal(point);
+        Send(QEvent::MouseMove, pointer);
+    }
+    void LetGo()
+    {
+        Send(QEvent::MouseButtonRelease, pointer);
+        QApplication::processEvents();
+    }
+
+private:
+    void Send(QEvent::Type type, const QPoint& global)
+    {
+        const bool isRelease = type == QEvent::MouseButtonRelease;
+        QMouseEvent event(type, list->viewport()->mapFromGlobal(QPointF(global)), QPointF(global),
+                          isRelease ? Qt::LeftButton : Qt::NoButton, isRelease ? Qt::NoButton : Qt::LeftButton,
+                          Qt::NoModifier);
+        QApplication::sendEvent(list->viewport(), &event);
+    }
+
+    QAbstractItemView* list;
+    QPoint pointer;
+};
+
+// Drags the entry `row` of a list onto the middle of `target`.
+inline void DragEntry(QAbstractItemView* list, int row, const QWidget* target)
+{
+    EntryDragging drag(list, row);
+    drag.MoveTo(target);
+    drag.LetGo();
+}
+
+} // namespace dravik
