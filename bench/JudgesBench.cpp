@@ -7,6 +7,7 @@
 #include "league/ClientVariable.h"
 #include "makers/Makers.h"
 #include "rules/Function.h"
+#include "rules/People.h"
 #include "support/SmallLeague.h"
 
 #include <cstdlib>
@@ -73,14 +74,14 @@ void FillLeague()
         std::abort();
 }
 
-// Looks at every record of both tables once, as whoever wants to know a team's people must.
+// Looks at every record of both tables once and counts the team's people, with the program's own walk: what is measured
+// is what the routines add to it. A walk written out here takes from 1.0 to 1.6 times as long, as its place in memory has it.
 long long WalkTables()
 {
     long long found = 0;
-    for (const Player& player : Players)
-        found += player.Team == Own && player.InUse ? 1 : 0;
-    for (const Goalie& keeper : Goalies)
-        found += keeper.Team == Own && keeper.InUse ? 1 : 0;
+    const auto count = [&](const auto& /*person*/, int /*index*/) { ++found; };
+    EachOfTeam(Players, Own, count);
+    EachOfTeam(Goalies, Own, count);
     return found;
 }
 

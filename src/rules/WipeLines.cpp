@@ -4,6 +4,13 @@
 #include "rules/Function.h"
 #include "rules/LineSlots.h"
 
+#include <algorithm>
+#include <array>
+#include <bit>
+#include <cstdint>
+#include <cstring>
+#include <utility>
+
 namespace dravik {
 
 namespace {
@@ -14,6 +21,17 @@ void EmptyIfHolding(Int16& slot, long long index)
         slot = 0;
 }
 
+// Whether a line-up has the number in any of its words, the ones that hold no skater included. Few line-ups do, and this
+// is far less work than looking into the slots one by one.
+bool HasWord(const Lines& lines, std::int16_t number)
+{
+    constexpr std::size_t count = sizeof(Lines) / sizeof(Int16);
+    const auto wanted = std::bit_cast<std::uint16_t>(Int16(number));
+    std::array<std::uint16_t, count> words{};
+    std::memcpy(words.data(), &lines, sizeof words);
+    return std::find(words.begin(), words.end(), wanted) != words.end();
+}
+
 void TakeOut(Lines& lines, int id)
 {
     if (id > GoalieOffset) {
@@ -21,6 +39,8 @@ void TakeOut(Lines& lines, int id)
         EmptyIfHolding(lines.BackupGoalie, id - GoalieOffset);
         return;
     }
+    if (!std::in_range<std::int16_t>(id) || !HasWord(lines, static_cast<std::int16_t>(id)))
+        return;
     for (const LineSlot& slot : SkaterSlots)
         EmptyIfHolding(At(lines, slot), id);
 }
