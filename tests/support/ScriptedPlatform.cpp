@@ -31,7 +31,12 @@ public:
     }
     void Write(const void* data, std::size_t size) override
     {
-        platform.Count("write");
+        platform.Count("write", [&] {
+            if (!platform.TearsWrites)
+                return;
+            file->Write(data, size / 2);
+            file->Flush();
+        });
         file->Write(data, size);
     }
     void Flush() override
@@ -209,12 +214,17 @@ std::string ScriptedPlatform::ShortTime(double days)
 
 std::array<std::uint8_t, 16> ScriptedPlatform::Md5(std::string_view bytes) { return ReferenceMd5(bytes); }
 
-void ScriptedPlatform::Count(const std::string& operation)
+void ScriptedPlatform::Count(const std::string& operation, const std::function<void()>& beforeFault)
 {
     operations.push_back(operation);
     const bool turn = failOn ? operations.size() >= failAt : operations.size() == failAt;
-    if (failAt != 0 && turn)
-        Fail(failNumber);
+    if (failAt == 0 || !turn)
+        return;
+    if (beforeFault)
+        beforeFault();
+    if (AtFault)
+        AtFault();
+    Fail(failNumber);
 }
 
 std::unique_ptr<File> ScriptedPlatform::OpenFile(const std::string& path)

@@ -70,6 +70,10 @@ public:
         failAt = 0;
         failOn = false;
     }
+    // A write that fails has half of its bytes on the disk by then, as on a disk that fills up.
+    bool TearsWrites = false;
+    // Called, if set, in the place of a failure, before it: what ends the process here shows what a crash leaves.
+    std::function<void()> AtFault;
 
     // The test's folder, and a path in it.
     [[nodiscard]] std::string Folder() const { return folder; }
@@ -111,8 +115,8 @@ public:
     void CopyFile(const std::string& from, const std::string& to) override;
     std::optional<std::string> FindEntry(const std::string& path) override;
 
-    // Notes one file operation and fails if it is its turn.
-    void Count(const std::string& operation);
+    // Notes one file operation and fails if it is its turn; `beforeFault` is then called first.
+    void Count(const std::string& operation, const std::function<void()>& beforeFault = {});
 
 private:
     void Tell(const std::string& event);
