@@ -50,6 +50,7 @@ void frmFarmLine::ShowPicked()
     if (SelectedPlayer == Placeholder) {
         SelectedPlayer = 0;
         frmStat->HideRatings();
+        frmStat->SetName({});
         return;
     }
     LinesScreen::ShowPicked();
