@@ -60,7 +60,7 @@ bool Screen::eventFilter(QObject* watched, QEvent* event)
     // the press goes no further.
     if (event->type() == QEvent::MouseButtonPress) {
         const auto* button = qobject_cast<QPushButton*>(watched);
-        const auto* box = qobject_cast<EditBox*>(focusWidget());
+        const auto* box = dynamic_cast<LeavingBox*>(focusWidget());
         if (button != nullptr && box != nullptr && (button->focusPolicy() & Qt::ClickFocus) == Qt::ClickFocus)
             return true;
     }
@@ -92,7 +92,7 @@ EditBox* Screen::MakeBox(const QString& name, std::function<void()> lostFocus)
 
 bool Screen::SettleFocus()
 {
-    auto* box = qobject_cast<EditBox*>(focusWidget());
+    auto* box = dynamic_cast<LeavingBox*>(focusWidget());
     return box == nullptr || box->Settle();
 }
 

@@ -8,36 +8,16 @@ namespace dravik {
 
 EditBox::EditBox(QWidget* parent) : QLineEdit(parent) { ShadeDisabledText(); }
 
-bool EditBox::Settle()
-{
-    if (!owesAction || acting)
-        return true;
-    owesAction = false;
-    acting = true;
-    emit LostFocus();
-    acting = false;
-    return !owesAction;
-}
-
-void EditBox::TakeFocusBack()
-{
-    setFocus(Qt::OtherFocusReason);
-    owesAction = true;
-}
-
 void EditBox::focusInEvent(QFocusEvent* event)
 {
     QLineEdit::focusInEvent(event);
-    if (!acting)
-        owesAction = true;
+    FocusCame();
 }
 
 void EditBox::focusOutEvent(QFocusEvent* event)
 {
     QLineEdit::focusOutEvent(event);
-    const Qt::FocusReason reason = event->reason();
-    if (reason != Qt::ActiveWindowFocusReason && reason != Qt::PopupFocusReason && reason != Qt::MenuBarFocusReason)
-        Settle();
+    FocusWent(event->reason());
 }
 
 void EditBox::changeEvent(QEvent* event)
