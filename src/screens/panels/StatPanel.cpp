@@ -24,13 +24,13 @@ void KeepPlaceWhenHidden(QWidget* widget)
 
 } // namespace
 
-StatPanel::StatPanel(QWidget* parent) : QGroupBox("Stats", parent)
+StatPanel::StatPanel(QWidget* parent, const char* numberName) : QGroupBox("Stats", parent)
 {
     for (int row = 0; row <= RowCount; ++row) {
         lblStatLabel[row] = new MutedLabel(this);
         lblStatLabel[row]->setObjectName(ElementName("lblStatLabel", row));
         lblStat[row] = new QLabel(this);
-        lblStat[row]->setObjectName(ElementName("lblStat", row));
+        lblStat[row]->setObjectName(ElementName(numberName, row));
         lblStat[row]->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
         for (QLabel* label : {lblStat[row], lblStatLabel[row]})
             label->setTextFormat(Qt::PlainText);
@@ -87,6 +87,16 @@ void StatPanel::HideRatings()
         lblStat[row]->hide();
         lblStatLabel[row]->hide();
         bars[row]->hide();
+    }
+}
+
+void StatPanel::ClearNumbers()
+{
+    lblName->clear();
+    for (int row = 1; row <= RowCount; ++row) {
+        lblStat[row]->clear();
+        lblStat[row]->setAccessibleName({});
+        bars[row]->SetValue(0);
     }
 }
 

@@ -12,12 +12,15 @@ namespace dravik {
 // A person's ratings: captions, bars from 0 to 99 and numbers, in two columns. Row 0 is his position, beside his name.
 class StatPanel : public QGroupBox {
 public:
-    explicit StatPanel(QWidget* parent = nullptr);
+    // The numbers go by `numberName` and their row.
+    explicit StatPanel(QWidget* parent = nullptr, const char* numberName = "lblStat");
 
     // Shows nobody. The panel keeps its place.
     void HideRows();
     // Hides the ratings alone; the position line stays as it is.
     void HideRatings();
+    // Empties the rows that are shown; their captions stay.
+    void ClearNumbers();
     // Shows the position line. A name is there for the eye only.
     void ShowPosition(const QString& position);
     void SetName(const QString& name);
