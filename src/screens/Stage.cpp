@@ -9,6 +9,7 @@
 #include "screens/frmDraft.h"
 #include "screens/frmEditPlayer.h"
 #include "screens/frmFarmLine.h"
+#include "screens/frmFreeAgentClient.h"
 #include "screens/frmLine.h"
 #include "screens/frmMain.h"
 #include "screens/frmProspect.h"
@@ -51,7 +52,7 @@ constexpr Role Roles[] = {
     {"Roster",     Behind::Caller, true,  Make<frmRoster>},
     {"Line",       Behind::Caller, true,  Make<frmLine>},
     {"FarmLine",   Behind::Caller, true,  Make<frmFarmLine>},
-    {"FreeAgent",  Behind::Main,   true,  nullptr},
+    {"FreeAgent",  Behind::Main,   true,  Make<frmFreeAgentClient>},
     {"Draft",      Behind::Main,   true,  Make<frmDraft>},
     {"Ticket",     Behind::Team,   true,  Make<frmTicket>},
     {"EditPlayer", Behind::Viewer, true,  Make<frmEditPlayer>},

@@ -112,16 +112,18 @@ TEST_F(MainMenus, SetLinesCountsTheSalaryCap)
         ElementsAre(Box{48, "Roster is not Complete!\r\nYou cannot make your lines if your roster is not done!"}));
 }
 
-TEST_F(MainMenus, OffersLeaveTheCallerAlone)
+TEST_F(MainMenus, OffersOpenAndLeaveTheCallerAlone)
 {
     PutTeam(1, 1);
     MainWithLeague();
     CurrentTeam = 1;
     CallerScreen = "Team";
     Main().mnuFreeAgents->trigger();
-    EXPECT_THAT(Machine.Boxes(), ElementsAre(Box{64, "Not available yet."}));
+    EXPECT_THAT(Machine.Boxes(), IsEmpty());
+    ASSERT_NE(TheStage.Find("FreeAgent"), nullptr);
+    EXPECT_TRUE(TheStage.Find("FreeAgent")->isVisible());
     EXPECT_EQ(CallerScreen, "Team");
-    EXPECT_TRUE(Main().isVisible());
+    EXPECT_FALSE(Main().isVisible());
 }
 
 TEST_F(MainMenus, TheDraftListOpensAndLeavesTheCallerAlone)

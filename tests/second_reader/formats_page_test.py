@@ -12,7 +12,7 @@ import unittest
 ROOT = pathlib.Path(sys.argv.pop(1))
 PAGE = (ROOT / "docs" / "formats.md").read_text(encoding="utf-8")
 HEADERS = "".join(path.read_text(encoding="utf-8") for path in sorted((ROOT / "src" / "league").glob("*.h")))
-RECORDS = "League Division Team FarmTeam Player Goalie Coach Prospect ScheduleRow RosterChange Lines".split()
+RECORDS = "League Division Team FarmTeam Player Goalie Coach Prospect ScheduleRow RosterChange FreeAgentOffer Lines".split()
 
 
 def rows(section):
@@ -63,6 +63,12 @@ class FormatsPageTest(unittest.TestCase):
             self.assertEqual(expected - 1, count)
             self.assertIn(f"{count} slots: {(count - 1) * 3470 + last} bytes", section)
             self.assertIn(f"{count * 3470} when", section)
+
+    def test_the_slots_of_the_offer_file_are_as_long_as_an_offer(self):
+        section = re.search(r"^## The offer file\n(.*?)(?=^## )", PAGE, re.S | re.M).group(1)
+        length, _ = layouts()["FreeAgentOffer"]
+        self.assertIn(f"slots are {length} bytes long", section)
+        self.assertIn(f"(3 + n) x {length} bytes", section)
 
 
 if __name__ == "__main__":

@@ -10,10 +10,10 @@ page says. Everything that the page fixes is demanded.
 Exit codes: 0 read, 1 not a whole lines file (the reason is on standard error), 2 no such file or wrong usage.
 """
 
-import json
 import struct
 import sys
-import zlib
+
+from slot_file import content_of, demand, magic, print_file, text, word
 
 SLOT = 3470
 START = b"DRVK Lineups Files Version 1.01 - Start"
@@ -22,7 +22,6 @@ SKATERS = 10000
 GOALIES = 1000
 RECORDS = 4 + SKATERS + GOALIES + 1
 DAYS = 10
-CODE_PAGE = "cp1252"
 
 TEAM_PRO_LINES = 343
 TEAM_FARM = 1863
@@ -53,50 +52,9 @@ LINE_FIELDS = [
 ]
 
 
-class NotALinesFile(Exception):
-    """The file breaks the format; the text says how."""
-
-
-def demand(condition, reason):
-    if not condition:
-        raise NotALinesFile(reason)
-
-
-def content_of(data):
-    """The slot file in `data`: itself when it is bare, else what its wrapper holds."""
-    if data[2:6] == b"DRVK":
-        return data
-    demand(len(data) > 6, "too short for a wrapper")
-    (length,) = struct.unpack_from("<i", data)
-    longest = RECORDS * SLOT
-    demand(0 < length <= longest, f"the wrapper claims {length} bytes")
-    demand(data[4:6] == b"\x78\xda", "the stream does not begin as one of level 9")
-    stream = zlib.decompressobj()
-    try:
-        content = stream.decompress(data[4:], longest + 1)
-    except zlib.error as error:
-        raise NotALinesFile(f"the stream is damaged: {error}") from error
-    demand(stream.eof, "the stream has no end")
-    demand(not stream.unused_data, "something stands behind the stream")
-    demand(len(content) == length, f"the wrapper claims {length} bytes and holds {len(content)}")
-    return content
-
-
 def record(content, number, length):
     at = (number - 1) * SLOT
     return content[at : at + length]
-
-
-def magic(text):
-    return struct.pack("<h", len(text)) + text
-
-
-def text(field):
-    return field.decode(CODE_PAGE, "replace").strip(" \0")
-
-
-def word(data, at):
-    return struct.unpack_from("<h", data, at)[0]
 
 
 def line_up(data):
@@ -135,7 +93,7 @@ def roster_words(content, first, count):
 
 
 def read(data, everything):
-    content = content_of(data)
+    content = content_of(data, RECORDS * SLOT)
     shortest = (RECORDS - 1) * SLOT + len(magic(END))
     demand(len(content) in (shortest, RECORDS * SLOT), f"{len(content)} bytes are no whole lines file")
     demand(record(content, 1, len(magic(START))) == magic(START), "the start magic is wrong")
@@ -180,20 +138,7 @@ def main(arguments):
     if len(paths) != 1 or paths[0].startswith("-"):
         print(__doc__, file=sys.stderr)
         return 2
-    try:
-        with open(paths[0], "rb") as file:
-            data = file.read()
-    except OSError as error:
-        print(f"{paths[0]}: {error.strerror}", file=sys.stderr)
-        return 2
-    try:
-        result = read(data, everything)
-    except NotALinesFile as reason:
-        print(f"{paths[0]}: {reason}", file=sys.stderr)
-        return 1
-    json.dump(result, sys.stdout, indent=None if everything else 2)
-    print()
-    return 0
+    return print_file(paths[0], lambda data: read(data, everything), None if everything else 2)
 
 
 if __name__ == "__main__":

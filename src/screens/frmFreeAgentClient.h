@@ -1,0 +1,90 @@
+#pragma once
+
+#include "league/FreeAgentOffer.h"
+#include "league/InputCheck.h"
+#include "screens/panels/EditArea.h"
+#include "screens/panels/EditBox.h"
+#include "screens/panels/PickList.h"
+#include "screens/panels/StatPanel.h"
+#include "screens/panels/Verdict.h"
+#include "screens/Screen.h"
+
+#include <optional>
+#include <QCheckBox>
+#include <QLabel>
+#include <string>
+
+namespace dravik {
+
+// The offers of the chosen team to people without a contract: who can be made one, what he is offered, and the offer file
+// that the simulator takes. Offers live as long as the screen does.
+class frmFreeAgentClient : public Screen {
+public:
+    explicit frmFreeAgentClient(Stage& stage);
+
+    // Fills the screen for CurrentTeam, without an offer. A number out of range is told and leaves the screen empty.
+    void FormLoad() override;
+
+    // Lists everybody who can be made an offer, or only those who have one, and chooses the first of them.
+    void ShowPlayer();
+
+    void lstPlayers_Click();
+    void lstPlayers_DblClick();
+    void chkShowPlayerWithOffer_Click();
+
+    // Each box judges its text when it loses the focus and stores it in the offer at hand.
+    void txtOffer_LostFocus();
+    void txtDuration_LostFocus();
+    void txtBonus_LostFocus();
+    void txtComment_LostFocus();
+
+    void cmdSearch_Click();
+    void cmdSaveToFile_Click();
+    void cmdExit_Click();
+
+    OfferTable FreeAgentOffers;
+    Int16 OfferIndex; // id of the person shown
+
+    QLabel *lblTeam, *lblInfo, *lblMaxOffer, *lblPlayer, *lblStatus;
+    PickList* lstPlayers;
+    QCheckBox* chkShowPlayerWithOffer;
+    EditBox *txtAge, *txtSalary;
+    StatPanel* Stats;
+    Row<QLabel*, 1, 16> txtStats;
+    Row<QLabel*, 1, 16> lblStatLabel;
+    EditBox *txtOffer, *txtDuration, *txtBonus;
+    EditArea* txtComment;
+    VerdictLabel* lblOffersMade; // offers to others against what is left of them
+    QLabel* lblOffersCost;       // what all offers come to
+    QPushButton *cmdSearch, *cmdSaveToFile, *cmdExit;
+
+protected:
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
+private:
+    class Entry;
+
+    void MakeControls();
+    EditBox* MakeFigure(const char* name, const QString& accessibleName);
+    QWidget* MakeListColumn();
+    QWidget* MakePersonColumn();
+    QWidget* MakeOfferGroup();
+    QLayout* MakeLimitRow();
+    void SetTabOrder();
+
+    template <class Person>
+    void ListPerson(const Person& person);
+    // Makes an entry the current one, which counts as a click.
+    void Choose(int row);
+    void ShowNobody();
+    template <class Person>
+    void ShowPerson(const Person& person, int index);
+    void EnableOffer(bool enabled);
+    FreeAgentOffer& OfferAtHand() { return FreeAgentOffers[OfferIndex]; }
+    // Whether the text of a box may be taken; a refused one gets the focus back.
+    bool Accepts(LeavingBox& box, const QString& text, InputMode mode);
+    // What the offers come to so far.
+    void ShowTally();
+};
+
+} // namespace dravik

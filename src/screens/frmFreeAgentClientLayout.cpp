@@ -1,0 +1,208 @@
+#include "screens/frmFreeAgentClient.h"
+#include "screens/panels/Labels.h"
+#include "screens/panels/Shades.h"
+
+#include <QGridLayout>
+#include <QGroupBox>
+#include <QHBoxLayout>
+#include <QVBoxLayout>
+
+// What the screen of the offers is made of and where it stands.
+namespace dravik {
+
+namespace {
+
+constexpr QSize DefaultSize(1080, 740);
+constexpr int PersonColumnWidth = 400;
+constexpr int LinesOfComment = 4;
+
+QLabel* PlainLabel(QLabel* label, const char* name)
+{
+    label->setObjectName(name);
+    label->setTextFormat(Qt::PlainText);
+    return label;
+}
+
+} // namespace
+
+frmFreeAgentClient::frmFreeAgentClient(Stage& stage) : Screen(stage, "frmFreeAgentClient")
+{
+    MakeControls();
+
+    auto* content = new QWidget(this);
+    auto* column = new QVBoxLayout(content);
+    column->setContentsMargins(Margin, Margin, Margin, Margin);
+    column->setSpacing(Gap);
+    column->addWidget(lblTeam);
+    column->addWidget(lblInfo);
+
+    auto* middle = new QHBoxLayout;
+    middle->setSpacing(Margin);
+    middle->addWidget(MakeListColumn(), 1);
+    middle->addWidget(MakePersonColumn());
+    column->addLayout(middle, 1);
+    column->addLayout(MakeLimitRow());
+
+    auto* footer = new QHBoxLayout;
+    footer->setSpacing(Gap);
+    footer->addWidget(cmdSearch);
+    footer->addStretch(1);
+    footer->addWidget(cmdSaveToFile);
+    footer->addWidget(cmdExit);
+    column->addLayout(footer);
+
+    setCentralWidget(content);
+    SetTabOrder();
+    resize(DefaultSize.expandedTo(content->minimumSizeHint()));
+}
+
+void frmFreeAgentClient::MakeControls()
+{
+    lblTeam = MakeTitle(this);
+    lblTeam->setObjectName("lblTeam");
+    lblInfo = PlainLabel(new MutedLabel(this), "lblInfo");
+    lblInfo->setWordWrap(true);
+    lblMaxOffer = PlainLabel(new QLabel(this), "lblMaxOffer");
+    lblOffersMade = new VerdictLabel(this);
+    lblOffersMade->setObjectName("lblOffersMade");
+    lblOffersCost = PlainLabel(new MutedLabel(this), "lblOffersCost");
+
+    lblPlayer = MakeHeading("&Players", this);
+    lblPlayer->setObjectName("lblPlayer");
+    lstPlayers = new PickList(this);
+    lstPlayers->setObjectName("lstPlayers");
+    lstPlayers->setAccessibleName("Players");
+    lstPlayers->setSelectionMode(QAbstractItemView::SingleSelection);
+    lstPlayers->viewport()->installEventFilter(this);
+    lblPlayer->setBuddy(lstPlayers);
+    connect(lstPlayers, &PickList::Picked, this, [this] { lstPlayers_Click(); });
+    connect(lstPlayers, &QListWidget::itemDoubleClicked, this, [this] { lstPlayers_DblClick(); });
+    connect(lstPlayers, &EntryList::EnterPressed, this, [this] { lstPlayers_DblClick(); });
+    chkShowPlayerWithOffer = new QCheckBox("Show players who has received an &offer only", this);
+    chkShowPlayerWithOffer->setObjectName("chkShowPlayerWithOffer");
+    chkShowPlayerWithOffer->installEventFilter(this);
+    connect(chkShowPlayerWithOffer, &QCheckBox::toggled, this, [this] { chkShowPlayerWithOffer_Click(); });
+
+    Stats = new StatPanel(this, "txtStats");
+    for (int row = 1; row <= txtStats.last; ++row) {
+        txtStats[row] = Stats->lblStat[row];
+        lblStatLabel[row] = Stats->lblStatLabel[row];
+    }
+    lblStatus = PlainLabel(new QLabel("Status : ", this), "lblStatus");
+    txtAge = MakeFigure("txtAge", "Age");
+    txtSalary = MakeFigure("txtSalary", "Present salary");
+
+    txtOffer = MakeBox("txtOffer", [this] { txtOffer_LostFocus(); });
+    txtDuration = MakeBox("txtDuration", [this] { txtDuration_LostFocus(); });
+    txtBonus = MakeBox("txtBonus", [this] { txtBonus_LostFocus(); });
+    for (EditBox* box : {txtOffer, txtDuration, txtBonus})
+        box->setAlignment(Qt::AlignRight);
+    txtComment = new EditArea(this);
+    txtComment->setObjectName("txtComment");
+    txtComment->SetLines(LinesOfComment);
+    connect(txtComment, &EditArea::LostFocus, this, [this] { txtComment_LostFocus(); });
+    EnableOffer(false);
+
+    cmdSearch = MakeCommand("cmdSearch", "Sea&rch Player", [this] { cmdSearch_Click(); });
+    cmdSaveToFile = MakeCommand("cmdSaveToFile", "Save to &File", [this] { cmdSaveToFile_Click(); });
+    cmdExit = MakeCommand("cmdExit", "E&xit", [this] { cmdExit_Click(); });
+}
+
+EditBox* frmFreeAgentClient::MakeFigure(const char* name, const QString& accessibleName)
+{
+    auto* box = new EditBox(this);
+    box->setObjectName(name);
+    box->setAccessibleName(accessibleName);
+    box->setAlignment(Qt::AlignRight);
+    box->ReadAsLabelWhenClosed();
+    box->setEnabled(false);
+    return box;
+}
+
+QWidget* frmFreeAgentClient::MakeListColumn()
+{
+    auto* panel = new QWidget(this);
+    auto* column = new QVBoxLayout(panel);
+    column->setContentsMargins(0, 0, 0, 0);
+    column->setSpacing(Gap / 2);
+    auto* heading = new QHBoxLayout;
+    heading->addWidget(lblPlayer);
+    heading->addStretch(1);
+    heading->addWidget(chkShowPlayerWithOffer);
+    column->addLayout(heading);
+    column->addWidget(lstPlayers, 1);
+    return panel;
+}
+
+QWidget* frmFreeAgentClient::MakePersonColumn()
+{
+    auto* panel = new QWidget(this);
+    panel->setFixedWidth(PersonColumnWidth);
+    auto* column = new QVBoxLayout(panel);
+    column->setContentsMargins(0, 0, 0, 0);
+    column->setSpacing(Gap);
+    column->addWidget(Stats);
+    auto* facts = new QHBoxLayout;
+    facts->setSpacing(Gap);
+    facts->addWidget(lblStatus);
+    facts->addStretch(1);
+    facts->addWidget(new MutedLabel("Age", panel));
+    facts->addWidget(txtAge);
+    facts->addSpacing(Gap);
+    facts->addWidget(new MutedLabel("Present salary", panel));
+    facts->addWidget(txtSalary);
+    const QFontMetrics metrics = fontMetrics();
+    txtAge->setFixedWidth(metrics.horizontalAdvance("0000"));
+    txtSalary->setFixedWidth(metrics.horizontalAdvance("0000000000000"));
+    column->addLayout(facts);
+    column->addWidget(MakeOfferGroup(), 1);
+    return panel;
+}
+
+QWidget* frmFreeAgentClient::MakeOfferGroup()
+{
+    auto* group = new QGroupBox("Offer", this);
+    auto* grid = new QGridLayout(group);
+    grid->setContentsMargins(Margin, Gap, Margin, Margin);
+    grid->setHorizontalSpacing(Gap);
+    grid->setVerticalSpacing(Gap);
+    int row = 0;
+    const auto add = [&](const char* caption, QWidget* box) {
+        auto* label = new MutedLabel(caption, group);
+        label->setBuddy(box);
+        box->setAccessibleName(QString(caption).remove('&'));
+        return label;
+    };
+    for (const auto& [caption, box] :
+         {std::pair("Sa&lary:", txtOffer), std::pair("&Duration:", txtDuration), std::pair("&Bonus:", txtBonus)}) {
+        grid->addWidget(add(caption, box), row, 0);
+        grid->addWidget(box, row++, 1);
+    }
+    grid->addWidget(add("&Comments: (Max 1000 Characters)", txtComment), row++, 0, 1, 2);
+    grid->addWidget(txtComment, row, 0, 1, 2);
+    grid->setRowStretch(row, 1);
+    grid->setColumnStretch(1, 1);
+    return group;
+}
+
+QLayout* frmFreeAgentClient::MakeLimitRow()
+{
+    auto* row = new QHBoxLayout;
+    row->setSpacing(2 * Margin);
+    row->addWidget(lblMaxOffer);
+    row->addWidget(lblOffersMade);
+    row->addStretch(1);
+    row->addWidget(lblOffersCost);
+    return row;
+}
+
+void frmFreeAgentClient::SetTabOrder()
+{
+    const QList<QWidget*> order{lstPlayers, txtOffer,      txtDuration, txtBonus, txtComment, chkShowPlayerWithOffer,
+                                cmdSearch,  cmdSaveToFile, cmdExit};
+    for (qsizetype i = 1; i < order.size(); ++i)
+        setTabOrder(order[i - 1], order[i]);
+    lstPlayers->setFocus();
+}
+
+} // namespace dravik
