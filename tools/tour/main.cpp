@@ -3,12 +3,14 @@
 #include "league/ClientVariable.h"
 #include "league/DraftFile.h"
 #include "league/LinesFile.h"
+#include "league/OffersFile.h"
 #include "league/OutsideCode.h"
 #include "rules/Function.h"
 #include "screens/frmAbout.h"
 #include "screens/frmDraft.h"
 #include "screens/frmEditPlayer.h"
 #include "screens/frmFarmLine.h"
+#include "screens/frmFreeAgentClient.h"
 #include "screens/frmLine.h"
 #include "screens/frmMain.h"
 #include "screens/frmRoster.h"
@@ -66,6 +68,7 @@ public:
         LoadLines();
         ShowTickets();
         LeaveOffice();
+        MakeOffers();
         RankDraft();
         ExportTheRatings();
         ShowAbout();
@@ -366,6 +369,56 @@ private:
         Require(stage.Find(name) == nullptr && behind.isVisible(), QString("the way back from ") + name);
     }
 
+    // Makes the first two people an offer who may take one, looks at those with an offer alone, and saves the offer file.
+    void MakeOffers()
+    {
+        Choose();
+        ExpectPassword();
+        answers.ConfirmAll(true); // the first of the list may be somebody whom only his own team may sign
+        Main().mnuFreeAgents->trigger();
+        QApplication::processEvents();
+        Require(stage.Find("FreeAgent") != nullptr && stage.Find("FreeAgent")->isVisible(), "the offers open");
+        int made = 0;
+        for (int row = 0; row < Offers().lstPlayers->count() && made < 2; ++row) {
+            Offers().lstPlayers->setCurrentRow(row, QItemSelectionModel::ClearAndSelect);
+            if (!Offers().txtOffer->isEnabled())
+                continue;
+            ++made;
+            Fill(Offers().txtOffer, QString::number(LeagueData.MinSalary + 250000 * made));
+            Fill(Offers().txtDuration, QString::number(made + 1));
+            Fill(Offers().txtBonus, "50000");
+            Offers().txtComment->setFocus();
+            Offers().txtComment->setPlainText(
+                "Top line center and first unit on the power play. Your old linemates are here.");
+            Offers().lstPlayers->setFocus();
+        }
+        answers.ConfirmAll(false);
+        Require(made == 2, "two people can be made an offer");
+        NoComplaints("the offers are made");
+        Photograph("FreeAgent", "offers");
+        Offers().chkShowPlayerWithOffer->click();
+        Require(Offers().lstPlayers->count() == 2, "those with an offer are listed alone");
+        Photograph("FreeAgent", "offers-made");
+        const QString target = PathToDesktop(OffersFilePath(plan.Team));
+        ExpectPassword();
+        answers.ConfirmAll(true); // a report in pages
+        Offers().cmdSaveToFile->click();
+        QApplication::processEvents();
+        answers.ConfirmAll(false);
+        Require(QFileInfo(target).size() > 0, "the offer file lies on disk");
+        std::cout << "saved " << target.toStdString() << '\n';
+        Offers().cmdExit->click();
+        QApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+        NoComplaints("the offers are saved");
+        Require(stage.Find("FreeAgent") == nullptr && Main().isVisible(), "the main screen comes back");
+    }
+
+    static void Fill(EditBox* box, const QString& text)
+    {
+        box->setFocus();
+        box->setText(text);
+    }
+
     void Photograph(std::string_view screen, const QString& name)
     {
         Require(camera.Photograph(*stage.Find(screen), name), "pictures of " + name + " are written");
@@ -394,6 +447,11 @@ private:
     {
         Require(stage.Find("Roster") != nullptr, "the roster screen is there");
         return *static_cast<frmRoster*>(stage.Find("Roster"));
+    }
+    frmFreeAgentClient& Offers()
+    {
+        Require(stage.Find("FreeAgent") != nullptr, "the screen of the offers is there");
+        return *static_cast<frmFreeAgentClient*>(stage.Find("FreeAgent"));
     }
     [[nodiscard]] QString TeamName() const { return ToQString(Teams[plan.Team].Name.Trimmed()); }
 
