@@ -1,73 +1,13 @@
+#include "Hands.h"
 #include "OnMainScreen.h"
 
 #include "league/OutsideCode.h"
 #include "screens/platform/QtPlatform.h"
 
-#include <deque>
 #include <filesystem>
-#include <functional>
-#include <QFileDialog>
-#include <QLineEdit>
-#include <QTimer>
 
 namespace dravik {
 namespace {
-
-// Answers the real dialogs, one after the other, as they come up.
-class Hands : public QObject {
-public:
-    Hands() { qApp->installEventFilter(this); }
-
-    void Next(const QString& dialog, std::function<void(QDialog&)> act) { todo.emplace_back(dialog, std::move(act)); }
-    void TypePassword(const QString& password)
-    {
-        Next("inputBox", [password](QDialog& dialog) {
-            EXPECT_EQ(dialog.findChild<QLabel*>("lblPrompt")->text(), "Password Required!");
-            QTest::keyClicks(dialog.findChild<QLineEdit*>("txtAnswer"), password);
-            QTest::mouseClick(dialog.findChild<QPushButton*>("cmdOk"), Qt::LeftButton);
-        });
-    }
-    void Choose(const std::string& path)
-    {
-        Next("dlgCommon", [path](QDialog& dialog) {
-            dialog.findChild<QLineEdit*>("fileNameEdit")->setText(QString::fromStdString(path));
-            dialog.accept();
-        });
-    }
-    void Read(const QString& text)
-    {
-        Next("msgBox", [text](QDialog& dialog) {
-            EXPECT_EQ(dialog.findChild<QLabel*>("qt_msgbox_label")->text(), text);
-            EXPECT_EQ(dialog.windowTitle(), "Dravik Hockey Simulator Client");
-            QTest::mouseClick(dialog.findChild<QPushButton*>("cmdOk"), Qt::LeftButton);
-        });
-    }
-    [[nodiscard]] bool AreIdle() const { return todo.empty(); }
-
-protected:
-    bool eventFilter(QObject* watched, QEvent* event) override
-    {
-        auto* dialog = qobject_cast<QDialog*>(watched);
-        if (event->type() == QEvent::Show && dialog != nullptr && dialog->objectName() != "frmWait")
-            QTimer::singleShot(0, dialog, [this, dialog] { Act(*dialog); });
-        return false;
-    }
-
-private:
-    void Act(QDialog& dialog)
-    {
-        if (todo.empty() || todo.front().first != dialog.objectName()) {
-            ADD_FAILURE() << "Nobody expects " << dialog.objectName().toStdString();
-            dialog.reject();
-            return;
-        }
-        const auto act = std::move(todo.front().second);
-        todo.pop_front();
-        act(dialog);
-    }
-
-    std::deque<std::pair<QString, std::function<void(QDialog&)>>> todo;
-};
 
 class EveningTest : public OnMainScreen {};
 

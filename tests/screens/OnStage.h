@@ -2,12 +2,14 @@
 
 #include "screens/frmMain.h"
 #include "screens/frmTeam.h"
+#include "screens/platform/QtPlatform.h"
 #include "screens/Stage.h"
 #include "support/LineFindings.h"
 #include "support/SmallLeague.h"
 
 #include <QApplication>
 #include <QTest>
+#include <QTimer>
 
 namespace dravik {
 
@@ -86,6 +88,23 @@ protected:
         FillDay(Teams[number].ProLines[1], maker);
         FillDay(Teams[number].Farm.FarmLines[1], farm);
         return maker;
+    }
+
+    // Runs `use` on the desktop's own dialogs, within the program's event loop: without it, a program that has ended once
+    // in this process shows none.
+    void OnDesktop(const std::function<void()>& use)
+    {
+        QtPlatform desktop({QString::fromStdString(Machine.InFolder("settings.ini")),
+                            QString::fromStdString(Machine.Folder()),
+                            QString::fromStdString(Machine.InFolder("lock"))});
+        desktop.SetWaitMilliseconds(0);
+        UseMachine(desktop);
+        QTimer::singleShot(0, qApp, [&use] {
+            use();
+            QCoreApplication::exit();
+        });
+        QCoreApplication::exec();
+        UseMachine(Machine);
     }
 
     Stage TheStage;

@@ -3,9 +3,6 @@
 #include "OnStage.h"
 #include "rules/Function.h"
 #include "screens/frmEditPlayer.h"
-#include "screens/platform/QtPlatform.h"
-
-#include <QTimer>
 
 namespace dravik {
 
@@ -124,22 +121,6 @@ protected:
             Machine.OnEvent = {};
             once();
         };
-    }
-
-    // Runs `use` on the desktop's own dialogs, within the program's event loop: without it, a program that has ended once
-    // in this process shows none.
-    void OnDesktop(const std::function<void()>& use)
-    {
-        QtPlatform desktop({QString::fromStdString(Machine.InFolder("settings.ini")),
-                            QString::fromStdString(Machine.Folder()),
-                            QString::fromStdString(Machine.InFolder("lock"))});
-        UseMachine(desktop);
-        QTimer::singleShot(0, qApp, [&use] {
-            use();
-            QCoreApplication::exit();
-        });
-        QCoreApplication::exec();
-        UseMachine(Machine);
     }
 
     static std::string Of(const QLineEdit* box) { return box->text().toStdString(); }
