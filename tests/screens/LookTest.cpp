@@ -139,6 +139,25 @@ TEST_F(LookTest, EveryCaptionGroupAndSignHasANameOfItsOwn)
 
 TEST_F(LookTest, NoMnemonicStandsTwice) { ExpectDistinctMnemonics(OpenTeam(5)); }
 
+TEST_F(LookTest, DraftTicketsAndAboutFitNameAndCallEverything)
+{
+    LeagueData.FantasyDraft = true;
+    PutSkater(1, 0, position::Center, status::Farm);
+    for (const char* name : {"Draft", "Ticket", "About"}) {
+        CurrentTeam = 5;
+        TheStage.Open(name, MainWithLeague());
+        Settle();
+        Screen& screen = *TheStage.Find(name);
+        ExpectWholeWords(screen);
+        ShowAt(screen, SmallScreen);
+        EXPECT_LE(screen.minimumSizeHint().width(), SmallScreen.width()) << name;
+        EXPECT_LE(screen.minimumSizeHint().height(), SmallScreen.height()) << name;
+        ExpectWholeWords(screen);
+        ExpectNames(screen);
+        ExpectDistinctMnemonics(screen);
+    }
+}
+
 TEST_F(LookTest, FiguresStandAtTheRight)
 {
     const frmTeam& team = OpenTeam(5);

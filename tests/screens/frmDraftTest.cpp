@@ -237,6 +237,40 @@ TEST_F(frmDraftTest, ASearchInVainKeepsTheChoice)
     EXPECT_EQ(draft.lstPlayers->Chosen(), draft.lstPlayers->item(1));
 }
 
+class SilentInput : public ScriptedPlatform {
+public:
+    std::string InputBox(const std::string& /*prompt*/, const std::string& /*title*/,
+                         const std::string& /*text*/) override
+    {
+        Fail(failure::OutOfMemory);
+    }
+};
+
+TEST_F(frmDraftTest, AFailureOfTheSearchIsToldByItsName)
+{
+    frmDraft& draft = Draft();
+    SilentInput silent;
+    UseMachine(silent);
+    Click(draft.cmdSearch);
+    UseMachine(Machine);
+    EXPECT_THAT(silent.Boxes(), ElementsAre(Box{16, "7 - Out of memory in cmdSearch!"}));
+}
+
+TEST_F(frmDraftTest, OverallsAreDrawnBesideFreeAgentsOnlyWhereTheLeagueShowsThem)
+{
+    const auto asides = [this] {
+        QStringList all;
+        for (int row = 0; row < Draft().lstPlayers->count(); ++row)
+            all << Draft().lstPlayers->item(row)->data(entry::AsideRole).toStringList().join('|');
+        return all;
+    };
+    LeagueData.EntryDraft = true;
+    EXPECT_EQ(asides(), QStringList({"60", "60", "60", "", ""}));
+    LeagueData.ShowOverall = false;
+    Draft().ShowPlayer();
+    EXPECT_EQ(asides(), QStringList({"", "", "", "", ""}));
+}
+
 TEST_F(frmDraftTest, LettersJumpToAnEntry)
 {
     frmDraft& draft = Draft();
