@@ -64,6 +64,18 @@ class FormatsPageTest(unittest.TestCase):
             self.assertIn(f"{count} slots: {(count - 1) * 3470 + last} bytes", section)
             self.assertIn(f"{count * 3470} when", section)
 
+    def test_the_records_of_the_draft_file_fill_its_slots(self):
+        section = re.search(r"^## The draft file\n(.*?)(?=^## )", PAGE, re.S | re.M).group(1)
+        slot = 2 + len("DRVKFDFV1S")
+        expected = 1
+        for first, last, count in re.findall(r"^\| (\d+)(?: to (\d+))? \| (\d+) \|", section, re.M):
+            self.assertEqual(int(first), expected)
+            self.assertEqual(int(last or first) - expected + 1, int(count))
+            expected = int(last or first) + 1
+        self.assertEqual(expected - 1, 1005)
+        self.assertIn(f"slots are {slot} bytes long", section)
+        self.assertIn(f"1005 slots: {1005 * slot} bytes", section)
+
     def test_the_slots_of_the_offer_file_are_as_long_as_an_offer(self):
         section = re.search(r"^## The offer file\n(.*?)(?=^## )", PAGE, re.S | re.M).group(1)
         length, _ = layouts()["FreeAgentOffer"]
