@@ -3,7 +3,6 @@
 #include "league/ClientVariable.h"
 #include "league/Failure.h"
 #include "league/Message.h"
-#include "league/Platform.h"
 #include "screens/frmAbout.h"
 #include "screens/frmCoach.h"
 #include "screens/frmDraft.h"
@@ -39,7 +38,7 @@ struct Role {
     std::string_view Name;
     Behind Back;
     bool HidesOpener;
-    std::unique_ptr<Screen> (*Create)(Stage&); // none: the program does not have this screen yet
+    std::unique_ptr<Screen> (*Create)(Stage&);
 };
 
 constexpr std::string_view MainName = "Main";
@@ -122,10 +121,6 @@ void Stage::Open(std::string_view name, Screen& opener)
         Fail(failure::InvalidCall);
     const auto other = provided.find(name);
     const Factory create = other != provided.end() ? other->second : Factory(role->Create);
-    if (!create) {
-        ShowBox("Not available yet.", box::Information);
-        return;
-    }
     if (const auto standing = screens.find(role->Name); standing != screens.end()) {
         standing->second->hide();
         Dispose(std::move(standing->second));

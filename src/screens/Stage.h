@@ -28,8 +28,7 @@ public:
     bool Start();
 
     // Opens the screen `name` ("Roster") and hides `opener` unless that screen stands beside it. A screen that closes
-    // itself while loading brings back whom it would bring back later. A screen that this program does not have yet is
-    // answered with an information box; nothing else happens then.
+    // itself while loading brings back whom it would bring back later. A name of no screen fails with 5.
     void Open(std::string_view name, Screen& opener);
     // Closes a screen.
     void Close(Screen& screen);

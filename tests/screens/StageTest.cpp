@@ -68,6 +68,30 @@ TEST_F(StageTest, StartShowsTheMainScreen)
     EXPECT_EQ(Main().objectName(), "frmMain");
 }
 
+TEST_F(StageTest, EveryScreenOfTheProgramOpens)
+{
+    CompleteTeam(5);
+    for (const char* name : {"Team", "Roster", "Line", "FarmLine", "FreeAgent", "Draft", "Ticket", "EditPlayer",
+                             "About", "Coach", "Prospect"}) {
+        CurrentTeam = 5;
+        CallerScreen = "Main";
+        TheStage.Open(name, MainWithLeague());
+        Settle();
+        ASSERT_NE(TheStage.Find(name), nullptr) << name;
+        EXPECT_TRUE(TheStage.Find(name)->isVisible()) << name;
+        EXPECT_EQ(TheStage.Find(name)->objectName().left(3), "frm") << name;
+        TheStage.Find(name)->close();
+        Settle();
+    }
+}
+
+TEST_F(StageTest, ANameOfNoScreenIsAFailure)
+{
+    MainWithLeague();
+    EXPECT_THROW(TheStage.Open("Nowhere", Main()), Failure);
+    EXPECT_TRUE(Main().isVisible());
+}
+
 TEST_F(StageTest, AScreenIsLoadedThenShownAndItsOpenerHides)
 {
     MainWithLeague();
