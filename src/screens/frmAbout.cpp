@@ -16,6 +16,9 @@ namespace dravik {
 
 frmAbout::frmAbout(Stage& stage) : Screen(stage, "frmAbout")
 {
+    // Other screens hide the main screen, and this one shows it on closing: were both open, a team could be chosen behind
+    // the back of the other's screens.
+    setWindowModality(Qt::ApplicationModal);
     auto* sheet = new QWidget(this);
     QLabel* title = MakeTitle(sheet);
     title->setObjectName("lblTitle");

@@ -4,8 +4,8 @@
 
 namespace dravik {
 
-// Where coaches will be changed. The league keeps that to itself: the commands that lead here are hidden, and the screen is
-// empty.
+// The screen behind the commands for the coaches. They are hidden, since the league changes coaches itself, and the screen
+// is empty.
 class frmCoach : public Screen {
 public:
     explicit frmCoach(Stage& stage);

@@ -4,7 +4,7 @@
 
 namespace dravik {
 
-// Where a team's prospects will be shown. The command that leads here is hidden, and the screen is empty.
+// The screen behind the command for a team's prospects. The command is hidden, and the screen is empty.
 class frmProspect : public Screen {
 public:
     explicit frmProspect(Stage& stage);

@@ -1,9 +1,8 @@
 #include "league/InputCheck.h"
 
 #include "league/OutsideCode.h"
+#include "support/FailingBoxes.h"
 #include "support/SmallLeague.h"
-
-#include <utility>
 
 namespace dravik {
 namespace {
@@ -189,25 +188,12 @@ TEST_F(InputCheckTest, TheCharacters254And255AreRefusedAsIsEverythingFrom128To19
 }
 
 // A machine whose first message box cannot be shown.
-class FirstBoxFails : public ScriptedPlatform {
-public:
-    int MessageBox(const std::string& text, int kind, const std::string& title) override
-    {
-        if (!std::exchange(failed, true))
-            Fail(failure::OutOfMemory);
-        return ScriptedPlatform::MessageBox(text, kind, title);
-    }
-
-private:
-    bool failed = false;
-};
-
 TEST_F(InputCheckTest, AFailureOfTheCheckIsToldWithoutAnExclamationMarkAndTakesNothing)
 {
-    FirstBoxFails machine;
+    FailingBoxes machine(1);
     UseMachine(machine);
     EXPECT_FALSE(CheckInput("!", InputMode::Letters, true));
-    EXPECT_THAT(machine.Boxes(), ElementsAre(Box{16, "7 - Out of memory in CheckInput"}));
+    EXPECT_THAT(machine.Boxes(), ElementsAre(Box{16, "6 - Overflow in CheckInput"}));
 }
 
 class PasswordCheckTest : public SmallLeague {

@@ -46,6 +46,17 @@ TEST_F(frmAboutTest, StandsBesideTheMainScreenInTheMiddle)
     EXPECT_LE((About().frameGeometry().center() - middle).manhattanLength(), frame);
 }
 
+TEST_F(frmAboutTest, NothingElseCanBeOpenedBesideIt)
+{
+    CompleteTeam(5);
+    MainWithLeague();
+    EXPECT_EQ(About().windowModality(), Qt::ApplicationModal);
+    EXPECT_EQ(QApplication::activeModalWidget(), &About());
+    // The keys of the menu reach nobody behind it.
+    Press(&Main(), Qt::Key_Return);
+    EXPECT_EQ(TheStage.Find("Team"), nullptr);
+}
+
 TEST_F(frmAboutTest, AClickOnTheWebSiteOpensItsText)
 {
     Click(About().lblWebSite);

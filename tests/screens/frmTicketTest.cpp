@@ -1,5 +1,6 @@
 #include "screens/frmTicket.h"
 #include "OnTeamScreen.h"
+#include "support/FailingBoxes.h"
 #include "support/LeagueImage.h"
 
 namespace dravik {
@@ -314,9 +315,31 @@ TEST_F(frmTicketTest, ATeamOutOfRangeIsToldAndClosesTheScreen)
         TheStage.Open("Ticket", office);
         Settle();
         EXPECT_EQ(TheStage.Find("Ticket"), nullptr) << team;
-        ASSERT_FALSE(Machine.Boxes().empty());
-        EXPECT_EQ(Machine.TakeBoxes().front(), (Box{16, "Integrity Check Failed!"})) << team;
+        // The team screen that comes back loads anew, with the same end, and the main screen stays.
+        const Box told{16, "Integrity Check Failed!"};
+        EXPECT_THAT(Machine.TakeBoxes(), ElementsAre(told, told)) << team;
+        EXPECT_TRUE(Main().isVisible()) << team;
     }
+}
+
+TEST_F(frmTicketTest, AFailureOfOpeningIsNamedAfterTheScreen)
+{
+    frmTeam& office = Office();
+    FailingBoxes machine(1);
+    UseMachine(machine);
+    CurrentTeam = 0;
+    TheStage.Open("Ticket", office);
+    Settle();
+    UseMachine(Machine);
+    ASSERT_FALSE(machine.Boxes().empty());
+    EXPECT_EQ(machine.Boxes().front(), (Box{16, "6 - Overflow in FormLoad FrmTicket!"}));
+}
+
+TEST_F(frmTicketTest, StandsInTheMiddleOfTheScreen)
+{
+    const QPoint middle = Tickets().screen()->availableGeometry().center();
+    constexpr int frame = 8; // of the window, which is not known before it is shown
+    EXPECT_LE((Tickets().frameGeometry().center() - middle).manhattanLength(), frame);
 }
 
 TEST_F(frmTicketTest, PricesBeyondTheLimitsAreShownAsTheyStand)
