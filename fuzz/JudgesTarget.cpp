@@ -56,7 +56,12 @@ constexpr Routine Routines[] = {
         });
     },
     [](const Call& call) { MayFail([&] { StandingAgainstCap(call.Team); }); },
-    [](const Call& call) { MayFail([&] { ProjectSeason(call.Team); }); },
+    [](const Call& call) {
+        MayFail([&] {
+            SeasonFigures figures;
+            ProjectSeason(call.Team, figures);
+        });
+    },
     [](const Call& call) {
         PlayerStatCount = call.First ? 15 : 7;
         GoalieStatCount = call.First ? 13 : 7;
