@@ -102,6 +102,7 @@ void frmFreeAgentClient::FormLoad()
         CentreOnScreen();
         if (!TeamTable::Has(CurrentTeam)) {
             ShowIntegrityFailure();
+            chkShowPlayerWithOffer->setEnabled(false); // the list stays empty
             return;
         }
         lblInfo->setText("Don't use a comma, a period or a dollar sign ($) in the salary, duration and bonus text box. "
@@ -245,7 +246,17 @@ void frmFreeAgentClient::lstPlayers_DblClick()
     });
 }
 
-void frmFreeAgentClient::chkShowPlayerWithOffer_Click() { ShowPlayer(); }
+void frmFreeAgentClient::chkShowPlayerWithOffer_Click()
+{
+    // Its key asks for it a moment before it is ticked. A box that refused its text has the focus back by then and keeps
+    // its person shown.
+    if (dynamic_cast<LeavingBox*>(focusWidget()) != nullptr) {
+        const QSignalBlocker silent(chkShowPlayerWithOffer);
+        chkShowPlayerWithOffer->toggle();
+        return;
+    }
+    ShowPlayer();
+}
 
 bool frmFreeAgentClient::Accepts(LeavingBox& box, const QString& text, InputMode mode)
 {

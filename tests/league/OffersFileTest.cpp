@@ -284,7 +284,7 @@ TEST_F(OffersFileTest, SavingTwiceRewritesTheWholeFile)
     EXPECT_EQ(std::distance(fs::directory_iterator(Machine.Folder()), fs::directory_iterator()), 1);
 }
 
-TEST_F(OffersFileTest, AFailedCompressionIsToldAndDeletesNothingBehindItself)
+TEST_F(OffersFileTest, AFailedCompressionIsToldAndTheOldFileIsGone)
 {
     WriteWhole(Path, {'o', 'l', 'd'});
     Offer(1);

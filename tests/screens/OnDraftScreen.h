@@ -2,6 +2,7 @@
 
 #include "OnStage.h"
 #include "screens/frmDraft.h"
+#include "support/FailingBoxes.h"
 
 namespace dravik {
 

@@ -2,6 +2,7 @@
 
 #include "OnStage.h"
 #include "screens/frmFreeAgentClient.h"
+#include "support/FailingBoxes.h"
 
 namespace dravik {
 

@@ -3,21 +3,9 @@
 #include "OnStage.h"
 #include "screens/frmRoster.h"
 #include "screens/RosterEntry.h"
+#include "support/FailingBoxes.h"
 
 namespace dravik {
-
-// A desktop that fails to show its next boxes, so that the failure leaves the routine that wanted to tell.
-class FailingBoxes : public ScriptedPlatform {
-public:
-    int FailuresLeft = 0;
-
-    int MessageBox(const std::string& text, int kind, const std::string& title) override
-    {
-        if (FailuresLeft-- > 0)
-            Fail(failure::Overflow);
-        return ScriptedPlatform::MessageBox(text, kind, title);
-    }
-};
 
 // The roster screen of team 5, the Harbour City Gulls, with a test's own people on it.
 class OnRosterScreen : public OnStage {

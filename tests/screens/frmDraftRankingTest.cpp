@@ -250,6 +250,21 @@ TEST_F(DraftRankingTest, FailuresOfTheCommandsAreToldByTheirNames)
     }
 }
 
+TEST_F(DraftRankingTest, FailuresOfRemovingAndOpeningAreToldByTheirNames)
+{
+    frmDraft& draft = Draft();
+    FailingBoxes removing(1);
+    UseMachine(removing);
+    draft.cmdRemove_Click();
+    EXPECT_THAT(removing.Boxes(), ElementsAre(Box{16, "6 - Overflow in cmdRemove!"}));
+    FailingBoxes opening(1);
+    UseMachine(opening);
+    CurrentTeam = 0;
+    draft.FormLoad();
+    UseMachine(Machine);
+    EXPECT_THAT(opening.Boxes(), ElementsAre(Box{16, "6 - Overflow in FormLoad frmFantasyEntryDraftClient!"}));
+}
+
 TEST_F(DraftRankingTest, TheRankingStartsEmptyEachTime)
 {
     Choose({0, 1});
@@ -343,9 +358,12 @@ TEST_F(DraftDrag, EscapeEndsIt)
     const QPoint top(20, 2);
     PressAndMove(3, top);
     Press(Draft().lstDraftList, Qt::Key_Escape);
+    QTest::mouseMove(Viewport(), Spot(Draft().lstDraftList, 1));
+    EXPECT_EQ(Draft().lstDraftList->Chosen(), Draft().lstDraftList->item(3)) << "not whatever the mouse passes";
     QTest::mouseRelease(Viewport(), Qt::LeftButton, {}, top);
     Settle();
     EXPECT_THAT(Ranking(), ElementsAre(11, 12, 13, 14, 15));
+    EXPECT_EQ(Draft().lstDraftList->Chosen(), Draft().lstDraftList->item(3));
     EXPECT_TRUE(Draft().isVisible());
 }
 

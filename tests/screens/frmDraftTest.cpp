@@ -193,7 +193,7 @@ TEST_F(frmDraftTest, ATeamOutOfRangeIsToldAndTheScreenStaysUpAndEmpty)
     }
 }
 
-TEST_F(frmDraftTest, ARankingWithoutAFilledListAndUnknownIdsAreFailuresOfPlaceOffer)
+TEST_F(frmDraftTest, UnknownIdsAreFailuresOfPlaceOffer)
 {
     frmDraft& draft = Draft();
     for (const int id : {-1, 11001, 20301}) {
@@ -236,15 +236,6 @@ TEST_F(frmDraftTest, ASearchInVainKeepsTheChoice)
     EXPECT_THAT(Machine.Boxes(), ElementsAre(Box{64, "Player not found!"}));
     EXPECT_EQ(draft.lstPlayers->Chosen(), draft.lstPlayers->item(1));
 }
-
-class SilentInput : public ScriptedPlatform {
-public:
-    std::string InputBox(const std::string& /*prompt*/, const std::string& /*title*/,
-                         const std::string& /*text*/) override
-    {
-        Fail(failure::OutOfMemory);
-    }
-};
 
 TEST_F(frmDraftTest, AFailureOfTheSearchIsToldByItsName)
 {

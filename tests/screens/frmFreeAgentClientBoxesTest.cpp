@@ -251,6 +251,22 @@ TEST_F(OfferBoxes, ARefusedTextKeepsItsPersonShown)
     EXPECT_EQ(Offers().lstPlayers->count(), 2);
 }
 
+TEST_F(OfferBoxes, ARefusedTextKeepsItsPersonShownWhenTheFilterIsAskedForByItsKey)
+{
+    Open();
+    TypeInto(Offers().txtOffer, "x");
+    // The key goes to the box to tick, which the refused text takes the focus back from before it is ticked.
+    Offers().chkShowPlayerWithOffer->setFocus(Qt::ShortcutFocusReason);
+    EXPECT_THAT(Machine.TakeBoxes(), ElementsAre(Box{48, "No Valid Input!"}));
+    Offers().chkShowPlayerWithOffer->click();
+    Settle();
+    EXPECT_FALSE(Offers().chkShowPlayerWithOffer->isChecked());
+    EXPECT_EQ(Offers().lstPlayers->count(), 2);
+    EXPECT_EQ(Of(Offers().txtOffer), "x");
+    EXPECT_TRUE(Offers().txtOffer->hasFocus());
+    EXPECT_THAT(Machine.TakeBoxes(), IsEmpty());
+}
+
 TEST_F(OfferBoxes, ACommandThatTakesNoFocusFirstLetsTheBoxAct)
 {
     Open();

@@ -49,6 +49,7 @@ TEST_F(OfferSaving, TellsTheOffersAndThePath)
     Enter(Offers().txtDuration, "2");
     Enter(Offers().txtBonus, "1000");
     EnterComment("Come");
+    WriteWhole(TempFile, {1}); // of an earlier evening
     EXPECT_THAT(Save(), ElementsAre(Box{64, "Skater 1 was offer $750,000 for 2 year(s) with $1,000 in bonus.\r\n" +
                                                 SavedLine()}));
     EXPECT_THAT(WaitAtBoxes, ElementsAre(false));
@@ -61,6 +62,9 @@ TEST_F(OfferSaving, TellsTheOffersAndThePath)
     EXPECT_EQ(OfferOf(1).Team, 5);
     EXPECT_FALSE(fs::exists(TempFile));
     EXPECT_FALSE(Modified) << "saving does not touch it";
+    Modified = true;
+    Save();
+    EXPECT_TRUE(Modified);
     EXPECT_TRUE(Offers().isVisible());
 }
 

@@ -75,12 +75,26 @@ TEST_F(OfferOpening, ATeamOutOfRangeIsToldAndLeavesTheScreenOpenAndEmpty)
         EXPECT_EQ(Of(offers.lblTeam), "");
         EXPECT_EQ(Of(offers.lblMaxOffer), "");
         EXPECT_FALSE(BoxesAreOpen());
+        Click(offers.chkShowPlayerWithOffer);
+        EXPECT_FALSE(offers.chkShowPlayerWithOffer->isChecked());
+        EXPECT_EQ(offers.lstPlayers->count(), 0) << "nor can the filter fill it";
         Click(offers.cmdSaveToFile);
         EXPECT_THAT(Machine.TakeBoxes(), ElementsAre(Box{16, "Integrity Check Failed!"}));
         Click(offers.cmdExit);
         EXPECT_EQ(TheStage.Find("FreeAgent"), nullptr);
         EXPECT_TRUE(Main().isVisible());
     }
+}
+
+TEST_F(OfferOpening, AFailureOfTheSearchIsToldByItsName)
+{
+    FreeSkater(1);
+    const frmFreeAgentClient& offers = Open();
+    SilentInput silent;
+    UseMachine(silent);
+    Click(offers.cmdSearch);
+    UseMachine(Machine);
+    EXPECT_THAT(silent.Boxes(), ElementsAre(Box{16, "7 - Out of memory in cmdSearch!"}));
 }
 
 TEST_F(OfferOpening, AFailureIsReportedAndStaysInside)

@@ -309,8 +309,8 @@ TEST_F(frmTicketTest, ClosingTheWindowTakesThePriceThatIsBeingTyped)
 
 TEST_F(frmTicketTest, ATeamOutOfRangeIsToldAndClosesTheScreen)
 {
-    frmTeam& office = Office();
     for (const int team : {0, 101}) {
+        frmTeam& office = Office();
         CurrentTeam = team;
         TheStage.Open("Ticket", office);
         Settle();
@@ -318,6 +318,7 @@ TEST_F(frmTicketTest, ATeamOutOfRangeIsToldAndClosesTheScreen)
         // The team screen that comes back loads anew, with the same end, and the main screen stays.
         const Box told{16, "Integrity Check Failed!"};
         EXPECT_THAT(Machine.TakeBoxes(), ElementsAre(told, told)) << team;
+        EXPECT_EQ(TeamScreen(), nullptr) << team;
         EXPECT_TRUE(Main().isVisible()) << team;
     }
 }

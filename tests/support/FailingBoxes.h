@@ -11,16 +11,25 @@ namespace dravik {
 // The boxes after them are recorded.
 class FailingBoxes : public ScriptedPlatform {
 public:
-    explicit FailingBoxes(int failures = 0, int number = failure::Overflow) : FailuresLeft(failures), Number(number) {}
+    explicit FailingBoxes(int failures = 0) : FailuresLeft(failures) {}
 
     int FailuresLeft;
-    int Number;
 
     int MessageBox(const std::string& text, int kind, const std::string& title) override
     {
         if (FailuresLeft-- > 0)
-            Fail(Number);
+            Fail(failure::Overflow);
         return ScriptedPlatform::MessageBox(text, kind, title);
+    }
+};
+
+// A machine that fails to ask for a text.
+class SilentInput : public ScriptedPlatform {
+public:
+    std::string InputBox(const std::string& /*prompt*/, const std::string& /*title*/,
+                         const std::string& /*text*/) override
+    {
+        Fail(failure::OutOfMemory);
     }
 };
 

@@ -19,10 +19,12 @@ void RankList::mousePressEvent(QMouseEvent* event)
 // The base would choose whatever the pressed mouse passes.
 void RankList::mouseMoveEvent(QMouseEvent* event)
 {
-    if (pressedRow < 0 || (event->buttons() & Qt::LeftButton) == 0) {
+    if ((event->buttons() & Qt::LeftButton) == 0) {
         EntryList::mouseMoveEvent(event);
         return;
     }
+    if (pressedRow < 0) // nobody was pressed, or Escape ended the drag
+        return;
     const QPoint point = event->position().toPoint();
     if (!dragging) {
         if ((point - pressedPoint).manhattanLength() < QApplication::startDragDistance())
