@@ -136,7 +136,7 @@ void frmEditPlayer::lstPlayer_Click()
             PlayerPosition = EntryPosition(number);
             ListPosition = lstPlayer->currentRow();
         }
-        HideRows();
+        ratings->Hide();
         if (current == nullptr)
             return;
         if (const auto person = ShownPerson())
@@ -198,17 +198,13 @@ void frmEditPlayer::ShowRatings(const Person& person)
 void frmEditPlayer::SetRow(int row, const StatRow& shown)
 {
     txtStats[row]->setText(QString::number(shown.Value));
-    bars[row]->SetValue(shown.Value);
-    ShowRow(row, shown.Label);
+    ShowRow(row, shown.Label, shown.Value);
 }
 
-void frmEditPlayer::ShowRow(int row, std::string_view label)
+void frmEditPlayer::ShowRow(int row, std::string_view label, int rating)
 {
-    lblStatLabel[row]->setText(ToQString(label));
     txtStats[row]->setAccessibleName(ToQString(label));
-    lblStatLabel[row]->show();
-    txtStats[row]->show();
-    bars[row]->show();
+    ratings->Show(row, ToQString(label), rating);
 }
 
 // Shows the overall anew after a rating has changed.
@@ -218,15 +214,6 @@ void frmEditPlayer::ShowOverall()
     const StatRows rows = person.IsGoalie ? GoalieStatRows(person.Id) : SkaterStatRows(person.Id);
     if (rows.OverallRow)
         SetRow(static_cast<int>(rows.Ratings.size()) + 1, *rows.OverallRow);
-}
-
-void frmEditPlayer::HideRows()
-{
-    for (int row = lblStatLabel.first; row <= lblStatLabel.last; ++row) {
-        lblStatLabel[row]->hide();
-        txtStats[row]->hide();
-        bars[row]->hide();
-    }
 }
 
 void frmEditPlayer::FormUnload() { Owner.ViewerClosed(Changed); }

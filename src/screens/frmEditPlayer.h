@@ -4,7 +4,7 @@
 #include "league/InputCheck.h"
 #include "screens/panels/EditBox.h"
 #include "screens/panels/EntryList.h"
-#include "screens/panels/RatingBar.h"
+#include "screens/panels/RatingRows.h"
 #include "screens/Screen.h"
 
 #include <functional>
@@ -116,10 +116,9 @@ private:
     void ClearPositions();
     void TickPosition(QRadioButton* option);
     void ShowRatings(const Person& person);
-    void ShowRow(int row, std::string_view label);
+    void ShowRow(int row, std::string_view label, int rating);
     void SetRow(int row, const StatRow& shown);
     void ShowOverall();
-    void HideRows();
 
     // The boxes.
     void ShowFields(const Person& person);
@@ -158,7 +157,7 @@ private:
     void ShadeClosedControls();
 
     QButtonGroup* positions;
-    Row<RatingBar*, 1, 16> bars;
+    RatingRows* ratings;
 };
 
 } // namespace dravik

@@ -297,7 +297,7 @@ void frmEditPlayer::txtStats_LostFocus(int index)
         if (!person)
             return;
         On(*person, [&](auto& record) { record.Stats[index] = rating; });
-        bars[index]->SetValue(static_cast<int>(rating));
+        ratings->SetRating(index, static_cast<int>(rating));
         Modified = true;
         ShowOverall();
     });
@@ -370,10 +370,8 @@ void frmEditPlayer::ClearBoxes()
         (this->*field->Box)->clear();
     txtInjury->clear();
     txtTeam->clear();
-    for (int row = txtStats.first; row <= txtStats.last; ++row) {
-        txtStats[row]->clear();
-        bars[row]->SetValue(0);
-    }
+    for (EditBox* box : txtStats)
+        box->clear();
 }
 
 } // namespace dravik

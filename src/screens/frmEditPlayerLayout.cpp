@@ -19,7 +19,6 @@ namespace {
 
 constexpr QSize DefaultSize(1040, 560);
 constexpr int MostListRows = 8;
-constexpr int StatRowsInColumn = 8;
 constexpr const char* LongestCaption = "Suspension :";
 constexpr const char* WidestAmount = "-2147483648";
 constexpr const char* WidestNumber = "-999999";
@@ -105,7 +104,6 @@ frmEditPlayer::frmEditPlayer(Stage& stage) : Screen(stage, "frmEditPlayer")
     area->setWidget(content);
     setCentralWidget(area);
 
-    HideRows();
     optGoaler->hide();
     FitList();
     CloseEditor();
@@ -148,10 +146,6 @@ void frmEditPlayer::MakeBoxes()
         box->ReadAsLabelWhenClosed();
         box->installEventFilter(this);
         txtStats[row] = box;
-        lblStatLabel[row] = new MutedLabel(this);
-        lblStatLabel[row]->setObjectName(ElementName("lblStatLabel", row));
-        lblStatLabel[row]->setTextFormat(Qt::PlainText);
-        bars[row] = new RatingBar(this);
     }
 }
 
@@ -246,24 +240,15 @@ QWidget* frmEditPlayer::MakeConditionGroup()
     return group;
 }
 
-// Two columns of ratings: the label, a bar, the number.
 QWidget* frmEditPlayer::MakeStatsGroup()
 {
-    constexpr int widgetsOfRating = 3;
     auto* group = new QGroupBox("Stats", this);
-    auto* grid = new QGridLayout(group);
-    grid->setContentsMargins(Margin, Gap, Margin, Margin);
-    grid->setHorizontalSpacing(Gap);
-    grid->setVerticalSpacing(Gap / 2);
-    for (int row = lblStatLabel.first; row <= lblStatLabel.last; ++row) {
-        const int line = (row - 1) % StatRowsInColumn;
-        const int column = (row - 1) / StatRowsInColumn * (widgetsOfRating + 1);
-        grid->addWidget(lblStatLabel[row], line, column);
-        grid->addWidget(bars[row], line, column + 1, Qt::AlignVCenter);
-        grid->addWidget(txtStats[row], line, column + 2);
-        grid->setColumnStretch(column + 1, 1);
-    }
-    grid->setColumnMinimumWidth(widgetsOfRating, Gap);
+    RatingRows::Numbers numbers;
+    std::copy(txtStats.begin(), txtStats.end(), numbers.begin());
+    ratings = new RatingRows(group, numbers);
+    ratings->setContentsMargins(Margin, Gap, Margin, Margin);
+    group->setLayout(ratings);
+    lblStatLabel = ratings->Captions;
     return group;
 }
 

@@ -95,10 +95,10 @@ void frmEditPlayer::BeginRecord(const Person& person)
         option->setEnabled(true);
     }
     // A new record needs every single rating, so all of them are there to be typed even where the league shows groups.
-    HideRows();
+    ratings->Hide();
     const auto offer = [this](const auto& labels) {
         for (int row = labels.first; row < labels.last; ++row) {
-            ShowRow(row, labels[row]);
+            ShowRow(row, labels[row], 0);
             txtStats[row]->setEnabled(true);
         }
     };

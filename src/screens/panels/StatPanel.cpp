@@ -5,37 +5,23 @@
 #include "screens/panels/Shades.h"
 #include "screens/platform/CodePage.h"
 
-#include <QGridLayout>
+#include <QVBoxLayout>
 
 namespace dravik {
 
-namespace {
-
-constexpr int RowCount = 16;
-constexpr int RowsOfColumn = 8;
-constexpr int CellsOfColumn = 4; // caption, bar, number, space to the next column
-
-void KeepPlaceWhenHidden(QWidget* widget)
-{
-    QSizePolicy policy = widget->sizePolicy();
-    policy.setRetainSizeWhenHidden(true);
-    widget->setSizePolicy(policy);
-}
-
-} // namespace
-
 StatPanel::StatPanel(QWidget* parent, const char* numberName) : QGroupBox("Stats", parent)
 {
-    for (int row = 0; row <= RowCount; ++row) {
-        lblStatLabel[row] = new MutedLabel(this);
-        lblStatLabel[row]->setObjectName(ElementName("lblStatLabel", row));
+    for (int row = lblStat.first; row <= lblStat.last; ++row) {
         lblStat[row] = new QLabel(this);
         lblStat[row]->setObjectName(ElementName(numberName, row));
         lblStat[row]->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
-        for (QLabel* label : {lblStat[row], lblStatLabel[row]})
-            label->setTextFormat(Qt::PlainText);
+        lblStat[row]->setTextFormat(Qt::PlainText);
     }
-    lblStatLabel[0]->setText("PO");
+    lblStatLabel[0] = new MutedLabel("PO", this);
+    lblStatLabel[0]->setObjectName(ElementName("lblStatLabel", 0));
+    QSizePolicy keepingPlace = lblStat[0]->sizePolicy();
+    keepingPlace.setRetainSizeWhenHidden(true);
+    lblStat[0]->setSizePolicy(keepingPlace);
     lblName = MakeHeading({}, this);
     lblName->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
 
@@ -49,27 +35,15 @@ StatPanel::StatPanel(QWidget* parent, const char* numberName) : QGroupBox("Stats
     heading->addWidget(lblStat[0]);
     column->addLayout(heading);
 
-    auto* grid = new QGridLayout;
-    grid->setHorizontalSpacing(Gap);
-    grid->setVerticalSpacing(Gap / 2);
-    grid->setColumnMinimumWidth(CellsOfColumn - 1, Gap / 2);
-    const int numberWidth = fontMetrics().horizontalAdvance("000");
-    for (int row = 1; row <= RowCount; ++row) {
-        const int line = (row - 1) % RowsOfColumn;
-        const int cell = (row - 1) / RowsOfColumn * CellsOfColumn;
-        bars[row] = new RatingBar(this);
-        lblStat[row]->setMinimumWidth(numberWidth);
-        lblStatLabel[row]->setMinimumWidth(numberWidth);
-        grid->addWidget(lblStatLabel[row], line, cell);
-        grid->addWidget(bars[row], line, cell + 1);
-        grid->addWidget(lblStat[row], line, cell + 2);
-        if (row <= RowsOfColumn) {
-            KeepPlaceWhenHidden(lblStat[row]);
-            KeepPlaceWhenHidden(bars[row]);
-        }
+    RatingRows::Numbers numbers;
+    for (int row = numbers.first; row <= numbers.last; ++row) {
+        lblStat[row]->setMinimumWidth(fontMetrics().horizontalAdvance("000"));
+        numbers[row] = lblStat[row];
     }
-    KeepPlaceWhenHidden(lblStat[0]);
-    column->addLayout(grid);
+    ratings = new RatingRows(this, numbers);
+    for (int row = numbers.first; row <= numbers.last; ++row)
+        lblStatLabel[row] = ratings->Captions[row];
+    column->addLayout(ratings);
     HideRows();
 }
 
@@ -81,22 +55,15 @@ void StatPanel::HideRows()
     HideRatings();
 }
 
-void StatPanel::HideRatings()
-{
-    for (int row = 1; row <= RowCount; ++row) {
-        lblStat[row]->hide();
-        lblStatLabel[row]->hide();
-        bars[row]->hide();
-    }
-}
+void StatPanel::HideRatings() { ratings->Hide(); }
 
 void StatPanel::ClearNumbers()
 {
     lblName->clear();
-    for (int row = 1; row <= RowCount; ++row) {
+    for (int row = ratings->Captions.first; row <= ratings->Captions.last; ++row) {
         lblStat[row]->clear();
         lblStat[row]->setAccessibleName({});
-        bars[row]->SetValue(0);
+        ratings->SetRating(row, 0);
     }
 }
 
@@ -122,13 +89,9 @@ void StatPanel::ShowRows(const StatRows& rows)
 void StatPanel::ShowRow(int row, const StatRow& shown)
 {
     const QString caption = ToQString(shown.Label);
-    lblStatLabel[row]->setText(caption);
-    lblStatLabel[row]->show();
     lblStat[row]->setText(QString::number(shown.Value));
     lblStat[row]->setAccessibleName(QString("%1 %2").arg(caption).arg(shown.Value));
-    lblStat[row]->show();
-    bars[row]->SetValue(shown.Value);
-    bars[row]->show();
+    ratings->Show(row, caption, shown.Value);
 }
 
 } // namespace dravik

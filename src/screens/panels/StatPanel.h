@@ -2,7 +2,7 @@
 
 #include "league/Field.h"
 #include "rules/StatRows.h"
-#include "screens/panels/RatingBar.h"
+#include "screens/panels/RatingRows.h"
 
 #include <QGroupBox>
 #include <QLabel>
@@ -34,7 +34,7 @@ public:
 
 private:
     QLabel* lblName;
-    Row<RatingBar*, 1, 16> bars;
+    RatingRows* ratings;
 };
 
 } // namespace dravik
