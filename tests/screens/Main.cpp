@@ -5,6 +5,21 @@
 #include <QFont>
 #include <QLocale>
 #include <QStyleFactory>
+#include <QTimer>
+
+namespace {
+
+// A test that closes the main screen ends the program for the whole process: every dialog from then on would return at
+// once, unanswered. An event loop of the program's own takes that back before the next test.
+class ProgramOfEachTest : public testing::EmptyTestEventListener {
+    void OnTestStart(const testing::TestInfo& /*test*/) override
+    {
+        QTimer::singleShot(0, qApp, [] { QCoreApplication::exit(); });
+        QCoreApplication::exec();
+    }
+};
+
+} // namespace
 
 // One application for all tests, without a window system, and with the same style, font and locale on every machine.
 int main(int argc, char** argv)
@@ -19,5 +34,6 @@ int main(int argc, char** argv)
     QApplication::setQuitOnLastWindowClosed(false);
 
     testing::InitGoogleMock(&argc, argv);
+    testing::UnitTest::GetInstance()->listeners().Append(new ProgramOfEachTest);
     return RUN_ALL_TESTS();
 }

@@ -451,9 +451,28 @@ TEST_F(ViewerFields, FlagsCopyThemselvesToTheRecord)
     Press(viewer.chkRookie, Qt::Key_Space);
     EXPECT_EQ(Tilton().Rookie.Word(), 0);
     EXPECT_FALSE(Vos().NoTrade);
-    frmEditPlayer& goalie = Edit(7, true);
-    Press(goalie.chkNoTrade, Qt::Key_Space);
-    EXPECT_EQ(Vos().NoTrade.Word(), -1);
+}
+
+TEST_F(ViewerFields, FlagsOfAGoalieAreHisAndAreShown)
+{
+    struct Flag {
+        QCheckBox* frmEditPlayer::*Box;
+        Boolean Goalie::*Field;
+    };
+    for (const Flag& flag : {Flag{&frmEditPlayer::chkRookie, &Goalie::Rookie},
+                             {&frmEditPlayer::chkNoTrade, &Goalie::NoTrade},
+                             {&frmEditPlayer::chkNoApplyRerate, &Goalie::NoApplyRerate}}) {
+        frmEditPlayer& viewer = Edit(7, true);
+        for (const int word : {-1, 0, -1}) {
+            Press(viewer.*flag.Box, Qt::Key_Space);
+            EXPECT_EQ((Vos().*flag.Field).Word(), word);
+            viewer.lstPlayer_Click(); // shows the record anew
+            EXPECT_EQ((viewer.*flag.Box)->isChecked(), word == -1);
+        }
+    }
+    EXPECT_FALSE(Tilton().Rookie);
+    EXPECT_FALSE(Tilton().NoTrade);
+    EXPECT_FALSE(Tilton().NoApplyRerate);
 }
 
 TEST_F(ViewerFields, FlagsWaitForTheSaveOfANewRecord)

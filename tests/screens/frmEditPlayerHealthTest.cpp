@@ -28,6 +28,22 @@ TEST_F(ViewerHealth, SuspensionStaysWithinZeroAndNinetyNine)
     }
 }
 
+TEST_F(ViewerHealth, TheInjuryIsOpenBelowAConditionOf100AndClosedFromThereOn)
+{
+    for (const bool isGoalie : {false, true}) {
+        frmEditPlayer& viewer = Edit(7, isGoalie);
+        for (const auto& [condition, open] : {std::pair(99, true), {100, false}, {0, true}, {101, false}, {95, true}}) {
+            Tilton().Condition = isGoalie ? 1 : condition;
+            Vos().Condition = isGoalie ? condition : 1;
+            Tilton().Injury = "Knee";
+            Vos().Injury = "Groin";
+            viewer.lstPlayer_Click();
+            EXPECT_EQ(viewer.txtInjury->isEnabled(), open) << condition << (isGoalie ? " goalie" : " skater");
+            EXPECT_EQ(Of(viewer.txtInjury), !open ? "" : isGoalie ? "Groin" : "Knee");
+        }
+    }
+}
+
 TEST_F(ViewerHealth, ConditionBelow95InjuresAndTakesOutOfTheLines)
 {
     DressForLines();

@@ -22,6 +22,27 @@ protected:
         for (int row = 1; row <= ratings; ++row)
             viewer.txtStats[row]->setText(QString::number(50 + row));
     }
+    static void TickFlags(frmEditPlayer& viewer)
+    {
+        for (QCheckBox* flag : {viewer.chkRookie, viewer.chkNoTrade, viewer.chkNoApplyRerate})
+            Press(flag, Qt::Key_Space);
+    }
+
+    // Saves the filled record with each of its boxes empty in turn, which has to be refused.
+    void ExpectEveryFieldRequired(frmEditPlayer& viewer, int ratings, const std::function<void()>& save)
+    {
+        std::vector<EditBox*> required{viewer.txtName,   viewer.txtCountry,  viewer.txtAge,    viewer.txtWeight,
+                                       viewer.txtHeight, viewer.txtContract, viewer.txtSalary, viewer.txtCondition};
+        required.insert(required.end(), viewer.txtStats.begin(), viewer.txtStats.begin() + ratings);
+        for (EditBox* box : required) {
+            const QString text = box->text();
+            box->clear();
+            save();
+            EXPECT_THAT(Machine.TakeBoxes(), ElementsAre(Box{48, "Missing Field!"})) << box->objectName().toStdString();
+            EXPECT_TRUE(viewer.NewPlayerMode || viewer.NewGoalieMode);
+            box->setText(text);
+        }
+    }
 };
 
 TEST_F(ViewerRecords, SearchSelectsTheFirstEntryThatHoldsTheAnswerInAnyCase)
@@ -161,8 +182,24 @@ TEST_F(ViewerRecords, ANewPlayerIsSavedWithItsBoxes)
     EXPECT_TRUE(Modified);
 }
 
+TEST_F(ViewerRecords, ANewPlayerIsSavedWithAllHisFlagsAndInNoTeam)
+{
+    Players[1].Team = 9; // of whoever was in the slot
+    frmEditPlayer& viewer = Edit(7);
+    viewer.cmdNewPlayer_Click();
+    Fill(viewer, 15);
+    TickFlags(viewer);
+    viewer.cmdNewPlayer_Click();
+    for (const Boolean& flag : {Players[1].Rookie, Players[1].NoTrade, Players[1].NoApplyRerate})
+        EXPECT_EQ(flag.Word(), -1);
+    EXPECT_EQ(Players[1].Team, 0);
+    EXPECT_EQ(Of(viewer.txtTeam), "");
+}
+
 TEST_F(ViewerRecords, ANewGoalieIsSavedWithItsBoxes)
 {
+    Goalies[1].Team = 9; // of whoever was in the slot
+    Goalies[1].Suspension = 4;
     frmEditPlayer& viewer = Edit(7);
     viewer.cmdNewGoaler_Click();
     EXPECT_TRUE(viewer.NewGoalieMode);
@@ -173,12 +210,27 @@ TEST_F(ViewerRecords, ANewGoalieIsSavedWithItsBoxes)
     EXPECT_TRUE(viewer.optGoaler->isChecked());
     EXPECT_FALSE(viewer.optGoaler->isHidden());
     Fill(viewer, 13);
+    viewer.txtCondition->setText("97");
+    TickFlags(viewer);
     viewer.cmdNewGoaler_Click();
     EXPECT_THAT(Machine.Boxes(), ElementsAre(Box{64, "Lenny Brisk was successfully created!"}));
-    EXPECT_TRUE(Goalies[1].InUse);
-    EXPECT_EQ(Goalies[1].Number, 1);
-    EXPECT_EQ(Goalies[1].Stats[13], 63);
-    EXPECT_EQ(Goalies[1].Salary, 1);
+    const Goalie& made = Goalies[1];
+    EXPECT_TRUE(made.InUse);
+    EXPECT_EQ(made.Number, 1);
+    EXPECT_EQ(made.Name.Trimmed(), "Lenny Brisk");
+    EXPECT_EQ(made.Country.Trimmed(), "SWE");
+    EXPECT_EQ(made.Age, 19);
+    EXPECT_EQ(made.Weight, 188);
+    EXPECT_EQ(made.Height, 74);
+    EXPECT_EQ(made.Contract, 12);
+    EXPECT_EQ(made.Salary, 1);
+    EXPECT_EQ(made.Condition, 97);
+    EXPECT_EQ(made.Team, 0);
+    EXPECT_EQ(made.Suspension, 4);
+    for (const Boolean& flag : {made.Rookie, made.NoTrade, made.NoApplyRerate})
+        EXPECT_EQ(flag.Word(), -1);
+    for (int row = 1; row <= 13; ++row)
+        EXPECT_EQ(made.Stats[row], 50 + row);
     EXPECT_EQ(Entry(viewer, 1), "Lenny Brisk (G)");
     EXPECT_EQ(NumberAt(viewer, 1), 15);
     EXPECT_EQ(viewer.PlayerPosition, 5);
@@ -258,31 +310,24 @@ TEST_F(ViewerRecords, EveryFieldOfANewRecordIsRequiredButInjurySuspensionAndTeam
     frmEditPlayer& viewer = Edit(7);
     viewer.cmdNewPlayer_Click();
     Fill(viewer, 15);
-    std::vector<EditBox*> required{viewer.txtName,   viewer.txtCountry,  viewer.txtAge,    viewer.txtWeight,
-                                   viewer.txtHeight, viewer.txtContract, viewer.txtSalary, viewer.txtCondition};
-    required.insert(required.end(), viewer.txtStats.begin(), viewer.txtStats.begin() + 15);
-    for (EditBox* box : required) {
-        const QString text = box->text();
-        box->clear();
-        viewer.cmdNewPlayer_Click();
-        EXPECT_THAT(Machine.TakeBoxes(), ElementsAre(Box{48, "Missing Field!"})) << box->objectName().toStdString();
-        EXPECT_TRUE(viewer.NewPlayerMode);
-        EXPECT_FALSE(Players[1].InUse);
-        box->setText(text);
-    }
+    ExpectEveryFieldRequired(viewer, 15, [&] { viewer.cmdNewPlayer_Click(); });
+    EXPECT_TRUE(viewer.NewPlayerMode);
+    EXPECT_FALSE(Players[1].InUse);
     viewer.txtSuspension->clear();
     viewer.cmdNewPlayer_Click();
     EXPECT_THAT(Machine.TakeBoxes(), ElementsAre(Box{64, "Lenny Brisk was successfully created!"}));
 }
 
-TEST_F(ViewerRecords, AGoalieNeedsThirteenRatings)
+TEST_F(ViewerRecords, AGoalieNeedsTheSameFieldsAndThirteenRatings)
 {
     frmEditPlayer& viewer = Edit(7);
     viewer.cmdNewGoaler_Click();
-    Fill(viewer, 12);
-    viewer.cmdNewGoaler_Click();
-    EXPECT_THAT(Machine.TakeBoxes(), ElementsAre(Box{48, "Missing Field!"}));
+    Fill(viewer, 13);
+    ExpectEveryFieldRequired(viewer, 13, [&] { viewer.cmdNewGoaler_Click(); });
     EXPECT_TRUE(viewer.NewGoalieMode);
+    EXPECT_FALSE(Goalies[1].InUse);
+    viewer.cmdNewGoaler_Click();
+    EXPECT_THAT(Machine.TakeBoxes(), ElementsAre(Box{64, "Lenny Brisk was successfully created!"}));
 }
 
 TEST_F(ViewerRecords, Slot10000IsNeverGivenOut)
@@ -344,82 +389,6 @@ TEST_F(ViewerRecords, ANewRecordThatDoesNotFitIsReportedAndKeepsWhatWasStored)
     viewer.txtContract->setText("256");
     viewer.cmdNewGoaler_Click();
     EXPECT_THAT(Machine.TakeBoxes(), ElementsAre(Box{16, "6 - Overflow in cmdNewGoaler!"}));
-}
-
-TEST_F(ViewerRecords, EraseAsksThreeTimesForAPlayerOfATeamAndLeavesTheRecord)
-{
-    frmEditPlayer& viewer = Edit(0);
-    Machine.Answer(button::Yes);
-    Machine.Answer(button::Yes);
-    Machine.Answer(button::No);
-    viewer.cmdErase_Click();
-    EXPECT_THAT(Machine.Boxes(),
-                ElementsAre(Box{36, "Are you sure you want to erase Ward Tilton?"},
-                            Box{36, "Ward Tilton is hired by Harbour City Gulls! Do you want release the player?"},
-                            Box{36, "Is Ward Tilton retiring?"}));
-    EXPECT_TRUE(Tilton().InUse);
-    EXPECT_EQ(Tilton().Team, 5);
-    ASSERT_EQ(viewer.lstPlayer->count(), 1);
-    EXPECT_EQ(Entry(viewer, 0), "Piet Vos (G)");
-    EXPECT_EQ(viewer.lstPlayer->currentRow(), -1);
-    EXPECT_EQ(Of(viewer.txtName), "Ward Tilton"); // nobody was chosen in his place
-    EXPECT_FALSE(viewer.cmdErase->isEnabled());
-    EXPECT_TRUE(Modified);
-}
-
-TEST_F(ViewerRecords, EraseSpeaksOfAGoalie)
-{
-    frmEditPlayer& viewer = Edit(7, true);
-    viewer.cmdErase_Click();
-    EXPECT_THAT(Machine.Boxes(),
-                ElementsAre(Box{36, "Are you sure you want to erase Piet Vos?"},
-                            Box{36, "Piet Vos is hired by Harbour City Gulls! Do you want release the goalie?"},
-                            Box{36, "Is Piet Vos retiring?"}));
-    EXPECT_EQ(viewer.lstPlayer->count(), 0);
-    EXPECT_TRUE(Vos().InUse);
-}
-
-TEST_F(ViewerRecords, EraseAsksOnceWithoutATeam)
-{
-    Tilton().Team = 0;
-    frmEditPlayer& viewer = Edit(7);
-    viewer.cmdErase_Click();
-    EXPECT_THAT(Machine.Boxes(), ElementsAre(Box{36, "Are you sure you want to erase Ward Tilton?"}));
-    EXPECT_EQ(viewer.lstPlayer->count(), 0);
-}
-
-TEST_F(ViewerRecords, AnythingButYesKeepsTheEntry)
-{
-    frmEditPlayer& viewer = Edit(7);
-    Machine.Answer(button::No);
-    viewer.cmdErase_Click();
-    EXPECT_EQ(Machine.TakeBoxes().size(), 1U);
-    Machine.Answer(button::Yes);
-    Machine.Answer(button::Cancel);
-    viewer.cmdErase_Click();
-    EXPECT_EQ(Machine.TakeBoxes().size(), 2U);
-    EXPECT_EQ(viewer.lstPlayer->count(), 1);
-    EXPECT_TRUE(viewer.cmdErase->isEnabled());
-    EXPECT_FALSE(Modified);
-}
-
-TEST_F(ViewerRecords, EraseWithoutACurrentEntryDoesNothing)
-{
-    frmEditPlayer& viewer = Edit(7);
-    viewer.lstPlayer->setCurrentRow(-1);
-    viewer.cmdErase_Click();
-    EXPECT_THAT(Machine.Boxes(), IsEmpty());
-    EXPECT_EQ(viewer.lstPlayer->count(), 1);
-}
-
-TEST_F(ViewerRecords, ErasingFromAnImpossibleTeamIsReported)
-{
-    frmEditPlayer& viewer = Edit(7);
-    Tilton().Team = 101;
-    viewer.cmdErase_Click();
-    EXPECT_THAT(Machine.Boxes(), ElementsAre(Box{36, "Are you sure you want to erase Ward Tilton?"},
-                                             Box{16, "9 - Subscript out of range in cmdErase!"}));
-    EXPECT_EQ(viewer.lstPlayer->count(), 1);
 }
 
 } // namespace

@@ -79,6 +79,14 @@ TEST_F(PlayerViewer, OpensOnAGoalieWithHisWholeRecord)
     ExpectClosed(viewer);
 }
 
+TEST_F(PlayerViewer, StandsInTheMiddleOfTheScreen)
+{
+    const frmEditPlayer& viewer = Show(7);
+    const QPoint middle = viewer.screen()->availableGeometry().center();
+    constexpr int frame = 8; // of the window, which is not known before it is shown
+    EXPECT_LE((viewer.frameGeometry().center() - middle).manhattanLength(), frame);
+}
+
 TEST_F(PlayerViewer, TheTitleSpeaksOfEditingWhileTheScreenLoads)
 {
     PutSkater(20, 9, 0, status::Pro);
