@@ -1,6 +1,9 @@
 #include "screens/platform/Palettes.h"
+#include "screens/platform/FusionLook.h"
 
 #include <gtest/gtest.h>
+#include <QCheckBox>
+#include <QRadioButton>
 
 namespace dravik {
 namespace {
@@ -40,6 +43,42 @@ TEST(Palettes, OneIsLightAndOneIsDark)
 {
     EXPECT_GT(LightPalette().color(QPalette::Window).lightness(), 200);
     EXPECT_LT(DarkPalette().color(QPalette::Window).lightness(), 60);
+}
+
+// The colour of an unticked control's left edge, which stands out most between the window and the ground inside.
+QColor EdgeOf(QAbstractButton& button, const QPalette& palette)
+{
+    FusionLook look;
+    button.setStyle(&look);
+    button.setPalette(palette);
+    button.resize(button.sizeHint());
+    const QImage picture = button.grab().toImage();
+    const QColor window = palette.color(QPalette::Window);
+    QColor edge = window;
+    constexpr int withinTheBox = 6;
+    for (int x = 0; x < withinTheBox; ++x)
+        if (const QColor pixel = picture.pixelColor(x, picture.height() / 2);
+            Contrast(pixel, window) > Contrast(edge, window))
+            edge = pixel;
+    button.setStyle(nullptr);
+    return edge;
+}
+
+TEST(Palettes, EdgesOfUntickedBoxesAreSeenInBothPalettes)
+{
+    QCheckBox check("Rookie");
+    QRadioButton option("Center");
+    for (const QPalette& palette : {LightPalette(), DarkPalette()})
+        for (QAbstractButton* button :
+             {static_cast<QAbstractButton*>(&check), static_cast<QAbstractButton*>(&option)}) {
+            button->setEnabled(true);
+            const QColor edge = EdgeOf(*button, palette);
+            EXPECT_GE(Contrast(edge, palette.color(QPalette::Window)), 3) << button->text().toStdString();
+            EXPECT_GE(Contrast(edge, palette.color(QPalette::Base)), 3) << button->text().toStdString();
+            button->setEnabled(false);
+            EXPECT_LT(Contrast(EdgeOf(*button, palette), palette.color(QPalette::Window)),
+                      Contrast(edge, palette.color(QPalette::Window)));
+        }
 }
 
 } // namespace

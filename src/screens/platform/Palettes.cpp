@@ -1,7 +1,8 @@
 #include "screens/platform/Palettes.h"
 
+#include "screens/platform/FusionLook.h"
+
 #include <QApplication>
-#include <QStyleFactory>
 
 #include <algorithm>
 #include <cmath>
@@ -56,7 +57,7 @@ QPalette PaletteOf(const Colours& colours)
 
 void UseLook(const QPalette& palette)
 {
-    QApplication::setStyle(QStyleFactory::create("Fusion"));
+    QApplication::setStyle(new FusionLook);
     QApplication::setPalette(palette);
 }
 
@@ -106,6 +107,8 @@ void UseLookOfDesktop()
     const auto isSet = [](const char* name) { return !qEnvironmentVariableIsEmpty(name); };
     if (!isSet("XDG_CURRENT_DESKTOP") && !isSet("QT_QPA_PLATFORMTHEME") && !isSet("QT_STYLE_OVERRIDE"))
         UseLightLook();
+    else if (QApplication::style()->name().compare("fusion", Qt::CaseInsensitive) == 0)
+        QApplication::setStyle(new FusionLook);
 #endif
 }
 

@@ -13,7 +13,7 @@ void UseLightLook();
 void UseDarkLook();
 
 // The light look for a desktop that has none of its own, such as a bare window manager. Everywhere else, and where the
-// user has chosen a style, the program looks as the desktop does.
+// user has chosen a style, the program looks as the desktop does, with the edges of FusionLook where that is Fusion.
 void UseLookOfDesktop();
 
 // `a` and `b` mixed: all of `a` at 0, all of `b` at 1. Muted words are text mixed with its background.
