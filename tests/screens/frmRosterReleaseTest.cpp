@@ -1,7 +1,6 @@
 #include "OnRosterScreen.h"
 
 #include "AnswerDialog.h"
-#include "screens/platform/QtPlatform.h"
 
 namespace dravik {
 namespace {
@@ -218,21 +217,19 @@ TEST_F(frmRosterReleaseTest, APercentBeyondSixteenBitsFailsBeforeItIsCut)
 TEST_F(frmRosterReleaseTest, ReleaseThroughTheRealDialogs)
 {
     PutExpensive();
-    QtPlatform desktop({QString::fromStdString(Machine.InFolder("settings.ini")),
-                        QString::fromStdString(Machine.Folder()), QString::fromStdString(Machine.InFolder("lock"))});
-    UseMachine(desktop);
-    OnDialog<QDialog>([](QDialog& question) {
-        dravik::Click(question, "cmdYes");
-        OnDialog<QDialog>([](QDialog& amount) {
-            auto* box = amount.findChild<QLineEdit*>();
-            ASSERT_NE(box, nullptr);
-            EXPECT_EQ(box->text(), "0");
-            box->setText("50");
-            dravik::Press(amount, Qt::Key_Return);
+    OnDesktop([this] {
+        OnDialog<QDialog>([](QDialog& question) {
+            dravik::Click(question, "cmdYes");
+            OnDialog<QDialog>([](QDialog& amount) {
+                auto* box = amount.findChild<QLineEdit*>();
+                ASSERT_NE(box, nullptr);
+                EXPECT_EQ(box->text(), "0");
+                box->setText("50");
+                dravik::Press(amount, Qt::Key_Return);
+            });
         });
+        Roster().cmdRelease_Click();
     });
-    Roster().cmdRelease_Click();
-    UseMachine(Machine);
     EXPECT_EQ(Own().Cash, 3750000);
     EXPECT_EQ(Players[1].Team, 0);
 }
