@@ -4,17 +4,14 @@
 //
 //     roster_bench
 
+#include "AgainstAWalk.h"
 #include "screens/frmMain.h"
 #include "screens/frmRoster.h"
 #include "screens/platform/Palettes.h"
 #include "screens/Stage.h"
 #include "support/SmallLeague.h"
 
-#include <algorithm>
 #include <benchmark/benchmark.h>
-#include <chrono>
-#include <ctime>
-#include <functional>
 #include <QApplication>
 #include <QTest>
 #include <vector>
@@ -112,62 +109,9 @@ Bench& TheBench()
     return bench;
 }
 
-// Looks at every record of both tables once, as whoever wants to know a team's people must.
-long long WalkTables()
-{
-    long long found = 0;
-    for (const Player& player : Players)
-        found += player.InUse && player.Team == Own ? 1 : 0;
-    for (const Goalie& keeper : Goalies)
-        found += keeper.InUse && keeper.Team == Own ? 1 : 0;
-    return found;
-}
-
-// Milliseconds on the clock and of the processor.
-struct Cost {
-    double Wall;
-    double Cpu;
-};
-
-Cost CostOf(const std::function<void()>& work)
-{
-    const std::clock_t cpu = std::clock();
-    const auto start = std::chrono::steady_clock::now();
-    work();
-    const std::chrono::duration<double, std::milli> wall = std::chrono::steady_clock::now() - start;
-    return {wall.count(), 1000.0 * static_cast<double>(std::clock() - cpu) / CLOCKS_PER_SEC};
-}
-
-double Median(std::vector<double> values)
-{
-    std::nth_element(values.begin(), values.begin() + static_cast<std::ptrdiff_t>(values.size() / 2), values.end());
-    return values[values.size() / 2];
-}
-
-// Runs the work and a walk in turn, so that both meet the same weather.
 void AgainstAWalk(benchmark::State& state, void (Bench::*work)())
 {
-    Bench& bench = TheBench();
-    if (WalkTables() != 60)
-        std::abort();
-    (bench.*work)();
-    (bench.*work)();
-    std::vector<double> ours;
-    std::vector<double> cpu;
-    std::vector<double> walks;
-    for ([[maybe_unused]] auto _ : state) {
-        const Cost cost = CostOf([&] { (bench.*work)(); });
-        ours.push_back(cost.Wall);
-        cpu.push_back(cost.Cpu);
-        walks.push_back(CostOf([] { benchmark::DoNotOptimize(WalkTables()); }).Cpu);
-        state.SetIterationTime(cost.Wall / 1000);
-    }
-    state.counters["ours_ms"] = Median(ours);
-    state.counters["cpu_ms"] = Median(cpu);
-    state.counters["worst_ms"] = *std::max_element(ours.begin(), ours.end());
-    state.counters["worst_cpu_ms"] = *std::max_element(cpu.begin(), cpu.end());
-    state.counters["walk_ms"] = Median(walks);
-    state.counters["ratio"] = Median(cpu) / Median(walks);
+    MeasureAgainstAWalk(state, TheBench(), work, Own, 60);
 }
 
 constexpr int Rounds = 200;

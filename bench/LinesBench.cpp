@@ -1,0 +1,157 @@
+// What the lines screen costs on a full league: a press on a slot, a whole drag from the list onto it and a
+// change of day, each with both judgements of the lines and the painting, against one bare walk over the tables inside one
+// run. The counter "ratio" is the processor's time for ours divided by that for the walk; "cpu_ms" is to stay below one
+// frame (16 ms).
+//
+//     lines_bench
+
+#include "AgainstAWalk.h"
+#include "league/ClientVariable.h"
+#include "screens/frmLine.h"
+#include "screens/platform/Palettes.h"
+#include "screens/RosterEntry.h"
+#include "screens/Stage.h"
+#include "support/LineFindings.h"
+#include "support/SmallLeague.h"
+#include "tests/screens/Dragging.h"
+
+#include <benchmark/benchmark.h>
+#include <cstdlib>
+#include <QApplication>
+#include <QTest>
+#include <vector>
+
+namespace dravik {
+namespace {
+
+constexpr int Own = 5;
+
+// Every slot of the tables is in use. The team at hand has a full roster at the far end of the tables, complete lines on
+// all days and ten games to come at the far end of the calendar.
+TeamMaker FillLeague()
+{
+    ResetClientVariables();
+    MessagesAllowed = true;
+    MarkRosterChangesUntouched();
+    SetPlainWeights();
+    LeagueData.ShowOverall = true;
+    LeagueData.ShowAllRatings = true;
+    LeagueData.ScheduleShown = true;
+    LeagueData.ProDressedSkaters = 18;
+    LeagueData.FarmEnabled = true;
+    PlayerStatCount = 15;
+    GoalieStatCount = 13;
+    constexpr int ownSkaters = 18;
+    constexpr int ownGoalies = 2;
+    for (int id = 1; id <= 10000 - ownSkaters; ++id)
+        PutSkater(id, 6 + id % 30, 1 + id % 4, status::Pro, 40 + id % 50);
+    for (int id = 1; id <= 1000 - ownGoalies; ++id)
+        PutGoalie(id, 6 + id % 30, status::Pro, 40 + id % 50);
+    TeamMaker team(Own);
+    team.DressesFullRoster();
+    for (Lines& day : Teams[Own].ProLines)
+        FillDay(day, team);
+    for (long long row = 1; row <= ScheduleTable::last; ++row) {
+        ScheduleRow& game = GameSchedule[row];
+        game.GameDay = 1 + row / 30;
+        game.ProGame = true;
+        game.ProHome = row > ScheduleTable::last - 10 ? Own : 6 + row % 15;
+        game.ProAway = 21 + row % 15;
+    }
+    return team;
+}
+
+class Bench {
+public:
+    Bench()
+    {
+        UseMachine(machine);
+        stage.Start();
+        const TeamMaker team = FillLeague();
+        CurrentTeam = Own;
+        CallerScreen = "Main";
+        stage.Open("Line", *stage.Find("Main"));
+        QApplication::processEvents();
+        for (const int id : {team.Skaters[0], team.Skaters[3]}) // two centers, in turn
+            rows.push_back(Screen().lstPlayer->RowOf(EntryNumber(id, position::Center)));
+        Demand(Screen().vscDay->maximum() == DayStrip::Days);
+        Demand(Screen().lblComplete->text() == "Lines are Complete");
+        Pick();
+    }
+
+    // A press of the mouse on a slot, painted.
+    void Press()
+    {
+        QTest::mouseClick(Slot(), Qt::LeftButton);
+        Screen().grab();
+        Demand(Standing() == SelectedPlayer);
+    }
+    // Another person dragged from the list onto a slot, painted.
+    void Drag()
+    {
+        DragEntry(Screen().lstPlayer, rows[turn++ % rows.size()], Slot());
+        Screen().grab();
+        Demand(Standing() == SelectedPlayer);
+    }
+    // A click on the next day, painted.
+    void Day()
+    {
+        DayStrip* days = Screen().vscDay;
+        const int next = 1 + days->value() % DayStrip::Days;
+        QTest::mouseClick(days, Qt::LeftButton, {}, days->CellOf(next).center());
+        Screen().grab();
+        Demand(Screen().Day == next);
+    }
+
+private:
+    // What was done must have had its effect.
+    static void Demand(bool holds)
+    {
+        if (!holds)
+            std::abort();
+    }
+
+    frmLine& Screen() { return *static_cast<frmLine*>(stage.Find("Line")); }
+    SlotLabel* Slot() { return Screen().TabLine->SlotAt(LineField::NormalForward, 1, 1).Label; }
+    long long Standing() { return Teams[Own].ProLines[Screen().Day].NormalForward(1, 1); }
+    void Pick()
+    {
+        PickList* list = Screen().lstPlayer;
+        QTest::mouseClick(list->viewport(), Qt::LeftButton, {}, list->visualItemRect(list->item(rows[0])).center());
+    }
+
+    ScriptedPlatform machine;
+    Stage stage;
+    std::vector<int> rows;
+    std::size_t turn = 0;
+};
+
+Bench& TheBench()
+{
+    static Bench bench;
+    return bench;
+}
+
+void AgainstAWalk(benchmark::State& state, void (Bench::*work)())
+{
+    MeasureAgainstAWalk(state, TheBench(), work, Own, 20);
+}
+
+constexpr int Rounds = 200;
+BENCHMARK_CAPTURE(AgainstAWalk, Press, &Bench::Press)->Iterations(Rounds)->UseManualTime();
+BENCHMARK_CAPTURE(AgainstAWalk, Drag, &Bench::Drag)->Iterations(Rounds)->UseManualTime();
+BENCHMARK_CAPTURE(AgainstAWalk, Day, &Bench::Day)->Iterations(Rounds)->UseManualTime();
+
+} // namespace
+} // namespace dravik
+
+int main(int argc, char** argv)
+{
+    if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
+        qputenv("QT_QPA_PLATFORM", "offscreen");
+    const QApplication application(argc, argv);
+    dravik::UseLightLook();
+    benchmark::Initialize(&argc, argv);
+    benchmark::RunSpecifiedBenchmarks();
+    return 0;
+}
