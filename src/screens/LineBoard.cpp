@@ -1,5 +1,6 @@
 #include "screens/LineBoard.h"
 
+#include "screens/ElementName.h"
 #include "screens/panels/Labels.h"
 #include "screens/panels/Shades.h"
 #include "screens/platform/CodePage.h"
@@ -41,8 +42,6 @@ constexpr std::array<FieldLabels, 13> Labels{{
     {{"lblPenaltyShot"}, {}, Takes::Skater, "Penalty Shot"},
 }};
 static_assert(static_cast<std::size_t>(LineField::PenaltyShot) + 1 == Labels.size());
-
-QString Indexed(const char* name, int index) { return QString("%1(%2)").arg(name).arg(index); }
 
 QString Where(const FieldLabels& labels, const LineSlot& slot)
 {
@@ -118,7 +117,7 @@ void LineBoard::MakeSkaterSlot(std::size_t index)
     const char* tag = labels.Tags[place];
     auto* label =
         new SlotLabel(Where(labels, slot), tag != nullptr ? QString(tag) : QString::number(slot.Number), this);
-    label->setObjectName(Indexed(labels.Names[place], slot.Number));
+    label->setObjectName(ElementName(labels.Names[place], slot.Number));
     Slots[index] = {.Label = label, .Name = labels.Names[place], .Rule = labels.Rule, .Skater = slot};
     Connect(index);
 }
@@ -162,12 +161,12 @@ QWidget* LineBoard::MakeUnit(const LineGroup& group, int number)
     auto* column = MakeColumn(panel, Gap / 2);
 
     auto* heading = new PressLabel(panel);
-    heading->setObjectName(Indexed(group.Heading, number));
+    heading->setObjectName(ElementName(group.Heading, number));
     heading->setFont(HeadingFont(heading->font()));
     heading->setText(QString("%1 %2").arg(group.Caption).arg(number));
     heading->setToolTip("Show the averages");
     auto* average = new MutedLabel(panel);
-    average->setObjectName(Indexed((QString(group.Heading) + "Average").toUtf8(), number));
+    average->setObjectName(ElementName((QString(group.Heading) + "Average").toUtf8(), number));
     const auto index = static_cast<int>(Headings.size());
     Headings.push_back({heading, average, &group, number});
     Walk << heading;

@@ -152,8 +152,11 @@ private:
     void TellOfSlot(const BoardSlot& slot);
     void TellOfEntry(const QPoint& point);
     void TakePull(EditBox* box, Int16 Lines::*field);
+    bool HoldsBack(QObject* watched, const QEvent* event);
     // Goes back to a box whose text was refused, on whatever page it is.
     void ReturnTo(EditBox* box);
+
+    const QObject* heldBack = nullptr; // what was pressed while a text box kept the focus
 };
 
 } // namespace dravik

@@ -1,3 +1,4 @@
+#include "screens/ElementName.h"
 #include "screens/EventGuard.h"
 #include "screens/LinesScreen.h"
 #include "screens/panels/EntryDrag.h"
@@ -9,6 +10,7 @@
 #include <QHelpEvent>
 #include <QTabBar>
 #include <QVBoxLayout>
+#include <utility>
 
 // What the lines screens are made of and where it stands.
 namespace dravik {
@@ -21,8 +23,6 @@ constexpr int LeastReasonsWidth = 300;
 constexpr int LinesOfReasons = 3;
 constexpr int MostPoints = 5;
 constexpr int StrategyPageWidth = 460;
-
-QString Indexed(const char* name, int index) { return QString("%1(%2)").arg(name).arg(index); }
 
 QLabel* MakeLabel(const char* name, QWidget* parent)
 {
@@ -118,7 +118,7 @@ void LinesScreen::MakeControls()
     const char* positions[] = {"Center", "Left Wing", "Right Wing", "Defense", "Goalie"};
     for (int position = 1; position <= 5; ++position) {
         auto* filter = new QCheckBox(captions[position - 1], this);
-        filter->setObjectName(Indexed("chkPosition", position));
+        filter->setObjectName(ElementName("chkPosition", position));
         filter->setAccessibleName(positions[position - 1]);
         filter->setToolTip(positions[position - 1]);
         filter->setChecked(true);
@@ -178,7 +178,7 @@ void LinesScreen::MakeStrategyPage()
     const char* styles[] = {"Physical Style : ", "Defense Style : ", "Offense Style : "};
     for (int style = 0; style <= 2; ++style) {
         auto* bar = new QScrollBar(Qt::Horizontal, strategy);
-        bar->setObjectName(Indexed("hscStats", style));
+        bar->setObjectName(ElementName("hscStats", style));
         bar->setAccessibleName(QString(styles[style]).remove(" : "));
         bar->setRange(0, MostPoints);
         bar->setPageStep(1);
@@ -186,9 +186,10 @@ void LinesScreen::MakeStrategyPage()
         bar->setFocusPolicy(Qt::StrongFocus);
         connect(bar, &QScrollBar::valueChanged, this,
                 [this, style] { RunEvent("hscStats_Change", [this, style] { hscStats_Change(style); }); });
+        bar->installEventFilter(this);
         hscStats[style] = bar;
         lblStatsPoint[style] = MakeLabel("", strategy);
-        lblStatsPoint[style]->setObjectName(Indexed("lblStatsPoint", style));
+        lblStatsPoint[style]->setObjectName(ElementName("lblStatsPoint", style));
         points->addWidget(new MutedLabel(styles[style], strategy), style, 0);
         points->addWidget(bar, style, 1);
         points->addWidget(lblStatsPoint[style], style, 2);
@@ -291,12 +292,8 @@ void LinesScreen::SetTabOrder()
 
 bool LinesScreen::eventFilter(QObject* watched, QEvent* event)
 {
-    if (event->type() == QEvent::MouseButtonPress && qobject_cast<QPushButton*>(watched) == nullptr) {
-        // Whatever is watched takes the focus when it is pressed. A box that has it all the same took it back, and the
-        // press goes no further.
-        if (qobject_cast<EditBox*>(focusWidget()) != nullptr)
-            return true;
-    }
+    if (HoldsBack(watched, event))
+        return true;
     if (event->type() == QEvent::ToolTip) {
         if (watched == lstPlayer->viewport())
             TellOfEntry(static_cast<QHelpEvent*>(event)->pos());
@@ -306,6 +303,25 @@ bool LinesScreen::eventFilter(QObject* watched, QEvent* event)
                     TellOfSlot(slot);
     }
     return Screen::eventFilter(watched, event);
+}
+
+// Whatever is watched takes the focus when it is pressed. A text box that has it all the same took it back, and neither the
+// press nor what follows from it goes any further.
+bool LinesScreen::HoldsBack(QObject* watched, const QEvent* event)
+{
+    if (qobject_cast<QPushButton*>(watched) != nullptr)
+        return false; // as all screens do
+    switch (event->type()) {
+    case QEvent::MouseButtonPress:
+        heldBack = qobject_cast<EditBox*>(focusWidget()) != nullptr ? watched : nullptr;
+        return heldBack != nullptr;
+    case QEvent::MouseMove:
+        return heldBack == watched;
+    case QEvent::MouseButtonRelease:
+        return std::exchange(heldBack, nullptr) == watched;
+    default:
+        return false;
+    }
 }
 
 void LinesScreen::ReturnTo(EditBox* box)

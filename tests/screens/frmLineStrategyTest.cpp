@@ -256,6 +256,19 @@ TEST_F(LineStrategy, ARefusedTextHoldsTheClickOnADayBack)
     EXPECT_TRUE(line.txtPullGoalerMinGoal->hasFocus());
 }
 
+TEST_F(LineStrategy, ARefusedTextHoldsTheArrowsOfTheScrollBarsBack)
+{
+    frmLine& line = Strategy();
+    TypeInto(line.txtPullGoalerMinGoal, "x");
+    ClickArrow(line.hscStats[0], true);
+    EXPECT_EQ(Machine.TakeBoxes().size(), 1U);
+    EXPECT_EQ(ProDay().Strategy[0], 0);
+    EXPECT_TRUE(line.txtPullGoalerMinGoal->hasFocus());
+    TypeInto(line.txtPullGoalerMinGoal, "2");
+    ClickArrow(line.hscStats[0], true);
+    EXPECT_EQ(ProDay().Strategy[0], 1);
+}
+
 TEST_F(LineStrategy, ARefusedTextHoldsTheClickOnATabBack)
 {
     frmLine& line = Strategy();
