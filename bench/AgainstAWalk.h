@@ -1,5 +1,6 @@
 #pragma once
 
+#include "bench/Ratio.h"
 #include "league/ClientVariable.h"
 
 #include <algorithm>
@@ -37,12 +38,6 @@ inline Cost CostOf(const std::function<void()>& work)
     work();
     const std::chrono::duration<double, std::milli> wall = std::chrono::steady_clock::now() - start;
     return {wall.count(), 1000.0 * static_cast<double>(std::clock() - cpu) / CLOCKS_PER_SEC};
-}
-
-inline double Median(std::vector<double> values)
-{
-    std::nth_element(values.begin(), values.begin() + static_cast<std::ptrdiff_t>(values.size() / 2), values.end());
-    return values[values.size() / 2];
 }
 
 // Runs the work of a bench and a walk in turn, so that both meet the same weather. The walk must find `people` of `team`.

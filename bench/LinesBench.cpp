@@ -5,7 +5,7 @@
 //
 //     lines_bench
 
-#include "AgainstAWalk.h"
+#include "bench/AgainstAWalk.h"
 #include "league/ClientVariable.h"
 #include "screens/frmLine.h"
 #include "screens/platform/Palettes.h"

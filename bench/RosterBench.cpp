@@ -4,7 +4,7 @@
 //
 //     roster_bench
 
-#include "AgainstAWalk.h"
+#include "bench/AgainstAWalk.h"
 #include "screens/frmMain.h"
 #include "screens/frmRoster.h"
 #include "screens/platform/Palettes.h"
