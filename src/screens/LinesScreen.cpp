@@ -207,10 +207,7 @@ void LinesScreen::JudgeShownDay()
     lblComplete->Tell(complete ? "Lines are Complete" : "Lines are Incomplete", complete);
     cmdDebug->setEnabled(!complete);
     // Another day may be judged next, so its words are read here.
-    const QString reasons = complete ? QString() : ToQString(LastLinesText()).replace("\r\n", "\n").trimmed();
-    if (txtReasons->toPlainText() != reasons)
-        txtReasons->setPlainText(reasons);
-    txtReasons->setVisible(!reasons.isEmpty());
+    txtReasons->Tell(complete ? QString() : ToQString(LastLinesText()).replace("\r\n", "\n").trimmed());
 }
 
 void LinesScreen::RefreshPlaying()

@@ -6,6 +6,7 @@
 #include "screens/panels/DayStrip.h"
 #include "screens/panels/EditBox.h"
 #include "screens/panels/PickList.h"
+#include "screens/panels/ReasonsBox.h"
 #include "screens/panels/StatPanel.h"
 #include "screens/panels/Verdict.h"
 #include "screens/Screen.h"
@@ -13,7 +14,6 @@
 #include <QBoxLayout>
 #include <QCheckBox>
 #include <QLabel>
-#include <QPlainTextEdit>
 #include <QScrollBar>
 #include <string>
 #include <string_view>
@@ -95,7 +95,7 @@ public:
     StatPanel* frmStat;
     QLabel *lblTeamName, *lblGame, *lblPlaying, *lblPoint;
     VerdictLabel* lblComplete;
-    QPlainTextEdit* txtReasons; // what the last judgement of the day found, in its own words
+    ReasonsBox* txtReasons; // what the last judgement of the day found, in its own words
     Row<QScrollBar*, 0, 2> hscStats;
     Row<QLabel*, 0, 2> lblStatsPoint;
     EditBox *txtPullGoalerMinGoal, *txtPullGoalerMinPct;

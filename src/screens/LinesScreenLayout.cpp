@@ -20,7 +20,6 @@ namespace {
 constexpr QSize DefaultSize(1240, 780);
 constexpr int PeopleColumnWidth = 310;
 constexpr int LeastReasonsWidth = 300;
-constexpr int LinesOfReasons = 3;
 constexpr int MostPoints = 5;
 constexpr int StrategyPageWidth = 460;
 
@@ -95,18 +94,9 @@ void LinesScreen::MakeControls()
     lblComplete = new VerdictLabel(this);
     lblComplete->setObjectName("lblComplete");
 
-    txtReasons = new QPlainTextEdit(this);
+    txtReasons = new ReasonsBox("these lines", this);
     txtReasons->setObjectName("txtReasons");
-    txtReasons->setAccessibleName("What stands against these lines");
-    txtReasons->setReadOnly(true);
-    txtReasons->setTabChangesFocus(true);
     txtReasons->setMinimumWidth(LeastReasonsWidth);
-    txtReasons->setFixedHeight(txtReasons->fontMetrics().lineSpacing() * LinesOfReasons +
-                               static_cast<int>(2 * txtReasons->document()->documentMargin()) +
-                               2 * txtReasons->frameWidth());
-    QSizePolicy policy = txtReasons->sizePolicy();
-    policy.setRetainSizeWhenHidden(true);
-    txtReasons->setSizePolicy(policy);
 
     vscDay = new DayStrip(this);
     vscDay->setObjectName("vscDay");

@@ -156,8 +156,7 @@ void frmRoster::ShowReasons(bool withSalaryCap)
     QStringList lines = Findings(LastRosterText());
     if (withSalaryCap && LeagueData.SalaryCapMode != 0)
         lines << LinesOf(LastCapText());
-    txtReasons->setPlainText(lines.join('\n'));
-    txtReasons->setVisible(!lines.isEmpty());
+    txtReasons->Tell(lines.join('\n'));
     ShowPayroll();
 }
 

@@ -3,13 +3,13 @@
 #include "league/Field.h"
 #include "screens/panels/PayrollBar.h"
 #include "screens/panels/PickList.h"
+#include "screens/panels/ReasonsBox.h"
 #include "screens/panels/StatPanel.h"
 #include "screens/panels/Verdict.h"
 #include "screens/Screen.h"
 
 #include <QCheckBox>
 #include <QLabel>
-#include <QPlainTextEdit>
 #include <string>
 
 namespace dravik {
@@ -72,7 +72,7 @@ public:
     QPushButton *cmdAutoRoster, *cmdAutoRosterPartial, *cmdExit;
     QLabel *lblTeamName, *lblProtectedTotal;
     VerdictLabel* lblComplete;
-    QPlainTextEdit* txtReasons; // what the last judgement found, in its own words
+    ReasonsBox* txtReasons; // what the last judgement found, in its own words
     PayrollBar* Payroll;
 
 private:

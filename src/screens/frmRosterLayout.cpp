@@ -14,7 +14,6 @@ namespace {
 constexpr QSize DefaultSize(1180, 760);
 constexpr int LeastListWidth = 150;
 constexpr int PersonColumnWidth = 310;
-constexpr int LinesOfReasons = 3;
 
 } // namespace
 
@@ -75,15 +74,8 @@ void frmRoster::MakeControls()
     lblProtectedTotal->setTextFormat(Qt::PlainText);
     lblProtectedTotal->hide();
 
-    txtReasons = new QPlainTextEdit(this);
+    txtReasons = new ReasonsBox("this roster", this);
     txtReasons->setObjectName("txtReasons");
-    txtReasons->setAccessibleName("What stands against this roster");
-    txtReasons->setReadOnly(true);
-    txtReasons->setTabChangesFocus(true);
-    txtReasons->setFixedHeight(txtReasons->fontMetrics().lineSpacing() * LinesOfReasons +
-                               static_cast<int>(2 * txtReasons->document()->documentMargin()) +
-                               2 * txtReasons->frameWidth());
-    txtReasons->hide();
 
     const char* positions[] = {"Center", "Left Wing", "Right Wing", "Defense", "Goalie"};
     for (int position = 1; position <= 5; ++position) {

@@ -5,6 +5,7 @@
 #include "league/InputCheck.h"
 #include "league/Message.h"
 #include "league/Reporting.h"
+#include "screens/ElementName.h"
 #include "screens/EventGuard.h"
 #include "screens/panels/Labels.h"
 #include "screens/panels/Shades.h"
@@ -24,8 +25,6 @@ constexpr int DigitIndent = 4; // of the digits in a box
 constexpr const char* LevelCaption[] = {"Level 1 :", "Level 2 :", "Level 3 :", "Level 4 :", "Luxury Box :"};
 
 Team& OwnTeam() { return Teams[CurrentTeam]; }
-
-QString Indexed(const char* name, int index) { return QString("%1(%2)").arg(name).arg(index); }
 
 double ValueOf(const EditBox* box) { return LeadingNumber(FromQString(box->text())); }
 
@@ -50,8 +49,8 @@ frmTicket::frmTicket(Stage& stage) : Screen(stage, "frmTicket")
     txtArena->ReadAsLabelWhenClosed();
     for (int level = 1; level <= 5; ++level) {
         txtArenaCapacity[level] =
-            MakeBox(Indexed("txtArenaCapacity", level), [this, level] { txtArenaCapacity_LostFocus(level); });
-        txtTicket[level] = MakeBox(Indexed("txtTicket", level), [this, level] { txtTicket_LostFocus(level); });
+            MakeBox(ElementName("txtArenaCapacity", level), [this, level] { txtArenaCapacity_LostFocus(level); });
+        txtTicket[level] = MakeBox(ElementName("txtTicket", level), [this, level] { txtTicket_LostFocus(level); });
     }
     lblArenaCapacityTotal = new QLabel(this);
     lblArenaCapacityTotal->setObjectName("lblArenaCapacityTotal");

@@ -93,8 +93,8 @@ TEST_F(LineCommands, TheReasonsAreTheJudgesAndStandBesideTheVerdict)
     EXPECT_EQ(reasons.toStdString() + "\n",
               QString::fromStdString(LastLinesText()).replace("\r\n", "\n").toStdString());
     line.vscDay->setValue(1);
-    EXPECT_FALSE(line.txtReasons->isVisible());
     EXPECT_EQ(line.txtReasons->toPlainText(), "");
+    EXPECT_EQ(line.txtReasons->placeholderText(), "Nothing stands against these lines.");
 }
 
 TEST_F(LineCommands, WhyTellsTheFaultsOfTheShownDay)
