@@ -22,14 +22,16 @@ public:
     Hands() { qApp->installEventFilter(this); }
 
     void Next(const QString& dialog, std::function<void(QDialog&)> act) { todo.emplace_back(dialog, std::move(act)); }
-    void TypePassword(const QString& password)
+    // Answers an input box that asks `prompt`.
+    void Type(const QString& prompt, const QString& answer)
     {
-        Next("inputBox", [password](QDialog& dialog) {
-            EXPECT_EQ(dialog.findChild<QLabel*>("lblPrompt")->text(), "Password Required!");
-            QTest::keyClicks(dialog.findChild<QLineEdit*>("txtAnswer"), password);
+        Next("inputBox", [prompt, answer](QDialog& dialog) {
+            EXPECT_EQ(dialog.findChild<QLabel*>("lblPrompt")->text(), prompt);
+            QTest::keyClicks(dialog.findChild<QLineEdit*>("txtAnswer"), answer);
             QTest::mouseClick(dialog.findChild<QPushButton*>("cmdOk"), Qt::LeftButton);
         });
     }
+    void TypePassword(const QString& password) { Type("Password Required!", password); }
     void Choose(const std::string& path)
     {
         Next("dlgCommon", [path](QDialog& dialog) {
@@ -37,14 +39,10 @@ public:
             dialog.accept();
         });
     }
-    void Read(const QString& text)
-    {
-        Next("msgBox", [text](QDialog& dialog) {
-            EXPECT_EQ(dialog.findChild<QLabel*>("qt_msgbox_label")->text(), text);
-            EXPECT_EQ(dialog.windowTitle(), "Dravik Hockey Simulator Client");
-            QTest::mouseClick(dialog.findChild<QPushButton*>("cmdOk"), Qt::LeftButton);
-        });
-    }
+    // Reads a message box and presses its button.
+    void Read(const QString& text) { PressButton(text, "cmdOk"); }
+    // Says yes to a question.
+    void Agree(const QString& question) { PressButton(question, "cmdYes"); }
     [[nodiscard]] bool AreIdle() const { return todo.empty(); }
 
 protected:
@@ -57,10 +55,21 @@ protected:
     }
 
 private:
+    void PressButton(const QString& text, const char* button)
+    {
+        Next("msgBox", [text, button](QDialog& dialog) {
+            EXPECT_EQ(dialog.findChild<QLabel*>("qt_msgbox_label")->text(), text);
+            EXPECT_EQ(dialog.windowTitle(), "Dravik Hockey Simulator Client");
+            QTest::mouseClick(dialog.findChild<QPushButton*>(button), Qt::LeftButton);
+        });
+    }
+
     void Act(QDialog& dialog)
     {
         if (todo.empty() || todo.front().first != dialog.objectName()) {
-            ADD_FAILURE() << "Nobody expects " << dialog.objectName().toStdString();
+            const auto* words = dialog.findChild<QLabel*>("qt_msgbox_label");
+            ADD_FAILURE() << "Nobody expects " << dialog.objectName().toStdString() << ": "
+                          << (words == nullptr ? std::string() : words->text().toStdString());
             dialog.reject();
             return;
         }
