@@ -6,6 +6,7 @@
 #include "league/DraftFile.h"
 #include "league/Failure.h"
 #include "league/LinesFile.h"
+#include "league/OffersFile.h"
 #include "league/OutsideCode.h"
 #include "league/RatingsExport.h"
 #include "support/LeagueImage.h"
@@ -16,6 +17,7 @@
 #include <filesystem>
 #include <functional>
 #include <map>
+#include <memory>
 #include <random>
 #include <span>
 #ifndef _WIN32
@@ -257,6 +259,22 @@ TEST_F(FileFaultTest, TheDraftFileIsOldOrWholeOrNotThere)
     for (long long place = 0; place <= DraftRanking::last; ++place)
         ranking[place] = (place * 7919 + 1) % 10000;
     ExpectWriterSurvives("Team5.dvd", false, save);
+}
+
+TEST_F(FileFaultTest, TheOfferFileIsOldOrWholeOrNotThere)
+{
+    const auto offers = std::make_unique<OfferTable>();
+    for (const int id : {1, 2, 10001}) {
+        FreeAgentOffer& offer = (*offers)[id];
+        offer.Id = id;
+        offer.Duration = 2;
+        offer.Salary = 5000000;
+        offer.Comment = "Come and play";
+    }
+    LeagueData.OffersLeft = 10;
+    const auto save = [&] { return WriteOffersFile(5, OffersFilePath(5), *offers).Outcome == OffersFileWrite::Saved; };
+    ExpectWriterSurvives("Team5.dvf", false, save);
+    ExpectWriterSurvives("Team5.dvf", true, save, std::span(Faults).subspan(3, 1));
 }
 
 TEST_F(FileFaultTest, ASaveChangesNoTable)
