@@ -4,6 +4,7 @@
 //     files_bench            the ratios
 //     files_bench --memory   the most memory that opening and saving take beyond the tables
 
+#include "bench/BareInflate.h"
 #include "bench/Ratio.h"
 #include "league/ClientFile.h"
 #include "league/LinesFile.h"
@@ -139,32 +140,6 @@ Bench& TheBench()
 {
     static Bench bench;
     return bench;
-}
-
-// Inflates the stream of the file through a small window and keeps nothing.
-void InflateAndThrowAway(const std::string& path)
-{
-    std::vector<unsigned char> input(1 << 16);
-    std::vector<unsigned char> output(1 << 16);
-    const auto file = Machine().OpenFile(path);
-    unsigned char length[4];
-    file->Read(length, sizeof length);
-    z_stream stream{};
-    inflateInit(&stream);
-    int result = Z_OK;
-    while (result == Z_OK) {
-        if (stream.avail_in == 0) {
-            stream.next_in = input.data();
-            stream.avail_in = static_cast<uInt>(file->Read(input.data(), input.size()));
-        }
-        stream.next_out = output.data();
-        stream.avail_out = static_cast<uInt>(output.size());
-        result = inflate(&stream, Z_NO_FLUSH);
-        benchmark::DoNotOptimize(output.data());
-    }
-    inflateEnd(&stream);
-    if (result != Z_STREAM_END)
-        std::abort();
 }
 
 void OpenAgainstInflateThrownAway(benchmark::State& state)

@@ -1,0 +1,158 @@
+// What a general manager waits for on a full league, where every slot of the persons' tables is in use: the start, until the
+// main window stands there with the league open, and the opening of every screen, painted. The start is told with the share
+// of it that bare inflating of the same file takes ("inflate_share"), in turn within one run, and without the tenth of a
+// second that the wait screen is given to paint itself; "ours_ms" of a screen is to stay below 100.
+//
+//     screens_bench
+
+#include "bench/BareInflate.h"
+#include "bench/Ratio.h"
+#include "league/ClientVariable.h"
+#include "sample-league/ClientFileWriter.h"
+#include "sample-league/SampleLeague.h"
+#include "screens/frmMain.h"
+#include "screens/platform/Palettes.h"
+#include "screens/Stage.h"
+#include "support/ScriptedPlatform.h"
+
+#include <algorithm>
+#include <benchmark/benchmark.h>
+#include <cstdlib>
+#include <memory>
+#include <QApplication>
+#include <string>
+#include <vector>
+
+namespace dravik {
+namespace {
+
+constexpr int Own = 1;
+constexpr double Millisecond = 1e-3;
+
+// A machine that opened a full league the last time.
+class Bench {
+public:
+    Bench()
+    {
+        UseMachine(machine);
+        ResetClientVariables();
+        SampleOptions options;
+        options.Full = true;
+        MakeSampleLeague(options);
+        // So that every screen can be opened: free agents with and without a team, and candidates for a draft.
+        LeagueData.OfferRuleFlag = true;
+        LeagueData.FantasyDraft = true;
+        League = machine.InFolder("Full.dvs");
+        if (!sample::WriteClientFile(League))
+            std::abort();
+        machine.Settings["LastLoadLeague"] = League;
+    }
+
+    // The program from its start to the painted main window.
+    void Start()
+    {
+        ResetClientVariables();
+        stage = std::make_unique<Stage>();
+        if (!stage->Start())
+            std::abort();
+        Settle();
+        Main().grab();
+        if (LeagueData.Name.Trimmed().empty())
+            std::abort();
+    }
+    // What the start before left behind.
+    void Leave()
+    {
+        stage.reset();
+        Settle();
+    }
+
+    // A screen, filled and painted.
+    void Open(const char* name)
+    {
+        stage->Open(name, Main());
+        stage->Find(name)->grab();
+    }
+    void Close(const char* name)
+    {
+        if (Screen* screen = stage->Find(name))
+            screen->close();
+        Settle();
+    }
+
+    frmMain& Main() { return *static_cast<frmMain*>(stage->Find("Main")); }
+
+    std::string League;
+
+private:
+    static void Settle()
+    {
+        QApplication::processEvents();
+        QApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    }
+
+    ScriptedPlatform machine;
+    std::unique_ptr<Stage> stage;
+};
+
+Bench& TheBench()
+{
+    static Bench bench;
+    return bench;
+}
+
+void StartToMainWindow(benchmark::State& state)
+{
+    Bench& bench = TheBench();
+    Compare(
+        state, [&] { bench.Start(); }, [&] { InflateAndThrowAway(bench.League, false); }, Millisecond,
+        [&] { bench.Leave(); });
+    state.counters["inflate_share"] = 1 / static_cast<double>(state.counters["ratio"]);
+}
+BENCHMARK(StartToMainWindow)->Iterations(15)->UseManualTime()->Unit(benchmark::kMillisecond);
+
+void OpenScreen(benchmark::State& state, const char* name)
+{
+    Bench& bench = TheBench();
+    bench.Leave();
+    bench.Start();
+    CurrentTeam = Own;
+    CallerScreen = "Main";
+    ViewerReturnMode = 1;
+    SelectedPlayer = 1;
+    SelectedIsGoalie = false;
+    std::vector<double> times;
+    for ([[maybe_unused]] auto _ : state) {
+        times.push_back(Seconds([&] { bench.Open(name); }));
+        state.SetIterationTime(times.back());
+        bench.Close(name);
+    }
+    state.counters["ours_ms"] = Median(times) / Millisecond;
+    state.counters["worst_ms"] = *std::max_element(times.begin(), times.end()) / Millisecond;
+}
+
+void RegisterScreens()
+{
+    constexpr int rounds = 15;
+    for (const char* name : {"Team", "Roster", "Line", "FarmLine", "FreeAgent", "Draft", "Ticket", "EditPlayer",
+                             "About", "Coach", "Prospect"})
+        benchmark::RegisterBenchmark((std::string("Open/") + name).c_str(), OpenScreen, name)
+            ->Iterations(rounds)
+            ->UseManualTime()
+            ->Unit(benchmark::kMillisecond);
+}
+
+} // namespace
+} // namespace dravik
+
+int main(int argc, char** argv)
+{
+    if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
+        qputenv("QT_QPA_PLATFORM", "offscreen");
+    const QApplication application(argc, argv);
+    dravik::UseLightLook();
+    dravik::RegisterScreens();
+    benchmark::Initialize(&argc, argv);
+    benchmark::RunSpecifiedBenchmarks();
+    return 0;
+}
