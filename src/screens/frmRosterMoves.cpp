@@ -132,7 +132,7 @@ void frmRoster::cmdToFarm_Click()
 
 void frmRoster::cmdToPro_Click()
 {
-    // The ending without "!" is how this command has always told of its failures.
+    // Without "!": the ending by which general managers know this command's failures.
     Reporting(" in cmdToPro", [this] { MoveChosen(status::Scratch, status::Pro, &frmRoster::MayMoveFreely); });
 }
 

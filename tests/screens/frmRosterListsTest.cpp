@@ -116,6 +116,43 @@ TEST_F(frmRosterListsTest, FarmPlayerAboveTheSalaryStandsOnTheScratchListWithNoW
     EXPECT_THAT(Listed(1), ElementsAre(Entry{"Skater 900", 9001}, Entry{"Goalie 900", 9005}));
 }
 
+TEST_F(frmRosterListsTest, AnOverallAtTheLimitStaysOnTheFarmAndOneMoreIsTooGood)
+{
+    Player& player = PutSkater(1, 5, position::Center, status::Farm, 60);
+    Goalie& keeper = PutGoalie(1, 5, status::Farm, 60);
+    Roster();
+    for (const int position : {position::Center, position::Goalie}) {
+        const int overall = CalculateOverall(position, 1);
+        for (const int above : {0, 1}) {
+            player.Status = status::Farm;
+            keeper.Status = status::Farm;
+            LeagueData.FarmMaxOverall = overall - above;
+            Roster().ShowPlayer(true);
+            EXPECT_GE(Roster().lstPlayer[above]->RowOf(EntryNumber(1, position)), 0) << position << " by " << above;
+        }
+    }
+}
+
+TEST_F(frmRosterListsTest, ASalaryAtTheFarmsLimitStaysAndALimitOfOneIsALimit)
+{
+    PutSkater(1, 5, position::Center, status::Farm).Salary = 500000;
+    PutGoalie(1, 5, status::Farm).Salary = 500000;
+    Roster();
+    LeagueData.FarmMaxSalary = 500000;
+    Roster().ShowPlayer(true);
+    EXPECT_THAT(Listed(0), ElementsAre(Entry{"Skater 1", 11}, Entry{"Goalie 1", 15}));
+    LeagueData.FarmMaxSalary = 1;
+    Players[1].Salary = 1;
+    Goalies[1].Salary = 1;
+    Roster().ShowPlayer(true);
+    EXPECT_THAT(Listed(0), ElementsAre(Entry{"Skater 1", 11}, Entry{"Goalie 1", 15}));
+    Players[1].Salary = 2;
+    Goalies[1].Salary = 2;
+    Roster().ShowPlayer(true);
+    EXPECT_THAT(Listed(0), IsEmpty());
+    EXPECT_THAT(Listed(1), ElementsAre(Entry{"Skater 1", 11}, Entry{"Goalie 1", 15}));
+}
+
 TEST_F(frmRosterListsTest, WithAFarmSalaryLimitOfZeroNobodyIsTooDear)
 {
     LeagueData.FarmMaxSalary = 0;
@@ -203,6 +240,8 @@ TEST_F(frmRosterListsTest, TooManyProtectedPlayersAreToldAtEveryRebuild)
     LeagueData.MaxProtected = 1;
     Roster().ShowPlayer(false);
     EXPECT_THAT(Machine.TakeBoxes(), ElementsAre(Box{64, "Too Many Protected Players!"}));
+    Roster().ShowPlayer(false);
+    EXPECT_THAT(Machine.TakeBoxes(), ElementsAre(Box{64, "Too Many Protected Players!"}));
     LeagueData.MaxProtected = 2;
     Roster().ShowPlayer(false);
     EXPECT_THAT(Machine.TakeBoxes(), IsEmpty());
@@ -229,6 +268,15 @@ TEST_F(frmRosterListsTest, TheSecondRebuildIsTheLastSinceItDoesNotJudge)
     Players[3].Condition = 50;
     Roster().ShowPlayer(false);
     EXPECT_THAT(Machine.Boxes(), ElementsAre(Box{48, "Skater 1 has no status!"}, Box{48, "Skater 1 has no status!"}));
+}
+
+TEST_F(frmRosterListsTest, AnIncompleteRosterIsNotListedAgainWhereTheJudgeMovedNobody)
+{
+    PutSkater(1, 5, position::Center, 3);
+    PutSkater(3, 5, position::Center, status::Pro);
+    Roster().ShowPlayer(false);
+    EXPECT_EQ(Of(Roster().lblComplete), "Roster Is Incomplete");
+    EXPECT_THAT(Machine.Boxes(), ElementsAre(Box{48, "Skater 1 has no status!"}));
 }
 
 TEST_F(frmRosterListsTest, ACompleteRosterIsNotListedAgainThoughTheJudgeMovedSomebody)

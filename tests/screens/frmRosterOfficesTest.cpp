@@ -28,6 +28,25 @@ TEST_F(frmRosterOfficesTest, CaptainIsMarkedAndToldAndLosesHisAssistantsPlace)
     EXPECT_TRUE(Modified);
 }
 
+TEST_F(frmRosterOfficesTest, ACaptainFreesHisOwnSlotAndLeavesTheOtherAssistantAlone)
+{
+    PutSkaters(3, status::Pro);
+    for (const int slot : {1, 2}) {
+        const int other = 3 - slot;
+        Own().Captain = 1;
+        Own().Assistant[slot] = 2;
+        Own().Assistant[other] = 3;
+        Choose(2, 1);
+        Click(Roster().cmdCaptain);
+        EXPECT_EQ(Own().Captain, 2) << slot;
+        EXPECT_EQ(Own().Assistant[slot], 0) << slot;
+        EXPECT_EQ(Own().Assistant[other], 3) << slot;
+        EXPECT_THAT(Listed(2),
+                    ElementsAre(Entry{"Skater 1", 11}, Entry{"Skater 2 (C)", 21}, Entry{"Skater 3 (A)", 31}));
+        Roster().ShowPlayer(true);
+    }
+}
+
 TEST_F(frmRosterOfficesTest, GoaliesAndFarmPlayersAreRefusedAnOfficeInWords)
 {
     PutGoalie(1, 5, status::Pro);
@@ -54,11 +73,14 @@ TEST_F(frmRosterOfficesTest, AssistantTakesTheSlotThatIsAnswered)
     Click(Roster().cmdAssistant);
     EXPECT_THAT(Machine.TakeBoxes(),
                 ElementsAre(question1, Box{64, "Skater 1 has been selected as assistant #1 for Harbour City Gulls."}));
+    EXPECT_TRUE(Modified);
+    Modified = false;
     Choose(2, 1);
     Machine.Answer(button::No);
     Click(Roster().cmdAssistant);
     EXPECT_THAT(Machine.TakeBoxes(),
                 ElementsAre(question2, Box{64, "Skater 2 has been selected as assistant #2 for Harbour City Gulls."}));
+    EXPECT_TRUE(Modified);
     EXPECT_EQ(Own().Assistant[1], 1);
     EXPECT_EQ(Own().Assistant[2], 2);
     EXPECT_THAT(Listed(2), ElementsAre(Entry{"Skater 1 (A)", 11}, Entry{"Skater 2 (A)", 21}));
@@ -66,15 +88,18 @@ TEST_F(frmRosterOfficesTest, AssistantTakesTheSlotThatIsAnswered)
 
 TEST_F(frmRosterOfficesTest, CancellingTheAssistantQuestionChangesNoSlotAndStillRebuildsAndModifies)
 {
-    PutSkaters(1, status::Pro);
+    PutSkaters(3, status::Pro);
+    Own().Assistant[1] = 2;
+    Own().Assistant[2] = 3;
     Choose(1, 1);
     Players[1].Name = "Ward Tilton";
     Machine.Answer(button::Cancel);
     Click(Roster().cmdAssistant);
-    EXPECT_EQ(Machine.Boxes().size(), 1U);
-    EXPECT_EQ(Own().Assistant[1], 0);
-    EXPECT_EQ(Own().Assistant[2], 0);
-    EXPECT_EQ(EntryTextAt(2, 0), "Ward Tilton");
+    EXPECT_THAT(Machine.Boxes(),
+                ElementsAre(Box{35, "Do you want Ward Tilton to be assistant #1 (Yes) or assistant #2 (No)?"}));
+    EXPECT_EQ(Own().Assistant[1], 2);
+    EXPECT_EQ(Own().Assistant[2], 3);
+    EXPECT_THAT(Listed(2), ElementsAre(Entry{"Ward Tilton", 11}, Entry{"Skater 2 (A)", 21}, Entry{"Skater 3 (A)", 31}));
     EXPECT_TRUE(Modified);
 }
 
@@ -144,6 +169,32 @@ TEST_F(frmRosterOfficesTest, WithNoTradeTheStarIsClearedToldAndSetAgain)
     EXPECT_TRUE(Players[1].TradeAvailable);
     EXPECT_TRUE(RosterChanges[1].TradeAvailable);
     EXPECT_EQ(EntryTextAt(2, 0), "Skater 1*");
+}
+
+TEST_F(frmRosterOfficesTest, WithoutACurrentEntryTheStarIsStoredAndTheTextsStay)
+{
+    PutSkaters(2, status::Pro);
+    PutGoalie(1, 5, status::Scratch);
+    const auto toggle = [&](int id, int position) {
+        Choose(id, position);
+        Roster().ShowPlayer(true); // leaves nobody current
+        Modified = false;
+        Roster().cmdTradeAvailable_Click();
+        EXPECT_TRUE(Modified);
+        EXPECT_THAT(Machine.Boxes(), IsEmpty());
+    };
+    toggle(2, 1);
+    EXPECT_TRUE(Players[2].TradeAvailable);
+    EXPECT_TRUE(RosterChanges[2].TradeAvailable);
+    EXPECT_THAT(Listed(2), ElementsAre(Entry{"Skater 1", 11}, Entry{"Skater 2", 21}));
+    toggle(2, 1);
+    EXPECT_FALSE(Players[2].TradeAvailable);
+    EXPECT_FALSE(RosterChanges[2].TradeAvailable);
+    EXPECT_THAT(Listed(2), ElementsAre(Entry{"Skater 1", 11}, Entry{"Skater 2*", 21}));
+    toggle(1, 5);
+    EXPECT_TRUE(Goalies[1].TradeAvailable);
+    EXPECT_TRUE(RosterChangesGoalie[1].TradeAvailable);
+    EXPECT_THAT(Listed(1), ElementsAre(Entry{"Goalie 1", 15}));
 }
 
 TEST_F(frmRosterOfficesTest, ProtectingCountsUpAndDownAndWritesTheChanges)
@@ -242,6 +293,20 @@ TEST_F(frmRosterOfficesTest, NoTradeClearsTheStarAndClosesItsCommand)
     Roster().chkNoTrade->toggle();
     EXPECT_FALSE(Players[1].NoTrade);
     EXPECT_TRUE(Roster().cmdTradeAvailable->isEnabled());
+    EXPECT_TRUE(Modified);
+}
+
+TEST_F(frmRosterOfficesTest, NoTradeWithoutAStarSetsNone)
+{
+    PutSkaters(1, status::Pro);
+    Choose(1, 1);
+    Roster().chkNoTrade->toggle();
+    EXPECT_TRUE(Players[1].NoTrade);
+    EXPECT_FALSE(Players[1].TradeAvailable);
+    EXPECT_FALSE(RosterChanges[1].TradeAvailable);
+    EXPECT_EQ(EntryTextAt(2, 0), "Skater 1");
+    EXPECT_FALSE(Roster().cmdTradeAvailable->isEnabled());
+    EXPECT_THAT(Machine.Boxes(), IsEmpty());
     EXPECT_TRUE(Modified);
 }
 

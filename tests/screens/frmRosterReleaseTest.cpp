@@ -15,7 +15,7 @@ const Box DeadlinePassed{64, "Trade Deadline is Passed!"};
 
 class frmRosterReleaseTest : public OnRosterScreen {
 protected:
-    // A released person's contract, priced by the answers given before.
+    // Releases the chosen person for so many percent.
     void Release(int percent)
     {
         Machine.Type(std::to_string(percent));
@@ -71,6 +71,26 @@ TEST_F(frmRosterReleaseTest, AProPlayerGoesToTheScratchesAndOnWaivers)
     EXPECT_EQ(Of(Roster().lblPlayer[1]), "Scratches Player = 1");
     EXPECT_EQ(Players[2].Suspension, 99);
     EXPECT_EQ(Players[2].Status, 1);
+    EXPECT_TRUE(Modified);
+}
+
+TEST_F(frmRosterReleaseTest, AProGoalieGoesToTheScratchesAndOnWaiversAndTheSkaterOfHisNumberStays)
+{
+    PutSkaters(2, status::Pro);
+    PutGoalie(1, 5, status::Pro);
+    PutGoalie(2, 5, status::Pro);
+    Choose(2, 5);
+    Roster().cmdSendToWaiver_Click();
+    EXPECT_THAT(Machine.Boxes(), ElementsAre(Box{64, "Goalie 2 was sent to Waiver."}));
+    EXPECT_THAT(Listed(1), ElementsAre(Entry{"Goalie 2", 25}));
+    EXPECT_THAT(Listed(2), ElementsAre(Entry{"Skater 1", 11}, Entry{"Skater 2", 21}, Entry{"Goalie 1", 15}));
+    EXPECT_EQ(Of(Roster().lblPlayer[1]), "Scratches Player = 1");
+    EXPECT_EQ(Of(Roster().lblPlayer[2]), "Pro Player = 3");
+    EXPECT_EQ(Goalies[2].Suspension, 99);
+    EXPECT_EQ(Goalies[2].Status, 1);
+    EXPECT_EQ(RosterChangesGoalie[2].Status, 1);
+    EXPECT_EQ(Players[2].Suspension, 0);
+    EXPECT_EQ(Players[2].Status, 2);
     EXPECT_TRUE(Modified);
 }
 

@@ -19,7 +19,7 @@ public:
     void HideRows();
     // Hides the ratings alone; the position line stays as it is.
     void HideRatings();
-    // Empties the rows that are shown; their captions stay.
+    // Empties the name and all numbers; the captions stay.
     void ClearNumbers();
     // Shows the position line. A name is there for the eye only.
     void ShowPosition(const QString& position);
