@@ -116,6 +116,13 @@ private:
     std::FILE* stream;
 };
 
+// Where the file system takes every case of a name for the same entry, only the folder tells how the name is written.
+#if defined(_WIN32) || defined(__APPLE__)
+constexpr bool FileSystemTellsCase = false;
+#else
+constexpr bool FileSystemTellsCase = true;
+#endif
+
 // Letters of the code page as one case: ASCII, the accented letters of 192 to 254, and the four that stand elsewhere.
 unsigned char Lower(unsigned char c)
 {
@@ -210,7 +217,7 @@ std::optional<std::string> DiskFiles::FindEntry(const std::string& path)
     if (name.empty())
         return std::nullopt;
     std::error_code error;
-    if (fs::exists(fs::symlink_status(wanted, error)))
+    if (FileSystemTellsCase && fs::exists(fs::symlink_status(wanted, error)))
         return ProgramPath(name);
     const fs::path folder = wanted.has_parent_path() ? wanted.parent_path() : fs::path(".");
     const std::string wantedName = ProgramPath(name);
@@ -218,6 +225,8 @@ std::optional<std::string> DiskFiles::FindEntry(const std::string& path)
     fs::directory_iterator entries(folder, error);
     for (; !error && entries != fs::directory_iterator(); entries.increment(error)) {
         const std::string entry = ProgramPath(entries->path().filename());
+        if (entry == wantedName)
+            return entry;
         // The order of a folder's entries is the file system's own; the first in the order of names is the same everywhere.
         if (SameName(entry, wantedName) && (!found || entry < *found))
             found = entry;
