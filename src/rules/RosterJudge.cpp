@@ -6,6 +6,7 @@
 #include "league/Session.h"
 #include "rules/Function.h"
 #include "rules/People.h"
+#include "rules/SalaryCap.h"
 
 #include <string>
 #include <string_view>
@@ -215,6 +216,8 @@ bool CheckRoster(int team, bool log, bool withSalaryCap, bool showMessage)
         complete = true;
         RosterFixed = 0;
         RosterText.clear();
+        if (withSalaryCap)
+            ForgetCapText();
 
         RosterJudge judge(team);
         EachOfTeam(Players, team, [&](Player& player, int index) { judge.Examine(player, index); });

@@ -60,6 +60,8 @@ CapStanding StandingAgainstCap(int team)
 
 const std::string& LastCapText() { return CapText; }
 
+void ForgetCapText() { CapText.clear(); }
+
 bool CheckSalaryCap(int team, bool showMessage)
 {
     bool within = false;
@@ -69,7 +71,7 @@ bool CheckSalaryCap(int team, bool showMessage)
             return;
         }
         within = true;
-        CapText.clear();
+        ForgetCapText();
         const League& league = LeagueData;
         if (league.SalaryCapMode == 0)
             return;

@@ -16,7 +16,10 @@ struct CapStanding {
 // Where a team of 1..100 stands. Payrolls or a cap beyond 32 bits fail with 6.
 CapStanding StandingAgainstCap(int team);
 
-// What the CheckSalaryCap that ran last had to say, shown or not, with a line break behind each message.
+// What the CheckSalaryCap that ran last had to say, shown or not, with a line break behind each message. Nothing, where
+// the CheckRoster that was to judge the payroll too broke off before it.
 const std::string& LastCapText();
+// Forgets it, so that no team is shown what another one was told.
+void ForgetCapText();
 
 } // namespace dravik

@@ -238,6 +238,22 @@ TEST_F(SalaryCapTest, TheTextOfTheLastJudgementIsKeptWhetherShownOrNot)
     EXPECT_EQ(LastCapText(), "");
 }
 
+TEST_F(SalaryCapTest, ARosterJudgementThatBreaksOffBeforeThePayrollLeavesNoOlderText)
+{
+    LeagueData.SalaryCap = 2999999;
+    LeagueData.FarmEnabled = true;
+    LeagueData.FarmRosterRequired = true;
+    LeagueData.RequiredCenters = 16384; // twice as many fit no count
+    const std::string text = "Team 5 is over the salary cap by $1.00!\r\n";
+    CheckSalaryCap(5, false);
+    (void)CheckRoster(6, false, false, false); // was not to judge the payroll
+    EXPECT_EQ(LastCapText(), text);
+    (void)CheckRoster(6, false, true, false);
+    EXPECT_EQ(LastCapText(), "");
+    const Box broken{box::Critical, "6 - Overflow in CheckRoster!"};
+    EXPECT_THAT(Machine.Boxes(), ElementsAre(broken, broken));
+}
+
 TEST_F(SalaryCapTest, RandomLeaguesAgreeWithAPlainReadingAndNothingChanges)
 {
     Dice dice(72);

@@ -1,5 +1,10 @@
 #include "OnRosterScreen.h"
 
+#include "rules/Function.h"
+#include "rules/SalaryCap.h"
+
+#include <algorithm>
+
 namespace dravik {
 namespace {
 
@@ -65,6 +70,19 @@ TEST_F(frmRosterTest, CaptionsReadAsTheGeneralManagerKnowsThem)
     for (const auto& [control, caption] : captions)
         EXPECT_EQ(control->text().remove('&'), caption);
     EXPECT_EQ(roster.Stats->title(), "Stats");
+    const QList<QLabel*> labels = roster.findChildren<QLabel*>();
+    EXPECT_EQ(std::ranges::count(labels, "Show : ", &QLabel::text), 1);
+}
+
+TEST_F(frmRosterTest, ListsAreNamedUntilTheirTotalsStandThere)
+{
+    const frmRoster& opened = Roster();
+    const frmRoster unopened(TheStage);
+    const char* captions[] = {"Farm Players", "Scratch Players", "Pro Players"};
+    for (int index = 0; index <= 2; ++index) {
+        EXPECT_EQ(Of(unopened.lblPlayer[index]), captions[index]);
+        EXPECT_EQ(opened.lstPlayer[index]->accessibleName(), captions[index]);
+    }
 }
 
 TEST_F(frmRosterTest, OpeningShowsTheTeamAndItsVerdictWithoutAWordWhenAllIsWell)
@@ -295,10 +313,16 @@ TEST_F(frmRosterTest, ABrokenOpeningIsToldUnderItsName)
     UseMachine(Machine);
 }
 
-// The line that the second judgement broke off behind is no heading, and the last one no closing.
-TEST_F(frmRosterTest, AJudgementThatBrokeOffShowsEverythingItHadFound)
+// The line that the second judgement broke off behind is no heading, and the last one no closing. It never came to the
+// payroll, and what another team was told about its own stays with that team.
+TEST_F(frmRosterTest, AJudgementThatBrokeOffShowsEverythingItHadFoundAndNothingElse)
 {
     CompleteTeam(5);
+    CompleteTeam(6);
+    LeagueData.SalaryCapMode = 1;
+    LeagueData.SalaryCap = 19999999;
+    CheckSalaryCap(6, false);
+    ASSERT_EQ(LastCapText(), "Team 6 is over the salary cap by $1.00!\r\n");
     LeagueData.FarmEnabled = true;
     LeagueData.FarmRosterRequired = true;
     LeagueData.RequiredCenters = 5;
