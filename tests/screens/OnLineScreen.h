@@ -109,6 +109,20 @@ protected:
             PutGame(row, row % 2 == 1 ? 5 : 6, row % 2 == 1 ? 6 : 5, isFarm);
     }
 
+    // Whether events were held back each time that the focus came to `box` from another control while `use` ran.
+    static std::vector<bool> GuardWhileFocusGoesTo(const QWidget* box, const std::function<void()>& use)
+    {
+        std::vector<bool> guards;
+        const auto watch =
+            QObject::connect(qApp, &QApplication::focusChanged, qApp, [&](const QWidget* old, const QWidget* now) {
+                if (now == box && old != box)
+                    guards.push_back(static_cast<bool>(ListEventGuard));
+            });
+        use();
+        QObject::disconnect(watch);
+        return guards;
+    }
+
     static std::string Of(const QLabel* label) { return label->text().toStdString(); }
 
     TeamMaker Pro;

@@ -308,6 +308,24 @@ TEST_F(frmFarmLinePeopleTest, ThePlaceholderShowsNoSlotsThoughEverySlotIsEmpty)
     EXPECT_EQ(Of(farm.lblPlaying), "");
 }
 
+TEST_F(frmFarmLinePeopleTest, ASkaterAtHandFromElsewhereIsLookedUpOnOpening)
+{
+    FarmDay() = {};
+    FarmDay().NormalForward(2, 1) = Center;
+    MainWithLeague();
+    SelectedPlayer = Center;
+    SelectedIsGoalie = false;
+    EXPECT_EQ(Of(FarmLine().lblPlaying), "(1) - L-2C, ");
+}
+
+TEST_F(frmFarmLinePeopleTest, AGoalieAtHandFromElsewhereIsNotLookedUpOnOpening)
+{
+    MainWithLeague();
+    SelectedPlayer = Center; // a skater's number, too
+    SelectedIsGoalie = true;
+    EXPECT_EQ(Of(FarmLine().lblPlaying), "");
+}
+
 TEST_F(frmFarmLinePeopleTest, AFailureOfAPickIsToldUnderItsName)
 {
     frmFarmLine& farm = FarmLine();

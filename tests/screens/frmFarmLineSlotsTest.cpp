@@ -298,6 +298,20 @@ TEST_F(frmFarmLineSlotsTest, AHeadingAveragesTheFarmLineWithThePlaceholderInItsH
     EXPECT_EQ(Of(farm.frmStat->lblStat[1]), "46");
 }
 
+TEST_F(frmFarmLineSlotsTest, ThePlaceholdersOverallCountsInALine)
+{
+    FarmDay().PK3Forward[1] = 0;
+    for (auto& stat : Players[0].Stats)
+        stat = 90;
+    for (const long long id : {FarmDay().PK3Defense(1, 1), FarmDay().PK3Defense(1, 2)})
+        for (auto& stat : Players[id].Stats)
+            stat = 30;
+    frmFarmLine& farm = FarmLine();
+    ClickOn(farm, farm.findChild<QLabel*>("lblPK3Trio(1)"));
+    EXPECT_EQ(Of(farm.frmStat->lblStatLabel[16]), "OV");
+    EXPECT_EQ(Of(farm.frmStat->lblStat[16]), "50");
+}
+
 TEST_F(frmFarmLineSlotsTest, FailuresOfSlotsAndHeadingsAreToldUnderTheirNames)
 {
     frmFarmLine& farm = FarmLine();
@@ -327,6 +341,32 @@ TEST_F(frmFarmLineSlotsTest, StrategyPointsGoToTheFarmsDay)
     EXPECT_EQ(FarmDay().Strategy[1], 3);
     EXPECT_EQ(ProDay().Strategy[1], 0);
     EXPECT_EQ(Of(farm.lblPoint), "2");
+}
+
+TEST_F(frmFarmLineSlotsTest, StrategyPullAndHeadingsAreThoseOfTheShownDay)
+{
+    PutGames(2, true);
+    FarmDay(2) = FarmDay(1);
+    FarmDay(2).NormalForward(1, 1) = Center + 9;
+    FarmDay(1).Strategy[1] = 2;
+    FarmDay(1).PullGoalerMinGoal = 3;
+    for (const int id : {Center, Center + 9})
+        Players[id].Stats[1] = id == Center ? 10 : 60;
+    for (const long long id : {FarmDay(1).NormalForward(1, 2), FarmDay(1).NormalForward(1, 3),
+                               FarmDay(1).NormalDefense(1, 1), FarmDay(1).NormalDefense(1, 2)})
+        Players[id].Stats[1] = 10;
+    frmFarmLine& farm = FarmLine();
+    const Lines first = FarmDay(1);
+    farm.vscDay->setValue(2);
+    ClickOn(farm, farm.TabLine->Headings[0].Label);
+    EXPECT_EQ(Of(farm.frmStat->lblStat[1]), "20");
+    farm.TabLine->setCurrentIndex(farm.TabLine->count() - 1);
+    Press(farm.hscStats[1], Qt::Key_Right);
+    EXPECT_EQ(FarmDay(2).Strategy[1], 1);
+    TypeInto(farm.txtPullGoalerMinGoal, "6");
+    Press(farm.txtPullGoalerMinGoal, Qt::Key_Tab);
+    EXPECT_EQ(FarmDay(2).PullGoalerMinGoal, 6);
+    EXPECT_EQ(std::memcmp(&FarmDay(1), &first, sizeof first), 0);
 }
 
 TEST_F(frmFarmLineSlotsTest, ASumBeyondFiveFallsBack)
@@ -370,6 +410,18 @@ TEST_F(frmFarmLineSlotsTest, ARefusedGoaliePullKeepsTheFocus)
     EXPECT_EQ(FarmDay().PullGoalerMinPct, 0);
     EXPECT_FALSE(Modified);
     farm.txtPullGoalerMinPct->setText("1"); // lets the screen go
+}
+
+TEST_F(frmFarmLineSlotsTest, EventsAreHeldBackWhileTheFocusGoesBackToARefusedText)
+{
+    frmFarmLine& farm = FarmLine();
+    farm.TabLine->setCurrentIndex(farm.TabLine->count() - 1);
+    for (EditBox* box : {farm.txtPullGoalerMinGoal, farm.txtPullGoalerMinPct}) {
+        TypeInto(box, "x");
+        EXPECT_THAT(GuardWhileFocusGoesTo(box, [&] { Press(box, Qt::Key_Tab); }), ElementsAre(true));
+        EXPECT_FALSE(ListEventGuard);
+        TypeInto(box, "1");
+    }
 }
 
 } // namespace

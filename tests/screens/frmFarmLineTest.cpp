@@ -148,6 +148,20 @@ TEST_F(frmFarmLineTest, WipingLeavesTheOtherDaysOfTheFarmAlone)
     EXPECT_TRUE(AreAlike(FarmDay(2), second));
 }
 
+TEST_F(frmFarmLineTest, WipingTheSecondDayLeavesTheFirstAlone)
+{
+    PutGames(2, true);
+    FarmDay(2) = FarmDay(1);
+    const Lines first = FarmDay(1);
+    frmFarmLine& farm = FarmLine();
+    farm.vscDay->setValue(2);
+    Click(farm.cmdWipeLines);
+    for (const BoardSlot& slot : farm.TabLine->Slots)
+        EXPECT_EQ(slot.In(FarmDay(2)), 0) << slot.Name;
+    EXPECT_TRUE(AreAlike(FarmDay(1), first));
+    EXPECT_TRUE(AreProLinesUntouched());
+}
+
 TEST_F(frmFarmLineTest, NoToTheQuestionWipesNothing)
 {
     const Lines before = FarmDay();
@@ -168,6 +182,20 @@ TEST_F(frmFarmLineTest, TheReasonsOfAnIncompleteDayAreShownOnCommand)
     ASSERT_TRUE(farm.cmdDebug->isEnabled());
     Click(farm.cmdDebug);
     EXPECT_THAT(Machine.Boxes(), ElementsAre(Box{64, "Backup Goaler is empty.\r\n"}));
+}
+
+TEST_F(frmFarmLineTest, TheReasonsAreThoseOfTheShownDayWhenTheFirstIsComplete)
+{
+    PutGames(2, true);
+    LeagueData.FarmRosterRequired = true;
+    FarmDay(2) = FarmDay(1);
+    FarmDay(2).StartGoalie = 0;
+    frmFarmLine& farm = FarmLine();
+    ASSERT_EQ(Of(farm.lblComplete), "Lines are Complete");
+    farm.vscDay->setValue(2);
+    ASSERT_TRUE(farm.cmdDebug->isEnabled());
+    Click(farm.cmdDebug);
+    EXPECT_THAT(Machine.Boxes(), ElementsAre(Box{64, "Starting Goaler is empty.\r\n"}));
 }
 
 TEST_F(frmFarmLineTest, OneGameADayIsCopiedToAnother)

@@ -82,6 +82,22 @@ TEST_F(LineCommands, WipingAsksAndEmptiesTheShownDay)
     EXPECT_TRUE(AreSame(FarmDay(), farm));
 }
 
+TEST_F(LineCommands, WipingTheSecondDayLeavesTheFirstAlone)
+{
+    PutGames(2);
+    FillDay(ProDay(2), Pro);
+    MarkDay(ProDay(2));
+    frmLine& line = Line();
+    line.vscDay->setValue(2);
+    const Lines first = ProDay(1);
+    ASSERT_FALSE(CheckLineEmpty(5, 2));
+    Click(line.cmdWipeLines);
+    EXPECT_TRUE(CheckLineEmpty(5, 2));
+    EXPECT_TRUE(AreSame(ProDay(1), first));
+    EXPECT_EQ(Of(SlotOn(line, LineField::NormalForward, 1, 1)), "");
+    EXPECT_EQ(Of(line.lblComplete), "Lines are Incomplete");
+}
+
 TEST_F(LineCommands, TheReasonsAreTheJudgesAndStandBesideTheVerdict)
 {
     PutGames(2);
@@ -105,6 +121,20 @@ TEST_F(LineCommands, WhyTellsTheFaultsOfTheShownDay)
     Click(line.cmdDebug);
     EXPECT_THAT(Machine.Boxes(),
                 ElementsAre(Box{64, "Starting Goaler is empty.\r\nSome errors will be automatically fixed.\r\n"}));
+}
+
+TEST_F(LineCommands, WhyJudgesTheShownDayWhenTheFirstIsComplete)
+{
+    PutGames(2);
+    FillDay(ProDay(2), Pro);
+    ProDay(2).BackupGoalie = 0;
+    frmLine& line = Line();
+    ASSERT_EQ(Of(line.lblComplete), "Lines are Complete");
+    line.vscDay->setValue(2);
+    ASSERT_TRUE(line.cmdDebug->isEnabled());
+    Click(line.cmdDebug);
+    EXPECT_THAT(Machine.Boxes(),
+                ElementsAre(Box{64, "Backup Goaler is empty.\r\nSome errors will be automatically fixed.\r\n"}));
 }
 
 TEST_F(LineCommands, CopyAsksForTheDayAndForAYesAndTells)
@@ -228,6 +258,36 @@ TEST_F(LineCommands, APassingFirstDayOpensTheSaveCommandOfTheTeamScreen)
     ClickOn(line, StartSlot(line).Label); // both goalies are the same now
     EXPECT_EQ(Of(line.lblComplete), "Lines are Incomplete");
     EXPECT_TRUE(office.cmdSaveToFile->isEnabled()); // nothing here ever closes it
+}
+
+TEST_F(LineCommands, ACompleteDayShownDoesNotOpenTheSaveCommandForAnIncompleteFirstDay)
+{
+    PutGames(2);
+    ProDay(1).StartGoalie = 0;
+    FillDay(ProDay(2), Pro);
+    frmTeam& office = OpenTeam(5);
+    Click(office.cmdLines);
+    auto& line = *static_cast<frmLine*>(TheStage.Find("Line"));
+    line.vscDay->setValue(2);
+    line.Check();
+    EXPECT_EQ(Of(line.lblComplete), "Lines are Complete");
+    EXPECT_FALSE(office.cmdSaveToFile->isEnabled());
+}
+
+TEST_F(LineCommands, AMendedFirstDayOpensTheSaveCommandWhileAnIncompleteDayIsShown)
+{
+    PutGames(2);
+    const long long starting = ProDay(1).StartGoalie;
+    ProDay(1).StartGoalie = 0;
+    frmTeam& office = OpenTeam(5);
+    Click(office.cmdLines);
+    auto& line = *static_cast<frmLine*>(TheStage.Find("Line"));
+    line.vscDay->setValue(2);
+    ASSERT_FALSE(office.cmdSaveToFile->isEnabled());
+    ProDay(1).StartGoalie = starting;
+    line.Check();
+    EXPECT_EQ(Of(line.lblComplete), "Lines are Incomplete");
+    EXPECT_TRUE(office.cmdSaveToFile->isEnabled());
 }
 
 TEST_F(LineCommands, ClosingReturnsToTheTeamScreenThatOpenedIt)

@@ -184,6 +184,37 @@ TEST_F(LinePeople, TheSlotsOfThePickedSkaterFollowTheDayAndEveryChange)
     EXPECT_EQ(Of(line.lblPlaying), "(1) - PS-2, ");
 }
 
+// The judge goes first, so that the lookups no longer tell of the slots he takes away.
+TEST_F(LinePeople, CheckTellsOfTheSlotsThatTheJudgeHasLeft)
+{
+    frmLine& line = Line();
+    const auto id = static_cast<int>(ProDay().NormalForward(1, 1));
+    Pick(line, id, position::Center);
+    ASSERT_GT(PlayOnLineInteger(5, id, 1), 0);
+    Players[id].Condition = 50;
+    line.Check();
+    EXPECT_EQ(Of(line.lblPlaying), "(0) - ");
+}
+
+TEST_F(LinePeople, ASkaterAtHandFromElsewhereIsLookedUpOnOpening)
+{
+    MainWithLeague();
+    const auto id = static_cast<int>(ProDay().NormalForward(1, 1));
+    SelectedPlayer = id;
+    SelectedIsGoalie = false;
+    ASSERT_GT(PlayOnLineInteger(5, id, 1), 0);
+    EXPECT_EQ(Of(Line().lblPlaying),
+              "(" + std::to_string(PlayOnLineInteger(5, id, 1)) + ") - " + PlayOnLineString(5, id, 1));
+}
+
+TEST_F(LinePeople, AGoalieAtHandFromElsewhereIsNotLookedUpOnOpening)
+{
+    MainWithLeague();
+    SelectedPlayer = ProDay().NormalForward(1, 1); // a skater's number, too
+    SelectedIsGoalie = true;
+    EXPECT_EQ(Of(Line().lblPlaying), "");
+}
+
 TEST_F(LinePeople, TheSlotsOfThePickedPersonStandOut)
 {
     frmLine& line = Line();
@@ -293,6 +324,21 @@ TEST_F(LinePeople, AnEmptySlotIsAveragedAsThePlaceholder)
     Players[ProDay().PK3Defense(1, 2)].Stats[skater::SC] = 70;
     ClickHeading(line, "lblPK3Trio(1)");
     EXPECT_EQ(Rows(line).at(9), "SC 50");
+}
+
+TEST_F(LinePeople, ThePlaceholdersOverallCountsInALine)
+{
+    for (auto& stat : Players[0].Stats)
+        stat = 90;
+    ProDay().PK3Forward[1] = 0;
+    frmLine& line = Line();
+    const auto first = static_cast<int>(ProDay().PK3Defense(1, 1));
+    const auto second = static_cast<int>(ProDay().PK3Defense(1, 2));
+    for (const int id : {first, second})
+        for (auto& stat : Players[id].Stats)
+            stat = 30;
+    ClickHeading(line, "lblPK3Trio(1)");
+    EXPECT_EQ(Rows(line).at(15), "OV 50");
 }
 
 TEST_F(LinePeople, GroupValuesAreMadeOfTheAverages)

@@ -1,5 +1,6 @@
 #include "OnLineScreen.h"
 
+#include <cstring>
 #include <QStyleOptionSlider>
 #include <QTabBar>
 
@@ -22,8 +23,8 @@ protected:
         return line;
     }
 
-    // Clicks on one of the two arrows of a scroll bar.
-    static void ClickArrow(QScrollBar* bar, bool up)
+    // The middle of one of the two arrows of a scroll bar.
+    static QPoint ArrowOf(QScrollBar* bar, bool up)
     {
         QStyleOptionSlider option;
         option.initFrom(bar);
@@ -36,9 +37,22 @@ protected:
         option.singleStep = bar->singleStep();
         option.pageStep = bar->pageStep();
         option.state |= QStyle::State_Horizontal;
-        const QRect arrow = bar->style()->subControlRect(
-            QStyle::CC_ScrollBar, &option, up ? QStyle::SC_ScrollBarAddLine : QStyle::SC_ScrollBarSubLine, bar);
-        QTest::mouseClick(bar, Qt::LeftButton, {}, arrow.center());
+        return bar->style()
+            ->subControlRect(QStyle::CC_ScrollBar, &option,
+                             up ? QStyle::SC_ScrollBarAddLine : QStyle::SC_ScrollBarSubLine, bar)
+            .center();
+    }
+    static void ClickArrow(QScrollBar* bar, bool up)
+    {
+        QTest::mouseClick(bar, Qt::LeftButton, {}, ArrowOf(bar, up));
+        Settle();
+    }
+
+    // What a double click is behind its first click.
+    static void PressAgain(QWidget* widget, const QPoint& point)
+    {
+        QTest::mouseDClick(widget, Qt::LeftButton, {}, point);
+        QTest::mouseRelease(widget, Qt::LeftButton, {}, point);
         Settle();
     }
 
@@ -133,6 +147,32 @@ TEST_F(LineStrategy, ADayWithOtherPointsChangesNoRecordWhenItIsShown)
     EXPECT_EQ(ProDay(2).Strategy[1], 5);
 }
 
+TEST_F(LineStrategy, ArrowsPullAndHeadingsAreThoseOfTheShownDay)
+{
+    PutGames(2);
+    FillDay(ProDay(2), Pro);
+    const auto member = [](int day, int place) -> Player& { return Players[ProDay(day).NormalForward(1, place)]; };
+    ProDay(2).NormalForward(1, 1) = ProDay(1).NormalForward(2, 1);
+    for (const int place : {1, 2, 3})
+        member(1, place).Stats[skater::CK] = 10;
+    for (const int place : {1, 2})
+        Players[ProDay(1).NormalDefense(1, place)].Stats[skater::CK] = 10;
+    member(2, 1).Stats[skater::CK] = 60;
+    ProDay(1).Strategy[1] = 2;
+    ProDay(1).PullGoalerMinGoal = 3;
+    frmLine& line = Line();
+    const Lines first = ProDay(1);
+    line.vscDay->setValue(2);
+    ClickOn(line, line.findChild<QLabel*>("lblNormalTrio(1)"));
+    EXPECT_EQ(Of(line.frmStat->lblStat[1]), "20");
+    Strategy();
+    ClickArrow(line.hscStats[1], true);
+    EXPECT_EQ(ProDay(2).Strategy[1], 1);
+    Enter(line.txtPullGoalerMinGoal, "6");
+    EXPECT_EQ(ProDay(2).PullGoalerMinGoal, 6);
+    EXPECT_EQ(std::memcmp(&ProDay(1), &first, sizeof first), 0);
+}
+
 TEST_F(LineStrategy, PointsThatNoScrollBarReachesAreShownAsTheyAre)
 {
     ProDay().Strategy[0] = 9;
@@ -214,6 +254,28 @@ TEST_F(LineStrategy, ARefusedTextIsToldAndKeepsTheFocus)
     EXPECT_EQ(ProDay().PullGoalerMinGoal, 3);
 }
 
+TEST_F(LineStrategy, EventsAreHeldBackWhileTheFocusGoesBackToARefusedText)
+{
+    frmLine& line = Strategy();
+    for (EditBox* box : {line.txtPullGoalerMinGoal, line.txtPullGoalerMinPct}) {
+        TypeInto(box, "x");
+        EXPECT_THAT(GuardWhileFocusGoesTo(box, [&] { Press(box, Qt::Key_Tab); }), ElementsAre(true));
+        EXPECT_FALSE(ListEventGuard);
+        TypeInto(box, "1");
+    }
+}
+
+TEST_F(LineStrategy, EventsAreHeldBackWhileTheFocusGoesBackToAPageThatWasLeft)
+{
+    frmLine& line = Strategy();
+    EditBox* box = line.txtPullGoalerMinGoal;
+    TypeInto(box, "x");
+    const auto guards = GuardWhileFocusGoesTo(box, [&] { Press(&line, Qt::Key_N, Qt::AltModifier); });
+    EXPECT_THAT(guards, ElementsAre(true));
+    EXPECT_TRUE(box->hasFocus());
+    EXPECT_FALSE(ListEventGuard);
+}
+
 TEST_F(LineStrategy, ANumberBeyondSixteenBitsIsAFailureAndStoresNothing)
 {
     frmLine& line = Strategy();
@@ -267,6 +329,17 @@ TEST_F(LineStrategy, ARefusedTextHoldsTheArrowsOfTheScrollBarsBack)
     TypeInto(line.txtPullGoalerMinGoal, "2");
     ClickArrow(line.hscStats[0], true);
     EXPECT_EQ(ProDay().Strategy[0], 1);
+}
+
+TEST_F(LineStrategy, BothPressesOfADoubleClickOnAnArrowGiveAPoint)
+{
+    frmLine& line = Strategy();
+    TypeInto(line.txtPullGoalerMinGoal, "2");
+    const QPoint arrow = ArrowOf(line.hscStats[0], true);
+    QTest::mouseClick(line.hscStats[0], Qt::LeftButton, {}, arrow);
+    PressAgain(line.hscStats[0], arrow);
+    EXPECT_EQ(ProDay().Strategy[0], 2);
+    EXPECT_EQ(ProDay().PullGoalerMinGoal, 2);
 }
 
 TEST_F(LineStrategy, ARefusedTextHoldsTheClickOnATabBack)

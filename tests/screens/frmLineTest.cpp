@@ -102,6 +102,28 @@ TEST_F(frmLineTest, ClosingWarnsOfAnIncompleteFirstDayAndReturnsToTheCaller)
     EXPECT_TRUE(Main().isVisible());
 }
 
+TEST_F(frmLineTest, ClosingJudgesTheFirstDayWhateverDayIsShown)
+{
+    PutGames(4);
+    frmLine& line = Line();
+    line.vscDay->setValue(2);
+    ASSERT_EQ(Of(line.lblComplete), "Lines are Incomplete");
+    Click(line.cmdExit);
+    EXPECT_THAT(Machine.Boxes(), IsEmpty());
+}
+
+TEST_F(frmLineTest, ACompleteDayShownDoesNotHideAnIncompleteFirstDayFromClosing)
+{
+    PutGames(4);
+    FillDay(ProDay(2), Pro);
+    frmLine& line = Line();
+    line.vscDay->setValue(2);
+    ProDay(1).StartGoalie = 0;
+    ASSERT_EQ(Of(line.lblComplete), "Lines are Complete");
+    Click(line.cmdExit);
+    EXPECT_THAT(Machine.Boxes(), ElementsAre(Box{48, "Lines for Day #1 are Incomplete!"}));
+}
+
 TEST_F(frmLineTest, ClosingCompleteLinesSaysNothing)
 {
     Click(Line().cmdExit);
@@ -116,6 +138,29 @@ TEST_F(frmLineTest, ABadTeamIsToldAndRunsTheClosingCodeToo)
                                              Box{48, "Lines for Day #1 are Incomplete!"}));
     EXPECT_EQ(TheStage.Find("Line"), nullptr);
     EXPECT_TRUE(Main().isVisible());
+}
+
+TEST_F(frmLineTest, AFailureOfOpeningIsToldAndTheScreenStaysOpen)
+{
+    MainWithLeague();
+    Machine.OnEvent = [this](const std::string& event) {
+        if (event == "box" && Machine.Boxes().size() == 1)
+            Fail(failure::InvalidCall);
+    };
+    OpenFrom(Main(), "Line", "Main", 0);
+    EXPECT_THAT(Machine.Boxes(), ElementsAre(Box{16, "Integrity Check Failed!"},
+                                             Box{16, "5 - Invalid procedure call or argument in FormLoad FrmLine!"}));
+    EXPECT_NE(TheStage.Find("Line"), nullptr);
+    Machine.OnEvent = {};
+}
+
+TEST_F(frmLineTest, AFailureOfAPickIsToldUnderItsName)
+{
+    frmLine& line = Line();
+    PlayerStatCount = 17;
+    Pick(line, Pro.Skaters[0], position::Center);
+    EXPECT_THAT(Machine.Boxes(), ElementsAre(Box{16, "9 - Subscript out of range in lstPlayer_Click!"}));
+    EXPECT_TRUE(line.isVisible());
 }
 
 } // namespace
