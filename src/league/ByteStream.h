@@ -49,6 +49,8 @@ private:
 class WholeFile final : public ByteSink {
 public:
     explicit WholeFile(const std::string& path);
+    WholeFile(const WholeFile&) = delete;
+    WholeFile& operator=(const WholeFile&) = delete;
     ~WholeFile() override;
 
     void Write(Bytes bytes) override;

@@ -70,6 +70,8 @@ public:
         if (stream == nullptr)
             FailWith(LastError(), path);
     }
+    DiskFile(const DiskFile&) = delete;
+    DiskFile& operator=(const DiskFile&) = delete;
     ~DiskFile() override
     {
         if (stream != nullptr)

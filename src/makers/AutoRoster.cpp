@@ -14,9 +14,9 @@ namespace {
 
 // Working state of one run.
 struct RosterRun {
-    int Team;
-    bool Verbose;
-    bool Partial;
+    int Team = 0;
+    bool Verbose = false;
+    bool Partial = false;
     Int32 Payroll;
     Row<Int16, 1, 10000> Ids{};     // the ranking, of the skaters first and then of the goalies
     Row<Int16, 0, 10000> Ratings{}; // an entry that is dressed or refused stands at 0
