@@ -113,8 +113,9 @@ void frmEditPlayer::BeginRecord(const Person& person)
 
 void frmEditPlayer::SaveRecord(const Person& person)
 {
-    const auto ratings = person.IsGoalie ? decltype(Goalie::Stats)::last : decltype(Player::Stats)::last;
-    if (!IsNewRecordFilled(static_cast<int>(ratings))) {
+    constexpr int goalieRatings = static_cast<int>(decltype(Goalie::Stats)::last);
+    constexpr int skaterRatings = static_cast<int>(decltype(Player::Stats)::last);
+    if (!IsNewRecordFilled(person.IsGoalie ? goalieRatings : skaterRatings)) {
         ShowBox("Missing Field!", box::Warning);
         return;
     }

@@ -15,7 +15,6 @@
 #include "screens/Stage.h"
 
 #include <QSignalBlocker>
-#include <type_traits>
 
 // The list, the person chosen in it, the four boxes of his offer, and the offer file.
 namespace dravik {
@@ -25,9 +24,6 @@ namespace {
 Team& OwnTeam() { return Teams[CurrentTeam]; }
 
 int OwnNumber() { return static_cast<int>(CurrentTeam); }
-
-template <class Person>
-constexpr bool IsGoalie = std::is_same_v<Person, Goalie>;
 
 std::string Money(long long amount) { return Machine().CurrencyNoDecimals(static_cast<double>(amount)); }
 

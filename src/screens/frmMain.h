@@ -50,10 +50,10 @@ public:
     Row<QLabel*, 1, 6> lblDivision;
     Row<QLabel*, 1, 2> lblConference;
     QLabel* lblDate;
-    QMenu *mnuFile, *mnuTeam, *mnuHelp;
-    QAction *mnuOpen, *mnuExit;
-    QAction *mnuViewTeam, *mnuSetRoster, *mnuSetLines, *mnuSetFarmLines, *mnuFreeAgents, *mnuDraft;
-    QAction *mnuAbout, *mnuOutputRatingCSV;
+    QMenu *mnuFile = nullptr, *mnuTeam = nullptr, *mnuHelp = nullptr;
+    QAction *mnuOpen = nullptr, *mnuExit = nullptr;
+    QAction *mnuViewTeam = nullptr, *mnuSetRoster = nullptr, *mnuSetLines = nullptr, *mnuSetFarmLines = nullptr;
+    QAction *mnuFreeAgents = nullptr, *mnuDraft = nullptr, *mnuAbout = nullptr, *mnuOutputRatingCSV = nullptr;
 
 private:
     void MakeMenus();
@@ -67,8 +67,8 @@ private:
     bool TeamIsProved();
 
     QLabel* lblTitle;
-    QLabel* lblChosen;
-    QLabel* lblChosenPlace;
+    QLabel* lblChosen = nullptr;
+    QLabel* lblChosenPlace = nullptr;
     QPushButton* cmdOpen;
     QWidget* lists; // the two conferences
     QWidget* teamBar;
