@@ -19,20 +19,20 @@ constexpr int GhostMargin = 4;
 } // namespace
 
 EntryDrag::EntryDrag(EntryList* entries, std::function<bool(const SlotLabel&)> allows) :
-    QObject(entries), list(entries), mayDrop(std::move(allows))
+    QObject(entries), list(entries), viewport(entries->viewport()), mayDrop(std::move(allows))
 {
-    list->viewport()->installEventFilter(this);
+    viewport->installEventFilter(this);
     list->installEventFilter(this);
 }
 
 bool EntryDrag::eventFilter(QObject* watched, QEvent* event)
 {
-    if (watched == list->viewport() && event->type() == QEvent::MouseButtonPress) {
+    if (watched == viewport && event->type() == QEvent::MouseButtonPress) {
         const auto* mouse = static_cast<QMouseEvent*>(event);
         End(); // whatever was left of a drag whose end nobody saw
         pressed = mouse->position().toPoint();
         isArmed = mouse->button() == Qt::LeftButton && list->itemAt(pressed) != nullptr;
-    } else if (watched == list->viewport() && event->type() == QEvent::MouseMove && isArmed) {
+    } else if (watched == viewport && event->type() == QEvent::MouseMove && isArmed) {
         const auto* mouse = static_cast<QMouseEvent*>(event);
         const QPoint way = mouse->position().toPoint() - pressed;
         if ((mouse->buttons() & Qt::LeftButton) == 0)
@@ -42,7 +42,7 @@ bool EntryDrag::eventFilter(QObject* watched, QEvent* event)
         if (isDragging)
             Move(mouse->globalPosition().toPoint());
         return isArmed; // the list does not go along with the pointer
-    } else if (watched == list->viewport() && event->type() == QEvent::MouseButtonRelease && isArmed) {
+    } else if (watched == viewport && event->type() == QEvent::MouseButtonRelease && isArmed) {
         if (isDragging)
             Drop();
         End();
@@ -89,7 +89,7 @@ void EntryDrag::Move(const QPoint& globalPoint)
     target = taking;
     if (target != nullptr)
         target->SetDropTarget(true);
-    list->viewport()->setCursor(target != nullptr ? Qt::DragCopyCursor : Qt::ForbiddenCursor);
+    viewport->setCursor(target != nullptr ? Qt::DragCopyCursor : Qt::ForbiddenCursor);
 }
 
 void EntryDrag::Drop()
@@ -108,8 +108,9 @@ void EntryDrag::End()
     if (target != nullptr)
         target->SetDropTarget(false);
     target = nullptr;
-    list->viewport()->unsetCursor();
-    delete std::exchange(ghost, nullptr);
+    if (viewport != nullptr)
+        viewport->unsetCursor();
+    delete ghost;
 }
 
 } // namespace dravik

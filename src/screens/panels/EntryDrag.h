@@ -1,14 +1,16 @@
 #pragma once
 
+#include "screens/panels/SlotLabel.h"
+
 #include <functional>
 #include <QLabel>
 #include <QObject>
 #include <QPoint>
+#include <QPointer>
 
 namespace dravik {
 
 class EntryList;
-class SlotLabel;
 
 // Lets the entries of a list be dragged with the mouse onto the slots of the same window. A slot on which the entry may be
 // let go shows it, and being let go there is a press on it; anywhere else nothing happens. Over a tab, its page comes up.
@@ -27,13 +29,15 @@ private:
     void Drop();
     void End();
 
+    // The list may be on its way out when an event comes, and is no list any more then.
     EntryList* list;
+    QPointer<QWidget> viewport;
     std::function<bool(const SlotLabel&)> mayDrop;
     QPoint pressed;       // where the button went down, in the list's viewport
     bool isArmed = false; // the button is down on an entry
     bool isDragging = false;
-    SlotLabel* target = nullptr; // takes the entry if it is let go now
-    QLabel* ghost = nullptr;     // follows the pointer
+    QPointer<SlotLabel> target; // takes the entry if it is let go now
+    QPointer<QLabel> ghost;     // follows the pointer
 };
 
 } // namespace dravik
