@@ -8,6 +8,7 @@ set(CMAKE_C_COMPILER ${triple}-gcc-posix)
 set(CMAKE_CXX_COMPILER ${triple}-g++-posix) # the kind whose standard library has threads
 set(CMAKE_RC_COMPILER ${triple}-windres)
 set(CMAKE_EXE_LINKER_FLAGS_INIT "-static -Wl,--stack,8388608") # a stack as large as Linux gives; tests need it
+set(CMAKE_CXX_FLAGS_INIT -fno-ipa-ra) # for the test framework too; CMakeLists.txt tells why
 set(ZLIB_USE_STATIC_LIBS ON)
 
 set(CMAKE_FIND_ROOT_PATH /usr/${triple} ${CMAKE_CURRENT_LIST_DIR}/../build/windows-googletest)
