@@ -303,6 +303,7 @@ bool LinesScreen::HoldsBack(QObject* watched, const QEvent* event)
         return false; // as all screens do
     switch (event->type()) {
     case QEvent::MouseButtonPress:
+    case QEvent::MouseButtonDblClick: // the second press of two quick ones
         heldBack = qobject_cast<EditBox*>(focusWidget()) != nullptr ? watched : nullptr;
         return heldBack != nullptr;
     case QEvent::MouseMove:

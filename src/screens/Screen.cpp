@@ -57,8 +57,8 @@ void Screen::closeEvent(QCloseEvent* event)
 bool Screen::eventFilter(QObject* watched, QEvent* event)
 {
     // The mouse takes the focus to the command before it presses it. A box that refused its text has it back by now, and
-    // the press goes no further.
-    if (event->type() == QEvent::MouseButtonPress) {
+    // the press goes no further, nor does the second one of a double click.
+    if (event->type() == QEvent::MouseButtonPress || event->type() == QEvent::MouseButtonDblClick) {
         const auto* button = qobject_cast<QPushButton*>(watched);
         const auto* box = dynamic_cast<LeavingBox*>(focusWidget());
         if (button != nullptr && box != nullptr && (button->focusPolicy() & Qt::ClickFocus) == Qt::ClickFocus)

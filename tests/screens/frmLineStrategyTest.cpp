@@ -331,6 +331,43 @@ TEST_F(LineStrategy, ARefusedTextHoldsTheArrowsOfTheScrollBarsBack)
     EXPECT_EQ(ProDay().Strategy[0], 1);
 }
 
+TEST_F(LineStrategy, ARefusedTextHoldsTheSecondPressOfADoubleClickBackToo)
+{
+    PutGames(3);
+    frmLine& line = Strategy();
+    EditBox* box = line.txtPullGoalerMinGoal;
+    const std::pair<QWidget*, QPoint> places[] = {
+        {line.hscStats[0], ArrowOf(line.hscStats[0], true)},
+        {line.vscDay, line.vscDay->CellOf(2).center()},
+        {line.lstPlayer->viewport(), line.lstPlayer->visualItemRect(line.lstPlayer->item(2)).center()},
+        {line.chkPosition[position::Defense], line.chkPosition[position::Defense]->rect().center()}};
+    for (const auto& [widget, point] : places) {
+        TypeInto(box, "x");
+        QTest::mouseClick(widget, Qt::LeftButton, {}, point);
+        PressAgain(widget, point);
+        EXPECT_EQ(Machine.TakeBoxes().size(), 2U) << widget->objectName().toStdString(); // one a press
+        EXPECT_TRUE(box->hasFocus()) << widget->objectName().toStdString();
+    }
+    EXPECT_EQ(ProDay().Strategy[0], 0);
+    EXPECT_EQ(line.Day, 1);
+    EXPECT_EQ(line.lstPlayer->Chosen(), nullptr);
+    EXPECT_TRUE(line.chkPosition[position::Defense]->isChecked());
+}
+
+TEST_F(LineStrategy, ARefusedTextHoldsTheSecondPressOnASlotBack)
+{
+    frmLine& line = Line();
+    Pick(line, Pro.Skaters[4], position::LeftWing);
+    Strategy();
+    TypeInto(line.txtPullGoalerMinGoal, "x");
+    const long long before = ProDay().NormalForward(4, 1);
+    ASSERT_NE(before, Pro.Skaters[4]);
+    SlotLabel* label = SlotOn(line, LineField::NormalForward, 4, 1);
+    PressAgain(label, label->rect().center());
+    EXPECT_EQ(ProDay().NormalForward(4, 1), before);
+    EXPECT_TRUE(line.txtPullGoalerMinGoal->hasFocus());
+}
+
 TEST_F(LineStrategy, BothPressesOfADoubleClickOnAnArrowGiveAPoint)
 {
     frmLine& line = Strategy();

@@ -292,6 +292,21 @@ TEST_F(frmTeamTest, ARefusedBoxDropsTheMousePressOnACommandToo)
     EXPECT_TRUE(Office().txtAbbre->hasFocus());
 }
 
+// Each press of a double click tries to leave the box; the command itself does not try a third time.
+TEST_F(frmTeamTest, ARefusedBoxDropsBothPressesOfADoubleClickOnACommand)
+{
+    TypeInto(Office().txtAbbre, "HC");
+    QTest::mouseClick(Office().cmdExit, Qt::LeftButton);
+    QTest::mouseDClick(Office().cmdExit, Qt::LeftButton);
+    EXPECT_FALSE(Office().cmdExit->isDown());
+    QTest::mouseRelease(Office().cmdExit, Qt::LeftButton);
+    Settle();
+    const Box refusal{48, "Abbreviation must be 3 characters long!"};
+    EXPECT_THAT(Machine.Boxes(), ElementsAre(refusal, refusal));
+    ASSERT_NE(TeamScreen(), nullptr);
+    EXPECT_TRUE(Office().txtAbbre->hasFocus());
+}
+
 TEST_F(frmTeamTest, ABoxActsOnceForEachLeaving)
 {
     TypeInto(Office().txtAbbre, "HC");
