@@ -4,8 +4,8 @@
 
 namespace dravik {
 
-// What a team offers a person without a contract: a salary and a bonus for some years. `Id` is his index, a goalie's
-// 10000 more; in a slot that was never used it is 0.
+// What a team offers a person without a contract or a team: a salary and a bonus for some years. `Id` is his index, a
+// goalie's 10000 more; in a slot that was never used it is 0.
 struct FreeAgentOffer {
     Int16 Id;
     Int16 Team;

@@ -16,8 +16,8 @@
 
 namespace dravik {
 
-// The offers of the chosen team to people without a contract: who can be made one, what he is offered, and the offer file
-// that the simulator takes. Offers live as long as the screen does.
+// The offers of the chosen team to people without a contract or a team: who can be made one, what he is offered, and the
+// offer file that the simulator takes. Offers live as long as the screen does.
 class frmFreeAgentClient : public Screen {
 public:
     explicit frmFreeAgentClient(Stage& stage);
