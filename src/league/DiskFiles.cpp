@@ -1,6 +1,7 @@
 #include "league/DiskFiles.h"
 
 #include "league/Failure.h"
+#include "league/Replacing.h"
 
 #include <algorithm>
 #include <cctype>
@@ -31,6 +32,7 @@ int NumberOf(std::error_code error)
         {std::errc::permission_denied, failure::PermissionDenied},
         {std::errc::operation_not_permitted, failure::PermissionDenied},
         {std::errc::read_only_file_system, failure::PermissionDenied},
+        {std::errc::device_or_resource_busy, failure::PermissionDenied}, // another program holds it
         {std::errc::no_space_on_device, failure::DiskFull},
         {std::errc::file_too_large, failure::DiskFull},
         {std::errc::not_enough_memory, failure::OutOfMemory},
@@ -42,13 +44,16 @@ int NumberOf(std::error_code error)
 
 [[noreturn]] void FailWith(std::error_code error) { Fail(NumberOf(error)); }
 
-// Tells a file that is not there from a folder that is not there, for which the system has one error.
+// Tells what the systems do not: a file that is not there from a folder that is not there, or is none; and a folder where
+// a file is wanted from a file that may not be touched.
 [[noreturn]] void FailWith(std::error_code error, const fs::path& path)
 {
     std::error_code ignored;
     if (error == std::errc::no_such_file_or_directory && path.has_parent_path() &&
-        !fs::exists(path.parent_path(), ignored))
+        !fs::is_directory(path.parent_path(), ignored))
         Fail(failure::PathNotFound);
+    if (error == std::errc::permission_denied && fs::is_directory(path, ignored))
+        Fail(failure::PathAccess);
     FailWith(error);
 }
 
@@ -172,8 +177,7 @@ void DiskFiles::RenameFile(const std::string& from, const std::string& to)
 {
     const fs::path source = NativePath(from);
     const fs::path target = NativePath(to);
-    std::error_code error;
-    fs::rename(source, target, error);
+    const std::error_code error = RenameReplacing(source, target);
     std::error_code ignored;
     if (error)
         FailWith(error, fs::exists(source, ignored) ? target : source);

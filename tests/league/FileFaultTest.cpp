@@ -105,7 +105,7 @@ protected:
         return outcome;
     }
 
-#ifndef _WIN32
+#ifndef _WIN32 // where no process can be copied; a disk that goes away for good stands for it there
     // Runs `work` in a process of its own that ends without a farewell at operation n: nothing is closed, nothing cleaned
     // up. A write that was under way is on the disk by half.
     void RunAndKill(const std::function<bool()>& work, std::size_t n)
