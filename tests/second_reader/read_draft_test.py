@@ -6,63 +6,28 @@
 WRITE_DRAFT is the program that saves a draft file of random choices and tells what it saved.
 """
 
-import json
-import pathlib
 import struct
-import subprocess
 import sys
-import tempfile
 import unittest
-import zlib
 
-READER = pathlib.Path(__file__).with_name("read_draft.py")
-WRITE_DRAFT = sys.argv.pop(1)
+from saved_file import SavedFileTest, SharedChecks
+
 SLOT = 12
 WHOLE = 1005 * SLOT
 FIRST = 3 * SLOT
 
 
-def run_reader(*arguments):
-    return subprocess.run([sys.executable, READER, *arguments], capture_output=True, text=True, check=False)
+class ReadDraftTest(SharedChecks, SavedFileTest):
+    KIND, SUFFIX, WRITER = "draft", ".dvd", sys.argv.pop(1)
 
-
-class ReadDraftTest(unittest.TestCase):
     @classmethod
-    def setUpClass(cls):
-        cls.folder = tempfile.TemporaryDirectory()
-        cls.path = pathlib.Path(cls.folder.name)
+    def save_files(cls):
         cls.full, cls.full_told = cls.saved("plain", 1, 1001)
         cls.plain, cls.plain_told = cls.saved("plain", 2, 300)
         cls.wrapped, cls.wrapped_told = cls.saved("wrapped", 3, 700)
 
-    @classmethod
-    def tearDownClass(cls):
-        cls.folder.cleanup()
-
-    @classmethod
-    def saved(cls, form, seed, count):
-        file, told = cls.path / f"{seed}.dvd", cls.path / f"{seed}.json"
-        subprocess.run([WRITE_DRAFT, form, str(seed), str(count), file, told], check=True)
-        return file.read_bytes(), json.loads(told.read_text(encoding="ascii"))
-
-    def reader_on(self, data):
-        file = self.path / "case.dvd"
-        file.write_bytes(data)
-        return run_reader(str(file))
-
-    def refused(self, data, reason):
-        result = self.reader_on(data)
-        self.assertEqual(result.returncode, 1, result.stderr)
-        self.assertEqual(result.stdout, "")
-        self.assertIn(reason, result.stderr)
-
-    def changed(self, at, value):
-        return self.plain[:at] + value + self.plain[at + len(value) :]
-
     def read_back(self, data, told, count):
-        result = self.reader_on(data)
-        self.assertEqual(result.returncode, 0, result.stderr)
-        read = json.loads(result.stdout)
+        read = self.read(data)
         self.assertEqual(len(read["choices"]), count)
         for rank, (got, wanted) in enumerate(zip(read["choices"], told["choices"])):
             self.assertEqual(got, wanted, f"rank {rank}")
@@ -86,10 +51,6 @@ class ReadDraftTest(unittest.TestCase):
             rest = self.plain[(number - 1) * SLOT + used : number * SLOT]
             self.assertEqual(rest, bytes(len(rest)), f"slot {number}")
 
-    def test_the_wrapper_is_the_length_and_a_stream_of_level_9(self):
-        self.assertEqual(self.wrapped[:6], struct.pack("<i", WHOLE) + b"\x78\xda")
-        self.assertEqual(len(zlib.decompress(self.wrapped[4:])), WHOLE)
-
     def test_the_rest_of_a_slot_may_hold_anything(self):
         self.assertEqual(self.reader_on(self.changed(FIRST + 2, b"anything")).returncode, 0)
 
@@ -111,18 +72,6 @@ class ReadDraftTest(unittest.TestCase):
 
     def test_a_gap_in_the_list_is_refused(self):
         self.refused(self.changed(FIRST + SLOT, b"\0\0"), "behind the end of the list")
-
-    def test_a_broken_wrapper_is_refused(self):
-        self.refused(struct.pack("<i", WHOLE - 1) + self.wrapped[4:], f"claims {WHOLE - 1} bytes and holds {WHOLE}")
-        self.refused(struct.pack("<i", WHOLE + 1) + self.wrapped[4:], f"claims {WHOLE + 1} bytes")
-        self.refused(self.wrapped[:-4], "the stream has no end")
-        self.refused(self.wrapped + b"\0", "something stands behind the stream")
-        self.refused(self.wrapped[:-1] + bytes([self.wrapped[-1] ^ 1]), "the stream is damaged")
-
-    def test_a_file_that_is_not_there_and_a_wrong_call_end_with_2(self):
-        self.assertEqual(run_reader(str(self.path / "missing.dvd")).returncode, 2)
-        self.assertEqual(run_reader().returncode, 2)
-        self.assertEqual(run_reader("--every", "file").returncode, 2)
 
 
 if __name__ == "__main__":

@@ -6,61 +6,26 @@
 WRITE_LINES is the program that saves a lines file of random values and tells what it saved.
 """
 
-import json
-import pathlib
 import struct
-import subprocess
 import sys
-import tempfile
 import unittest
-import zlib
 
-READER = pathlib.Path(__file__).with_name("read_lines.py")
-WRITE_LINES = sys.argv.pop(1)
+from saved_file import SavedFileTest, SharedChecks
+
 SLOT = 3470
 SHORTEST = 11004 * SLOT + 39
 
 
-def run_reader(*arguments):
-    return subprocess.run([sys.executable, READER, *arguments], capture_output=True, text=True, check=False)
+class ReadLinesTest(SharedChecks, SavedFileTest):
+    KIND, SUFFIX, WRITER = "lines", ".dvl", sys.argv.pop(1)
 
-
-class ReadLinesTest(unittest.TestCase):
     @classmethod
-    def setUpClass(cls):
-        cls.folder = tempfile.TemporaryDirectory()
-        cls.path = pathlib.Path(cls.folder.name)
+    def save_files(cls):
         cls.plain, cls.plain_told = cls.saved("plain", 1)
         cls.wrapped, cls.wrapped_told = cls.saved("wrapped", 2)
 
-    @classmethod
-    def tearDownClass(cls):
-        cls.folder.cleanup()
-
-    @classmethod
-    def saved(cls, form, seed):
-        file, told = cls.path / f"{form}.dvl", cls.path / f"{form}.json"
-        subprocess.run([WRITE_LINES, form, str(seed), file, told], check=True)
-        return file.read_bytes(), json.loads(told.read_text(encoding="ascii"))
-
-    def reader_on(self, data, *options):
-        file = self.path / "case.dvl"
-        file.write_bytes(data)
-        return run_reader(*options, str(file))
-
-    def refused(self, data, reason):
-        result = self.reader_on(data)
-        self.assertEqual(result.returncode, 1, result.stderr)
-        self.assertEqual(result.stdout, "")
-        self.assertIn(reason, result.stderr)
-
-    def changed(self, at, value):
-        return self.plain[:at] + value + self.plain[at + len(value) :]
-
     def read_back(self, data, told):
-        result = self.reader_on(data, "--all")
-        self.assertEqual(result.returncode, 0, result.stderr)
-        read = json.loads(result.stdout)
+        read = self.read(data, "--all")
         self.assertEqual(read.keys(), told.keys())
         for part in ("pro", "farm_lines"):
             self.assertEqual([len(read[part]), len(told[part])], [10, 10])
@@ -88,9 +53,7 @@ class ReadLinesTest(unittest.TestCase):
             self.assertEqual(words(day), 76)
 
     def test_without_all_the_line_ups_of_day_1_stand_alone(self):
-        result = self.reader_on(self.plain)
-        self.assertEqual(result.returncode, 0, result.stderr)
-        read = json.loads(result.stdout)
+        read = self.read(self.plain)
         self.assertEqual(read["pro"], self.plain_told["pro"][0])
         self.assertEqual(read["farm_lines"], self.plain_told["farm_lines"][0])
         self.assertEqual(read["counts"], self.plain_told["counts"])
@@ -101,11 +64,6 @@ class ReadLinesTest(unittest.TestCase):
         for number, used in ((1, 41), (2, 5), (3, 2), (5, 5), (10004, 5), (11004, 5)):
             rest = self.plain[(number - 1) * SLOT + used : number * SLOT]
             self.assertEqual(rest, bytes(len(rest)), f"slot {number}")
-
-    def test_the_wrapper_is_the_length_and_a_stream_of_level_9(self):
-        content = zlib.decompress(self.wrapped[4:])
-        self.assertEqual(self.wrapped[:6], struct.pack("<i", len(content)) + b"\x78\xda")
-        self.assertEqual(len(content), SHORTEST)
 
     def test_a_full_last_slot_is_read_too(self):
         full = self.plain + bytes(11005 * SLOT - SHORTEST)
@@ -128,28 +86,13 @@ class ReadLinesTest(unittest.TestCase):
         for number in (0, 101, -1):
             self.refused(self.changed(2 * SLOT, struct.pack("<h", number)), f"there is no team {number}")
 
-    def test_a_wrapper_that_does_not_hold_what_it_claims_is_refused(self):
-        for length in (SHORTEST - 1, SHORTEST + 1):
-            self.refused(struct.pack("<i", length) + self.wrapped[4:], f"claims {length} bytes and holds {SHORTEST}")
-        for length in (0, -1, 2147483647):
-            self.refused(struct.pack("<i", length) + self.wrapped[4:], f"claims {length} bytes")
-
-    def test_a_broken_stream_is_refused(self):
-        flipped = bytes([self.wrapped[-1] ^ 1])
-        self.refused(self.wrapped[:-1] + flipped, "the stream is damaged")
-        self.refused(self.wrapped[:-4], "the stream has no end")
-        self.refused(self.wrapped + b"\0", "something stands behind the stream")
-        self.refused(self.wrapped[:4] + zlib.compress(self.plain, 1), "does not begin as one of level 9")
+    def test_a_wrapper_that_claims_a_byte_more_is_refused(self):
+        claimed = struct.pack("<i", SHORTEST + 1)
+        self.refused(claimed + self.wrapped[4:], f"claims {SHORTEST + 1} bytes and holds {SHORTEST}")
 
     def test_what_is_no_file_of_this_kind_is_refused(self):
         self.refused(b"", "too short")
         self.refused(b"\x26\0DRVK Client Files Version 1.12 - Start", "no whole lines file")
-
-    def test_a_file_that_is_not_there_and_a_wrong_call_end_with_2(self):
-        self.assertEqual(run_reader(str(self.path / "missing.dvl")).returncode, 2)
-        self.assertEqual(run_reader(str(self.path)).returncode, 2)
-        self.assertEqual(run_reader().returncode, 2)
-        self.assertEqual(run_reader("--every", "file").returncode, 2)
 
 
 if __name__ == "__main__":

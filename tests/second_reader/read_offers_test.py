@@ -6,61 +6,26 @@
 WRITE_OFFERS is the program that saves an offer file of random values and tells what it saved.
 """
 
-import json
-import pathlib
 import struct
-import subprocess
 import sys
-import tempfile
 import unittest
-import zlib
 
-READER = pathlib.Path(__file__).with_name("read_offers.py")
-WRITE_OFFERS = sys.argv.pop(1)
+from saved_file import SavedFileTest, SharedChecks
+
 SLOT = 1014
 FIRST = 3 * SLOT
 
 
-def run_reader(*arguments):
-    return subprocess.run([sys.executable, READER, *arguments], capture_output=True, text=True, check=False)
+class ReadOffersTest(SharedChecks, SavedFileTest):
+    KIND, SUFFIX, WRITER = "offers", ".dvf", sys.argv.pop(1)
 
-
-class ReadOffersTest(unittest.TestCase):
     @classmethod
-    def setUpClass(cls):
-        cls.folder = tempfile.TemporaryDirectory()
-        cls.path = pathlib.Path(cls.folder.name)
+    def save_files(cls):
         cls.plain, cls.plain_told = cls.saved("plain", 1)
         cls.wrapped, cls.wrapped_told = cls.saved("wrapped", 2)
 
-    @classmethod
-    def tearDownClass(cls):
-        cls.folder.cleanup()
-
-    @classmethod
-    def saved(cls, form, seed):
-        file, told = cls.path / f"{form}.dvf", cls.path / f"{form}.json"
-        subprocess.run([WRITE_OFFERS, form, str(seed), file, told], check=True)
-        return file.read_bytes(), json.loads(told.read_text(encoding="ascii"))
-
-    def reader_on(self, data):
-        file = self.path / "case.dvf"
-        file.write_bytes(data)
-        return run_reader(str(file))
-
-    def refused(self, data, reason):
-        result = self.reader_on(data)
-        self.assertEqual(result.returncode, 1, result.stderr)
-        self.assertEqual(result.stdout, "")
-        self.assertIn(reason, result.stderr)
-
-    def changed(self, at, value):
-        return self.plain[:at] + value + self.plain[at + len(value) :]
-
     def read_back(self, data, told):
-        result = self.reader_on(data)
-        self.assertEqual(result.returncode, 0, result.stderr)
-        read = json.loads(result.stdout)
+        read = self.read(data)
         self.assertEqual(len(read["offers"]), len(told["offers"]))
         for got, wanted in zip(read["offers"], told["offers"]):
             self.assertEqual(got, wanted)
@@ -86,10 +51,6 @@ class ReadOffersTest(unittest.TestCase):
             rest = self.plain[(number - 1) * SLOT + used : number * SLOT]
             self.assertEqual(rest, bytes(len(rest)), f"slot {number}")
 
-    def test_the_wrapper_is_the_length_and_a_stream_of_level_9(self):
-        content = zlib.decompress(self.wrapped[4:])
-        self.assertEqual(self.wrapped[:6], struct.pack("<i", len(content)) + b"\x78\xda")
-
     def test_the_rest_of_a_slot_of_the_head_may_hold_anything(self):
         self.assertEqual(self.reader_on(self.changed(SLOT + 5, b"anything")).returncode, 0)
 
@@ -114,21 +75,6 @@ class ReadOffersTest(unittest.TestCase):
         first, second = self.plain[FIRST : FIRST + SLOT], self.plain[FIRST + SLOT : FIRST + 2 * SLOT]
         self.refused(self.changed(FIRST, second + first), "out of order")
         self.refused(self.changed(FIRST, first + first), "out of order")
-
-    def test_a_wrapper_that_does_not_hold_what_it_claims_is_refused(self):
-        length = len(zlib.decompress(self.wrapped[4:]))
-        for claimed in (length - 1, 0, -1, 2147483647):
-            self.refused(struct.pack("<i", claimed) + self.wrapped[4:], f"claims {claimed} bytes")
-
-    def test_a_broken_stream_is_refused(self):
-        self.refused(self.wrapped[:-1] + bytes([self.wrapped[-1] ^ 1]), "the stream is damaged")
-        self.refused(self.wrapped[:-4], "the stream has no end")
-        self.refused(self.wrapped + b"\0", "something stands behind the stream")
-
-    def test_a_file_that_is_not_there_and_a_wrong_call_end_with_2(self):
-        self.assertEqual(run_reader(str(self.path / "missing.dvf")).returncode, 2)
-        self.assertEqual(run_reader().returncode, 2)
-        self.assertEqual(run_reader("--every", "file").returncode, 2)
 
 
 if __name__ == "__main__":

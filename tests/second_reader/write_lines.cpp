@@ -1,21 +1,16 @@
+#include "Writer.h"
+
 #include "league/ClientVariable.h"
 #include "league/LinesFile.h"
-#include "support/ScriptedPlatform.h"
 
-#include <cstdlib>
-#include <fstream>
-#include <iostream>
 #include <limits>
 #include <random>
 #include <span>
 #include <string_view>
 
-// Saves a lines file full of random values by the program's own routine, and beside it tells as JSON what was in the
-// tables, field by field. What the second reader makes of the file has to be the same.
+// Saves a lines file full of random values.
 namespace dravik {
 namespace {
-
-using Random = std::mt19937;
 
 long long AnyWord(Random& random)
 {
@@ -143,7 +138,6 @@ void FillPeople(People& people, Changes& changes, Random& random)
 
 void FillTables(int number, Random& random)
 {
-    LeagueData.LeagueCode = "AB\xE9 9";
     Team& team = Teams[number];
     for (auto& byte : std::span(reinterpret_cast<unsigned char*>(&team), sizeof team))
         byte = static_cast<unsigned char>(random());
@@ -156,20 +150,6 @@ void FillTables(int number, Random& random)
             ForAll(day, [&](const char* /*name*/, auto& field) { Fill(field, random); });
     FillPeople(Players, RosterChanges, random);
     FillPeople(Goalies, RosterChangesGoalie, random);
-}
-
-void TellText(std::ostream& out, std::string_view text)
-{
-    constexpr std::string_view digits = "0123456789abcdef";
-    out << '"';
-    for (const char c : text) {
-        const auto code = static_cast<unsigned char>(c);
-        if (code < 0x80)
-            out << c;
-        else
-            out << "\\u00" << digits[code / 16] << digits[code % 16]; // the code page agrees there from 160 on
-    }
-    out << '"';
 }
 
 void TellDays(std::ostream& out, const Row<Lines, 1, 10>& days)
@@ -220,11 +200,10 @@ void TellPeople(std::ostream& out, const People& people, const Changes& changes,
     out << "]";
 }
 
-void TellTables(std::ostream& out, int number, bool wrapped)
+void TellTables(std::ostream& out, const Order& order)
 {
-    const Team& team = Teams[number];
-    out << "{\"wrapped\": " << (wrapped ? "true" : "false") << ", \"team\": " << number << ",\n\"league\": ";
-    TellText(out, LeagueData.LeagueCode.Trimmed());
+    const Team& team = Teams[order.Team];
+    TellHead(out, order);
     out << ", \"name\": ";
     TellText(out, team.Name.Trimmed());
     out << ", \"abbreviation\": ";
@@ -251,41 +230,16 @@ void TellTables(std::ostream& out, int number, bool wrapped)
     out << "}}}\n";
 }
 
-int Run(int argc, char** argv)
+bool Save(const Order& order, Random& random, std::ostream& expected)
 {
-    if (argc != 5) {
-        std::cerr << "usage: write_lines wrapped|plain SEED FILE.dvl EXPECTED.json\n";
-        return 2;
-    }
-    const bool wrapped = std::string_view(argv[1]) == "wrapped";
-    ScriptedPlatform machine;
-    UseMachine(machine);
-    if (!wrapped)
-        machine.Settings["SkipZIPClient"] = "YES";
-    TempFile = machine.InFolder("ClientTemp.dvt");
-
-    Random random(static_cast<unsigned>(std::strtoul(argv[2], nullptr, 10)));
-    const int number = 1 + static_cast<int>(random() % 100);
-    FillTables(number, random);
-    if (!WriteLinesFile(number, argv[3])) {
-        for (const Box& box : machine.Boxes())
-            std::cerr << box.Text << "\n";
-        return 1;
-    }
-    std::ofstream expected(argv[4]);
-    TellTables(expected, number, wrapped);
-    return expected.flush() ? 0 : 1;
+    FillTables(order.Team, random);
+    if (!WriteLinesFile(order.Team, order.Path))
+        return false;
+    TellTables(expected, order);
+    return true;
 }
 
 } // namespace
 } // namespace dravik
 
-int main(int argc, char** argv)
-{
-    try {
-        return dravik::Run(argc, argv);
-    } catch (const std::exception& failed) {
-        std::cerr << failed.what() << "\n";
-        return 1;
-    }
-}
+int main(int argc, char** argv) { return dravik::SaveAndTell(argc, argv, dravik::Save); }

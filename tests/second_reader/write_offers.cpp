@@ -1,10 +1,8 @@
+#include "Writer.h"
+
 #include "league/ClientVariable.h"
 #include "league/OffersFile.h"
-#include "support/ScriptedPlatform.h"
 
-#include <cstdlib>
-#include <fstream>
-#include <iostream>
 #include <limits>
 #include <memory>
 #include <random>
@@ -14,8 +12,6 @@
 // table. What the second reader makes of the file has to be the same.
 namespace dravik {
 namespace {
-
-using Random = std::mt19937;
 
 constexpr int MostOffers = 996;
 
@@ -57,24 +53,9 @@ void Fill(OfferTable& offers, Random& random)
 
 bool WasEdited(const FreeAgentOffer& offer) { return offer.Comment.Raw().front() != '\0'; }
 
-void TellText(std::ostream& out, std::string_view text)
+void TellOffers(std::ostream& out, const Order& order, const OfferTable& offers)
 {
-    constexpr std::string_view digits = "0123456789abcdef";
-    out << '"';
-    for (const char c : text) {
-        const auto code = static_cast<unsigned char>(c);
-        if (code < 0x80)
-            out << c;
-        else
-            out << "\\u00" << digits[code / 16] << digits[code % 16]; // the code page agrees there from 160 on
-    }
-    out << '"';
-}
-
-void TellOffers(std::ostream& out, int team, bool wrapped, const OfferTable& offers)
-{
-    out << "{\"wrapped\": " << (wrapped ? "true" : "false") << ", \"team\": " << team << ", \"league\": ";
-    TellText(out, LeagueData.LeagueCode.Trimmed());
+    TellHead(out, order);
     out << ", \"offers\": [";
     int told = 0;
     for (const FreeAgentOffer& offer : offers) {
@@ -88,45 +69,19 @@ void TellOffers(std::ostream& out, int team, bool wrapped, const OfferTable& off
     out << "]}\n";
 }
 
-int Run(int argc, char** argv)
+bool Save(const Order& order, Random& random, std::ostream& expected)
 {
-    if (argc != 5) {
-        std::cerr << "usage: write_offers wrapped|plain SEED FILE.dvf EXPECTED.json\n";
-        return 2;
-    }
-    const bool wrapped = std::string_view(argv[1]) == "wrapped";
-    ScriptedPlatform machine;
-    UseMachine(machine);
-    if (!wrapped)
-        machine.Settings["SkipZIPClient"] = "YES";
-    TempFile = machine.InFolder("ClientTemp.dvt");
-
-    Random random(static_cast<unsigned>(std::strtoul(argv[2], nullptr, 10)));
-    const int team = 1 + static_cast<int>(random() % 100);
-    LeagueData.LeagueCode = "AB\xE9 9";
     LeagueData.MinSalary = 500000;
     LeagueData.OffersLeft = MostOffers;
     const auto offers = std::make_unique<OfferTable>();
     Fill(*offers, random);
-    if (WriteOffersFile(team, argv[3], *offers).Outcome != OffersFileWrite::Saved) {
-        for (const Box& box : machine.Boxes())
-            std::cerr << box.Text << "\n";
-        return 1;
-    }
-    std::ofstream expected(argv[4]);
-    TellOffers(expected, team, wrapped, *offers);
-    return expected.flush() ? 0 : 1;
+    if (WriteOffersFile(order.Team, order.Path, *offers).Outcome != OffersFileWrite::Saved)
+        return false;
+    TellOffers(expected, order, *offers);
+    return true;
 }
 
 } // namespace
 } // namespace dravik
 
-int main(int argc, char** argv)
-{
-    try {
-        return dravik::Run(argc, argv);
-    } catch (const std::exception& failed) {
-        std::cerr << failed.what() << "\n";
-        return 1;
-    }
-}
+int main(int argc, char** argv) { return dravik::SaveAndTell(argc, argv, dravik::Save); }
