@@ -6,7 +6,6 @@
 #include <algorithm>
 #include <benchmark/benchmark.h>
 #include <chrono>
-#include <cstdlib>
 #include <ctime>
 #include <functional>
 #include <vector>
@@ -14,14 +13,15 @@
 // Measures what a screen does against one bare walk over the tables, which no answer can do without.
 namespace dravik {
 
-// Looks at every record of both tables once, as whoever wants to know a team's people must.
-inline long long WalkTables(int team)
+// Looks at every record of both tables once and counts whom the test takes, as whoever lists people must.
+template <class Takes>
+long long WalkTables(const Takes& takes)
 {
     long long found = 0;
     for (const Player& player : Players)
-        found += player.InUse && player.Team == team ? 1 : 0;
+        found += player.InUse && takes(player) ? 1 : 0;
     for (const Goalie& keeper : Goalies)
-        found += keeper.InUse && keeper.Team == team ? 1 : 0;
+        found += keeper.InUse && takes(keeper) ? 1 : 0;
     return found;
 }
 
@@ -40,12 +40,12 @@ inline Cost CostOf(const std::function<void()>& work)
     return {wall.count(), 1000.0 * static_cast<double>(std::clock() - cpu) / CLOCKS_PER_SEC};
 }
 
-// Runs the work of a bench and a walk in turn, so that both meet the same weather. The walk must find `people` of `team`.
-template <class Bench>
-void MeasureAgainstAWalk(benchmark::State& state, Bench& bench, void (Bench::*work)(), int team, long long people)
+// Runs the work of the one `Bench` and a walk in turn, so that both meet the same weather. The walk must take `people`.
+template <class Bench, class Takes>
+void MeasureAgainstAWalk(benchmark::State& state, void (Bench::*work)(), const Takes& takes, long long people)
 {
-    if (WalkTables(team) != people)
-        std::abort();
+    static Bench bench;
+    Demand(WalkTables(takes) == people);
     (bench.*work)();
     (bench.*work)();
     std::vector<double> ours;
@@ -55,7 +55,7 @@ void MeasureAgainstAWalk(benchmark::State& state, Bench& bench, void (Bench::*wo
         const Cost cost = CostOf([&] { (bench.*work)(); });
         ours.push_back(cost.Wall);
         cpu.push_back(cost.Cpu);
-        walks.push_back(CostOf([team] { benchmark::DoNotOptimize(WalkTables(team)); }).Cpu);
+        walks.push_back(CostOf([&takes] { benchmark::DoNotOptimize(WalkTables(takes)); }).Cpu);
         state.SetIterationTime(cost.Wall / 1000);
     }
     state.counters["ours_ms"] = Median(ours);

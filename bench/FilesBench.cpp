@@ -122,14 +122,9 @@ struct Bench {
     {
         OpenedWindow window;
         OpenLeagueClient(ClientPath, window);
-        if (window.Calls.empty())
-            std::abort();
+        Demand(!window.Calls.empty());
     }
-    void Save() const
-    {
-        if (!WriteLinesFile(1, LinesPath))
-            std::abort();
-    }
+    void Save() const { Demand(WriteLinesFile(1, LinesPath)); }
 
     ScriptedPlatform Machine;
     std::string ClientPath;

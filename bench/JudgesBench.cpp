@@ -3,14 +3,11 @@
 //
 //     judges_bench
 
+#include "bench/FullLeague.h"
 #include "bench/Ratio.h"
-#include "league/ClientVariable.h"
 #include "makers/Makers.h"
 #include "rules/Function.h"
 #include "rules/People.h"
-#include "support/SmallLeague.h"
-
-#include <cstdlib>
 
 namespace dravik {
 namespace {
@@ -19,42 +16,24 @@ constexpr int Own = 5;
 constexpr int Skaters = 52;
 constexpr int Keepers = 6;
 
-void SetRules()
+void SetCap()
 {
     League& league = LeagueData;
-    SetPlainWeights();
-    league.MaxProPlayers = 60;
-    league.FarmMaxOverall = 99;
-    league.MaxSalary = 10000000;
     league.SalaryCapMode = 1;
     league.SalaryCap = 500000000;
     league.FarmSalaryPct = 10;
-    league.FarmEnabled = true;
     league.FarmRosterRequired = true;
     league.FarmPayrollInCap = true;
     league.CoachPayrollInCap = true;
     league.FarmSalaryCap = 500000000;
-    league.ProDressedSkaters = 18;
-    league.MaxDressedGoalies = 2;
-    league.RequiredCenters = 3;
-    league.RequiredLeftWings = 3;
-    league.RequiredRightWings = 3;
-    league.RequiredDefensemen = 6;
 }
 
-// Every slot of the tables is in use: the people of the team at hand, spread over the tables, and others in all the rest.
-// The pro roster, the farm's and all lines are complete.
-void FillLeague()
+// The people of the team at hand, spread over the tables. Its pro roster, the farm's and all lines are complete.
+void PutTeam()
 {
-    ResetClientVariables();
-    MessagesAllowed = true;
-    MarkRosterChangesUntouched();
-    SetRules();
-    TeamMaker{Own};
-    for (int id = 1; id <= PlayerTable::last; ++id)
-        PutSkater(id, 6 + id % 30, 1 + id % 4, status::Pro, 40 + id % 50);
-    for (int id = 1; id <= GoalieTable::last; ++id)
-        PutGoalie(id, 6 + id % 30, status::Pro, 40 + id % 50);
+    FillLeague();
+    SetCap();
+    const TeamMaker made(Own);
     // Eighteen of either side are enough of every position: 4, 4, 4 and 6.
     const auto positionOf = [](int place) { return place % 18 < 12 ? 1 + place % 18 % 3 : position::Defense; };
     for (int place = 0; place < Skaters; ++place) {
@@ -69,9 +48,8 @@ void FillLeague()
         AutoLines(Own, false, day);
         AutoLinesFarm(Own, false, day);
     }
-    if (!CheckRoster(Own, false, true, false) || !CheckLine(Own, false, 1, false) ||
-        !CheckLineFarm(Own, false, 1, false))
-        std::abort();
+    Demand(CheckRoster(Own, false, true, false));
+    Demand(CheckLine(Own, false, 1, false) && CheckLineFarm(Own, false, 1, false));
 }
 
 // Looks at every record of both tables once and counts the team's people, with the program's own walk: what is measured
@@ -90,12 +68,11 @@ void UseFullLeague()
     static ScriptedPlatform machine;
     static const bool filled = [] {
         UseMachine(machine);
-        FillLeague();
+        PutTeam();
         return true;
     }();
     benchmark::DoNotOptimize(filled);
-    if (WalkTables() != Skaters + Keepers)
-        std::abort();
+    Demand(WalkTables() == Skaters + Keepers);
 }
 
 void AgainstAWalk(benchmark::State& state, void (*work)(), void (*prepare)())
@@ -104,13 +81,6 @@ void AgainstAWalk(benchmark::State& state, void (*work)(), void (*prepare)())
     UseFullLeague();
     Compare(
         state, work, [] { benchmark::DoNotOptimize(WalkTables()); }, microsecond, prepare);
-}
-
-// What must come true does so on this league; a wrong answer would be a cheap one.
-void Must(bool right)
-{
-    if (!right)
-        std::abort();
 }
 
 void Nothing() {}
@@ -132,14 +102,14 @@ void ScratchEverybody()
     }                                                                                                                  \
     BENCHMARK(name)->Iterations(2001)->UseManualTime()->Unit(benchmark::kMicrosecond)
 
-AGAINST_A_WALK(JudgeRoster, Nothing, Must(CheckRoster(Own, true, false, false)));
-AGAINST_A_WALK(JudgeRosterAndCap, Nothing, Must(CheckRoster(Own, true, true, false)));
-AGAINST_A_WALK(JudgeCap, Nothing, Must(CheckSalaryCap(Own, false)));
-AGAINST_A_WALK(JudgeLines, RefillDay, Must(CheckLine(Own, false, 1, true)));
-AGAINST_A_WALK(JudgeEmptyLines, EmptyDay, Must(!CheckLine(Own, false, 1, true)));
-AGAINST_A_WALK(JudgeFarmLines, Nothing, Must(CheckLineFarm(Own, false, 1, true)));
-AGAINST_A_WALK(PayPro, Nothing, Must(ProPayroll(Own) > 0));
-AGAINST_A_WALK(PayFarm, Nothing, Must(FarmPayroll(Own) > 0));
+AGAINST_A_WALK(JudgeRoster, Nothing, Demand(CheckRoster(Own, true, false, false)));
+AGAINST_A_WALK(JudgeRosterAndCap, Nothing, Demand(CheckRoster(Own, true, true, false)));
+AGAINST_A_WALK(JudgeCap, Nothing, Demand(CheckSalaryCap(Own, false)));
+AGAINST_A_WALK(JudgeLines, RefillDay, Demand(CheckLine(Own, false, 1, true)));
+AGAINST_A_WALK(JudgeEmptyLines, EmptyDay, Demand(!CheckLine(Own, false, 1, true)));
+AGAINST_A_WALK(JudgeFarmLines, Nothing, Demand(CheckLineFarm(Own, false, 1, true)));
+AGAINST_A_WALK(PayPro, Nothing, Demand(ProPayroll(Own) > 0));
+AGAINST_A_WALK(PayFarm, Nothing, Demand(FarmPayroll(Own) > 0));
 AGAINST_A_WALK(MakeLines, EmptyDay, AutoLines(Own, false, 1));
 AGAINST_A_WALK(MakeLinesPartly, EmptyDay, AutoLinesPartial(Own, false, 1));
 AGAINST_A_WALK(MakeFarmLines, Nothing, AutoLinesFarm(Own, false, 1));

@@ -6,18 +6,14 @@
 //     lines_bench
 
 #include "bench/AgainstAWalk.h"
-#include "league/ClientVariable.h"
+#include "bench/FullLeague.h"
+#include "bench/ScreenBench.h"
 #include "screens/frmLine.h"
-#include "screens/platform/Palettes.h"
 #include "screens/RosterEntry.h"
-#include "screens/Stage.h"
 #include "support/LineFindings.h"
-#include "support/SmallLeague.h"
 #include "tests/screens/Dragging.h"
 
 #include <benchmark/benchmark.h>
-#include <cstdlib>
-#include <QApplication>
 #include <QTest>
 #include <vector>
 
@@ -26,27 +22,13 @@ namespace {
 
 constexpr int Own = 5;
 
-// Every slot of the tables is in use. The team at hand has a full roster at the far end of the tables, complete lines on
-// all days and ten games to come at the far end of the calendar.
-TeamMaker FillLeague()
+// The team at hand has a full roster at the far end of the tables, complete lines on all days and ten games to come at the
+// far end of the calendar.
+TeamMaker PutTeam()
 {
-    ResetClientVariables();
-    MessagesAllowed = true;
-    MarkRosterChangesUntouched();
-    SetPlainWeights();
-    LeagueData.ShowOverall = true;
-    LeagueData.ShowAllRatings = true;
-    LeagueData.ScheduleShown = true;
-    LeagueData.ProDressedSkaters = 18;
-    LeagueData.FarmEnabled = true;
-    PlayerStatCount = 15;
-    GoalieStatCount = 13;
     constexpr int ownSkaters = 18;
     constexpr int ownGoalies = 2;
-    for (int id = 1; id <= 10000 - ownSkaters; ++id)
-        PutSkater(id, 6 + id % 30, 1 + id % 4, status::Pro, 40 + id % 50);
-    for (int id = 1; id <= 1000 - ownGoalies; ++id)
-        PutGoalie(id, 6 + id % 30, status::Pro, 40 + id % 50);
+    FillLeague(PlayerTable::last - ownSkaters, GoalieTable::last - ownGoalies);
     TeamMaker team(Own);
     team.DressesFullRoster();
     for (Lines& day : Teams[Own].ProLines)
@@ -61,17 +43,13 @@ TeamMaker FillLeague()
     return team;
 }
 
-class Bench {
+class Bench : ScreenBench {
 public:
     Bench()
     {
-        UseMachine(machine);
-        stage.Start();
-        const TeamMaker team = FillLeague();
+        const TeamMaker team = PutTeam();
         CurrentTeam = Own;
-        CallerScreen = "Main";
-        stage.Open("Line", *stage.Find("Main"));
-        QApplication::processEvents();
+        Open("Line");
         for (const int id : {team.Skaters[0], team.Skaters[3]}) // two centers, in turn
             rows.push_back(Screen().lstPlayer->RowOf(EntryNumber(id, position::Center)));
         Demand(Screen().vscDay->maximum() == DayStrip::Days);
@@ -104,14 +82,7 @@ public:
     }
 
 private:
-    // What was done must have had its effect.
-    static void Demand(bool holds)
-    {
-        if (!holds)
-            std::abort();
-    }
-
-    frmLine& Screen() { return *static_cast<frmLine*>(stage.Find("Line")); }
+    frmLine& Screen() { return On<frmLine>("Line"); }
     SlotLabel* Slot() { return Screen().TabLine->SlotAt(LineField::NormalForward, 1, 1).Label; }
     long long Standing() { return Teams[Own].ProLines[Screen().Day].NormalForward(1, 1); }
     void Pick()
@@ -120,21 +91,14 @@ private:
         QTest::mouseClick(list->viewport(), Qt::LeftButton, {}, list->visualItemRect(list->item(rows[0])).center());
     }
 
-    ScriptedPlatform machine;
-    Stage stage;
     std::vector<int> rows;
     std::size_t turn = 0;
 };
 
-Bench& TheBench()
-{
-    static Bench bench;
-    return bench;
-}
-
 void AgainstAWalk(benchmark::State& state, void (Bench::*work)())
 {
-    MeasureAgainstAWalk(state, TheBench(), work, Own, 20);
+    MeasureAgainstAWalk(
+        state, work, [](const auto& person) { return person.Team == Own; }, 20);
 }
 
 constexpr int Rounds = 200;
@@ -145,13 +109,4 @@ BENCHMARK_CAPTURE(AgainstAWalk, Day, &Bench::Day)->Iterations(Rounds)->UseManual
 } // namespace
 } // namespace dravik
 
-int main(int argc, char** argv)
-{
-    if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
-        qputenv("QT_QPA_PLATFORM", "offscreen");
-    const QApplication application(argc, argv);
-    dravik::UseLightLook();
-    benchmark::Initialize(&argc, argv);
-    benchmark::RunSpecifiedBenchmarks();
-    return 0;
-}
+int main(int argc, char** argv) { return dravik::RunScreenBenchmarks(argc, argv); }

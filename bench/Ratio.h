@@ -3,10 +3,18 @@
 #include <algorithm>
 #include <benchmark/benchmark.h>
 #include <chrono>
+#include <cstdlib>
 #include <functional>
 #include <vector>
 
 namespace dravik {
+
+// What was measured must have had its effect; a wrong answer would be a cheap one.
+inline void Demand(bool holds)
+{
+    if (!holds)
+        std::abort();
+}
 
 inline double Seconds(const std::function<void()>& work)
 {

@@ -5,71 +5,40 @@
 //     roster_bench
 
 #include "bench/AgainstAWalk.h"
-#include "screens/frmMain.h"
+#include "bench/FullLeague.h"
+#include "bench/ScreenBench.h"
 #include "screens/frmRoster.h"
-#include "screens/platform/Palettes.h"
-#include "screens/Stage.h"
-#include "support/SmallLeague.h"
 
 #include <benchmark/benchmark.h>
-#include <QApplication>
 #include <QTest>
-#include <vector>
 
 namespace dravik {
 namespace {
 
 constexpr int Own = 5;
 
-// Every slot of the tables is in use: 60 people of the team at hand, spread over the tables, and others in all the rest.
-void FillLeague()
+// Sixty people of the team at hand, spread over the tables.
+void PutTeam()
 {
-    ResetClientVariables();
-    MessagesAllowed = true;
-    MarkRosterChangesUntouched();
-    TeamMaker made(Own);
-    SetPlainWeights();
-    League& league = LeagueData;
-    league.MaxProPlayers = 60;
-    league.FarmMaxOverall = 99;
-    league.MaxSalary = 10000000;
-    league.ShowOverall = true;
-    league.ShowAllRatings = true;
-    league.ProDressedSkaters = 18;
-    league.MaxDressedGoalies = 2;
-    league.RequiredCenters = 3;
-    league.RequiredLeftWings = 3;
-    league.RequiredRightWings = 3;
-    league.RequiredDefensemen = 6;
-    PlayerStatCount = 15;
-    GoalieStatCount = 13;
+    FillLeague();
+    const TeamMaker made(Own);
     const auto statusOf = [](int place, int dressed) {
         return place < dressed ? status::Pro : place % 2 == 0 ? status::Scratch : status::Farm;
     };
-    for (int id = 1; id <= 10000; ++id)
-        PutSkater(id, 6 + id % 30, 1 + id % 4, status::Pro, 40 + id % 50);
-    for (int id = 1; id <= 1000; ++id)
-        PutGoalie(id, 6 + id % 30, status::Pro, 40 + id % 50);
     for (int place = 0; place < 54; ++place)
         PutSkater(1 + place * 185, Own, 1 + place % 4, statusOf(place, 18), 50 + place % 30);
     for (int place = 0; place < 6; ++place)
         PutGoalie(1 + place * 185, Own, statusOf(place, 2), 60);
 }
 
-class Bench {
+class Bench : ScreenBench {
 public:
     Bench()
     {
-        UseMachine(machine);
-        stage.Start();
-        FillLeague();
+        PutTeam();
         CurrentTeam = Own;
-        CallerScreen = "Main";
-        stage.Open("Roster", *stage.Find("Main"));
-        QApplication::processEvents();
+        Open("Roster");
     }
-
-    frmRoster& Roster() { return *static_cast<frmRoster*>(stage.Find("Roster")); }
 
     // One click of the mouse, painted.
     void Click()
@@ -98,20 +67,15 @@ public:
     }
 
 private:
-    ScriptedPlatform machine;
-    Stage stage;
+    frmRoster& Roster() { return On<frmRoster>("Roster"); }
+
     int turn = 0;
 };
 
-Bench& TheBench()
-{
-    static Bench bench;
-    return bench;
-}
-
 void AgainstAWalk(benchmark::State& state, void (Bench::*work)())
 {
-    MeasureAgainstAWalk(state, TheBench(), work, Own, 60);
+    MeasureAgainstAWalk(
+        state, work, [](const auto& person) { return person.Team == Own; }, 60);
 }
 
 constexpr int Rounds = 200;
@@ -122,13 +86,4 @@ BENCHMARK_CAPTURE(AgainstAWalk, Move, &Bench::Move)->Iterations(Rounds)->UseManu
 } // namespace
 } // namespace dravik
 
-int main(int argc, char** argv)
-{
-    if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
-        qputenv("QT_QPA_PLATFORM", "offscreen");
-    const QApplication application(argc, argv);
-    dravik::UseLightLook();
-    benchmark::Initialize(&argc, argv);
-    benchmark::RunSpecifiedBenchmarks();
-    return 0;
-}
+int main(int argc, char** argv) { return dravik::RunScreenBenchmarks(argc, argv); }

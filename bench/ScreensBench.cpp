@@ -7,19 +7,15 @@
 
 #include "bench/BareInflate.h"
 #include "bench/Ratio.h"
+#include "bench/ScreenBench.h"
 #include "league/ClientVariable.h"
 #include "sample-league/ClientFileWriter.h"
 #include "sample-league/SampleLeague.h"
 #include "screens/frmMain.h"
-#include "screens/platform/Palettes.h"
-#include "screens/Stage.h"
-#include "support/ScriptedPlatform.h"
 
 #include <algorithm>
 #include <benchmark/benchmark.h>
-#include <cstdlib>
 #include <memory>
-#include <QApplication>
 #include <string>
 #include <vector>
 
@@ -43,8 +39,7 @@ public:
         LeagueData.OfferRuleFlag = true;
         LeagueData.FantasyDraft = true;
         League = machine.InFolder("Full.dvs");
-        if (!sample::WriteClientFile(League))
-            std::abort();
+        Demand(sample::WriteClientFile(League));
         machine.Settings["LastLoadLeague"] = League;
     }
 
@@ -53,12 +48,10 @@ public:
     {
         ResetClientVariables();
         stage = std::make_unique<Stage>();
-        if (!stage->Start())
-            std::abort();
+        Demand(stage->Start());
         Settle();
         Main().grab();
-        if (LeagueData.Name.Trimmed().empty())
-            std::abort();
+        Demand(!LeagueData.Name.Trimmed().empty());
     }
     // What the start before left behind.
     void Leave()
@@ -145,14 +138,4 @@ void RegisterScreens()
 } // namespace
 } // namespace dravik
 
-int main(int argc, char** argv)
-{
-    if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
-        qputenv("QT_QPA_PLATFORM", "offscreen");
-    const QApplication application(argc, argv);
-    dravik::UseLightLook();
-    dravik::RegisterScreens();
-    benchmark::Initialize(&argc, argv);
-    benchmark::RunSpecifiedBenchmarks();
-    return 0;
-}
+int main(int argc, char** argv) { return dravik::RunScreenBenchmarks(argc, argv, dravik::RegisterScreens); }
