@@ -3,13 +3,11 @@
 #include "screens/LinesScreen.h"
 #include "screens/panels/EntryDrag.h"
 #include "screens/panels/Labels.h"
-#include "screens/panels/Shades.h"
+#include "screens/panels/Layouts.h"
 
 #include <QGroupBox>
-#include <QHBoxLayout>
 #include <QHelpEvent>
 #include <QTabBar>
-#include <QVBoxLayout>
 #include <utility>
 
 // What the lines screens are made of and where it stands.
@@ -31,21 +29,6 @@ QLabel* MakeLabel(const char* name, QWidget* parent)
     return label;
 }
 
-QVBoxLayout* MakeColumn(QWidget* parent)
-{
-    auto* column = new QVBoxLayout(parent);
-    column->setContentsMargins(0, 0, 0, 0);
-    column->setSpacing(Gap);
-    return column;
-}
-
-QHBoxLayout* MakeRow()
-{
-    auto* row = new QHBoxLayout;
-    row->setSpacing(Gap);
-    return row;
-}
-
 } // namespace
 
 LinesScreen::LinesScreen(Stage& stage, const LinesKind& kind) : Screen(stage, kind.Name), Kind(kind)
@@ -55,26 +38,17 @@ LinesScreen::LinesScreen(Stage& stage, const LinesKind& kind) : Screen(stage, ki
     MakeStrategyPage();
 
     auto* content = new QWidget(this);
-    auto* column = new QVBoxLayout(content);
-    column->setContentsMargins(Margin, Margin, Margin, Margin);
-    column->setSpacing(Gap);
+    QVBoxLayout* column = MakePage(content);
     column->addWidget(MakeHeader());
-    auto* days = MakeRow();
     auto* caption = new MutedLabel("Da&y", content);
     caption->setBuddy(vscDay);
-    days->addWidget(caption);
+    QHBoxLayout* days = MakeRow({caption});
     days->addWidget(vscDay, 1);
     column->addLayout(days);
-    auto* body = new QHBoxLayout;
-    body->setSpacing(Margin);
-    body->addWidget(MakePeopleColumn());
+    QHBoxLayout* body = MakeRow({MakePeopleColumn()}, Margin);
     body->addWidget(MakeLinesColumn(), 1);
     column->addLayout(body, 1);
-    Commands = MakeRow();
-    for (QPushButton* command : {cmdAutoLines, cmdWipeLines, cmdCopy, cmdCopyAll})
-        Commands->addWidget(command);
-    Commands->addStretch(1);
-    Commands->addWidget(cmdExit);
+    Commands = MakeFooter({cmdAutoLines, cmdWipeLines, cmdCopy, cmdCopyAll}, {cmdExit});
     column->addLayout(Commands);
 
     setCentralWidget(content);
@@ -158,11 +132,11 @@ void LinesScreen::MakeStrategyPage()
     row->setContentsMargins(Margin, Gap, Margin, Gap);
     row->addWidget(panel, 1);
     row->addStretch(0);
-    auto* column = MakeColumn(panel);
+    QVBoxLayout* column = MakeColumn(panel);
 
     auto* strategy = new QGroupBox("Strategy", panel);
     auto* points = new QGridLayout(strategy);
-    points->setContentsMargins(Margin, Gap, Margin, Margin);
+    SetGroupMargins(points);
     points->setSpacing(Gap);
     points->setColumnStretch(1, 1);
     const char* styles[] = {"Physical Style : ", "Defense Style : ", "Offense Style : "};
@@ -197,7 +171,7 @@ void LinesScreen::MakeStrategyPage()
     txtPullGoalerMinPct = MakeBox("txtPullGoalerMinPct", [this] { txtPullGoalerMinPct_LostFocus(); });
     auto* pull = new QGroupBox("Goalie Pull", panel);
     auto* boxes = new QGridLayout(pull);
-    boxes->setContentsMargins(Margin, Gap, Margin, Margin);
+    SetGroupMargins(boxes);
     boxes->setSpacing(Gap);
     boxes->setColumnStretch(0, 1);
     const std::pair<EditBox*, const char*> captioned[] = {{txtPullGoalerMinGoal, "Minimum # of Goals :"},
@@ -220,16 +194,11 @@ QWidget* LinesScreen::MakeHeader()
     auto* row = new QHBoxLayout(header);
     row->setContentsMargins(0, 0, 0, 0);
     row->setSpacing(Margin);
-    auto* left = MakeColumn(nullptr);
-    auto* title = MakeRow();
-    title->setSpacing(Margin);
-    title->addWidget(lblTeamName);
+    QVBoxLayout* left = MakeColumn({});
+    QHBoxLayout* title = MakeRow({lblTeamName}, Margin);
     title->addStretch(1);
     left->addLayout(title);
-    auto* verdict = MakeRow();
-    verdict->setSpacing(Margin);
-    verdict->addWidget(lblComplete);
-    verdict->addWidget(cmdDebug);
+    QHBoxLayout* verdict = MakeRow({lblComplete, cmdDebug}, Margin);
     verdict->addStretch(1);
     verdict->addWidget(lblGame);
     left->addLayout(verdict);
@@ -242,9 +211,8 @@ QWidget* LinesScreen::MakePeopleColumn()
 {
     auto* panel = new QWidget(this);
     panel->setFixedWidth(PeopleColumnWidth);
-    auto* column = MakeColumn(panel);
-    auto* filters = MakeRow();
-    filters->addWidget(new MutedLabel("Show : ", panel));
+    QVBoxLayout* column = MakeColumn(panel);
+    QHBoxLayout* filters = MakeRow({new MutedLabel("Show : ", panel)});
     for (QCheckBox* filter : chkPosition)
         filters->addWidget(filter);
     filters->addStretch(1);
@@ -257,10 +225,9 @@ QWidget* LinesScreen::MakePeopleColumn()
 QWidget* LinesScreen::MakeLinesColumn()
 {
     auto* panel = new QWidget(this);
-    auto* column = MakeColumn(panel);
+    QVBoxLayout* column = MakeColumn(panel);
     column->addWidget(TabLine, 1);
-    auto* playing = MakeRow();
-    playing->addWidget(new MutedLabel("Playing the Following Lines : ", panel));
+    QHBoxLayout* playing = MakeRow({new MutedLabel("Playing the Following Lines : ", panel)});
     playing->addWidget(lblPlaying, 1);
     column->addLayout(playing);
     return panel;
@@ -276,8 +243,7 @@ void LinesScreen::SetTabOrder()
         order << bar;
     order << txtPullGoalerMinGoal << txtPullGoalerMinPct << cmdDebug << txtReasons << cmdAutoLines << cmdWipeLines
           << cmdCopy << cmdCopyAll << cmdExit;
-    for (qsizetype i = 1; i < order.size(); ++i)
-        setTabOrder(order[i - 1], order[i]);
+    ChainTabs(order);
 }
 
 bool LinesScreen::eventFilter(QObject* watched, QEvent* event)

@@ -49,7 +49,6 @@ public:
 private:
     void MakeControls();
     QWidget* MakeListColumn(QLabel* heading, EntryList* list);
-    QWidget* MakeCommandColumn(std::initializer_list<QPushButton*> commands);
     void SetTabOrder();
 
     void ListFreeAgents();

@@ -1,9 +1,6 @@
 #include "screens/frmDraft.h"
 #include "screens/panels/Labels.h"
-#include "screens/panels/Shades.h"
-
-#include <QHBoxLayout>
-#include <QVBoxLayout>
+#include "screens/panels/Layouts.h"
 
 // What the draft screen is made of and where it stands.
 namespace dravik {
@@ -21,13 +18,9 @@ frmDraft::frmDraft(Stage& stage) : Screen(stage, "frmDraft")
     MakeControls();
 
     auto* content = new QWidget(this);
-    auto* column = new QVBoxLayout(content);
-    column->setContentsMargins(Margin, Margin, Margin, Margin);
-    column->setSpacing(Gap);
+    QVBoxLayout* column = MakePage(content);
 
-    auto* header = new QHBoxLayout;
-    header->setSpacing(Gap);
-    header->addWidget(lblTeam);
+    QHBoxLayout* header = MakeRow({lblTeam});
     header->addStretch(1);
     header->addWidget(new MutedLabel("Show : ", content));
     for (QCheckBox* filter : chkPosition)
@@ -36,22 +29,15 @@ frmDraft::frmDraft(Stage& stage) : Screen(stage, "frmDraft")
     column->addSpacing(Gap);
 
     QLabel* players = MakeHeading("Players", content);
-    auto* lists = new QHBoxLayout;
-    lists->setSpacing(Gap);
+    QHBoxLayout* lists = MakeRow({});
     lists->addWidget(MakeListColumn(players, lstPlayers), 1);
-    lists->addWidget(MakeCommandColumn({cmdChoose, cmdRemove}));
+    lists->addWidget(MakeCommandColumn({cmdChoose, cmdRemove}, content));
     lists->addWidget(MakeListColumn(lblTotal, lstDraftList), 1);
-    lists->addWidget(MakeCommandColumn({cmdUp, cmdDown}));
+    lists->addWidget(MakeCommandColumn({cmdUp, cmdDown}, content));
     column->addLayout(lists, 1);
     column->addSpacing(Gap);
 
-    auto* footer = new QHBoxLayout;
-    footer->setSpacing(Gap);
-    footer->addWidget(cmdSearch);
-    footer->addStretch(1);
-    footer->addWidget(cmdSaveToFile);
-    footer->addWidget(cmdExit);
-    column->addLayout(footer);
+    column->addLayout(MakeFooter({cmdSearch}, {cmdSaveToFile, cmdExit}));
 
     setCentralWidget(content);
     SetTabOrder();
@@ -108,25 +94,10 @@ void frmDraft::MakeControls()
 QWidget* frmDraft::MakeListColumn(QLabel* heading, EntryList* list)
 {
     auto* panel = new QWidget(this);
-    auto* column = new QVBoxLayout(panel);
-    column->setContentsMargins(0, 0, 0, 0);
-    column->setSpacing(Gap / 2);
+    QVBoxLayout* column = MakeColumn(panel, Gap / 2);
     list->setMinimumWidth(LeastListWidth);
     column->addWidget(heading);
     column->addWidget(list, 1);
-    return panel;
-}
-
-QWidget* frmDraft::MakeCommandColumn(std::initializer_list<QPushButton*> commands)
-{
-    auto* panel = new QWidget(this);
-    auto* column = new QVBoxLayout(panel);
-    column->setContentsMargins(0, 0, 0, 0);
-    column->setSpacing(Gap);
-    column->addStretch(1);
-    for (QPushButton* command : commands)
-        column->addWidget(command);
-    column->addStretch(1);
     return panel;
 }
 
@@ -136,8 +107,7 @@ void frmDraft::SetTabOrder()
     for (QCheckBox* filter : chkPosition)
         order << filter;
     order << cmdSearch << cmdSaveToFile << cmdExit;
-    for (qsizetype i = 1; i < order.size(); ++i)
-        setTabOrder(order[i - 1], order[i]);
+    ChainTabs(order);
 }
 
 } // namespace dravik

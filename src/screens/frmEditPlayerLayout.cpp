@@ -1,16 +1,13 @@
 #include "screens/ElementName.h"
 #include "screens/frmEditPlayer.h"
 #include "screens/panels/Labels.h"
-#include "screens/panels/Shades.h"
+#include "screens/panels/Layouts.h"
 
 #include <algorithm>
 #include <QEvent>
-#include <QGridLayout>
 #include <QGroupBox>
-#include <QHBoxLayout>
 #include <QMetaObject>
 #include <QScrollArea>
-#include <QVBoxLayout>
 
 // What the player viewer is made of and where it stands.
 namespace dravik {
@@ -22,20 +19,6 @@ constexpr int MostListRows = 8;
 constexpr const char* LongestCaption = "Suspension :";
 constexpr const char* WidestAmount = "-2147483648";
 constexpr const char* WidestNumber = "-999999";
-constexpr int CaptionColumn = 0;
-constexpr int FieldColumn = 1;
-
-QGridLayout* MakeGrid(QGroupBox* group)
-{
-    auto* grid = new QGridLayout(group);
-    grid->setContentsMargins(Margin, Gap, Margin, Margin);
-    grid->setHorizontalSpacing(Margin);
-    grid->setVerticalSpacing(Gap);
-    grid->setColumnStretch(FieldColumn, 1);
-    // One edge for the fields of all groups.
-    grid->setColumnMinimumWidth(CaptionColumn, group->fontMetrics().horizontalAdvance(LongestCaption));
-    return grid;
-}
 
 // Puts a caption and what it names into the next row of a grid.
 void AddRow(QGridLayout* grid, const QString& caption, QWidget* field)
@@ -57,15 +40,6 @@ void AddBelow(QGridLayout* grid, std::initializer_list<QWidget*> widgets)
         grid->addWidget(widget, grid->rowCount(), FieldColumn, Qt::AlignLeft);
 }
 
-QVBoxLayout* InAColumn(std::initializer_list<QWidget*> widgets)
-{
-    auto* column = new QVBoxLayout;
-    column->setSpacing(Margin);
-    for (QWidget* widget : widgets)
-        column->addWidget(widget);
-    return column;
-}
-
 } // namespace
 
 frmEditPlayer::frmEditPlayer(Stage& stage) : Screen(stage, "frmEditPlayer")
@@ -75,34 +49,18 @@ frmEditPlayer::frmEditPlayer(Stage& stage) : Screen(stage, "frmEditPlayer")
     MakeCommands();
 
     auto* content = new QWidget(this);
-    auto* column = new QVBoxLayout(content);
-    column->setContentsMargins(Margin, Margin, Margin, Margin);
-    column->setSpacing(Margin);
+    QVBoxLayout* column = MakePage(content, Margin);
     column->addWidget(lstPlayer);
 
-    auto* body = new QHBoxLayout;
-    body->setSpacing(Margin);
-    body->addLayout(InAColumn({MakeIdentityGroup()}), 1);
-    body->addLayout(InAColumn({MakeContractGroup(), MakeConditionGroup()}), 1);
-    body->addLayout(InAColumn({MakeStatsGroup()}), 1);
+    QHBoxLayout* body = MakeRow({}, Margin);
+    body->addLayout(MakeColumn({MakeIdentityGroup()}, Margin), 1);
+    body->addLayout(MakeColumn({MakeContractGroup(), MakeConditionGroup()}, Margin), 1);
+    body->addLayout(MakeColumn({MakeStatsGroup()}, Margin), 1);
     column->addLayout(body);
     column->addStretch(1);
 
-    auto* footer = new QHBoxLayout;
-    footer->setSpacing(Gap);
-    footer->addWidget(chkEdit);
-    for (QPushButton* command : {cmdSearch, cmdNewPlayer, cmdNewGoaler, cmdErase})
-        footer->addWidget(command);
-    footer->addStretch(1);
-    footer->addWidget(cmdExit);
-    column->addLayout(footer);
-
-    auto* area = new QScrollArea(this);
-    area->setFrameShape(QFrame::NoFrame);
-    area->setWidgetResizable(true);
-    area->setFocusPolicy(Qt::NoFocus);
-    area->setWidget(content);
-    setCentralWidget(area);
+    column->addLayout(MakeFooter({chkEdit, cmdSearch, cmdNewPlayer, cmdNewGoaler, cmdErase}, {cmdExit}));
+    setCentralWidget(MakeScrollable(content, this));
 
     optGoaler->hide();
     FitList();
@@ -199,7 +157,7 @@ void frmEditPlayer::MakeCommands()
 QWidget* frmEditPlayer::MakeIdentityGroup()
 {
     auto* group = new QGroupBox("Player", this);
-    QGridLayout* grid = MakeGrid(group);
+    QGridLayout* grid = MakeFieldGrid(group, LongestCaption);
     AddRow(grid, "Name : ", txtName);
     AddRow(grid, "Team : ", txtTeam);
     AddRow(grid, "Country :", txtCountry);
@@ -223,7 +181,7 @@ QWidget* frmEditPlayer::MakeIdentityGroup()
 QWidget* frmEditPlayer::MakeContractGroup()
 {
     auto* group = new QGroupBox("Contract", this);
-    QGridLayout* grid = MakeGrid(group);
+    QGridLayout* grid = MakeFieldGrid(group, LongestCaption);
     AddRow(grid, "Contract :", txtContract);
     AddRow(grid, "Salary :", txtSalary);
     AddBelow(grid, {chkNoTrade, chkNoApplyRerate});
@@ -233,7 +191,7 @@ QWidget* frmEditPlayer::MakeContractGroup()
 QWidget* frmEditPlayer::MakeConditionGroup()
 {
     auto* group = new QGroupBox("Condition", this);
-    QGridLayout* grid = MakeGrid(group);
+    QGridLayout* grid = MakeFieldGrid(group, LongestCaption);
     AddRow(grid, "Condition :", txtCondition);
     AddRow(grid, "Injury :", txtInjury);
     AddRow(grid, "Suspension :", txtSuspension);
@@ -246,7 +204,7 @@ QWidget* frmEditPlayer::MakeStatsGroup()
     RatingRows::Numbers numbers;
     std::copy(txtStats.begin(), txtStats.end(), numbers.begin());
     ratings = new RatingRows(group, numbers);
-    ratings->setContentsMargins(Margin, Gap, Margin, Margin);
+    SetGroupMargins(ratings);
     group->setLayout(ratings);
     lblStatLabel = ratings->Captions;
     return group;

@@ -1,11 +1,8 @@
 #include "screens/frmFreeAgentClient.h"
 #include "screens/panels/Labels.h"
-#include "screens/panels/Shades.h"
+#include "screens/panels/Layouts.h"
 
-#include <QGridLayout>
 #include <QGroupBox>
-#include <QHBoxLayout>
-#include <QVBoxLayout>
 
 // What the screen of the offers is made of and where it stands.
 namespace dravik {
@@ -30,26 +27,17 @@ frmFreeAgentClient::frmFreeAgentClient(Stage& stage) : Screen(stage, "frmFreeAge
     MakeControls();
 
     auto* content = new QWidget(this);
-    auto* column = new QVBoxLayout(content);
-    column->setContentsMargins(Margin, Margin, Margin, Margin);
-    column->setSpacing(Gap);
+    QVBoxLayout* column = MakePage(content);
     column->addWidget(lblTeam);
     column->addWidget(lblInfo);
 
-    auto* middle = new QHBoxLayout;
-    middle->setSpacing(Margin);
+    QHBoxLayout* middle = MakeRow({}, Margin);
     middle->addWidget(MakeListColumn(), 1);
     middle->addWidget(MakePersonColumn());
     column->addLayout(middle, 1);
     column->addLayout(MakeLimitRow());
 
-    auto* footer = new QHBoxLayout;
-    footer->setSpacing(Gap);
-    footer->addWidget(cmdSearch);
-    footer->addStretch(1);
-    footer->addWidget(cmdSaveToFile);
-    footer->addWidget(cmdExit);
-    column->addLayout(footer);
+    column->addLayout(MakeFooter({cmdSearch}, {cmdSaveToFile, cmdExit}));
 
     setCentralWidget(content);
     SetTabOrder();
@@ -122,9 +110,7 @@ EditBox* frmFreeAgentClient::MakeFigure(const char* name, const QString& accessi
 QWidget* frmFreeAgentClient::MakeListColumn()
 {
     auto* panel = new QWidget(this);
-    auto* column = new QVBoxLayout(panel);
-    column->setContentsMargins(0, 0, 0, 0);
-    column->setSpacing(Gap / 2);
+    QVBoxLayout* column = MakeColumn(panel, Gap / 2);
     auto* heading = new QHBoxLayout;
     heading->addWidget(lblPlayer);
     heading->addStretch(1);
@@ -138,13 +124,9 @@ QWidget* frmFreeAgentClient::MakePersonColumn()
 {
     auto* panel = new QWidget(this);
     panel->setFixedWidth(PersonColumnWidth);
-    auto* column = new QVBoxLayout(panel);
-    column->setContentsMargins(0, 0, 0, 0);
-    column->setSpacing(Gap);
+    QVBoxLayout* column = MakeColumn(panel);
     column->addWidget(Stats);
-    auto* facts = new QHBoxLayout;
-    facts->setSpacing(Gap);
-    facts->addWidget(lblStatus);
+    QHBoxLayout* facts = MakeRow({lblStatus});
     facts->addStretch(1);
     facts->addWidget(new MutedLabel("Age", panel));
     facts->addWidget(txtAge);
@@ -163,9 +145,8 @@ QWidget* frmFreeAgentClient::MakeOfferGroup()
 {
     auto* group = new QGroupBox("Offer", this);
     auto* grid = new QGridLayout(group);
-    grid->setContentsMargins(Margin, Gap, Margin, Margin);
-    grid->setHorizontalSpacing(Gap);
-    grid->setVerticalSpacing(Gap);
+    SetGroupMargins(grid);
+    grid->setSpacing(Gap);
     int row = 0;
     const auto add = [&](const char* caption, QWidget* box) {
         auto* label = new MutedLabel(caption, group);
@@ -187,10 +168,7 @@ QWidget* frmFreeAgentClient::MakeOfferGroup()
 
 QLayout* frmFreeAgentClient::MakeLimitRow()
 {
-    auto* row = new QHBoxLayout;
-    row->setSpacing(2 * Margin);
-    row->addWidget(lblMaxOffer);
-    row->addWidget(lblOffersMade);
+    QHBoxLayout* row = MakeRow({lblMaxOffer, lblOffersMade}, 2 * Margin);
     row->addStretch(1);
     row->addWidget(lblOffersCost);
     return row;
@@ -200,8 +178,7 @@ void frmFreeAgentClient::SetTabOrder()
 {
     const QList<QWidget*> order{lstPlayers, txtOffer,      txtDuration, txtBonus, txtComment, chkShowPlayerWithOffer,
                                 cmdSearch,  cmdSaveToFile, cmdExit};
-    for (qsizetype i = 1; i < order.size(); ++i)
-        setTabOrder(order[i - 1], order[i]);
+    ChainTabs(order);
     lstPlayers->setFocus();
 }
 

@@ -10,13 +10,11 @@
 #include "rules/Function.h"
 #include "screens/ElementName.h"
 #include "screens/panels/Labels.h"
-#include "screens/panels/Shades.h"
+#include "screens/panels/Layouts.h"
 #include "screens/platform/CodePage.h"
 #include "screens/Stage.h"
 
-#include <QHBoxLayout>
 #include <QMenuBar>
-#include <QVBoxLayout>
 
 namespace dravik {
 
@@ -45,9 +43,7 @@ frmMain::frmMain(Stage& stage) : Screen(stage, "frmMain")
     MakeMenus();
 
     auto* content = new QWidget(this);
-    auto* column = new QVBoxLayout(content);
-    column->setContentsMargins(Margin, Margin, Margin, Margin);
-    column->setSpacing(Gap);
+    QVBoxLayout* column = MakePage(content);
 
     lblTitle = MakeTitle(content);
     lblTitle->setObjectName("lblTitle");
@@ -135,14 +131,11 @@ QAction* frmMain::MakeItem(QMenu* menu, const char* name, const QString& caption
 QWidget* frmMain::MakeConference(int conference)
 {
     auto* panel = new QWidget(this);
-    auto* rows = new QVBoxLayout(panel);
-    rows->setContentsMargins(0, 0, 0, 0);
-    rows->setSpacing(Gap / 2);
+    QVBoxLayout* rows = MakeColumn(panel, Gap / 2);
     lblConference[conference] = MakeHeading({}, panel);
     lblConference[conference]->setObjectName(ElementName("lblConference", conference));
     rows->addWidget(lblConference[conference]);
-    auto* divisions = new QHBoxLayout;
-    divisions->setSpacing(Gap);
+    QHBoxLayout* divisions = MakeRow({});
     rows->addLayout(divisions, 1);
     const int first = (conference - 1) * DivisionsOfConference + 1;
     for (int division = first; division < first + DivisionsOfConference; ++division) {
@@ -152,9 +145,7 @@ QWidget* frmMain::MakeConference(int conference)
         lstDivision[division] = new EntryList(panel);
         lstDivision[division]->setObjectName(ElementName("lstDivision", division));
         lstDivision[division]->setMinimumWidth(LeastListWidth);
-        auto* column = new QVBoxLayout;
-        column->setSpacing(Gap / 2);
-        column->addWidget(lblDivision[division]);
+        QVBoxLayout* column = MakeColumn({lblDivision[division]}, Gap / 2);
         column->addWidget(lstDivision[division], 1);
         divisions->addLayout(column);
 
@@ -175,22 +166,18 @@ QWidget* frmMain::MakeConference(int conference)
 QWidget* frmMain::MakeTeamBar()
 {
     auto* bar = new QWidget(this);
-    auto* column = new QVBoxLayout(bar);
+    QVBoxLayout* column = MakeColumn(bar);
     column->setContentsMargins(0, Gap, 0, 0);
-    column->setSpacing(Gap);
     lblChosen = MakeHeading({}, bar);
     lblChosen->setObjectName("lblChosen");
     lblChosenPlace = new MutedLabel(bar);
     lblChosenPlace->setObjectName("lblChosenPlace");
     lblChosenPlace->setTextFormat(Qt::PlainText);
-    auto* names = new QHBoxLayout;
-    names->setSpacing(Gap);
-    names->addWidget(lblChosen);
+    QHBoxLayout* names = MakeRow({lblChosen});
     names->addWidget(lblChosenPlace, 1);
     column->addLayout(names);
 
-    auto* commands = new QHBoxLayout;
-    commands->setSpacing(Gap);
+    QHBoxLayout* commands = MakeRow({});
     for (QAction* action : {mnuViewTeam, mnuSetRoster, mnuSetLines, mnuSetFarmLines, mnuFreeAgents, mnuDraft})
         commands->addWidget(MakeShortcut(action));
     commands->addStretch(1);

@@ -80,7 +80,6 @@ private:
     PickList* MakeList(int index, const QString& caption);
     QCheckBox* MakeFlag(const char* name, const QString& caption, void (frmRoster::*click)());
     QWidget* MakeListColumn(int index);
-    QWidget* MakeMoves(QWidget* there, QWidget* back);
     QWidget* MakePersonColumn();
     void SetTabOrder();
 

@@ -1,10 +1,7 @@
 #include "screens/ElementName.h"
 #include "screens/frmRoster.h"
 #include "screens/panels/Labels.h"
-#include "screens/panels/Shades.h"
-
-#include <QHBoxLayout>
-#include <QVBoxLayout>
+#include "screens/panels/Layouts.h"
 
 // What the roster screen is made of and where it stands.
 namespace dravik {
@@ -22,14 +19,9 @@ frmRoster::frmRoster(Stage& stage) : Screen(stage, "frmRoster")
     MakeControls();
 
     auto* content = new QWidget(this);
-    auto* column = new QVBoxLayout(content);
-    column->setContentsMargins(Margin, Margin, Margin, Margin);
-    column->setSpacing(Gap);
+    QVBoxLayout* column = MakePage(content);
 
-    auto* header = new QHBoxLayout;
-    header->setSpacing(Margin);
-    header->addWidget(lblTeamName);
-    header->addWidget(lblComplete);
+    QHBoxLayout* header = MakeRow({lblTeamName, lblComplete}, Margin);
     header->addStretch(1);
     header->addWidget(new MutedLabel("Show : ", content));
     for (QCheckBox* filter : chkPosition)
@@ -37,25 +29,18 @@ frmRoster::frmRoster(Stage& stage) : Screen(stage, "frmRoster")
     column->addLayout(header);
     column->addWidget(txtReasons);
 
-    auto* lists = new QHBoxLayout;
-    lists->setSpacing(Gap);
+    QHBoxLayout* lists = MakeRow({});
     lists->addWidget(MakeListColumn(2), 1);
-    lists->addWidget(MakeMoves(cmdToScratchesFromPro, cmdToPro));
+    lists->addWidget(MakeCommandColumn({cmdToScratchesFromPro, cmdToPro}, content));
     lists->addWidget(MakeListColumn(1), 1);
-    lists->addWidget(MakeMoves(cmdToFarm, cmdToScratchesFromFarm));
+    lists->addWidget(MakeCommandColumn({cmdToFarm, cmdToScratchesFromFarm}, content));
     lists->addWidget(MakeListColumn(0), 1);
     lists->addSpacing(Gap);
     lists->addWidget(MakePersonColumn());
     column->addLayout(lists, 1);
     column->addWidget(Payroll);
 
-    auto* footer = new QHBoxLayout;
-    footer->setSpacing(Gap);
-    footer->addWidget(cmdAutoRoster);
-    footer->addWidget(cmdAutoRosterPartial);
-    footer->addStretch(1);
-    footer->addWidget(cmdExit);
-    column->addLayout(footer);
+    column->addLayout(MakeFooter({cmdAutoRoster, cmdAutoRosterPartial}, {cmdExit}));
 
     setCentralWidget(content);
     SetTabOrder();
@@ -143,24 +128,9 @@ QCheckBox* frmRoster::MakeFlag(const char* name, const QString& caption, void (f
 QWidget* frmRoster::MakeListColumn(int index)
 {
     auto* panel = new QWidget(this);
-    auto* column = new QVBoxLayout(panel);
-    column->setContentsMargins(0, 0, 0, 0);
-    column->setSpacing(Gap / 2);
+    QVBoxLayout* column = MakeColumn(panel, Gap / 2);
     column->addWidget(lblPlayer[index]);
     column->addWidget(lstPlayer[index], 1);
-    return panel;
-}
-
-QWidget* frmRoster::MakeMoves(QWidget* there, QWidget* back)
-{
-    auto* panel = new QWidget(this);
-    auto* column = new QVBoxLayout(panel);
-    column->setContentsMargins(0, 0, 0, 0);
-    column->setSpacing(Gap);
-    column->addStretch(1);
-    column->addWidget(there);
-    column->addWidget(back);
-    column->addStretch(1);
     return panel;
 }
 
@@ -168,9 +138,7 @@ QWidget* frmRoster::MakePersonColumn()
 {
     auto* panel = new QWidget(this);
     panel->setFixedWidth(PersonColumnWidth);
-    auto* column = new QVBoxLayout(panel);
-    column->setContentsMargins(0, 0, 0, 0);
-    column->setSpacing(Gap);
+    QVBoxLayout* column = MakeColumn(panel);
     column->addWidget(Stats);
     auto* commands = new QGridLayout;
     commands->setSpacing(Gap);
@@ -212,8 +180,7 @@ void frmRoster::SetTabOrder()
                                 cmdAutoRoster,
                                 cmdAutoRosterPartial,
                                 cmdExit};
-    for (qsizetype i = 1; i < order.size(); ++i)
-        setTabOrder(order[i - 1], order[i]);
+    ChainTabs(order);
 }
 
 } // namespace dravik

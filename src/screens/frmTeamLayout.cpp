@@ -1,11 +1,9 @@
 #include "screens/frmTeam.h"
 #include "screens/panels/Labels.h"
-#include "screens/panels/Shades.h"
+#include "screens/panels/Layouts.h"
 
 #include <QGroupBox>
-#include <QHBoxLayout>
 #include <QScrollArea>
-#include <QVBoxLayout>
 
 // What the team screen is made of and where it stands.
 namespace dravik {
@@ -14,35 +12,12 @@ namespace {
 
 constexpr QSize DefaultSize(1080, 700);
 constexpr const char* LongestCaption = "General Manager";
-constexpr int CaptionColumn = 0;
-constexpr int FieldColumn = 1;
-
-QHBoxLayout* InARow(std::initializer_list<QWidget*> widgets)
-{
-    auto* row = new QHBoxLayout;
-    row->setSpacing(Gap);
-    for (QWidget* widget : widgets)
-        row->addWidget(widget);
-    return row;
-}
 
 QGroupBox* MakeGroup(const char* name, const QString& caption, QWidget* parent)
 {
     auto* group = new QGroupBox(caption, parent);
     group->setObjectName(name);
     return group;
-}
-
-QGridLayout* MakeGrid(QGroupBox* group)
-{
-    auto* grid = new QGridLayout(group);
-    grid->setContentsMargins(Margin, Gap, Margin, Margin);
-    grid->setHorizontalSpacing(Margin);
-    grid->setVerticalSpacing(Gap);
-    grid->setColumnStretch(FieldColumn, 1);
-    // One edge for the fields of all groups.
-    grid->setColumnMinimumWidth(CaptionColumn, group->fontMetrics().horizontalAdvance(LongestCaption));
-    return grid;
 }
 
 QFrame* MakeRule(QWidget* parent)
@@ -61,25 +36,15 @@ frmTeam::frmTeam(Stage& stage) : Screen(stage, "frmTeam")
     MakeControls();
 
     auto* content = new QWidget(this);
-    auto* column = new QVBoxLayout(content);
-    column->setContentsMargins(Margin, Margin, Margin, Margin);
-    column->setSpacing(Margin);
+    QVBoxLayout* column = MakePage(content, Margin);
 
-    auto* header = InARow({lblTitle, lblDivision, lblConference});
-    header->setSpacing(Margin);
+    QHBoxLayout* header = MakeRow({lblTitle, lblDivision, lblConference}, Margin);
     header->addStretch(1);
     column->addLayout(header);
 
-    auto* identity = new QVBoxLayout;
-    identity->setSpacing(Margin);
-    identity->addWidget(MakeProGroup());
-    identity->addWidget(MakeFarmGroup());
-    identity->addWidget(MakeContactGroup());
+    QVBoxLayout* identity = MakeColumn({MakeProGroup(), MakeFarmGroup(), MakeContactGroup()}, Margin);
     identity->addStretch(1);
-    auto* money = new QVBoxLayout;
-    money->setSpacing(Margin);
-    money->addWidget(MakeFinanceGroup());
-    money->addWidget(MakeProjectionGroup());
+    QVBoxLayout* money = MakeColumn({MakeFinanceGroup(), MakeProjectionGroup()}, Margin);
     money->addStretch(1);
     auto* grid = new QGridLayout;
     grid->setSpacing(Margin);
@@ -92,17 +57,8 @@ frmTeam::frmTeam(Stage& stage) : Screen(stage, "frmTeam")
     grid->setRowStretch(1, 1);
     column->addLayout(grid, 1);
 
-    auto* footer = InARow({cmdPassword, cmdProspect});
-    footer->addStretch(1);
-    footer->addWidget(cmdExit);
-    column->addLayout(footer);
-
-    auto* area = new QScrollArea(this);
-    area->setFrameShape(QFrame::NoFrame);
-    area->setWidgetResizable(true);
-    area->setFocusPolicy(Qt::NoFocus);
-    area->setWidget(content);
-    setCentralWidget(area);
+    column->addLayout(MakeFooter({cmdPassword, cmdProspect}, {cmdExit}));
+    setCentralWidget(MakeScrollable(content, this));
 
     CloseWhatTheLeagueKeeps();
     SetTabOrder();
@@ -205,7 +161,7 @@ QWidget* frmTeam::MakeCommandGroup()
 {
     auto* group = MakeGroup("grpTeam", "Team", this);
     auto* commands = new QHBoxLayout(group);
-    commands->setContentsMargins(Margin, Gap, Margin, Margin);
+    SetGroupMargins(commands);
     commands->setSpacing(Gap);
     // The way of every evening: as large as the room allows.
     for (QPushButton* command : {CmdRoster, cmdLines, cmdFarmLines, cmdTicketArena}) {
@@ -218,18 +174,13 @@ QWidget* frmTeam::MakeCommandGroup()
 QWidget* frmTeam::MakeFileGroup()
 {
     auto* group = MakeGroup("grpLinesFile", "Lines File", this);
-    auto* column = new QVBoxLayout(group);
-    column->setContentsMargins(Margin, Gap, Margin, Margin);
-    column->setSpacing(Gap);
+    QVBoxLayout* column = MakeColumn(group);
+    SetGroupMargins(column);
     auto* loads = new MutedLabel("Times Loaded", group);
     loads->setObjectName("lblLoadLineCaption");
     loads->setBuddy(lblLoadLine);
-    auto* commands = InARow({cmdSaveToFile, cmdLoadFile});
-    commands->addStretch(1);
-    commands->addWidget(loads);
-    commands->addWidget(lblLoadLine);
-    column->addLayout(commands);
-    auto* hint = InARow({signSaveHint, lblSaveHint});
+    column->addLayout(MakeFooter({cmdSaveToFile, cmdLoadFile}, {loads, lblLoadLine}));
+    QHBoxLayout* hint = MakeRow({signSaveHint, lblSaveHint});
     hint->setStretch(1, 1);
     column->addLayout(hint);
     column->addStretch(1);
@@ -239,35 +190,35 @@ QWidget* frmTeam::MakeFileGroup()
 QWidget* frmTeam::MakeProGroup()
 {
     auto* group = MakeGroup("grpPro", "Pro Team", this);
-    QGridLayout* grid = MakeGrid(group);
+    QGridLayout* grid = MakeFieldGrid(group, LongestCaption);
     AddRow(grid, "Name", txtTeamName);
     AddRow(grid, "City", txtCity);
     AddRow(grid, "Abbreviation", txtAbbre);
     AddRow(grid, "General Manager", txtGm);
     AddRow(grid, "Morale", txtProMorale);
     AddRow(grid, "Coach", lblCoach);
-    grid->addLayout(InARow({cmdChangeCoach, cmdFirePro}), grid->rowCount(), FieldColumn, Qt::AlignLeft);
+    grid->addLayout(MakeRow({cmdChangeCoach, cmdFirePro}), grid->rowCount(), FieldColumn, Qt::AlignLeft);
     return group;
 }
 
 QWidget* frmTeam::MakeFarmGroup()
 {
     auto* group = MakeGroup("grpFarm", "Farm Team", this);
-    QGridLayout* grid = MakeGrid(group);
+    QGridLayout* grid = MakeFieldGrid(group, LongestCaption);
     AddRow(grid, "Name", txtFarmTeamName);
     AddRow(grid, "Abbreviation", txtFarmAbbre);
     AddRow(grid, "Morale", txtFarmMorale);
     AddRow(grid, "Coach", lblFarmCoach);
     for (EditBox* box : {txtFarmTeamName, txtFarmAbbre, txtFarmMorale})
         box->setAccessibleName("Farm: " + box->accessibleName());
-    grid->addLayout(InARow({cmdFarmChangeCoach, cmdFireFarm}), grid->rowCount(), FieldColumn, Qt::AlignLeft);
+    grid->addLayout(MakeRow({cmdFarmChangeCoach, cmdFireFarm}), grid->rowCount(), FieldColumn, Qt::AlignLeft);
     return group;
 }
 
 QWidget* frmTeam::MakeContactGroup()
 {
     auto* group = MakeGroup("grpContact", "Contact", this);
-    QGridLayout* grid = MakeGrid(group);
+    QGridLayout* grid = MakeFieldGrid(group, LongestCaption);
     AddRow(grid, "&Messenger", txtMessenger);
     AddRow(grid, "&E-mail", txtEmail);
     return group;
@@ -276,18 +227,18 @@ QWidget* frmTeam::MakeContactGroup()
 QWidget* frmTeam::MakeFinanceGroup()
 {
     auto* group = MakeGroup("grpFinance", "Finances", this);
-    QGridLayout* grid = MakeGrid(group);
+    QGridLayout* grid = MakeFieldGrid(group, LongestCaption);
     AddRow(grid, "Bank Account", lblFinance);
     AddRow(grid, "Pro Payroll", lblProPayRoll);
     AddRow(grid, "Farm Payroll", lblFarmPayRoll);
-    grid->addLayout(InARow({cmdChangeFinance, cmdPayrollBonus}), grid->rowCount(), FieldColumn, Qt::AlignRight);
+    grid->addLayout(MakeRow({cmdChangeFinance, cmdPayrollBonus}), grid->rowCount(), FieldColumn, Qt::AlignRight);
     return group;
 }
 
 QWidget* frmTeam::MakeProjectionGroup()
 {
     auto* group = MakeGroup("grpProjection", "Season Projection", this);
-    QGridLayout* grid = MakeGrid(group);
+    QGridLayout* grid = MakeFieldGrid(group, LongestCaption);
     AddRow(grid, "Home Games Left", lblHGLeft);
     AddRow(grid, "Average Attendance", lblAverageAttendance);
     AddRow(grid, "Average Income", lblAverageIncome);
@@ -309,8 +260,7 @@ void frmTeam::SetTabOrder()
                                 txtProMorale,     cmdChangeCoach,     cmdFirePro,   txtFarmTeamName, txtFarmAbbre,
                                 txtFarmMorale,    cmdFarmChangeCoach, cmdFireFarm,  txtMessenger,    txtEmail,
                                 cmdChangeFinance, cmdPayrollBonus,    cmdPassword,  cmdProspect,     cmdExit};
-    for (qsizetype i = 1; i < order.size(); ++i)
-        setTabOrder(order[i - 1], order[i]);
+    ChainTabs(order);
 }
 
 } // namespace dravik

@@ -8,13 +8,10 @@
 #include "screens/ElementName.h"
 #include "screens/EventGuard.h"
 #include "screens/panels/Labels.h"
-#include "screens/panels/Shades.h"
+#include "screens/panels/Layouts.h"
 #include "screens/platform/CodePage.h"
 
-#include <QGridLayout>
 #include <QGroupBox>
-#include <QHBoxLayout>
-#include <QVBoxLayout>
 
 namespace dravik {
 
@@ -68,9 +65,7 @@ frmTicket::frmTicket(Stage& stage) : Screen(stage, "frmTicket")
     // On a large window the sheet stays a sheet.
     auto* sheet = new QWidget(this);
     sheet->setMaximumWidth(DefaultSize.width());
-    auto* column = new QVBoxLayout(sheet);
-    column->setContentsMargins(Margin, Margin, Margin, Margin);
-    column->setSpacing(Margin);
+    QVBoxLayout* column = MakePage(sheet, Margin);
     column->addWidget(lblTitle);
     column->addWidget(MakeArenaGroup());
     column->addWidget(cmdExit, 0, Qt::AlignRight);
@@ -93,7 +88,7 @@ QWidget* frmTicket::MakeArenaGroup()
     constexpr int prices = 2;
     auto* group = new QGroupBox("Arena", this);
     auto* grid = new QGridLayout(group);
-    grid->setContentsMargins(Margin, Gap, Margin, Margin);
+    SetGroupMargins(grid);
     grid->setHorizontalSpacing(Margin);
     grid->setVerticalSpacing(Gap);
     grid->setColumnStretch(capacities, 1);
@@ -134,8 +129,7 @@ void frmTicket::SetTabOrder()
         for (EditBox* box : *boxes)
             order << box;
     order << cmdExit;
-    for (qsizetype i = 1; i < order.size(); ++i)
-        setTabOrder(order[i - 1], order[i]);
+    ChainTabs(order);
 }
 
 void frmTicket::FormLoad()
