@@ -5,6 +5,7 @@
 #include "support/RandomLeague.h"
 #include "support/SmallLeague.h"
 
+#include <memory>
 #include <string>
 #include <utility>
 #include <vector>
@@ -12,7 +13,8 @@
 namespace dravik {
 namespace {
 
-// A second reading of the judgement, on a copy of the tables: what it says, what it moves, whom it wipes.
+// A second reading of the judgement, on a copy of the tables: what it says, what it moves, whom it wipes. Too large for a
+// stack, as every whole table is.
 struct PlainJudgement {
     bool Complete = true;
     bool Fixed = false;
@@ -25,9 +27,10 @@ struct PlainJudgement {
     GoalieChangeTable KeeperChanges = RosterChangesGoalie;
 };
 
-PlainJudgement JudgePlainly(int team)
+std::unique_ptr<const PlainJudgement> JudgePlainly(int team)
 {
-    PlainJudgement judgement;
+    auto judged = std::make_unique<PlainJudgement>();
+    PlainJudgement& judgement = *judged;
     const League& l = LeagueData;
     long long dressed[6] = {};
     long long farm[6] = {};
@@ -131,7 +134,7 @@ PlainJudgement JudgePlainly(int team)
         const long long all = skaters + farm[1] + farm[2] + farm[3] + farm[4];
         wrong(all < 36, "Not enough players available in Pro Team and Farm Team", all, 36, " Required.");
     }
-    return judgement;
+    return judged;
 }
 
 class RandomRosterTest : public SmallLeague {
@@ -170,12 +173,13 @@ TEST_F(RandomRosterTest, JudgementsAgreeWithThePlainReading)
             LeagueData.MaxProPlayers = 100;
             LeagueData.MaxDressedGoalies = 10;
         }
-        const PlainJudgement expected = JudgePlainly(1);
+        const auto judged = JudgePlainly(1);
+        const PlainJudgement& expected = *judged;
         const Lines otherLines = Teams[2].ProLines[1];
-        TeamTable wiped = Teams;
+        const auto wiped = std::make_unique<TeamTable>(Teams);
         for (const int id : expected.Wiped)
             WipePlayerFromTeamLines(1, id);
-        std::swap(wiped, Teams); // `wiped` now holds the lines without the moved people
+        std::swap(*wiped, Teams); // `wiped` now holds the lines without the moved people
 
         ASSERT_EQ(CheckRoster(1, false, false, true), expected.Complete) << "round " << round;
         const std::string text = RosterError("Team 1", expected.Lines);
@@ -191,7 +195,7 @@ TEST_F(RandomRosterTest, JudgementsAgreeWithThePlainReading)
         ASSERT_EQ(ImageOf(Goalies), ImageOf(expected.Keepers));
         ASSERT_EQ(ImageOf(RosterChanges), ImageOf(expected.Changes));
         ASSERT_EQ(ImageOf(RosterChangesGoalie), ImageOf(expected.KeeperChanges));
-        ASSERT_EQ(ImageOf(Teams), ImageOf(wiped)) << "round " << round;
+        ASSERT_EQ(ImageOf(Teams), ImageOf(*wiped)) << "round " << round;
         for (const int id : expected.Wiped)
             ASSERT_FALSE(StandsSomewhere(1, id)) << "round " << round;
         completeOnes += expected.Complete;
@@ -206,8 +210,10 @@ TEST_F(RandomRosterTest, NobodyOfAnotherTeamIsEverChanged)
     Dice dice(82);
     for (int round = 0; round < 500; ++round) {
         RollLeague(dice);
-        const PlayerTable players = Players;
-        const GoalieTable goalies = Goalies;
+        const auto skatersBefore = std::make_unique<const PlayerTable>(Players);
+        const auto goaliesBefore = std::make_unique<const GoalieTable>(Goalies);
+        const PlayerTable& players = *skatersBefore;
+        const GoalieTable& goalies = *goaliesBefore;
         const auto second = ImageOf(Teams[2]);
         const auto third = ImageOf(Teams[3]);
         (void)CheckRoster(1, false, true, false);

@@ -6,6 +6,7 @@
 #include <array>
 #include <bit>
 #include <cstddef>
+#include <memory>
 
 namespace dravik {
 namespace {
@@ -259,10 +260,10 @@ TEST_F(WipeLinesTest, WipedPersonStandsNowhereAndAllOthersStayWhereTheyStood)
         const auto team = static_cast<int>(dice.Roll(1, 3));
         const bool isGoalie = dice.Chance(40);
         const auto index = static_cast<int>(isGoalie ? dice.Roll(1, 4) : dice.Roll(1, 15));
-        const TeamTable before = Teams;
+        const auto table = std::make_unique<TeamTable>(Teams);
         WipePlayerFromTeamLines(team, isGoalie ? GoalieOffset + index : index);
 
-        TeamTable expected = before;
+        TeamTable& expected = *table;
         for (int day = 1; day <= 10; ++day)
             for (Lines* lines : {&expected[team].ProLines[day], &expected[team].Farm.FarmLines[day]}) {
                 Words words = WordsOf(*lines);
