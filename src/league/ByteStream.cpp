@@ -18,10 +18,11 @@ Bytes FileSource::Next()
     return Bytes(buffer).first(count);
 }
 
-WholeFile::WholeFile(const std::string& path) : target(path), beside(path + ".part")
+WholeFile::WholeFile(const std::string& path, const std::string& work) :
+    target(path), workPath(work.empty() ? path + ".part" : work)
 {
     buffer.reserve(WriteSize);
-    file = Machine().CreateFile(beside);
+    file = Machine().CreateFile(workPath);
 }
 
 WholeFile::~WholeFile()
@@ -30,7 +31,7 @@ WholeFile::~WholeFile()
         return;
     file.reset();
     try {
-        Machine().DeleteFile(beside);
+        Machine().DeleteFile(workPath);
     } catch (const std::exception&) { // NOLINT: the failure that brought us here is the one to tell
     }
 }
@@ -51,7 +52,7 @@ void WholeFile::Commit()
     WriteOut();
     file->Flush();
     file->Close();
-    Machine().RenameFile(beside, target);
+    Machine().RenameFile(workPath, target);
     committed = true;
 }
 

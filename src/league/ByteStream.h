@@ -44,11 +44,12 @@ private:
     std::vector<unsigned char> buffer;
 };
 
-// A file that appears under its name only when it is whole: it is written beside its place, and `Commit` flushes it and
-// gives it its name in one step. Without a commit nothing is left of it, and what stood under the name still does.
+// A file that appears under its name only when it is whole: it is written under another name, and `Commit` flushes it and
+// gives it its own in one step. Without a commit nothing is left of it, and what stood under the name still does.
 class WholeFile final : public ByteSink {
 public:
-    explicit WholeFile(const std::string& path);
+    // The other name is `work`, in the same folder or at least on the same disk; without one it is `path` and ".part".
+    explicit WholeFile(const std::string& path, const std::string& work = {});
     WholeFile(const WholeFile&) = delete;
     WholeFile& operator=(const WholeFile&) = delete;
     ~WholeFile() override;
@@ -60,7 +61,7 @@ private:
     void WriteOut();
 
     std::string target;
-    std::string beside;
+    std::string workPath;
     std::unique_ptr<File> file;
     std::vector<unsigned char> buffer;
     bool committed = false;

@@ -35,7 +35,7 @@ extern GoalieChangeTable RosterChangesGoalie;
 
 extern Int16 CurrentTeam;        // chosen in the main window, 1..100; 0 = none yet
 extern std::string WindowTitle;  // the program's title, " - " and the open file's name behind it
-extern std::string TempFile;     // full path of the work file
+extern std::string TempFile;     // full path of the work file: what is being written
 extern std::string CallerScreen; // "Main" or "Team": where the roster and lines screens return to
 extern Int16 PlayerStatCount;    // rating captions shown for a skater: 15, or 7 groups
 extern Int16 GoalieStatCount;    // rating captions shown for a goalie: 13, or 7 groups

@@ -32,7 +32,7 @@ bool WriteDraftFile(int team, const DraftRanking& ranking, const std::string& ta
             slots.Write(id);
         slots.WriteMagic(EndMagic);
     };
-    return WriteSlotFile(target, FileLength, write, DraftSlot);
+    return WriteSlotFile(target, FileLength, write, DraftSlot, TempFile);
 }
 
 } // namespace dravik

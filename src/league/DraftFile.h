@@ -15,8 +15,8 @@ using DraftRanking = Row<Int16, 0, 1000>;
 std::string DraftFilePath(int team);
 
 // Writes `ranking` as the draft file of `team` to `target`, plain or compressed as the settings say. A work file left
-// behind and what stood at `target` are deleted before; the new file appears when it is whole. False after a failed
-// compression, which is told; any other failure is thrown.
+// behind and what stood at `target` are deleted before; the new file is the work file until it is whole, so both have to
+// be on one disk. False after a failed compression, which is told; any other failure is thrown.
 bool WriteDraftFile(int team, const DraftRanking& ranking, const std::string& target);
 
 } // namespace dravik

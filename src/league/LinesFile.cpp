@@ -13,6 +13,7 @@ namespace {
 constexpr std::string_view StartMagic = "DRVK Lineups Files Version 1.01 - Start";
 constexpr std::string_view EndMagic = "DRVK Lineups Files Version 1.01 - End";
 constexpr std::int64_t RecordCount = 4 + PlayerChangeTable::last + GoalieChangeTable::last + 1;
+constexpr std::int64_t FileLength = SlotFileLength(RecordCount, MagicLength(EndMagic));
 
 // The records of a file that are in it whole. It is read to its end before anything is taken over, so that a file that
 // cannot be read changes nothing.
@@ -89,7 +90,7 @@ bool WriteLinesFile(int team, const std::string& target)
     DeleteIfExists(target);
     RefreshStatus(RosterChanges, Players);
     RefreshStatus(RosterChangesGoalie, Goalies);
-    return WriteSlotFile(target, SlotFileLength(RecordCount, MagicLength(EndMagic)), [&](SlotWriter& slots) {
+    const auto write = [&](SlotWriter& slots) {
         slots.WriteMagic(StartMagic);
         slots.Write(LeagueData.LeagueCode);
         slots.Write(Int16(team));
@@ -99,7 +100,8 @@ bool WriteLinesFile(int team, const std::string& target)
         for (const RosterChange& change : RosterChangesGoalie)
             slots.Write(change);
         slots.WriteMagic(EndMagic);
-    });
+    };
+    return WriteSlotFile(target, FileLength, write, SlotLength, TempFile);
 }
 
 LinesFileRead ReadLinesFile(const std::string& path)

@@ -9,8 +9,9 @@ namespace dravik {
 std::string LinesFilePath(int team);
 
 // Writes the lines file of `team` to `target`, plain or compressed as the settings say. `RosterChange.Status` of every
-// person takes his `Status` first. What stood at `target` is deleted before; the new file appears when it is whole. False
-// after a failed compression, which is told; any other failure is thrown.
+// person takes his `Status` first. A work file left behind and what stood at `target` are deleted before; the new file is
+// the work file until it is whole, so both have to be on one disk. False after a failed compression, which is told; any
+// other failure is thrown.
 bool WriteLinesFile(int team, const std::string& target);
 
 enum class LinesFileRead {

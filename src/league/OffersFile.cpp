@@ -95,8 +95,8 @@ SavedOffers WriteOffersFile(int team, const std::string& target, OfferTable& off
         slots.Write(Int16(team));
         EachSaved(std::as_const(offers), [&](const FreeAgentOffer& offer) { slots.Write(offer); });
     };
-    const bool written =
-        WriteSlotFile(target, SlotFileLength(FirstOffer - 1 + tally.Count, OfferSlot, OfferSlot), write, OfferSlot);
+    const std::int64_t length = SlotFileLength(FirstOffer - 1 + tally.Count, OfferSlot, OfferSlot);
+    const bool written = WriteSlotFile(target, length, write, OfferSlot, TempFile);
     saved.Outcome = written ? OffersFileWrite::Saved : OffersFileWrite::NotCompressed;
     return saved;
 }

@@ -37,8 +37,9 @@ struct SavedOffers {
 };
 
 // Saves the offers of `team` (1..100) to `target`, plain or compressed as the settings say. What stood at `target`, and a
-// work file left behind, are deleted first, whatever the outcome; the new file appears when it is whole. `Team` of each
-// offer that the file takes becomes `team`. A failure that is not one of the compression is thrown.
+// work file left behind, are deleted first, whatever the outcome; the new file is the work file until it is whole, so both
+// have to be on one disk. `Team` of each offer that the file takes becomes `team`. A failure that is not one of the
+// compression is thrown.
 SavedOffers WriteOffersFile(int team, const std::string& target, OfferTable& offers);
 
 } // namespace dravik

@@ -96,20 +96,20 @@ bool ReadSlotFile(const std::string& path, const std::function<void(SlotReader&)
 }
 
 bool WriteSlotFile(const std::string& target, std::int64_t length, const std::function<void(SlotWriter&)>& write,
-                   std::size_t slot)
+                   std::size_t slot, const std::string& work)
 {
     const auto writeTo = [&](ByteSink& bytes) {
         SlotWriter slots(bytes, slot);
         write(slots);
     };
     if (SkipZIPClient()) {
-        WholeFile file(target);
+        WholeFile file(target, work);
         writeTo(file);
         file.Commit();
         return true;
     }
     return Compressing([&] {
-        WholeFile file(target);
+        WholeFile file(target, work);
         DeflateStream bytes(file, length);
         writeTo(bytes);
         bytes.Finish();

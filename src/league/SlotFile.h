@@ -80,8 +80,9 @@ bool ReadSlotFile(const std::string& path, const std::function<void(SlotReader&)
 
 // Has `write` write a slot file of `length` bytes, which then appears as `target`, whole; plain or wrapped, as
 // `SkipZIPClient` says. False after a failure with a wrapped file, which is told with the ending of the compression;
-// failures with a plain one are thrown. Either leaves `target` as it was.
+// failures with a plain one are thrown. Either leaves `target` as it was. Until it is whole the file is called `work`, as
+// in WholeFile.
 bool WriteSlotFile(const std::string& target, std::int64_t length, const std::function<void(SlotWriter&)>& write,
-                   std::size_t slot = SlotLength);
+                   std::size_t slot = SlotLength, const std::string& work = {});
 
 } // namespace dravik

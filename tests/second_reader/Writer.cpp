@@ -27,7 +27,7 @@ int Run(int argc, char** argv, Saver save)
     UseMachine(machine);
     if (!order.Wrapped)
         machine.Settings["SkipZIPClient"] = "YES";
-    TempFile = machine.InFolder("ClientTemp.dvt");
+    TempFile = order.Path + ".work"; // on the disk of the file
     LeagueData.LeagueCode = "AB\xE9 9";
 
     std::ofstream expected(argv[4]);
