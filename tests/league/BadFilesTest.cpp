@@ -1,11 +1,9 @@
-// Every way in which a file can be bad, and every file operation that can fail: each ends in its words, and leaves no half
-// league, no half-written file and nothing beside it.
+// Every way in which a file can be bad: each ends in its words, and leaves no half league and nothing beside the file.
 
 #include "league/ClientFile.h"
 #include "league/Failure.h"
 #include "league/LinesFile.h"
 #include "league/OutsideCode.h"
-#include "league/SlotFile.h"
 #include "support/LeagueImage.h"
 #include "support/OpenedWindow.h"
 #include "support/SmallLeague.h"
@@ -160,6 +158,35 @@ protected:
         return all;
     }
 
+    // Loads the lines file `file`, which gives the bytes `came` of the whole `slots`.
+    void ExpectTakesOverWhatIsInIt(const ByteVector& file, const ByteVector& came, const ByteVector& slots)
+    {
+        SCOPED_TRACE(file.size());
+        const bool nothing = came.empty() && Machine.Settings["SkipZIPClient"] != "YES";
+        Teams[5].Cash = 77;
+        RosterChanges[10000].Protected = true;
+        RosterChangesGoalie[1000].Protected = true;
+        const ByteVector before = LinesTables();
+        Machine.TakeBoxes();
+        WriteSparse(LinesPath, file);
+        const LinesFileRead result = ReadLinesFile(LinesPath);
+        EXPECT_EQ(result == LinesFileRead::NotDecompressed, nothing);
+        EXPECT_EQ(Machine.Boxes(), nothing ? std::vector{NotDecompressed} : std::vector<Box>{});
+        // More can come than is in the file: the zeros behind a cut stream decode to something too.
+        const bool whole = came.size() >= slots.size() &&
+                           std::equal(slots.end() - 39, slots.end(), came.begin() + (slots.end() - slots.begin()) - 39);
+        EXPECT_EQ(result == LinesFileRead::Loaded, whole);
+        const auto has = [&](std::size_t record, std::size_t length) {
+            return came.size() >= client_file::Offset(record) + length;
+        };
+        EXPECT_EQ(Teams[5].Cash, has(4, sizeof(Team)) ? 0 : 77);
+        EXPECT_NE(static_cast<bool>(RosterChanges[10000].Protected), has(10004, sizeof(RosterChange)));
+        EXPECT_NE(static_cast<bool>(RosterChangesGoalie[1000].Protected), has(11004, sizeof(RosterChange)));
+        if (!has(4, sizeof(Team))) {
+            EXPECT_TRUE(LinesTables() == before);
+        }
+    }
+
     OpenedWindow Window;
     std::string ClientPath;
     std::string LinesPath;
@@ -250,6 +277,12 @@ TEST_F(BadFilesTest, APlainClientFileOpensOnlyWithBothMagics)
     for (const std::size_t missing : {38U, 37U, 30U, 20U, 10U, 2U})
         lengths.push_back(slots.size() - missing);
     lengths.push_back(slots.size() - 1);
+    // At the first and the last record of every table, and within them.
+    for (const std::size_t record :
+         {2U, 3U, 302U, 303U, 402U, 403U, 10402U, 10403U, 11402U, 11403U, 11902U, 11903U, 16902U, 16903U})
+        for (const std::size_t more : {0U, 1U, 39U})
+            if (record < 16903 || more < 38)
+                lengths.push_back(client_file::Offset(record) + more);
     for (const std::size_t length : lengths) {
         WriteSparse(ClientPath, Cut(slots, length));
         Open();
@@ -276,7 +309,7 @@ TEST_F(BadFilesTest, EveryFlippedMagicIsRefused)
     std::vector<std::size_t> places;
     for (std::size_t i = 0; i < 40; ++i)
         places.push_back(i);
-    for (std::size_t i = 0; i < 38; i += 5)
+    for (std::size_t i = 0; i < 38; ++i)
         places.push_back(client_file::Offset(16903) + i);
     for (const std::size_t at : places) {
         put(at, slots[at] ^ 0x10U);
@@ -352,120 +385,6 @@ TEST_F(BadFilesTest, AWorkFileThatCannotBeDeletedStopsTheOpen)
     EXPECT_FALSE(Machine.WaitShown) << "it was not up yet";
 }
 
-TEST_F(BadFilesTest, AFaultAtAnyFileOperationOfAnOpenLeavesNoHalfLeague)
-{
-    const ByteVector slots = ClientSlots();
-    for (const bool plain : {false, true}) {
-        Machine.Settings["SkipZIPClient"] = plain ? "YES" : "No";
-        WriteWhole(ClientPath, plain ? slots : Wrapped(slots, 1));
-        const std::string ending = plain ? " in OpenLeagueClient!" : " in Zlib Decompress!";
-        const std::size_t done = Machine.FileOperations().size();
-        Open();
-        ASSERT_THAT(Machine.Boxes(), IsEmpty());
-        const std::size_t operations = Machine.FileOperations().size() - done;
-        ASSERT_GT(operations, 6U);
-        for (std::size_t n = 1; n <= operations; n += !plain || n < 10 || operations - n < 20 ? 1 : 19) {
-            Keep();
-            Machine.FailFileOperation(n, failure::PathAccess);
-            Open();
-            const std::string what = (plain ? "plain " : "wrapped ") + std::to_string(n);
-            if (n == 1)
-                ExpectNothingRead({box::Critical, "Cannot find last client league file!"}, what);
-            else if (n <= 3) // looking for a work file, and for the spelling of the name, may fail
-                EXPECT_THAT(Machine.Boxes(), IsEmpty()) << what;
-            else {
-                ExpectNothingRead({box::Critical, "75 - Path/File access error" + ending}, what);
-                EXPECT_THAT(Machine.WaitAtBoxes(), ElementsAre(true)) << what;
-            }
-            EXPECT_THAT(FilesLeft(), ElementsAre("League.dvs")) << what;
-        }
-        Machine.FailNoMore();
-    }
-}
-
-TEST_F(BadFilesTest, AFaultAtAnyFileOperationOfALoadOfLinesChangesNothing)
-{
-    const ByteVector slots = LinesSlots(5);
-    for (const bool plain : {false, true}) {
-        Machine.Settings["SkipZIPClient"] = plain ? "YES" : "No";
-        if (plain)
-            WriteSparse(LinesPath, slots);
-        else
-            WriteWhole(LinesPath, Wrapped(slots, 1));
-        const std::size_t done = Machine.FileOperations().size();
-        ASSERT_EQ(ReadLinesFile(LinesPath), LinesFileRead::Loaded);
-        const std::size_t operations = Machine.FileOperations().size() - done;
-        Teams[5].Cash = 77;
-        const ByteVector before = LinesTables();
-        for (std::size_t n = 1; n <= operations; n += n < 10 || operations - n < 40 ? 1 : 37) {
-            Machine.TakeBoxes();
-            Machine.FailFileOperation(n, failure::PathAccess);
-            auto result = LinesFileRead::Refused;
-            bool thrown = false;
-            try {
-                result = ReadLinesFile(LinesPath);
-            } catch (const Failure& failed) {
-                EXPECT_EQ(failed.Number, failure::PathAccess);
-                thrown = true;
-            }
-            EXPECT_EQ(thrown, plain && n > 3) << n;
-            if (n == 1 || n == 3) { // the same two looks as in an open; a file that is not found is refused
-                EXPECT_EQ(result, LinesFileRead::Loaded) << n;
-                Teams[5].Cash = 77;
-            } else if (n == 2) {
-                EXPECT_EQ(result, LinesFileRead::Refused) << n;
-            } else if (!plain) {
-                EXPECT_EQ(result, LinesFileRead::NotDecompressed) << n;
-                EXPECT_THAT(Machine.Boxes(),
-                            ElementsAre(Box{box::Critical, "75 - Path/File access error in Zlib Decompress!"}));
-            }
-            EXPECT_TRUE(LinesTables() == before) << n;
-            EXPECT_THAT(FilesLeft(), ElementsAre("Team5.dvl")) << n;
-        }
-        Machine.FailNoMore();
-    }
-}
-
-TEST_F(BadFilesTest, AFaultAtAnyFileOperationOfASaveLeavesNoHalfFile)
-{
-    const ByteVector old = {'o', 'l', 'd'};
-    for (const bool plain : {false, true}) {
-        Machine.Settings["SkipZIPClient"] = plain ? "YES" : "No";
-        std::size_t operations = 1000;
-        for (std::size_t n = 1; n <= operations; n += plain && n > 10 && operations - n > 25 ? 20 : 1) {
-            WriteWhole(TempFile, old);
-            WriteWhole(LinesPath, old);
-            Machine.TakeBoxes();
-            const std::size_t done = Machine.FileOperations().size();
-            Machine.FailFileOperation(n, failure::DiskFull);
-            bool written = false;
-            bool thrown = false;
-            try {
-                written = WriteLinesFile(5, LinesPath);
-            } catch (const Failure& failed) {
-                EXPECT_EQ(failed.Number, failure::DiskFull);
-                thrown = true;
-            }
-            const std::set<std::string> left = FilesLeft();
-            EXPECT_EQ(left.count("Team5.dvl.part"), 0U) << n;
-            if (written) { // a look that failed, or the first operation behind the last
-                operations = std::min(operations, Machine.FileOperations().size() - done);
-                EXPECT_EQ(fs::file_size(LinesPath) == 38183919, plain) << n;
-                EXPECT_THAT(Machine.Boxes(), IsEmpty());
-                continue;
-            }
-            // Before the old file is deleted, and while it is, nothing has happened to it.
-            EXPECT_EQ(left.count("Team5.dvl"), n <= 4 ? 1U : 0U) << n;
-            EXPECT_EQ(thrown, plain || n <= 4) << n;
-            if (!thrown) {
-                EXPECT_THAT(Machine.Boxes(), ElementsAre(Box{box::Critical, "61 - Disk full in Zlib Compress!"}));
-            }
-        }
-        EXPECT_LT(operations, 1000U);
-        Machine.FailNoMore();
-    }
-}
-
 TEST_F(BadFilesTest, EveryCutLinesFileTakesOverWhatIsInIt)
 {
     const ByteVector slots = LinesSlots(5);
@@ -474,23 +393,21 @@ TEST_F(BadFilesTest, EveryCutLinesFileTakesOverWhatIsInIt)
     std::vector<std::size_t> lengths = {0, 3, 4, 5, 6, 7, 20, 50, 70, 100, 150, 1000, 65536, size / 2};
     for (const std::size_t missing : {300U, 100U, 60U, 20U, 12U, 9U, 7U, 6U, 5U, 4U, 3U, 2U, 1U, 0U})
         lengths.push_back(size - missing);
-    for (const std::size_t length : lengths) {
-        const ByteVector file = Cut(wrapper, length);
-        const ByteVector came = Unwrapped(file);
-        Teams[5].Cash = 77;
-        const ByteVector before = LinesTables();
-        WriteWhole(LinesPath, file);
-        const LinesFileRead result = ReadLinesFile(LinesPath);
-        EXPECT_EQ(result == LinesFileRead::NotDecompressed, came.empty()) << length;
-        // More can come than is in the file: the zeros behind a cut stream decode to something too.
-        const bool whole = came.size() >= slots.size() &&
-                           std::equal(slots.end() - 39, slots.end(), came.begin() + (slots.end() - slots.begin()) - 39);
-        EXPECT_EQ(result == LinesFileRead::Loaded, whole) << length;
-        EXPECT_EQ(Teams[5].Cash, came.size() >= client_file::Offset(5) ? 0 : 77) << length;
-        if (came.size() < client_file::Offset(5)) {
-            EXPECT_TRUE(LinesTables() == before) << length;
-        }
-    }
+    for (const std::size_t length : lengths)
+        ExpectTakesOverWhatIsInIt(Cut(wrapper, length), Unwrapped(Cut(wrapper, length)), slots);
+}
+
+TEST_F(BadFilesTest, EveryCutPlainLinesFileTakesOverWhatIsInIt)
+{
+    Machine.Settings["SkipZIPClient"] = "YES";
+    const ByteVector slots = LinesSlots(5);
+    std::vector<std::size_t> lengths = {0, 1, 2, 40, 41, slots.size() - 1, slots.size()};
+    for (const std::size_t record : {2U, 3U, 4U, 5U, 6U, 10004U, 10005U, 11004U, 11005U})
+        for (const std::size_t more : {0U, 1U, 2U, 4U, 5U})
+            lengths.push_back(client_file::Offset(record) + more);
+    lengths.push_back(client_file::Offset(5) - 1);
+    for (const std::size_t length : lengths)
+        ExpectTakesOverWhatIsInIt(Cut(slots, length), Cut(slots, length), slots);
 }
 
 TEST_F(BadFilesTest, AFlippedLinesFileNeverTouchesPeopleOfOtherTeamsAndNeverSetsAStrangeStatus)
@@ -512,52 +429,6 @@ TEST_F(BadFilesTest, AFlippedLinesFileNeverTouchesPeopleOfOtherTeamsAndNeverSets
         EXPECT_TRUE(ImageOf(Teams[6]) == team) << at;
         EXPECT_TRUE(std::all_of(Players.begin(), Players.end(), [](const Player& p) { return p.Status <= 2; })) << at;
         EXPECT_TRUE(std::all_of(Goalies.begin(), Goalies.end(), [](const Goalie& g) { return g.Status <= 2; })) << at;
-    }
-}
-
-TEST_F(BadFilesTest, ThousandsOfFlipsOfASmallSlotFileReadAsByHand)
-{
-    const std::string path = Machine.InFolder("slots");
-    const auto write = [](SlotWriter& slots) {
-        slots.WriteMagic("Start");
-        slots.Write(Teams[5]);
-        slots.Write(Players[1]);
-        slots.Write(Teams[6]);
-        slots.WriteMagic("End");
-    };
-    ASSERT_TRUE(WriteSlotFile(path, SlotFileLength(5, MagicLength("End")), write));
-    const ByteVector wrapper = ReadWhole(path);
-    std::mt19937 random(3);
-    for (std::size_t round = 0; round < 4000; ++round) {
-        ByteVector bad = wrapper;
-        if (round < wrapper.size())
-            bad.resize(round); // every cut
-        else
-            bad[4 + random() % (bad.size() - 4)] ^= static_cast<unsigned char>(1U << random() % 8);
-        ByteVector came = Unwrapped(bad);
-        const bool anything = !came.empty();
-        came.resize(5 * SlotLength);
-
-        WriteWhole(path, bad);
-        Machine.TakeBoxes();
-        Team first;
-        Player player;
-        Team second;
-        const bool read = ReadSlotFile(path, [&](SlotReader& slots) {
-            EXPECT_EQ(slots.ReadMagic("Start"), std::memcmp(came.data(), "\5\0Start", 7) == 0);
-            slots.Read(first);
-            slots.Read(player);
-            slots.Read(second);
-            EXPECT_EQ(slots.ReadMagic("End"), std::memcmp(came.data() + 4 * SlotLength, "\3\0End", 5) == 0);
-        });
-        ASSERT_EQ(read, anything) << round;
-        if (!anything) {
-            EXPECT_THAT(Machine.Boxes(), ElementsAre(NotDecompressed));
-            continue;
-        }
-        EXPECT_EQ(std::memcmp(&first, came.data() + SlotLength, sizeof first), 0) << round;
-        EXPECT_EQ(std::memcmp(&player, came.data() + 2 * SlotLength, sizeof player), 0) << round;
-        EXPECT_EQ(std::memcmp(&second, came.data() + 3 * SlotLength, sizeof second), 0) << round;
     }
 }
 

@@ -5,6 +5,7 @@
 #include <algorithm>
 #include <cmath>
 #include <cstring>
+#include <filesystem>
 #include <fstream>
 #include <stdexcept>
 #include <zlib.h>
@@ -12,6 +13,14 @@
 namespace dravik {
 
 namespace {
+
+// Some disks take their time over a file that is emptied and written anew, and none over a new one.
+std::ofstream NewFile(const std::string& path)
+{
+    std::error_code ignored;
+    std::filesystem::remove(path, ignored);
+    return std::ofstream(path, std::ios::binary);
+}
 
 class Slots {
 public:
@@ -130,7 +139,7 @@ ByteVector ReadWhole(const std::string& path)
 
 void WriteWhole(const std::string& path, const ByteVector& bytes)
 {
-    std::ofstream file(path, std::ios::binary);
+    std::ofstream file = NewFile(path);
     file.write(reinterpret_cast<const char*>(bytes.data()), static_cast<std::streamsize>(bytes.size()));
     if (!file)
         throw std::runtime_error("cannot write " + path);
@@ -139,7 +148,7 @@ void WriteWhole(const std::string& path, const ByteVector& bytes)
 void WriteSparse(const std::string& path, const ByteVector& bytes)
 {
     constexpr std::size_t block = 4096;
-    std::ofstream file(path, std::ios::binary);
+    std::ofstream file = NewFile(path);
     for (std::size_t at = 0; at < bytes.size(); at += block) {
         const std::size_t size = std::min(block, bytes.size() - at);
         // The last block is always written, so that the file gets its length.
