@@ -15,10 +15,10 @@ enum class Takes { Skater, Forward, Defense, Goalie };
 
 // One slot of the board, of a skater or of a goalie, with the label that shows it.
 struct BoardSlot {
-    SlotLabel* Label;
-    const char* Name; // of the label's control, without the index
-    Takes Rule;
-    LineSlot Skater;                // where he stands in a line-up, unless this is a goalie's slot
+    SlotLabel* Label = nullptr;
+    const char* Name = nullptr; // of the label's control, without the index
+    Takes Rule = Takes::Skater;
+    LineSlot Skater{};              // where he stands in a line-up, unless this is a goalie's slot
     Int16 Lines::*Goalie = nullptr; // where a goalie stands
     int Shown = 0;                  // the person whom the label's text names, 0 for none
 

@@ -88,18 +88,19 @@ public:
     Row<Int16, 1, 10> GameRow; // rows of the calendar with the team's next games, 0 behind the last
     Row<Boolean, 1, 10> GameIsAway;
 
-    LineBoard* TabLine;
-    DayStrip* vscDay;
-    PickList* lstPlayer;
+    LineBoard* TabLine = nullptr;
+    DayStrip* vscDay = nullptr;
+    PickList* lstPlayer = nullptr;
     Row<QCheckBox*, 1, 5> chkPosition;
-    StatPanel* frmStat;
-    QLabel *lblTeamName, *lblGame, *lblPlaying, *lblPoint;
-    VerdictLabel* lblComplete;
-    ReasonsBox* txtReasons; // what the last judgement of the day found, in its own words
+    StatPanel* frmStat = nullptr;
+    QLabel *lblTeamName = nullptr, *lblGame = nullptr, *lblPlaying = nullptr, *lblPoint = nullptr;
+    VerdictLabel* lblComplete = nullptr;
+    ReasonsBox* txtReasons = nullptr; // what the last judgement of the day found, in its own words
     Row<QScrollBar*, 0, 2> hscStats;
     Row<QLabel*, 0, 2> lblStatsPoint;
-    EditBox *txtPullGoalerMinGoal, *txtPullGoalerMinPct;
-    QPushButton *cmdAutoLines, *cmdWipeLines, *cmdCopy, *cmdCopyAll, *cmdDebug, *cmdExit;
+    EditBox *txtPullGoalerMinGoal = nullptr, *txtPullGoalerMinPct = nullptr;
+    QPushButton *cmdAutoLines = nullptr, *cmdWipeLines = nullptr, *cmdCopy = nullptr;
+    QPushButton *cmdCopyAll = nullptr, *cmdDebug = nullptr, *cmdExit = nullptr;
 
 protected:
     LinesScreen(Stage& stage, const LinesKind& kind);

@@ -40,11 +40,12 @@ public:
     std::string DraftType; // "Fantasy Draft" or "Entry Draft"; empty when there is no draft
     DraftRanking DraftList;
 
-    EntryList* lstPlayers;
-    RankList* lstDraftList;
-    QLabel *lblTotal, *lblTeam;
+    EntryList* lstPlayers = nullptr;
+    RankList* lstDraftList = nullptr;
+    QLabel *lblTotal = nullptr, *lblTeam = nullptr;
     Row<QCheckBox*, 1, 5> chkPosition;
-    QPushButton *cmdChoose, *cmdRemove, *cmdUp, *cmdDown, *cmdSearch, *cmdSaveToFile, *cmdExit;
+    QPushButton *cmdChoose = nullptr, *cmdRemove = nullptr, *cmdUp = nullptr, *cmdDown = nullptr;
+    QPushButton *cmdSearch = nullptr, *cmdSaveToFile = nullptr, *cmdExit = nullptr;
 
 private:
     void MakeControls();

@@ -61,15 +61,17 @@ public:
     void cmdErase_Click();
     void cmdExit_Click();
 
-    EntryList* lstPlayer;
-    EditBox *txtName, *txtCountry, *txtAge, *txtWeight, *txtHeight;
-    EditBox *txtCondition, *txtInjury, *txtContract, *txtSalary, *txtSuspension, *txtTeam;
+    EntryList* lstPlayer = nullptr;
+    EditBox *txtName = nullptr, *txtCountry = nullptr, *txtAge = nullptr, *txtWeight = nullptr, *txtHeight = nullptr;
+    EditBox *txtCondition = nullptr, *txtInjury = nullptr, *txtContract = nullptr;
+    EditBox *txtSalary = nullptr, *txtSuspension = nullptr, *txtTeam = nullptr;
     Row<QRadioButton*, 1, 4> optPosition;
-    QRadioButton* optGoaler;
-    QCheckBox *chkRookie, *chkNoTrade, *chkNoApplyRerate, *chkEdit;
+    QRadioButton* optGoaler = nullptr;
+    QCheckBox *chkRookie = nullptr, *chkNoTrade = nullptr, *chkNoApplyRerate = nullptr, *chkEdit = nullptr;
     Row<EditBox*, 1, 16> txtStats;
     Row<QLabel*, 1, 16> lblStatLabel;
-    QPushButton *cmdSearch, *cmdNewPlayer, *cmdNewGoaler, *cmdErase, *cmdExit;
+    QPushButton *cmdSearch = nullptr, *cmdNewPlayer = nullptr, *cmdNewGoaler = nullptr;
+    QPushButton *cmdErase = nullptr, *cmdExit = nullptr;
 
     int PlayerPosition = 0; // position digit of the shown person, 5 for a goalie
     int ListPosition = -1;  // index of the current entry of the list
@@ -156,8 +158,8 @@ private:
     void CloseEditor();
     void ShadeClosedControls();
 
-    QButtonGroup* positions;
-    RatingRows* ratings;
+    QButtonGroup* positions = nullptr;
+    RatingRows* ratings = nullptr;
 };
 
 } // namespace dravik

@@ -45,18 +45,18 @@ public:
     OfferTable FreeAgentOffers;
     Int16 OfferIndex; // id of the person shown
 
-    QLabel *lblTeam, *lblInfo, *lblMaxOffer, *lblPlayer, *lblStatus;
-    PickList* lstPlayers;
-    QCheckBox* chkShowPlayerWithOffer;
-    EditBox *txtAge, *txtSalary;
-    StatPanel* Stats;
+    QLabel *lblTeam = nullptr, *lblInfo = nullptr, *lblMaxOffer = nullptr, *lblPlayer = nullptr, *lblStatus = nullptr;
+    PickList* lstPlayers = nullptr;
+    QCheckBox* chkShowPlayerWithOffer = nullptr;
+    EditBox *txtAge = nullptr, *txtSalary = nullptr;
+    StatPanel* Stats = nullptr;
     Row<QLabel*, 1, 16> txtStats;
     Row<QLabel*, 1, 16> lblStatLabel;
-    EditBox *txtOffer, *txtDuration, *txtBonus;
-    EditArea* txtComment;
-    VerdictLabel* lblOffersMade; // offers to others against what is left of them
-    QLabel* lblOffersCost;       // what all offers come to
-    QPushButton *cmdSearch, *cmdSaveToFile, *cmdExit;
+    EditBox *txtOffer = nullptr, *txtDuration = nullptr, *txtBonus = nullptr;
+    EditArea* txtComment = nullptr;
+    VerdictLabel* lblOffersMade = nullptr; // offers to others against what is left of them
+    QLabel* lblOffersCost = nullptr;       // what all offers come to
+    QPushButton *cmdSearch = nullptr, *cmdSaveToFile = nullptr, *cmdExit = nullptr;
 
 protected:
     bool eventFilter(QObject* watched, QEvent* event) override;

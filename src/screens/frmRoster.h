@@ -65,15 +65,17 @@ public:
     Row<PickList*, 0, 2> lstPlayer;
     Row<QLabel*, 0, 2> lblPlayer;
     Row<QCheckBox*, 1, 5> chkPosition;
-    StatPanel* Stats;
-    QPushButton *cmdToFarm, *cmdToPro, *cmdToScratchesFromPro, *cmdToScratchesFromFarm;
-    QPushButton *cmdTradeAvailable, *cmdCaptain, *cmdAssistant, *cmdRelease, *cmdSendToWaiver;
-    QCheckBox *chkProtected, *chkNoApplyRerate, *chkNoTrade;
-    QPushButton *cmdAutoRoster, *cmdAutoRosterPartial, *cmdExit;
-    QLabel *lblTeamName, *lblProtectedTotal;
-    VerdictLabel* lblComplete;
-    ReasonsBox* txtReasons; // what the last judgement found, in its own words
-    PayrollBar* Payroll;
+    StatPanel* Stats = nullptr;
+    QPushButton *cmdToFarm = nullptr, *cmdToPro = nullptr;
+    QPushButton *cmdToScratchesFromPro = nullptr, *cmdToScratchesFromFarm = nullptr;
+    QPushButton *cmdTradeAvailable = nullptr, *cmdCaptain = nullptr, *cmdAssistant = nullptr;
+    QPushButton *cmdRelease = nullptr, *cmdSendToWaiver = nullptr;
+    QCheckBox *chkProtected = nullptr, *chkNoApplyRerate = nullptr, *chkNoTrade = nullptr;
+    QPushButton *cmdAutoRoster = nullptr, *cmdAutoRosterPartial = nullptr, *cmdExit = nullptr;
+    QLabel *lblTeamName = nullptr, *lblProtectedTotal = nullptr;
+    VerdictLabel* lblComplete = nullptr;
+    ReasonsBox* txtReasons = nullptr; // what the last judgement found, in its own words
+    PayrollBar* Payroll = nullptr;
 
 private:
     void MakeControls();

@@ -60,17 +60,21 @@ public:
     void cmdLoadFile_Click();
     void cmdExit_Click();
 
-    EditBox *txtTeamName, *txtAbbre, *txtCity, *txtGm, *txtProMorale;
-    EditBox *txtFarmTeamName, *txtFarmAbbre, *txtFarmMorale;
-    EditBox *txtMessenger, *txtEmail;
-    QLabel *lblCoach, *lblFarmCoach, *lblDivision, *lblConference, *lblLoadLine;
-    QLabel *lblFinance, *lblProPayRoll, *lblFarmPayRoll;
-    QLabel *lblGameLeft, *lblHGLeft, *lblAverageAttendance, *lblAverageIncome, *lblEstimatedRevenue;
-    QLabel *lblExpensesPerGame, *lblEstimatedSeasonExpense, *lblEstimatedBankAccount;
-    QPushButton *cmdChangeFinance, *cmdPayrollBonus, *cmdPassword, *cmdChangeCoach, *cmdFarmChangeCoach, *cmdFirePro,
-        *cmdFireFarm, *cmdProspect;
-    QPushButton *cmdTicketArena, *CmdRoster, *cmdLines, *cmdFarmLines, *cmdSaveToFile, *cmdLoadFile, *cmdExit;
-    QLabel* lblSaveHint; // why the lines file cannot be saved, empty when it can
+    EditBox *txtTeamName = nullptr, *txtAbbre = nullptr, *txtCity = nullptr, *txtGm = nullptr, *txtProMorale = nullptr;
+    EditBox *txtFarmTeamName = nullptr, *txtFarmAbbre = nullptr, *txtFarmMorale = nullptr;
+    EditBox *txtMessenger = nullptr, *txtEmail = nullptr;
+    QLabel *lblCoach = nullptr, *lblFarmCoach = nullptr, *lblDivision = nullptr;
+    QLabel *lblConference = nullptr, *lblLoadLine = nullptr;
+    QLabel *lblFinance = nullptr, *lblProPayRoll = nullptr, *lblFarmPayRoll = nullptr;
+    QLabel *lblGameLeft = nullptr, *lblHGLeft = nullptr, *lblAverageAttendance = nullptr;
+    QLabel *lblAverageIncome = nullptr, *lblEstimatedRevenue = nullptr;
+    QLabel *lblExpensesPerGame = nullptr, *lblEstimatedSeasonExpense = nullptr, *lblEstimatedBankAccount = nullptr;
+    QPushButton *cmdChangeFinance = nullptr, *cmdPayrollBonus = nullptr, *cmdPassword = nullptr;
+    QPushButton *cmdChangeCoach = nullptr, *cmdFarmChangeCoach = nullptr, *cmdFirePro = nullptr;
+    QPushButton *cmdFireFarm = nullptr, *cmdProspect = nullptr;
+    QPushButton *cmdTicketArena = nullptr, *CmdRoster = nullptr, *cmdLines = nullptr, *cmdFarmLines = nullptr;
+    QPushButton *cmdSaveToFile = nullptr, *cmdLoadFile = nullptr, *cmdExit = nullptr;
+    QLabel* lblSaveHint = nullptr; // why the lines file cannot be saved, empty when it can
 
 private:
     void MakeControls();
@@ -105,8 +109,8 @@ private:
     // Says why the lines file cannot be saved; the judges' own words are behind it.
     void ShowSaveHint(const QStringList& reasons, const QStringList& details);
 
-    QLabel* lblTitle;
-    QWidget* signSaveHint;
+    QLabel* lblTitle = nullptr;
+    QWidget* signSaveHint = nullptr;
 };
 
 } // namespace dravik

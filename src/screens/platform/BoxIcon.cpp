@@ -59,9 +59,9 @@ void DrawExclamation(QPainter& painter) { DrawStrokeAndDot(painter, 0.39, 0.61, 
 QPixmap BoxIcon(QMessageBox::Icon icon, const QPalette& palette, int size, double ratio)
 {
     struct Sign {
-        QMessageBox::Icon Icon;
-        QPainterPath (*Shape)();
-        void (*Draw)(QPainter&);
+        QMessageBox::Icon Icon = QMessageBox::NoIcon;
+        QPainterPath (*Shape)() = nullptr;
+        void (*Draw)(QPainter&) = nullptr;
         QColor Fill;
         QColor Ink;
     };

@@ -30,10 +30,10 @@ namespace dravik {
 namespace {
 
 struct BoxKind {
-    int Kind;
-    QMessageBox::Icon Icon;
+    int Kind = 0;
+    QMessageBox::Icon Icon = QMessageBox::NoIcon;
     QMessageBox::StandardButtons Buttons;
-    QMessageBox::StandardButton Escape;
+    QMessageBox::StandardButton Escape = QMessageBox::NoButton;
 };
 
 const std::array BoxKinds{
