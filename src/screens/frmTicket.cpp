@@ -37,9 +37,8 @@ bool TextPasses(EditBox* box, InputMode mode, bool required)
 
 } // namespace
 
-frmTicket::frmTicket(Stage& stage) : Screen(stage, "frmTicket")
+frmTicket::frmTicket(Stage& stage) : Screen(stage, "frmTicket"), lblTitle(MakeTitle(this))
 {
-    lblTitle = MakeTitle(this);
     lblTitle->setObjectName("lblTitle");
     txtArena = MakeBox("txtArena", [this] { txtArena_LostFocus(); });
     txtArena->setAccessibleName("Arena Name");

@@ -68,11 +68,9 @@ QString Words(const CapStanding& standing)
 
 } // namespace
 
-PayrollBar::PayrollBar(QWidget* parent) : QWidget(parent)
+PayrollBar::PayrollBar(QWidget* parent) :
+    QWidget(parent), bar(new CapBar(this)), sign(new WarningSign(this)), lblPayroll(new QLabel(this))
 {
-    bar = new CapBar(this);
-    sign = new WarningSign(this);
-    lblPayroll = new QLabel(this);
     lblPayroll->setObjectName("lblPayroll");
     lblPayroll->setTextFormat(Qt::PlainText);
     auto* row = new QHBoxLayout(this);
