@@ -68,7 +68,8 @@ public:
     Row<QRadioButton*, 1, 4> optPosition;
     QRadioButton* optGoaler = nullptr;
     QCheckBox *chkRookie = nullptr, *chkNoTrade = nullptr, *chkNoApplyRerate = nullptr, *chkEdit = nullptr;
-    Row<EditBox*, 1, 16> txtStats;
+    using StatBoxes = Row<EditBox*, 1, 16>;
+    StatBoxes txtStats;
     Row<QLabel*, 1, 16> lblStatLabel;
     QPushButton *cmdSearch = nullptr, *cmdNewPlayer = nullptr, *cmdNewGoaler = nullptr;
     QPushButton *cmdErase = nullptr, *cmdExit = nullptr;

@@ -98,7 +98,7 @@ void frmEditPlayer::MakeBoxes()
         makeNumeric(box, WidestNumber);
     for (EditBox* box : {txtContract, txtSalary})
         makeNumeric(box, WidestAmount);
-    for (int row = txtStats.first; row <= txtStats.last; ++row) {
+    for (int row = StatBoxes::first; row <= StatBoxes::last; ++row) {
         EditBox* box = MakeBox(ElementName("txtStats", row), [this, row] { txtStats_LostFocus(row); });
         makeNumeric(box, WidestNumber);
         box->ReadAsLabelWhenClosed();
@@ -281,7 +281,7 @@ void frmEditPlayer::changeEvent(QEvent* event)
 bool frmEditPlayer::eventFilter(QObject* watched, QEvent* event)
 {
     if (event->type() == QEvent::FocusIn)
-        for (int row = txtStats.first; row <= txtStats.last; ++row)
+        for (int row = StatBoxes::first; row <= StatBoxes::last; ++row)
             if (watched == txtStats[row]) // once the press that brought the focus has placed its cursor
                 QMetaObject::invokeMethod(
                     this, [this, row] { txtStats_GotFocus(row); }, Qt::QueuedConnection);

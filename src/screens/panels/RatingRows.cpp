@@ -26,7 +26,7 @@ RatingRows::RatingRows(QWidget* panel, const Numbers& shownBy) : numbers(shownBy
     setVerticalSpacing(Gap / 2);
     setColumnMinimumWidth(CellsOfColumn - 1, Gap / 2);
     const int captionWidth = panel->fontMetrics().horizontalAdvance("000");
-    for (int row = Captions.first; row <= Captions.last; ++row) {
+    for (int row = Numbers::first; row <= Numbers::last; ++row) {
         Captions[row] = new MutedLabel(panel);
         Captions[row]->setObjectName(ElementName("lblStatLabel", row));
         Captions[row]->setTextFormat(Qt::PlainText);
@@ -47,7 +47,7 @@ RatingRows::RatingRows(QWidget* panel, const Numbers& shownBy) : numbers(shownBy
 
 void RatingRows::Hide()
 {
-    for (int row = Captions.first; row <= Captions.last; ++row)
+    for (int row = Numbers::first; row <= Numbers::last; ++row)
         SetVisible(row, false);
 }
 

@@ -11,7 +11,7 @@ namespace dravik {
 
 StatPanel::StatPanel(QWidget* parent, const char* numberName) : QGroupBox("Stats", parent)
 {
-    for (int row = lblStat.first; row <= lblStat.last; ++row) {
+    for (int row = Labels::first; row <= Labels::last; ++row) {
         lblStat[row] = new QLabel(this);
         lblStat[row]->setObjectName(ElementName(numberName, row));
         lblStat[row]->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
@@ -36,12 +36,12 @@ StatPanel::StatPanel(QWidget* parent, const char* numberName) : QGroupBox("Stats
     column->addLayout(heading);
 
     RatingRows::Numbers numbers;
-    for (int row = numbers.first; row <= numbers.last; ++row) {
+    for (int row = RatingRows::Numbers::first; row <= RatingRows::Numbers::last; ++row) {
         lblStat[row]->setMinimumWidth(fontMetrics().horizontalAdvance("000"));
         numbers[row] = lblStat[row];
     }
     ratings = new RatingRows(this, numbers);
-    for (int row = numbers.first; row <= numbers.last; ++row)
+    for (int row = RatingRows::Numbers::first; row <= RatingRows::Numbers::last; ++row)
         lblStatLabel[row] = ratings->Captions[row];
     column->addLayout(ratings);
     HideRows();
@@ -60,7 +60,7 @@ void StatPanel::HideRatings() { ratings->Hide(); }
 void StatPanel::ClearNumbers()
 {
     lblName->clear();
-    for (int row = ratings->Captions.first; row <= ratings->Captions.last; ++row) {
+    for (int row = RatingRows::Numbers::first; row <= RatingRows::Numbers::last; ++row) {
         lblStat[row]->clear();
         lblStat[row]->setAccessibleName({});
         ratings->SetRating(row, 0);

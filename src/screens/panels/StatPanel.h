@@ -29,8 +29,9 @@ public:
     // Shows one of the rows 1 to 16.
     void ShowRow(int row, const StatRow& shown);
 
-    Row<QLabel*, 0, 16> lblStat;
-    Row<QLabel*, 0, 16> lblStatLabel;
+    using Labels = Row<QLabel*, 0, 16>;
+    Labels lblStat;
+    Labels lblStatLabel;
 
 private:
     QLabel* lblName;
