@@ -26,6 +26,8 @@ struct QtPlatformPlaces {
 class QtPlatform : public DiskFiles {
 public:
     explicit QtPlatform(QtPlatformPlaces places = {});
+    QtPlatform(const QtPlatform&) = delete;
+    QtPlatform& operator=(const QtPlatform&) = delete;
     ~QtPlatform() override;
 
     // How long ShowWait lets the screen paint; 100 at first. With 0 it handles what is waiting and returns.
