@@ -12,10 +12,11 @@ SlotPieces::SlotPieces(Input input)
     constexpr std::size_t head = 5;
     constexpr std::int64_t mostSlots = 17000;
     constexpr auto slotLength = static_cast<std::int64_t>(SlotLength);
+    const auto word = [&input](std::size_t at) { return input[at] + std::int64_t{256} * input[at + 1]; };
     std::int64_t slot = 0;
     while (input.size() >= head) {
-        slot = std::min(slot + input[0] + 256 * input[1], mostSlots);
-        const std::int64_t at = slot * slotLength + (input[2] + 256 * input[3]) % slotLength;
+        slot = std::min(slot + word(0), mostSlots);
+        const std::int64_t at = slot * slotLength + word(2) % slotLength;
         const std::size_t count = std::min<std::size_t>(input[4], input.size() - head);
         const Input bytes = input.subspan(head, count);
         pieces.push_back({std::max(at, length), {bytes.begin(), bytes.end()}});

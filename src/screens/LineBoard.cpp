@@ -247,7 +247,7 @@ void LineBoard::MoveFocus(const QWidget& from, int key)
 {
     const auto centre = [this](const QWidget& widget) { return widget.mapTo(this, widget.rect().center()); };
     const bool isSideways = key == Qt::Key_Left || key == Qt::Key_Right;
-    const int sign = key == Qt::Key_Right || key == Qt::Key_Down ? 1 : -1;
+    const long sign = key == Qt::Key_Right || key == Qt::Key_Down ? 1 : -1;
     const QPoint start = centre(from);
     SlotLabel* nearest = nullptr;
     long best = 0;

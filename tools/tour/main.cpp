@@ -384,7 +384,7 @@ private:
             if (!Offers().txtOffer->isEnabled())
                 continue;
             ++made;
-            Fill(Offers().txtOffer, QString::number(LeagueData.MinSalary + 250000 * made));
+            Fill(Offers().txtOffer, QString::number(LeagueData.MinSalary + 250000LL * made));
             Fill(Offers().txtDuration, QString::number(made + 1));
             Fill(Offers().txtBonus, "50000");
             Offers().txtComment->setFocus();
