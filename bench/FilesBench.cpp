@@ -15,7 +15,7 @@
 #include "support/SmallLeague.h"
 
 #include <benchmark/benchmark.h>
-#include <cstdio>
+#include <iostream>
 #include <random>
 #include <string_view>
 #ifndef _WIN32
@@ -183,7 +183,7 @@ long PeakKiB()
 {
     rusage usage{};
     getrusage(RUSAGE_SELF, &usage);
-    return usage.ru_maxrss;
+    return usage.ru_maxrss; // NOLINT(cppcoreguidelines-pro-type-union-access): the C library declares it that way
 }
 
 // The peak of a process never sinks, so the file is made by another one and the tables are touched first.
@@ -211,8 +211,9 @@ int TellMemory()
     const long opened = PeakKiB();
     if (window.Calls.empty() || !WriteLinesFile(1, machine.InFolder("Lines.dvl")))
         return 1;
-    std::printf("peak beyond the tables: opening %ld KiB, saving after it %ld KiB\n", opened - before,
-                PeakKiB() - before);
+    const long saved = PeakKiB();
+    std::cout << "peak beyond the tables: opening " << opened - before << " KiB, saving after it " << saved - before
+              << " KiB\n";
     return 0;
 }
 #endif

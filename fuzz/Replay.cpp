@@ -7,9 +7,9 @@
 #include "fuzz/Target.h"
 
 #include <algorithm>
-#include <cstdio>
 #include <filesystem>
 #include <fstream>
+#include <iostream>
 #include <iterator>
 #include <vector>
 
@@ -33,12 +33,11 @@ bool Replay(const fs::path& path)
 {
     std::ifstream file(path, std::ios::binary);
     if (!file) {
-        std::fprintf(stderr, "cannot read %s\n", path.string().c_str());
+        std::cerr << "cannot read " << path.string() << '\n';
         return false;
     }
     const std::vector<char> bytes((std::istreambuf_iterator<char>(file)), {});
-    std::printf("%s\n", path.string().c_str());
-    (void)std::fflush(stdout);
+    std::cout << path.string() << '\n' << std::flush;
     // A copy of just this size, so that reading behind its end is seen by whoever watches memory.
     const std::vector<std::uint8_t> input(bytes.begin(), bytes.end());
     dravik::fuzz::RunTarget(input);
@@ -56,6 +55,6 @@ int main(int argc, char** argv)
                 return 1;
             ++count;
         }
-    std::printf("%zu inputs\n", count);
+    std::cout << count << " inputs\n";
     return count == 0 ? 1 : 0;
 }
