@@ -9,6 +9,8 @@
 #include "rules/Function.h"
 #include "rules/People.h"
 
+#include <array>
+
 namespace dravik {
 namespace {
 
@@ -94,34 +96,45 @@ void ScratchEverybody()
         Goalies[1 + place * 160].Status = status::Scratch;
 }
 
-#define AGAINST_A_WALK(name, prepare, work)                                                                            \
-    void name(benchmark::State& state)                                                                                 \
-    {                                                                                                                  \
-        AgainstAWalk(                                                                                                  \
-            state, [] { work; }, prepare);                                                                             \
-    }                                                                                                                  \
-    BENCHMARK(name)->Iterations(2001)->UseManualTime()->Unit(benchmark::kMicrosecond)
+struct Case {
+    const char* Name;
+    void (*Prepare)(); // goes before each round, outside its time
+    void (*Work)();
+};
 
-AGAINST_A_WALK(JudgeRoster, Nothing, Demand(CheckRoster(Own, true, false, false)));
-AGAINST_A_WALK(JudgeRosterAndCap, Nothing, Demand(CheckRoster(Own, true, true, false)));
-AGAINST_A_WALK(JudgeCap, Nothing, Demand(CheckSalaryCap(Own, false)));
-AGAINST_A_WALK(JudgeLines, RefillDay, Demand(CheckLine(Own, false, 1, true)));
-AGAINST_A_WALK(JudgeEmptyLines, EmptyDay, Demand(!CheckLine(Own, false, 1, true)));
-AGAINST_A_WALK(JudgeFarmLines, Nothing, Demand(CheckLineFarm(Own, false, 1, true)));
-AGAINST_A_WALK(PayPro, Nothing, Demand(ProPayroll(Own) > 0));
-AGAINST_A_WALK(PayFarm, Nothing, Demand(FarmPayroll(Own) > 0));
-AGAINST_A_WALK(MakeLines, EmptyDay, AutoLines(Own, false, 1));
-AGAINST_A_WALK(MakeLinesPartly, EmptyDay, AutoLinesPartial(Own, false, 1));
-AGAINST_A_WALK(MakeFarmLines, Nothing, AutoLinesFarm(Own, false, 1));
-// These two come last: who is dressed afterwards is their own choice.
-AGAINST_A_WALK(MakeRoster, ScratchEverybody, AutoRoster(Own, false, false));
-AGAINST_A_WALK(MakeRosterPartly, ScratchEverybody, AutoRoster(Own, false, true));
+constexpr std::array Cases{
+    Case{"JudgeRoster", Nothing, [] { Demand(CheckRoster(Own, true, false, false)); }},
+    Case{"JudgeRosterAndCap", Nothing, [] { Demand(CheckRoster(Own, true, true, false)); }},
+    Case{"JudgeCap", Nothing, [] { Demand(CheckSalaryCap(Own, false)); }},
+    Case{"JudgeLines", RefillDay, [] { Demand(CheckLine(Own, false, 1, true)); }},
+    Case{"JudgeEmptyLines", EmptyDay, [] { Demand(!CheckLine(Own, false, 1, true)); }},
+    Case{"JudgeFarmLines", Nothing, [] { Demand(CheckLineFarm(Own, false, 1, true)); }},
+    Case{"PayPro", Nothing, [] { Demand(ProPayroll(Own) > 0); }},
+    Case{"PayFarm", Nothing, [] { Demand(FarmPayroll(Own) > 0); }},
+    Case{"MakeLines", EmptyDay, [] { AutoLines(Own, false, 1); }},
+    Case{"MakeLinesPartly", EmptyDay, [] { AutoLinesPartial(Own, false, 1); }},
+    Case{"MakeFarmLines", Nothing, [] { AutoLinesFarm(Own, false, 1); }},
+    // These two come last: who is dressed afterwards is their own choice.
+    Case{"MakeRoster", ScratchEverybody, [] { AutoRoster(Own, false, false); }},
+    Case{"MakeRosterPartly", ScratchEverybody, [] { AutoRoster(Own, false, true); }},
+};
+
+void RegisterCases()
+{
+    for (const Case& row : Cases)
+        benchmark::RegisterBenchmark(row.Name,
+                                     [&row](benchmark::State& state) { AgainstAWalk(state, row.Work, row.Prepare); })
+            ->Iterations(2001)
+            ->UseManualTime()
+            ->Unit(benchmark::kMicrosecond);
+}
 
 } // namespace
 } // namespace dravik
 
 int main(int argc, char** argv)
 {
+    dravik::RegisterCases();
     benchmark::Initialize(&argc, argv);
     benchmark::RunSpecifiedBenchmarks();
     return 0;
