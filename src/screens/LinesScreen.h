@@ -122,7 +122,7 @@ protected:
     void MakeLines(void (*maker)(int team, bool verbose, int day));
 
     const LinesKind& Kind;
-    QHBoxLayout* Commands; // the row of commands on the lines
+    QHBoxLayout* Commands = nullptr; // the row of commands on the lines
 
 private:
     void MakeControls();

@@ -48,7 +48,6 @@ LinesScreen::LinesScreen(Stage& stage, const LinesKind& kind) : Screen(stage, ki
     QHBoxLayout* body = MakeRow({MakePeopleColumn()}, Margin);
     body->addWidget(MakeLinesColumn(), 1);
     column->addLayout(body, 1);
-    Commands = MakeFooter({cmdAutoLines, cmdWipeLines, cmdCopy, cmdCopyAll}, {cmdExit});
     column->addLayout(Commands);
 
     setCentralWidget(content);
@@ -121,6 +120,7 @@ void LinesScreen::MakeCommands()
     cmdCopyAll = MakeCommand("cmdCopyAll", "Copy To A&ll Days", [this] { cmdCopyAll_Click(); });
     cmdDebug = MakeCommand("cmdDebug", "W&hy are my lines incomplete?", [this] { cmdDebug_Click(); });
     cmdExit = MakeCommand("cmdExit", "E&xit", [this] { cmdExit_Click(); });
+    Commands = MakeFooter({cmdAutoLines, cmdWipeLines, cmdCopy, cmdCopyAll}, {cmdExit});
 }
 
 void LinesScreen::MakeStrategyPage()
