@@ -40,11 +40,11 @@ inline Cost CostOf(const std::function<void()>& work)
     return {wall.count(), 1000.0 * static_cast<double>(std::clock() - cpu) / CLOCKS_PER_SEC};
 }
 
-// Runs the work of the one `Bench` and a walk in turn, so that both meet the same weather. The walk must take `people`.
+// Runs the work of a bench and a walk in turn, so that both meet the same weather. The walk must take `people`.
 template <class Bench, class Takes>
-void MeasureAgainstAWalk(benchmark::State& state, void (Bench::*work)(), const Takes& takes, long long people)
+void MeasureAgainstAWalk(benchmark::State& state, Bench& bench, void (Bench::*work)(), const Takes& takes,
+                         long long people)
 {
-    static Bench bench;
     Demand(WalkTables(takes) == people);
     (bench.*work)();
     (bench.*work)();

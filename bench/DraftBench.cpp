@@ -81,7 +81,7 @@ private:
 void AgainstAWalk(benchmark::State& state, void (Bench::*work)())
 {
     MeasureAgainstAWalk(
-        state, work, [](const auto& person) { return person.Team == 0; }, 11000);
+        state, TheBench<Bench>(), work, [](const auto& person) { return person.Team == 0; }, 11000);
 }
 
 constexpr int Rounds = 40;
@@ -93,4 +93,4 @@ BENCHMARK_CAPTURE(AgainstAWalk, Open, &Bench::OpenDraft)->Iterations(Rounds)->Us
 } // namespace
 } // namespace dravik
 
-int main(int argc, char** argv) { return dravik::RunScreenBenchmarks(argc, argv); }
+int main(int argc, char** argv) { return dravik::RunScreenBenchmarks<dravik::Bench>(argc, argv); }

@@ -98,7 +98,7 @@ private:
 void AgainstAWalk(benchmark::State& state, void (Bench::*work)())
 {
     MeasureAgainstAWalk(
-        state, work, [](const auto& person) { return person.Team == Own; }, 20);
+        state, TheBench<Bench>(), work, [](const auto& person) { return person.Team == Own; }, 20);
 }
 
 constexpr int Rounds = 200;
@@ -109,4 +109,4 @@ BENCHMARK_CAPTURE(AgainstAWalk, Day, &Bench::Day)->Iterations(Rounds)->UseManual
 } // namespace
 } // namespace dravik
 
-int main(int argc, char** argv) { return dravik::RunScreenBenchmarks(argc, argv); }
+int main(int argc, char** argv) { return dravik::RunScreenBenchmarks<dravik::Bench>(argc, argv); }

@@ -90,7 +90,7 @@ private:
 void AgainstAWalk(benchmark::State& state, void (Bench::*work)())
 {
     MeasureAgainstAWalk(
-        state, work, [](const auto& person) { return person.Contract == 0; }, OfferTable::last);
+        state, TheBench<Bench>(), work, [](const auto& person) { return person.Contract == 0; }, OfferTable::last);
 }
 
 constexpr int Rounds = 40;
@@ -103,4 +103,4 @@ BENCHMARK_CAPTURE(AgainstAWalk, TypeAheadInOffers, &Bench::TypeAhead)->Iteration
 } // namespace
 } // namespace dravik
 
-int main(int argc, char** argv) { return dravik::RunScreenBenchmarks(argc, argv); }
+int main(int argc, char** argv) { return dravik::RunScreenBenchmarks<dravik::Bench>(argc, argv); }

@@ -16,6 +16,27 @@ inline void Demand(bool holds)
         std::abort();
 }
 
+// Whether every figure so far was within its limit.
+inline bool WithinLimits = true;
+
+// Shows a limit beside the figures of a benchmark. A figure above it is marked and makes the run fail at its end.
+inline void HoldTo(benchmark::State& state, double figure, double limit)
+{
+    state.counters["limit"] = limit;
+    if (figure <= limit)
+        return;
+    state.SetLabel("ABOVE ITS LIMIT");
+    WithinLimits = false;
+}
+
+// The `main` of a bench. Its exit code is 0 when every figure was within its limit, and 1 when one was not.
+inline int RunBenchmarks(int argc, char** argv)
+{
+    benchmark::Initialize(&argc, argv);
+    benchmark::RunSpecifiedBenchmarks();
+    return WithinLimits ? 0 : 1;
+}
+
 inline double Seconds(const std::function<void()>& work)
 {
     const auto start = std::chrono::steady_clock::now();
@@ -29,9 +50,10 @@ inline double Median(std::vector<double> values)
     return values[values.size() / 2];
 }
 
-// Runs both in turn, so that both meet the same weather, and counts the median of ours divided by that of the bare work.
+// Runs both in turn, so that both meet the same weather. Counts and returns the median of ours divided by that of the bare
+// work.
 // `prepare` goes before each of ours, outside its time. The counters of the times are in units of `unit` seconds.
-inline void Compare(
+inline double Compare(
     benchmark::State& state, const std::function<void()>& ours, const std::function<void()>& bare, double unit,
     const std::function<void()>& prepare = [] {})
 {
@@ -48,7 +70,9 @@ inline void Compare(
     }
     state.counters["ours"] = Median(oursTimes) / unit;
     state.counters["bare"] = Median(bareTimes) / unit;
-    state.counters["ratio"] = Median(oursTimes) / Median(bareTimes);
+    const double ratio = Median(oursTimes) / Median(bareTimes);
+    state.counters["ratio"] = ratio;
+    return ratio;
 }
 
 } // namespace dravik

@@ -75,7 +75,7 @@ private:
 void AgainstAWalk(benchmark::State& state, void (Bench::*work)())
 {
     MeasureAgainstAWalk(
-        state, work, [](const auto& person) { return person.Team == Own; }, 60);
+        state, TheBench<Bench>(), work, [](const auto& person) { return person.Team == Own; }, 60);
 }
 
 constexpr int Rounds = 200;
@@ -86,4 +86,4 @@ BENCHMARK_CAPTURE(AgainstAWalk, Move, &Bench::Move)->Iterations(Rounds)->UseManu
 } // namespace
 } // namespace dravik
 
-int main(int argc, char** argv) { return dravik::RunScreenBenchmarks(argc, argv); }
+int main(int argc, char** argv) { return dravik::RunScreenBenchmarks<dravik::Bench>(argc, argv); }

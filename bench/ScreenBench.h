@@ -8,7 +8,9 @@
 #include "support/ScriptedPlatform.h"
 
 #include <benchmark/benchmark.h>
+#include <memory>
 #include <QApplication>
+#include <QScopeGuard>
 
 namespace dravik {
 
@@ -39,18 +41,29 @@ protected:
     Stage stage;
 };
 
-// The `main` of a bench of screens: draws without a display unless another platform is asked for.
-inline int RunScreenBenchmarks(
-    int argc, char** argv, void (*prepare)() = [] {})
+template <class Bench>
+std::unique_ptr<Bench> MadeBench;
+
+// The one bench of an executable, made when a measurement first asks for it.
+template <class Bench>
+Bench& TheBench()
+{
+    if (MadeBench<Bench> == nullptr)
+        MadeBench<Bench> = std::make_unique<Bench>();
+    return *MadeBench<Bench>;
+}
+
+// The `main` of a bench of screens: draws without a display unless another platform is asked for. The screens of the bench go
+// before the application that they live in.
+template <class Bench>
+int RunScreenBenchmarks(int argc, char** argv)
 {
     if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
         qputenv("QT_QPA_PLATFORM", "offscreen");
     const QApplication application(argc, argv);
+    const QScopeGuard leave([] { MadeBench<Bench>.reset(); });
     UseLightLook();
-    prepare();
-    benchmark::Initialize(&argc, argv);
-    benchmark::RunSpecifiedBenchmarks();
-    return 0;
+    return RunBenchmarks(argc, argv);
 }
 
 } // namespace dravik

@@ -1,7 +1,8 @@
 // What a general manager waits for on a full league, where every slot of the persons' tables is in use: the start, until the
 // main window stands there with the league open, and the opening of every screen, painted. The start is told with the share
 // of it that bare inflating of the same file takes ("inflate_share"), in turn within one run, and without the tenth of a
-// second that the wait screen is given to paint itself; "ours_ms" of a screen is to stay below 100.
+// second that the wait screen is given to paint itself; "ours_ms" of a screen is to stay within 100. Ends with 1 when one
+// does not.
 //
 //     screens_bench
 
@@ -88,25 +89,19 @@ private:
     std::unique_ptr<Stage> stage;
 };
 
-Bench& TheBench()
-{
-    static Bench bench;
-    return bench;
-}
-
 void StartToMainWindow(benchmark::State& state)
 {
-    Bench& bench = TheBench();
-    Compare(
+    Bench& bench = TheBench<Bench>();
+    const double ratio = Compare(
         state, [&] { bench.Start(); }, [&] { InflateAndThrowAway(bench.League, false); }, Millisecond,
         [&] { bench.Leave(); });
-    state.counters["inflate_share"] = 1 / static_cast<double>(state.counters["ratio"]);
+    state.counters["inflate_share"] = 1 / ratio;
 }
 BENCHMARK(StartToMainWindow)->Iterations(15)->UseManualTime()->Unit(benchmark::kMillisecond);
 
 void OpenScreen(benchmark::State& state, const char* name)
 {
-    Bench& bench = TheBench();
+    Bench& bench = TheBench<Bench>();
     bench.Leave();
     bench.Start();
     CurrentTeam = Own;
@@ -120,7 +115,9 @@ void OpenScreen(benchmark::State& state, const char* name)
         state.SetIterationTime(times.back());
         bench.Close(name);
     }
-    state.counters["ours_ms"] = Median(times) / Millisecond;
+    const double median = Median(times) / Millisecond;
+    state.counters["ours_ms"] = median;
+    HoldTo(state, median, 100);
     state.counters["worst_ms"] = *std::max_element(times.begin(), times.end()) / Millisecond;
 }
 
@@ -138,4 +135,8 @@ void RegisterScreens()
 } // namespace
 } // namespace dravik
 
-int main(int argc, char** argv) { return dravik::RunScreenBenchmarks(argc, argv, dravik::RegisterScreens); }
+int main(int argc, char** argv)
+{
+    dravik::RegisterScreens();
+    return dravik::RunScreenBenchmarks<dravik::Bench>(argc, argv);
+}
