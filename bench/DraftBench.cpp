@@ -44,11 +44,13 @@ public:
         Open("Draft");
         Demand(Draft().lstPlayers->count() == 11000);
     }
-    // Every fourth player leaves the list and comes back: two turns of the filter.
+    // Every fourth skater leaves the list, and comes back at the next turn.
     void Filter()
     {
-        Draft().chkPosition[position::Defense]->toggle();
+        QCheckBox* filter = Draft().chkPosition[position::Defense];
+        filter->toggle();
         Paint();
+        Demand(Draft().lstPlayers->count() == (filter->isChecked() ? 11000 : 8500));
     }
     // The last entry is found.
     void Search()
@@ -65,6 +67,7 @@ public:
         list->setCurrentRow(turn++ % 2 == 0 ? 1000 : 999);
         (turn % 2 == 0 ? Draft().cmdDown : Draft().cmdUp)->click();
         Paint();
+        Demand(list->currentRow() == (turn % 2 == 0 ? 1000 : 999));
     }
 
 private:

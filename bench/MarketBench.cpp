@@ -48,7 +48,7 @@ public:
             offer.Salary = 750000;
             offer.Duration = 2;
         }
-        Demand(Offers().lstPlayers->count() == OfferTable::last);
+        Demand(List()->count() == OfferTable::last);
     }
 
     // The screen filled and painted.
@@ -58,31 +58,38 @@ public:
     {
         Offers().chkShowPlayerWithOffer->toggle();
         Offers().grab();
+        Demand((List()->count() < OfferTable::last) == Offers().chkShowPlayerWithOffer->isChecked());
     }
     // A search that ends with the last entry but one, painted; the next one ends with the first.
     void Search()
     {
-        machine.Type(turn++ % 2 == 0 ? "GOALIE 999" : "");
+        const bool isLast = turn++ % 2 == 0;
+        machine.Type(isLast ? "GOALIE 999" : "");
         Offers().cmdSearch->click();
         Offers().grab();
+        Demand(List()->currentRow() == (isLast ? List()->count() - 2 : 0));
     }
     // A search that finds nobody.
     void SearchInVain()
     {
+        const int before = List()->currentRow();
         machine.Type("nobody is called so");
         Offers().cmdSearch->click();
+        Demand(List()->currentRow() == before);
     }
     // A letter that leads to a goalie, and the next to a skater, painted.
     void TypeAhead()
     {
-        PickList* list = Offers().lstPlayers;
-        list->keyboardSearch(QString());
-        QTest::keyClick(list, turn++ % 2 == 0 ? 'g' : 's');
+        const char letter = turn++ % 2 == 0 ? 'g' : 's';
+        List()->keyboardSearch(QString());
+        QTest::keyClick(List(), letter);
         Offers().grab();
+        Demand(List()->currentItem()->text().startsWith(QChar(letter), Qt::CaseInsensitive));
     }
 
 private:
     frmFreeAgentClient& Offers() { return On<frmFreeAgentClient>("FreeAgent"); }
+    PickList* List() { return Offers().lstPlayers; }
 
     int turn = 0;
 };

@@ -47,27 +47,38 @@ public:
         const QModelIndex entry = list->model()->index(turn++ % 5, 0);
         QTest::mouseClick(list->viewport(), Qt::LeftButton, {}, list->visualRect(entry).center());
         Roster().grab();
+        Demand(list->currentRow() == entry.row());
     }
     // Everybody listed and judged anew, painted.
     void Rebuild()
     {
         Roster().ShowPlayer(false);
         Roster().grab();
+        Demand(Listed() == 60);
     }
     // A dressed person sent to the scratches, or the one who went there back to the pro list, painted.
     void Move()
     {
         const bool isDown = turn++ % 2 == 0;
         PickList* list = Roster().lstPlayer[isDown ? status::Pro : status::Scratch];
+        const int before = list->count();
         const QModelIndex entry = list->model()->index(isDown ? 0 : list->count() - 1, 0);
         list->scrollTo(entry);
         QTest::mouseClick(list->viewport(), Qt::LeftButton, {}, list->visualRect(entry).center());
         (isDown ? Roster().cmdToScratchesFromPro : Roster().cmdToPro)->click();
         Roster().grab();
+        Demand(list->count() == before - 1 && Listed() == 60);
     }
 
 private:
     frmRoster& Roster() { return On<frmRoster>("Roster"); }
+    int Listed()
+    {
+        int listed = 0;
+        for (const PickList* list : Roster().lstPlayer)
+            listed += list->count();
+        return listed;
+    }
 
     int turn = 0;
 };
