@@ -1,4 +1,4 @@
-// Reads a lines file of any bytes over a small league: nobody gets a status that is none, a refused head changes nothing,
+// Reads a lines file of any bytes over a small league: nobody gets a status that does not exist, a refused head changes nothing,
 // and nothing is left behind on the disk.
 
 #include "fuzz/MemoryPlatform.h"
