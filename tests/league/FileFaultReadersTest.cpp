@@ -177,7 +177,7 @@ TEST_P(FileFaultLoadTest, ALoadOfLinesChangesEverythingOrNothing)
         // A file that is not there is refused; what happens to a wrapped file is told on the spot.
         const bool told = !Plain() && operation != "find" && operation != "delete";
         EXPECT_EQ(outcome.Thrown, told || operation == "find" ? 0 : Fault().Number);
-        EXPECT_EQ(outcome.Boxes, told ? std::vector{Fault().ToldWith(" in Zlib Decompress!")} : std::vector<Box>{});
+        EXPECT_EQ(outcome.Boxes, told ? Shown{Fault().ToldWith(" in Zlib Decompress!")} : Nothing());
     };
     EachFault(path, {"find", "delete", "find", "find", "open"}, load, check);
 }

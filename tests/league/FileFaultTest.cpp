@@ -100,7 +100,7 @@ TEST_P(FileFaultTest, CompressingLeavesTheTargetAsItWasOrWhole)
             const Outcome outcome = RunWith(fault, n, work);
             EXPECT_FALSE(outcome.Done);
             EXPECT_EQ(outcome.Thrown, 0);
-            EXPECT_EQ(outcome.Boxes, outcome.Killed ? std::vector<Box>{} : std::vector{fault.ToldWith(ending)});
+            EXPECT_EQ(outcome.Boxes, outcome.Killed ? Nothing() : Shown{fault.ToldWith(ending)});
             Snapshot left = Disk();
             if (outcome.Killed)
                 left.erase("Target.part"); // the next run writes over it

@@ -9,6 +9,7 @@
 #include "league/OffersFile.h"
 #include "support/FaultyFiles.h"
 #include "support/OpenedWindow.h"
+#include "support/RealFaults.h"
 
 #include <algorithm>
 #include <filesystem>
@@ -122,7 +123,7 @@ TEST_P(FileFaultWritersTest, TheFileIsOldOrGoneOrWholeAndTheNextSaveLeavesNothin
             EXPECT_FALSE(outcome.Done);
             const bool told = !plain && n > 4; // what happens to the wrapped file itself is told on the spot
             EXPECT_EQ(outcome.Thrown, told ? 0 : fault.Number);
-            EXPECT_EQ(outcome.Boxes, told ? std::vector{fault.ToldWith(" in Zlib Compress!")} : std::vector<Box>{});
+            EXPECT_EQ(outcome.Boxes, told ? Shown{fault.ToldWith(" in Zlib Compress!")} : Nothing());
             EXPECT_TRUE(left == (n == 2 ? before : n == 4 ? Snapshot{{target, Old}} : Snapshot{}));
         }
         EXPECT_TRUE(Tables() == tables);
@@ -223,6 +224,45 @@ TEST_P(FileFaultWritersOnceTest, WhateverComesAfterAKilledSaveRemovesWhatItLeft)
         }
     }
     EXPECT_GE(leftovers, 4 * 7) << "behind the creation, the writes, the flush and the close";
+}
+
+TEST_P(FileFaultWritersOnceTest, ADiskThatIsTrulyFullIsToldAndNothingIsLeftOnIt)
+{
+    const auto [writer, plain] = GetParam();
+    const auto save = [&, writer = writer] { return Save(writer); };
+    MakePlain(plain);
+    for (const int room : {0, 64}) {
+        SetDisk({{TargetOf(writer), Old}, {WorkFile, Old}});
+        {
+            const SmallDisk disk(static_cast<rlim_t>(room));
+            const Outcome outcome = Run(save);
+            EXPECT_FALSE(outcome.Done);
+            EXPECT_EQ(outcome.Thrown, plain ? failure::DiskFull : 0);
+            EXPECT_EQ(outcome.Boxes, plain ? Nothing() : Critical("61 - Disk full in Zlib Compress!"));
+        }
+        EXPECT_THAT(FileNames(), IsEmpty()) << room;
+        EXPECT_TRUE(Run(save).Done);
+    }
+}
+
+TEST_P(FileFaultWritersOnceTest, AFolderThatMayNotBeWrittenIsToldAndStaysAsItWas)
+{
+    const auto [writer, plain] = GetParam();
+    MakePlain(plain);
+    const Snapshot files[] = {{}, {{TargetOf(writer), Old}}, {{WorkFile, Old}}};
+    for (const Snapshot& before : files) {
+        SetDisk(before);
+        Outcome outcome;
+        {
+            const ReadOnly folder(Machine.Folder());
+            outcome = Run([&, writer = writer] { return Save(writer); });
+        }
+        EXPECT_FALSE(outcome.Done);
+        const bool told = before.empty() && !plain; // without anything to delete it is the new file that fails
+        EXPECT_EQ(outcome.Thrown, told ? 0 : failure::PermissionDenied);
+        EXPECT_EQ(outcome.Boxes, told ? Critical("70 - Permission denied in Zlib Compress!") : Nothing());
+        EXPECT_TRUE(Disk() == before);
+    }
 }
 
 #endif

@@ -66,6 +66,11 @@ protected:
     void SetDisk(const Snapshot& files) const;
     [[nodiscard]] std::vector<std::string> FileNames() const;
 
+    // What a run showed: nothing, or a critical box.
+    using Shown = std::vector<Box>;
+    static Shown Nothing() { return {}; }
+    static Shown Critical(const std::string& text) { return {{box::Critical, text}}; }
+
     // Every table of the program.
     static ByteVector Tables();
 
