@@ -119,7 +119,7 @@ TEST_F(QtPlatformTest, AProgramFolderThatCannotBeMadeFails)
     EXPECT_EQ(NumberOfFailure([&] { ChooseProgramFolder("", Path("documents")); }), 75);
 }
 
-TEST_F(QtPlatformTest, TheVersionIsThatOfTheBuild) { EXPECT_EQ(Desktop.Version(), "1.1.4"); }
+TEST_F(QtPlatformTest, TheVersionIsThatOfTheBuild) { EXPECT_EQ(Desktop.Version(), DRAVIK_VERSION); }
 
 TEST_F(QtPlatformTest, TheSecondOfTwoInstancesKnowsOfTheFirst)
 {
