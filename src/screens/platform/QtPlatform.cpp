@@ -123,7 +123,7 @@ std::string QtPlatform::ProgramFolder()
 {
     if (places.ProgramFolder.isEmpty()) {
 #ifdef Q_OS_MACOS
-        const QString executableFolder; // within the bundle, which stays as it was signed
+        const QString executableFolder; // programs keep nothing beside themselves there
 #else
         const QString executableFolder = QCoreApplication::applicationDirPath();
 #endif
