@@ -107,10 +107,10 @@ constexpr double JudgeLimit = 4;
 constexpr double MakerLimit = 30;
 
 struct Case {
-    const char* Name;
-    double Limit;      // in walks; 0 = none
-    void (*Prepare)(); // goes before each round, outside its time
-    void (*Work)();
+    const char* Name = nullptr;
+    double Limit = 0;            // in walks; 0 = none
+    void (*Prepare)() = nullptr; // goes before each round, outside its time
+    void (*Work)() = nullptr;
     bool (*Holds)() = [] { return true; }; // what must be true after the last round
 };
 
