@@ -163,14 +163,6 @@ void MemoryPlatform::DeleteFile(const std::string& path)
         Fail(failure::FileNotFound);
 }
 
-void MemoryPlatform::CopyFile(const std::string& from, const std::string& to)
-{
-    const auto found = Files.find(from);
-    if (found == Files.end())
-        Fail(failure::FileNotFound);
-    Files[to] = found->second;
-}
-
 std::optional<std::string> MemoryPlatform::FindEntry(const std::string& path)
 {
     const auto separator = path.rfind(PathSeparator);

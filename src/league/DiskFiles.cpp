@@ -197,25 +197,6 @@ void DiskFiles::DeleteFile(const std::string& path)
         FailWith(error, file);
 }
 
-void DiskFiles::CopyFile(const std::string& from, const std::string& to)
-{
-    const std::string beside = to + ".part";
-    try {
-        const auto source = OpenFile(from);
-        const auto target = CreateFile(beside);
-        std::array<char, 1 << 16> buffer{};
-        for (std::size_t count = 0; (count = source->Read(buffer.data(), buffer.size())) > 0;)
-            target->Write(buffer.data(), count);
-        target->Flush();
-        target->Close();
-        RenameFile(beside, to);
-    } catch (...) {
-        std::error_code ignored;
-        fs::remove(NativePath(beside), ignored);
-        throw;
-    }
-}
-
 std::optional<std::string> DiskFiles::FindEntry(const std::string& path)
 {
     const fs::path wanted = NativePath(path);

@@ -15,7 +15,6 @@ public:
     std::int64_t FileLength(const std::string& path) override;
     void RenameFile(const std::string& from, const std::string& to) override;
     void DeleteFile(const std::string& path) override;
-    void CopyFile(const std::string& from, const std::string& to) override;
     std::optional<std::string> FindEntry(const std::string& path) override;
 
 protected:

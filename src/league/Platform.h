@@ -105,8 +105,6 @@ public:
     // Gives `from` the name `to`, replacing what stands there in one step.
     virtual void RenameFile(const std::string& from, const std::string& to) = 0;
     virtual void DeleteFile(const std::string& path) = 0;
-    // Copies `from` to `to`, which appears only when it is whole.
-    virtual void CopyFile(const std::string& from, const std::string& to) = 0;
     // The name of the first entry that matches the path, whatever its case; an entry of exactly this name comes first.
     virtual std::optional<std::string> FindEntry(const std::string& path) = 0;
 };

@@ -110,7 +110,6 @@ TEST_F(DiskFilesTest, AMissingFileFailsWith53)
     EXPECT_EQ(NumberThrownBy([&] { Disk.FileLength(In("missing")); }), 53);
     EXPECT_EQ(NumberThrownBy([&] { Disk.DeleteFile(In("missing")); }), 53);
     EXPECT_EQ(NumberThrownBy([&] { Disk.RenameFile(In("missing"), In("new")); }), 53);
-    EXPECT_EQ(NumberThrownBy([&] { Disk.CopyFile(In("missing"), In("new")); }), 53);
     EXPECT_THAT(Entries(), IsEmpty());
 }
 
@@ -124,7 +123,6 @@ TEST_F(DiskFilesTest, AMissingFolderFailsWith76)
     EXPECT_EQ(NumberThrownBy([&] { Disk.DeleteFile(nowhere); }), 76);
     EXPECT_EQ(NumberThrownBy([&] { Disk.RenameFile(nowhere, In("new")); }), 76);
     EXPECT_EQ(NumberThrownBy([&] { Disk.RenameFile(In("here"), nowhere); }), 76);
-    EXPECT_EQ(NumberThrownBy([&] { Disk.CopyFile(In("here"), nowhere); }), 76);
     EXPECT_EQ(NumberThrownBy([&] { Disk.FindEntry(nowhere); }), 76);
     EXPECT_THAT(Entries(), UnorderedElementsAre("here"));
 }
@@ -153,8 +151,6 @@ TEST_F(DiskFilesTest, AFolderIsNoFile)
     EXPECT_EQ(NumberThrownBy([&] { Disk.CreateFile(In("folder")); }), 75);
     EXPECT_EQ(NumberThrownBy([&] { Disk.FileLength(In("folder")); }), 75);
     EXPECT_EQ(NumberThrownBy([&] { Disk.RenameFile(In("file"), In("folder")); }), 75);
-    EXPECT_EQ(NumberThrownBy([&] { Disk.CopyFile(In("file"), In("folder")); }), 75);
-    EXPECT_EQ(NumberThrownBy([&] { Disk.CopyFile(In("folder"), In("new")); }), 75);
     EXPECT_THAT(Entries(), UnorderedElementsAre("file", "folder"));
 }
 
@@ -180,43 +176,6 @@ TEST_F(DiskFilesTest, RenamingReplacesWhatStandsThere)
     Disk.RenameFile(In("from"), In("to"));
     EXPECT_EQ(Bytes("to"), "new");
     EXPECT_THAT(Entries(), UnorderedElementsAre("to"));
-}
-
-TEST_F(DiskFilesTest, CopyingReplacesWhatStandsThereAndKeepsTheSource)
-{
-    const std::string big(200000, 'q');
-    Make("from", big);
-    Make("to", "older");
-    Disk.CopyFile(In("from"), In("to"));
-    EXPECT_EQ(Bytes("to"), big);
-    EXPECT_EQ(Bytes("from"), big);
-    EXPECT_THAT(Entries(), UnorderedElementsAre("from", "to"));
-}
-
-TEST_F(DiskFilesTest, AnEmptyFileIsCopiedAsOne)
-{
-    Make("from", "");
-    Disk.CopyFile(In("from"), In("to"));
-    EXPECT_THAT(Entries(), UnorderedElementsAre("from", "to"));
-    EXPECT_EQ(Bytes("to"), "");
-}
-
-TEST_F(DiskFilesTest, CopyingLeavesNoHalfFileWhicheverStepFails)
-{
-    Make("from", std::string(200000, 'q'));
-    Make("to", "older");
-    Disk.CopyFile(In("from"), In("whole"));
-    const std::size_t steps = Disk.FileOperations().size();
-    ASSERT_GT(steps, 8U);
-    fs::remove(In("whole"));
-    // The first step is the copying itself, of which nothing is done then.
-    for (std::size_t step = 1; step <= steps; ++step) {
-        Disk.FailFileOperation(step, failure::DiskFull);
-        EXPECT_EQ(NumberThrownBy([&] { Disk.CopyFile(In("from"), In("to")); }), 61) << step;
-        Disk.FailNoMore();
-        EXPECT_EQ(Bytes("to"), "older") << step;
-        EXPECT_THAT(Entries(), UnorderedElementsAre("from", "to")) << step;
-    }
 }
 
 TEST_F(DiskFilesTest, AnEntryIsFoundWhateverTheCaseOfItsName)
@@ -279,7 +238,6 @@ TEST_F(DiskFilesTest, AFolderThatMayNotBeWrittenFailsWith70AndStaysAsItWas)
         EXPECT_EQ(NumberThrownBy([&] { Disk.CreateFile(In("new")); }), 70);
         EXPECT_EQ(NumberThrownBy([&] { Disk.DeleteFile(In("file")); }), 70);
         EXPECT_EQ(NumberThrownBy([&] { Disk.RenameFile(In("file"), In("new")); }), 70);
-        EXPECT_EQ(NumberThrownBy([&] { Disk.CopyFile(In("file"), In("other")); }), 70);
     }
     EXPECT_THAT(Entries(), UnorderedElementsAre("file", "other"));
     EXPECT_EQ(Bytes("other"), "y");
@@ -301,18 +259,6 @@ TEST_F(DiskFilesTest, AFullDiskFailsWith61)
                   file->Flush();
               }),
               61);
-}
-
-TEST_F(DiskFilesTest, CopyingToAFullDiskKeepsTheOldTargetAndLeavesNoHalfFile)
-{
-    Make("from", std::string(5000, 'q'));
-    Make("to", "older");
-    {
-        const SmallDisk disk(1000);
-        EXPECT_EQ(NumberThrownBy([&] { Disk.CopyFile(In("from"), In("to")); }), 61);
-    }
-    EXPECT_EQ(Bytes("to"), "older");
-    EXPECT_THAT(Entries(), UnorderedElementsAre("from", "to"));
 }
 
 TEST_F(DiskFilesTest, AFileThatMayNotBeReadFailsWith70)
@@ -351,8 +297,6 @@ TEST_F(DiskFilesTest, AFileThatAnotherProgramHoldsFailsWith70AndStaysAsItWas)
         EXPECT_EQ(NumberThrownBy([&] { Disk.DeleteFile(In("held")); }), 70);
         EXPECT_EQ(NumberThrownBy([&] { Disk.RenameFile(In("held"), In("new")); }), 70);
         EXPECT_EQ(NumberThrownBy([&] { Disk.RenameFile(In("other"), In("held")); }), 70);
-        EXPECT_EQ(NumberThrownBy([&] { Disk.CopyFile(In("other"), In("held")); }), 70);
-        EXPECT_EQ(NumberThrownBy([&] { Disk.CopyFile(In("held"), In("new")); }), 70);
     }
     EXPECT_THAT(Entries(), UnorderedElementsAre("held", "other"));
     EXPECT_EQ(Bytes("held"), "x");

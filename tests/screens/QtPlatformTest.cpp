@@ -338,7 +338,7 @@ protected:
     QStringList Entries() { return QDir(Folder.path()).entryList(QDir::Files, QDir::Name); }
 };
 
-TEST_F(QtFiles, NamesOfAnyLettersAreWrittenReadCopiedRenamedAndDeleted)
+TEST_F(QtFiles, NamesOfAnyLettersAreWrittenReadRenamedAndDeleted)
 {
     for (const QString& name :
          {QString("plain.dvl"), QString::fromUtf8("Équipe œ € ™.dvl"), QString::fromUtf8("Лёд.dvl"),
@@ -348,13 +348,10 @@ TEST_F(QtFiles, NamesOfAnyLettersAreWrittenReadCopiedRenamedAndDeleted)
         EXPECT_EQ(Content(name), "puck");
         EXPECT_EQ(Desktop.FileLength(InFolder(name)), 4);
         EXPECT_EQ(Desktop.FindEntry(InFolder(name)), PathToProgram(name));
-        Desktop.CopyFile(InFolder(name), InFolder("2" + name));
+        Desktop.RenameFile(InFolder(name), InFolder("2" + name));
+        EXPECT_EQ(Desktop.FindEntry(InFolder(name)), std::nullopt);
         EXPECT_EQ(Content("2" + name), "puck");
-        Desktop.RenameFile(InFolder("2" + name), InFolder("3" + name));
-        EXPECT_EQ(Desktop.FindEntry(InFolder("2" + name)), std::nullopt);
-        EXPECT_EQ(Entries().size(), 2);
-        Desktop.DeleteFile(InFolder(name));
-        Desktop.DeleteFile(InFolder("3" + name));
+        Desktop.DeleteFile(InFolder("2" + name));
         EXPECT_EQ(Entries(), QStringList());
     }
 }

@@ -257,12 +257,6 @@ void ScriptedPlatform::DeleteFile(const std::string& path)
     DiskFiles::DeleteFile(path);
 }
 
-void ScriptedPlatform::CopyFile(const std::string& from, const std::string& to)
-{
-    Count("copy");
-    DiskFiles::CopyFile(from, to);
-}
-
 std::optional<std::string> ScriptedPlatform::FindEntry(const std::string& path)
 {
     Count("find");

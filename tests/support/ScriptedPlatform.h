@@ -53,7 +53,7 @@ public:
     [[nodiscard]] const std::vector<std::pair<std::string, std::string>>& Dialogs() const { return dialogs; }
 
     // The file operations done so far, by name ("open", "create", "read", "write", "flush", "close", "length", "rename",
-    // "delete", "copy", "find"). From the n-th on (counted from 1), or only then, they fail with `number`.
+    // "delete", "find"). From the n-th on (counted from 1), or only then, they fail with `number`.
     [[nodiscard]] const std::vector<std::string>& FileOperations() const { return operations; }
     void FailFileOperation(std::size_t n, int number)
     {
@@ -112,7 +112,6 @@ public:
     std::int64_t FileLength(const std::string& path) override;
     void RenameFile(const std::string& from, const std::string& to) override;
     void DeleteFile(const std::string& path) override;
-    void CopyFile(const std::string& from, const std::string& to) override;
     std::optional<std::string> FindEntry(const std::string& path) override;
 
     // Notes one file operation and fails if it is its turn; `beforeFault` is then called first.
