@@ -1,0 +1,287 @@
+#include "Evening.h"
+#include "league/ClientVariable.h"
+#include "league/LinesFile.h"
+#include "league/OutsideCode.h"
+#include "rules/Function.h"
+#include "screens/frmEditPlayer.h"
+#include "screens/frmFarmLine.h"
+#include "screens/frmLine.h"
+#include "screens/platform/CodePage.h"
+#include "screens/RosterEntry.h"
+
+#include <iostream>
+#include <QApplication>
+#include <QFileInfo>
+#include <QKeyEvent>
+#include <QMouseEvent>
+
+// The evening itself, and what it does for the team: roster, lines, the lines file.
+namespace dravik::tour {
+
+void Evening::Spend()
+{
+    Start();
+    OpenLeague();
+    EnterOffice();
+    Photograph("Team", "team-first");
+    ShapeRoster();
+    MakeLines();
+    Photograph("Team", "team");
+    SaveLines();
+    LoadLines();
+    ShowTickets();
+    LeaveOffice();
+    MakeOffers();
+    RankDraft();
+    ExportTheRatings();
+    ShowAbout();
+    ShowEmptyScreens();
+}
+
+void Evening::Start()
+{
+    Require(stage.Start(), "the program starts");
+    Photograph("Main", "main-empty");
+}
+
+void Evening::OpenLeague()
+{
+    answers.Choose(plan.League);
+    Main().mnuOpen->trigger();
+    NoComplaints("the league opens");
+    Require(Main().mnuTeam->menuAction()->isVisible(), "the team menu comes up");
+    Require(ListOf(plan.Team) != nullptr, "the team stands in a list");
+    Choose();
+    Photograph("Main", "main");
+}
+
+void Evening::Choose()
+{
+    EntryList* list = ListOf(plan.Team);
+    list->setFocus();
+    for (int row = 0; row < list->count(); ++row)
+        if (list->item(row)->data(entry::NumberRole).toInt() == plan.Team)
+            list->setCurrentRow(row, QItemSelectionModel::ClearAndSelect);
+    Require(CurrentTeam == plan.Team, "the team is chosen");
+}
+
+void Evening::EnterOffice()
+{
+    Choose();
+    ExpectPassword();
+    QKeyEvent enter(QEvent::KeyPress, Qt::Key_Return, Qt::NoModifier);
+    QApplication::sendEvent(ListOf(plan.Team), &enter);
+    NoComplaints("the password is proved");
+    Require(stage.Find("Team") != nullptr && stage.Find("Team")->isVisible(), "the team screen opens");
+}
+
+void Evening::LeaveOffice()
+{
+    Team().cmdExit->click();
+    QApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    Require(stage.Find("Team") == nullptr && Main().isVisible(), "the main screen comes back");
+}
+
+void Evening::ShapeRoster()
+{
+    answers.ConfirmAll(true); // what opening finds depends on the league
+    Team().CmdRoster->click();
+    QApplication::processEvents();
+    answers.ConfirmAll(false);
+    Require(stage.Find("Roster") != nullptr && stage.Find("Roster")->isVisible(), "the roster screen opens");
+    Photograph("Roster", "roster-first");
+    answers.ConfirmAll(true); // the maker says what it did
+    Roster().cmdAutoRoster->click();
+    QApplication::processEvents();
+    answers.ConfirmAll(false);
+    Require(Roster().lblComplete->text() == "Roster Is Complete", "the roster is complete: " + Judged());
+    PickList* pro = Roster().lstPlayer[status::Pro];
+    pro->setFocus();
+    for (int step = 0; step < 4; ++step) {
+        QKeyEvent down(QEvent::KeyPress, Qt::Key_Down, Qt::NoModifier);
+        QApplication::sendEvent(pro, &down);
+    }
+    Require(SelectedPlayer > 0 && Roster().cmdToScratchesFromPro->isEnabled(), "a player is chosen");
+    NoComplaints("the roster is made");
+    Photograph("Roster", "roster");
+    const int number = pro->currentItem()->data(entry::NumberRole).toInt();
+    Roster().cmdToScratchesFromPro->click();
+    PickList* scratches = Roster().lstPlayer[status::Scratch];
+    Require(scratches->RowOf(number) >= 0 && pro->RowOf(number) < 0, "he moves to the scratches");
+    Photograph("Roster", "roster-moved");
+    scratches->setCurrentRow(scratches->RowOf(number), QItemSelectionModel::ClearAndSelect);
+    Roster().cmdToPro->click();
+    Require(pro->RowOf(number) >= 0, "and back again");
+    Require(Roster().lblComplete->text() == "Roster Is Complete", "the roster is complete again");
+    ShowPlayer(position::Center, "player-skater");
+    ShowPlayer(position::Goalie, "player-goalie");
+    Roster().cmdExit->click();
+    QApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    NoComplaints("the roster is shaped");
+    Require(stage.Find("Roster") == nullptr && Team().isVisible(), "the team screen comes back");
+}
+
+void Evening::ShowPlayer(int position, const QString& picture)
+{
+    PickList* pro = Roster().lstPlayer[status::Pro];
+    int row = 0;
+    while (row < pro->count() && EntryPosition(pro->item(row)->data(entry::NumberRole).toInt()) != position)
+        ++row;
+    Require(row < pro->count(), "somebody plays the position of " + picture);
+    pro->scrollToItem(pro->item(row));
+    const QPointF spot = pro->visualItemRect(pro->item(row)).center();
+    for (const QEvent::Type type : {QEvent::MouseButtonPress, QEvent::MouseButtonRelease, QEvent::MouseButtonDblClick,
+                                    QEvent::MouseButtonRelease}) {
+        QMouseEvent event(type, spot, pro->viewport()->mapToGlobal(spot), Qt::LeftButton,
+                          type == QEvent::MouseButtonRelease ? Qt::NoButton : Qt::LeftButton, Qt::NoModifier);
+        QApplication::sendEvent(pro->viewport(), &event);
+    }
+    NoComplaints("the record opens");
+    auto* viewer = static_cast<frmEditPlayer*>(stage.Find("EditPlayer"));
+    Require(viewer != nullptr && viewer->isVisible() && !Roster().isVisible(), "the player viewer opens");
+    Require(viewer->lstPlayer->count() == 1, "it shows the one player");
+    Photograph("EditPlayer", picture);
+    viewer->cmdExit->click();
+    QApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    NoComplaints("the record closes");
+    Require(stage.Find("EditPlayer") == nullptr && Roster().isVisible(), "the roster screen comes back");
+}
+
+QString Evening::Judged() { return ToQString(LastRosterText()); }
+
+void Evening::MakeLines()
+{
+    Require(CheckRoster(plan.Team, false, true, false), "the roster stays complete: " + Judged());
+    MakeLinesOn(*Team().cmdLines, "Line", "lines");
+    MakeLinesOn(*Team().cmdFarmLines, "FarmLine", "farmlines");
+    Require(Team().cmdSaveToFile->isEnabled(), "both first days are complete");
+}
+
+void Evening::MakeLinesOn(QPushButton& command, std::string_view name, const QString& picture)
+{
+    answers.ConfirmAll(true); // the maker says what it did, and what opening finds depends on the league
+    command.click();
+    QApplication::processEvents();
+    Require(stage.Find(name) != nullptr && stage.Find(name)->isVisible(), "the lines screen opens");
+    auto& screen = static_cast<LinesScreen&>(*stage.Find(name));
+    Photograph(name, picture + "-first");
+    for (int day = screen.vscDay->maximum(); day >= 1; --day) {
+        screen.vscDay->setValue(day);
+        screen.cmdAutoLines->click();
+        Require(screen.lblComplete->text() == "Lines are Complete",
+                "the lines are complete: " + ToQString(LastLinesText()));
+    }
+    screen.cmdCopyAll->click();
+    answers.ConfirmAll(false);
+    PickFirst(screen);
+    for (int tab = 0; tab < screen.TabLine->count(); ++tab) {
+        screen.TabLine->setCurrentIndex(tab);
+        Photograph(name, QString("%1-tab%2").arg(picture).arg(tab + 1));
+    }
+    screen.TabLine->setCurrentIndex(0);
+    screen.cmdExit->click();
+    QApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    NoComplaints("the lines are made");
+    Require(stage.Find(name) == nullptr && Team().isVisible(), "the team screen comes back");
+}
+
+void Evening::PickFirst(LinesScreen& screen)
+{
+    screen.lstPlayer->setFocus();
+    QKeyEvent down(QEvent::KeyPress, Qt::Key_Down, Qt::NoModifier);
+    QApplication::sendEvent(screen.lstPlayer, &down);
+    Require(SelectedPlayer > 0 && !screen.lblPlaying->text().isEmpty(), "a player is picked");
+}
+
+void Evening::SaveLines()
+{
+    const QString target = PathToDesktop(LinesFilePath(plan.Team));
+    Require(Team().cmdSaveToFile->isEnabled(), "the lines file can be saved");
+    ExpectPassword();
+    answers.Confirm("Lines file for " + TeamName() + " successfully save at\n" + target);
+    Team().cmdSaveToFile->click();
+    NoComplaints("the lines file is saved");
+    Require(QFileInfo(target).size() > 0, "the lines file lies on disk");
+    saved = target;
+    std::cout << "saved " << saved.toStdString() << '\n';
+}
+
+void Evening::ExpectPassword()
+{
+    constexpr std::size_t digestLength = 32;
+    if (RemoveSpaces(Teams[plan.Team].Password.Raw()).size() == digestLength)
+        answers.Type("Password Required!", plan.Password);
+}
+
+void Evening::LoadLines()
+{
+    const Lines day1 = Teams[plan.Team].ProLines[1];
+    WipesLines(plan.Team, 1, true);
+    Team().FormActivate();
+    Require(!Team().cmdSaveToFile->isEnabled(), "wiped lines cannot be saved");
+    Photograph("Team", "team-wiped");
+    answers.Choose(saved);
+    answers.Confirm("Lines file for " + TeamName() + " successfully load from\n" + saved);
+    Team().cmdLoadFile->click();
+    NoComplaints("the lines file is loaded");
+    Require(Teams[plan.Team].ProLines[1].NormalForward(1, 1) == day1.NormalForward(1, 1) &&
+                Teams[plan.Team].ProLines[1].StartGoalie == day1.StartGoalie,
+            "the lines are back");
+    Require(Team().cmdSaveToFile->isEnabled(), "the lines are complete again");
+}
+
+void Evening::Leave(const char* name, const Screen& behind, QPushButton* exit)
+{
+    exit->click();
+    QApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    Require(stage.Find(name) == nullptr && behind.isVisible(), QString("the way back from ") + name);
+}
+
+void Evening::Photograph(std::string_view screen, const QString& name)
+{
+    Require(camera.Photograph(*stage.Find(screen), name), "pictures of " + name + " are written");
+}
+
+void Evening::NoComplaints(const QString& step)
+{
+    QApplication::processEvents();
+    const QStringList complaints = answers.TakeComplaints();
+    Require(complaints.isEmpty(), step + ": " + complaints.join("; "));
+}
+
+void Evening::Require(bool holds, const QString& what)
+{
+    if (!holds)
+        throw StepFailed(what);
+}
+
+frmTeam& Evening::Team()
+{
+    Require(stage.Find("Team") != nullptr, "the team screen is there");
+    return *static_cast<frmTeam*>(stage.Find("Team"));
+}
+
+frmRoster& Evening::Roster()
+{
+    Require(stage.Find("Roster") != nullptr, "the roster screen is there");
+    return *static_cast<frmRoster*>(stage.Find("Roster"));
+}
+
+frmFreeAgentClient& Evening::Offers()
+{
+    Require(stage.Find("FreeAgent") != nullptr, "the screen of the offers is there");
+    return *static_cast<frmFreeAgentClient*>(stage.Find("FreeAgent"));
+}
+
+QString Evening::TeamName() const { return ToQString(Teams[plan.Team].Name.Trimmed()); }
+
+EntryList* Evening::ListOf(int team)
+{
+    for (EntryList* list : Main().lstDivision)
+        for (int row = 0; row < list->count(); ++row)
+            if (list->item(row)->data(entry::NumberRole).toInt() == team)
+                return list;
+    return nullptr;
+}
+
+} // namespace dravik::tour

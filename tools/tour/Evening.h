@@ -1,0 +1,93 @@
+#pragma once
+
+#include "Answers.h"
+#include "Camera.h"
+#include "screens/frmFreeAgentClient.h"
+#include "screens/frmMain.h"
+#include "screens/frmRoster.h"
+#include "screens/frmTeam.h"
+#include "screens/LinesScreen.h"
+#include "screens/Stage.h"
+
+#include <stdexcept>
+
+namespace dravik::tour {
+
+struct StepFailed : std::runtime_error {
+    explicit StepFailed(const QString& what) : std::runtime_error(what.toStdString()) {}
+};
+
+struct Plan {
+    QString League;
+    QString Out;
+    int Team = 0;
+    QString Password;
+};
+
+// Spends a typical evening with the program, on its real screens and dialogs but without a display: opens a league, proves
+// a team's password, makes its roster and lines, saves the lines file and takes it back, sets a price, ranks a draft and
+// exports the ratings. It leaves a picture of every screen that it visits, and fails with StepFailed at the first thing that
+// does not come true.
+class Evening {
+public:
+    explicit Evening(Plan evening) : plan(std::move(evening)), camera(plan.Out) {}
+
+    void Spend();
+
+private:
+    void Start();
+    void OpenLeague();
+    // Goes to the team's entry as by keyboard.
+    void Choose();
+    void EnterOffice();
+    void LeaveOffice();
+    // Looks at the roster as it came, has it made, looks through one list and moves a scratch up and down again.
+    void ShapeRoster();
+    // Opens the record of the first pro of a position by a double click, and closes it again.
+    void ShowPlayer(int position, const QString& picture);
+    static QString Judged();
+    void MakeLines();
+    // Looks at the lines as they came, has those of every day made, and looks at every tab of the first day.
+    void MakeLinesOn(QPushButton& command, std::string_view name, const QString& picture);
+    // Picks the first player of the list by keyboard.
+    static void PickFirst(LinesScreen& screen);
+    void SaveLines();
+    // A team without a password is entered without a question.
+    void ExpectPassword();
+    // Takes the saved lines back after the day's were lost.
+    void LoadLines();
+    // Raises the price of the first seats by one.
+    void ShowTickets();
+    // Ranks four free agents, moves the third to the top, shows him and saves the list. The league is taken for one that is
+    // about to draft.
+    void RankDraft();
+    void ExportTheRatings();
+    void ShowAbout();
+    // The screens whose commands are hidden.
+    void ShowEmptyScreens();
+    // Leaves a screen, which brings `behind` back.
+    void Leave(const char* name, const Screen& behind, QPushButton* exit);
+    // Makes the first two people an offer who may take one, looks at those with an offer alone, and saves the offer file.
+    void MakeOffers();
+
+    static void Fill(EditBox* box, const QString& text);
+    void Photograph(std::string_view screen, const QString& name);
+    void NoComplaints(const QString& step);
+    static void Require(bool holds, const QString& what);
+
+    frmMain& Main() { return *static_cast<frmMain*>(stage.Find("Main")); }
+    frmTeam& Team();
+    frmRoster& Roster();
+    frmFreeAgentClient& Offers();
+    [[nodiscard]] QString TeamName() const;
+    // The list of the main screen that shows the team, or none.
+    EntryList* ListOf(int team);
+
+    Plan plan;
+    Answers answers;
+    Camera camera;
+    Stage stage;
+    QString saved;
+};
+
+} // namespace dravik::tour

@@ -1,0 +1,148 @@
+#include "Evening.h"
+#include "league/ClientVariable.h"
+#include "league/DraftFile.h"
+#include "league/OffersFile.h"
+#include "screens/frmAbout.h"
+#include "screens/frmDraft.h"
+#include "screens/frmEditPlayer.h"
+#include "screens/frmTicket.h"
+#include "screens/platform/CodePage.h"
+
+#include <iostream>
+#include <QApplication>
+#include <QFileInfo>
+
+// What the evening does beside the team: prices, offers, the draft, the ratings, the small screens.
+namespace dravik::tour {
+
+void Evening::ShowTickets()
+{
+    Team().cmdTicketArena->click();
+    QApplication::processEvents();
+    auto* tickets = static_cast<frmTicket*>(stage.Find("Ticket"));
+    Require(tickets != nullptr && tickets->isVisible(), "the ticket screen opens");
+    Int16& price = Teams[plan.Team].TicketPrice[1];
+    const long long wanted = price + 1;
+    tickets->txtTicket[1]->setFocus();
+    tickets->txtTicket[1]->setText(QString::number(wanted));
+    tickets->cmdExit->setFocus();
+    Require(price == wanted, "the price is stored");
+    Photograph("Ticket", "tickets");
+    Leave("Ticket", Team(), tickets->cmdExit);
+}
+
+void Evening::RankDraft()
+{
+    LeagueData.FantasyDraft = true;
+    stage.Open("Draft", Main());
+    auto& draft = *static_cast<frmDraft*>(stage.Find("Draft"));
+    Require(draft.isVisible(), "the draft screen opens");
+    Photograph("Draft", "draft-first");
+    constexpr int wanted = 4;
+    Require(draft.lstPlayers->count() >= wanted, "there are players without a team");
+    for (int row = 0; row < wanted; ++row) {
+        draft.lstPlayers->setCurrentRow(row * (draft.lstPlayers->count() / wanted));
+        draft.cmdChoose->click();
+    }
+    draft.lstDraftList->setCurrentRow(2);
+    const QString favourite = draft.lstDraftList->currentItem()->text();
+    draft.cmdUp->click();
+    draft.cmdUp->click();
+    Require(draft.lstDraftList->item(0)->text() == favourite, "the third moves to the top");
+    NoComplaints("the draft list is made");
+    Photograph("Draft", "draft");
+    draft.lstDraftList_DblClick();
+    auto* viewer = static_cast<frmEditPlayer*>(stage.Find("EditPlayer"));
+    Require(viewer != nullptr && viewer->isVisible() && !draft.isVisible(), "the player viewer opens");
+    Leave("EditPlayer", draft, viewer->cmdExit);
+    const QString target = PathToDesktop(DraftFilePath(plan.Team));
+    ExpectPassword();
+    answers.Confirm("Fantasy Draft File save for " + TeamName() + " succesfully at\n" + target);
+    draft.cmdSaveToFile->click();
+    NoComplaints("the draft file is saved");
+    Require(QFileInfo(target).size() > 0, "the draft file lies on disk");
+    std::cout << "saved " << target.toStdString() << '\n';
+    Leave("Draft", Main(), draft.cmdExit);
+}
+
+void Evening::ExportTheRatings()
+{
+    answers.Confirm("Are you sure you want to output a Rating CSV file of your league?");
+    answers.Confirm("Output done in " + plan.Out);
+    Main().mnuOutputRatingCSV->trigger();
+    NoComplaints("the ratings are exported");
+    for (const char* name : {"/PlayersRatings.csv", "/CoachesRatings.csv"})
+        Require(QFileInfo(plan.Out + name).size() > 0, "the ratings lie on disk");
+}
+
+void Evening::ShowAbout()
+{
+    Main().mnuAbout->trigger();
+    auto* about = static_cast<frmAbout*>(stage.Find("About"));
+    Require(about != nullptr && about->isVisible() && Main().isVisible(), "the about screen opens beside the main one");
+    Photograph("About", "about");
+    Leave("About", Main(), about->cmdExit);
+}
+
+void Evening::ShowEmptyScreens()
+{
+    for (const char* name : {"Coach", "Prospect"}) {
+        stage.Open(name, Main());
+        Require(stage.Find(name) != nullptr && stage.Find(name)->isVisible(), "an empty screen opens");
+        Photograph(name, QString(name).toLower());
+        stage.Find(name)->close();
+        QApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+        Require(Main().isVisible(), "the main screen comes back");
+    }
+}
+
+void Evening::MakeOffers()
+{
+    Choose();
+    ExpectPassword();
+    answers.ConfirmAll(true); // the first of the list may be somebody whom only his own team may sign
+    Main().mnuFreeAgents->trigger();
+    QApplication::processEvents();
+    Require(stage.Find("FreeAgent") != nullptr && stage.Find("FreeAgent")->isVisible(), "the offers open");
+    int made = 0;
+    for (int row = 0; row < Offers().lstPlayers->count() && made < 2; ++row) {
+        Offers().lstPlayers->setCurrentRow(row, QItemSelectionModel::ClearAndSelect);
+        if (!Offers().txtOffer->isEnabled())
+            continue;
+        ++made;
+        Fill(Offers().txtOffer, QString::number(LeagueData.MinSalary + 250000LL * made));
+        Fill(Offers().txtDuration, QString::number(made + 1));
+        Fill(Offers().txtBonus, "50000");
+        Offers().txtComment->setFocus();
+        Offers().txtComment->setPlainText(
+            "Top line center and first unit on the power play. Your old linemates are here.");
+        Offers().lstPlayers->setFocus();
+    }
+    answers.ConfirmAll(false);
+    Require(made == 2, "two people can be made an offer");
+    NoComplaints("the offers are made");
+    Photograph("FreeAgent", "offers");
+    Offers().chkShowPlayerWithOffer->click();
+    Require(Offers().lstPlayers->count() == 2, "those with an offer are listed alone");
+    Photograph("FreeAgent", "offers-made");
+    const QString target = PathToDesktop(OffersFilePath(plan.Team));
+    ExpectPassword();
+    answers.ConfirmAll(true); // a report in pages
+    Offers().cmdSaveToFile->click();
+    QApplication::processEvents();
+    answers.ConfirmAll(false);
+    Require(QFileInfo(target).size() > 0, "the offer file lies on disk");
+    std::cout << "saved " << target.toStdString() << '\n';
+    Offers().cmdExit->click();
+    QApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    NoComplaints("the offers are saved");
+    Require(stage.Find("FreeAgent") == nullptr && Main().isVisible(), "the main screen comes back");
+}
+
+void Evening::Fill(EditBox* box, const QString& text)
+{
+    box->setFocus();
+    box->setText(text);
+}
+
+} // namespace dravik::tour
