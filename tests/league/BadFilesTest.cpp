@@ -432,7 +432,7 @@ TEST_F(BadFilesTest, AFlippedLinesFileNeverTouchesPeopleOfOtherTeamsAndNeverSets
     }
 }
 
-#ifdef __linux__
+#ifdef __linux__ // where a process can be asked for the peak of its memory, and the peak be set back
 
 // The most memory that `work` takes beyond what is taken already, in KiB.
 long PeakKiBOf(const std::function<void()>& work)
