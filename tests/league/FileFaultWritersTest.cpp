@@ -179,7 +179,7 @@ TEST_P(FileFaultWritersOnceTest, ADiskThatGoesAwayLeavesNoHalfFileUnderTheName)
     }
 }
 
-#ifndef _WIN32
+#ifndef _WIN32 // calls of POSIX kill a process, take the rights of a folder and the room of a disk
 
 // Whatever is done after the crash, the half file of the crash does not outlive it.
 TEST_P(FileFaultWritersOnceTest, WhateverComesAfterAKilledSaveRemovesWhatItLeft)

@@ -21,7 +21,7 @@ constexpr FileFault Faults[] = {
     {"FullDisk", failure::DiskFull, "Disk full"},
     {"FullDiskInTheMidstOfAWrite", failure::DiskFull, "Disk full", true},
     {"Gone", failure::FileNotFound, "File not found"},
-#ifndef _WIN32
+#ifndef _WIN32 // where no process can be copied, to be killed
     {"Killed", failure::DiskFull, "Disk full", true, true},
 #endif
 };
