@@ -2,12 +2,11 @@
 
 #include "screens/ElementName.h"
 #include "screens/panels/Labels.h"
-#include "screens/panels/Shades.h"
+#include "screens/panels/Layouts.h"
 #include "screens/platform/CodePage.h"
 
 #include <algorithm>
 #include <cmath>
-#include <QVBoxLayout>
 
 namespace dravik {
 
@@ -65,21 +64,6 @@ std::vector<GroupMember> InARow(const LineGroup& group, bool isDefense)
     if (row.size() == wholeTrio)
         std::swap(row[0], row[1]);
     return row;
-}
-
-QHBoxLayout* MakeRow()
-{
-    auto* row = new QHBoxLayout;
-    row->setSpacing(Gap);
-    return row;
-}
-
-QVBoxLayout* MakeColumn(QWidget* parent, int spacing)
-{
-    auto* column = new QVBoxLayout(parent);
-    column->setContentsMargins(0, 0, 0, 0);
-    column->setSpacing(spacing);
-    return column;
 }
 
 } // namespace
@@ -158,7 +142,7 @@ void LineBoard::MakeGroupPage(const LineGroup& group, const QString& caption)
 QWidget* LineBoard::MakeUnit(const LineGroup& group, int number)
 {
     auto* panel = new QWidget(this);
-    auto* column = MakeColumn(panel, Gap / 2);
+    QVBoxLayout* column = MakeColumn(panel, Gap / 2);
 
     auto* heading = new PressLabel(panel);
     heading->setObjectName(ElementName(group.Heading, number));
@@ -172,14 +156,13 @@ QWidget* LineBoard::MakeUnit(const LineGroup& group, int number)
     Walk << heading;
     connect(heading, &PressLabel::Pressed, this, [this, index] { emit HeadingPressed(index); });
 
-    auto* top = MakeRow();
-    top->addWidget(heading);
+    QHBoxLayout* top = MakeRow({heading});
     top->addStretch(1);
     top->addWidget(average);
     column->addLayout(top);
     for (const bool isDefense : {false, true}) {
         const std::vector<GroupMember> members = InARow(group, isDefense);
-        auto* row = MakeRow();
+        QHBoxLayout* row = MakeRow({});
         // A row of three fills the width; a shorter one stands in its middle, each slot as wide as in a row of three.
         constexpr int wholeWidth = 6;
         const int slotWidth = 2;
@@ -202,7 +185,7 @@ QWidget* LineBoard::MakeList(const QString& caption, LineField field)
 {
     auto* panel = new QWidget(this);
     panel->setMaximumWidth(WidestSlot);
-    auto* column = MakeColumn(panel, Gap);
+    QVBoxLayout* column = MakeColumn(panel);
     column->addWidget(MakeHeading(caption, panel));
     for (int number = 1; number <= ListLength; ++number) {
         SlotLabel* label = SlotAt(field, number).Label;

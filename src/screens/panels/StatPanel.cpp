@@ -2,10 +2,8 @@
 
 #include "screens/ElementName.h"
 #include "screens/panels/Labels.h"
-#include "screens/panels/Shades.h"
+#include "screens/panels/Layouts.h"
 #include "screens/platform/CodePage.h"
-
-#include <QVBoxLayout>
 
 namespace dravik {
 
@@ -25,9 +23,8 @@ StatPanel::StatPanel(QWidget* parent, const char* numberName) : QGroupBox("Stats
     lblName = MakeHeading({}, this);
     lblName->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
 
-    auto* column = new QVBoxLayout(this);
-    column->setContentsMargins(Margin, Gap, Margin, Margin);
-    column->setSpacing(Gap);
+    QVBoxLayout* column = MakeColumn(this);
+    SetGroupMargins(column);
     auto* heading = new QHBoxLayout;
     heading->setSpacing(Gap);
     heading->addWidget(lblName, 1);
