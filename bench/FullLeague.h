@@ -12,22 +12,10 @@ inline void FillLeague(int skaters = PlayerTable::last, int goalies = GoalieTabl
     ResetClientVariables();
     MessagesAllowed = true;
     MarkRosterChangesUntouched();
-    SetPlainWeights();
-    League& league = LeagueData;
-    league.MaxProPlayers = 60;
-    league.FarmMaxOverall = 99;
-    league.FarmEnabled = true;
-    league.MinSalary = 500000;
-    league.MaxSalary = 10000000;
-    league.ShowOverall = true;
-    league.ShowAllRatings = true;
-    league.ScheduleShown = true;
-    league.ProDressedSkaters = 18;
-    league.MaxDressedGoalies = 2;
-    league.RequiredCenters = 3;
-    league.RequiredLeftWings = 3;
-    league.RequiredRightWings = 3;
-    league.RequiredDefensemen = 6;
+    SetOrdinaryRules();
+    LeagueData.MaxProPlayers = 60;
+    LeagueData.FarmMaxOverall = 99;
+    LeagueData.ScheduleShown = true;
     PlayerStatCount = 15;
     GoalieStatCount = 13;
     for (int id = 1; id <= skaters; ++id)

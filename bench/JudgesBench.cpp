@@ -24,7 +24,6 @@ void SetCap()
     League& league = LeagueData;
     league.SalaryCapMode = 1;
     league.SalaryCap = 500000000;
-    league.FarmSalaryPct = 10;
     league.FarmRosterRequired = true;
     league.FarmPayrollInCap = true;
     league.CoachPayrollInCap = true;

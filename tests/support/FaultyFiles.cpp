@@ -2,8 +2,10 @@
 
 #include "league/Failure.h"
 
+#include <algorithm>
 #include <filesystem>
 #include <ostream>
+#include <string_view>
 #ifndef _WIN32
 #include <sys/wait.h>
 #include <unistd.h>

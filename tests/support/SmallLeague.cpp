@@ -133,6 +133,25 @@ void SetPlainWeights()
     LeagueData.OverallWeightSC = 23;
 }
 
+void SetOrdinaryRules()
+{
+    LeagueData.MaxProPlayers = 50;
+    LeagueData.FarmMaxOverall = 70;
+    LeagueData.MinSalary = 500000;
+    LeagueData.MaxSalary = 10000000;
+    LeagueData.FarmSalaryPct = 10;
+    LeagueData.FarmEnabled = true;
+    LeagueData.ShowOverall = true;
+    LeagueData.ShowAllRatings = true;
+    LeagueData.ProDressedSkaters = 18;
+    LeagueData.MaxDressedGoalies = 2;
+    LeagueData.RequiredCenters = 3;
+    LeagueData.RequiredLeftWings = 3;
+    LeagueData.RequiredRightWings = 3;
+    LeagueData.RequiredDefensemen = 6;
+    SetPlainWeights();
+}
+
 SmallLeague::SmallLeague()
 {
     ResetClientVariables();
@@ -151,21 +170,7 @@ SmallLeague::SmallLeague()
     }
     LeagueData.Conference[1] = "East";
     LeagueData.Conference[2] = "West";
-    LeagueData.MaxProPlayers = 50;
-    LeagueData.FarmMaxOverall = 70;
-    LeagueData.MinSalary = 500000;
-    LeagueData.MaxSalary = 10000000;
-    LeagueData.FarmSalaryPct = 10;
-    LeagueData.FarmEnabled = true;
-    LeagueData.ShowOverall = true;
-    LeagueData.ShowAllRatings = true;
-    LeagueData.ProDressedSkaters = 18;
-    LeagueData.MaxDressedGoalies = 2;
-    LeagueData.RequiredCenters = 3;
-    LeagueData.RequiredLeftWings = 3;
-    LeagueData.RequiredRightWings = 3;
-    LeagueData.RequiredDefensemen = 6;
-    SetPlainWeights();
+    SetOrdinaryRules();
 }
 
 } // namespace dravik

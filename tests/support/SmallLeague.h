@@ -61,6 +61,9 @@ void FillLines(Lines& lines, const std::vector<int>& forwards, const std::vector
 // a test.
 void SetPlainWeights();
 
+// The rules of an ordinary league: what a roster needs, what a salary may be, everything shown, and the plain weights.
+void SetOrdinaryRules();
+
 // The fixture of most tests: tables in their start-up state, rules of an ordinary league, a scripted machine.
 class SmallLeague : public ::testing::Test {
 protected:
