@@ -97,6 +97,13 @@ public:
 
     virtual std::array<std::uint8_t, 16> Md5(std::string_view bytes) = 0;
 
+    // Told of every line of news and log, and of a player whom the editor erased. The client keeps and shows none of
+    // it, so a machine that does not care need not listen.
+    virtual void LeagueNews(std::string_view /*text*/) {}
+    virtual void TeamNews(int /*team*/, std::string_view /*text*/) {}
+    virtual void WriteLog(std::string_view /*text*/) {}
+    virtual void PlayerErased(int /*id*/, int /*team*/) {}
+
     // Opens an existing file for reading.
     virtual std::unique_ptr<File> OpenFile(const std::string& path) = 0;
     // Creates a file for writing, emptying what stands there.

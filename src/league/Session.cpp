@@ -2,13 +2,14 @@
 
 #include "league/ClientVariable.h"
 #include "league/Message.h"
+#include "league/Platform.h"
 
 namespace dravik {
 
-void LeagueNews(std::string_view /*text*/) {}
-void TeamNews(int /*team*/, std::string_view /*text*/) {}
-void WriteLog(std::string_view /*text*/) {}
-void PlayerErased(int /*id*/, int /*team*/) {}
+void LeagueNews(std::string_view text) { Machine().LeagueNews(text); }
+void TeamNews(int team, std::string_view text) { Machine().TeamNews(team, text); }
+void WriteLog(std::string_view text) { Machine().WriteLog(text); }
+void PlayerErased(int id, int team) { Machine().PlayerErased(id, team); }
 
 void MarkWaived(int team, int id)
 {

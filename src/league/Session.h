@@ -6,7 +6,8 @@
 // player that belong to no rule.
 namespace dravik {
 
-// News and log lines are composed for the simulator's own version of these routines; the client keeps and shows none.
+// News and log lines are composed for the simulator's own version of these routines; the client hands them to the
+// machine as they are and keeps and shows none. `team` may be any number.
 void LeagueNews(std::string_view text);
 void TeamNews(int team, std::string_view text);
 void WriteLog(std::string_view text);
@@ -15,7 +16,7 @@ void WriteLog(std::string_view text);
 // + 10000); anything else shows "Integrity Check Failed!" in a critical box.
 void MarkWaived(int team, int id);
 
-// Told when the player editor erases a player. It has no effect.
+// Tells the machine that the player editor erases a player. It has no other effect.
 void PlayerErased(int id, int team);
 
 // Whether the trade deadline is in force.

@@ -96,6 +96,21 @@ std::string Everything()
     return all;
 }
 
+TEST_F(SessionTest, NewsLogLinesAndAnErasedPlayerReachTheMachineAsTheyAre)
+{
+    LeagueNews("Team 5 changed its name.");
+    TeamNews(5, " Skater 1 was sent to the farm.\r\n");
+    TeamNews(-7, "");
+    WriteLog("Status of Skater 1 was fixed.");
+    PlayerErased(1, 5);
+    PlayerErased(99999, 0);
+    EXPECT_THAT(Machine.TakeNews(), ElementsAre(News{"league", "Team 5 changed its name."},
+                                                News{"team 5", " Skater 1 was sent to the farm.\r\n"},
+                                                News{"team -7", ""}, News{"log", "Status of Skater 1 was fixed."}));
+    EXPECT_THAT(Machine.ToldNews(), IsEmpty());
+    EXPECT_THAT(Machine.ErasedPlayers(), ElementsAre(std::pair(1, 5), std::pair(99999, 0)));
+}
+
 TEST_F(SessionTest, NewsLogLinesAndAnErasedPlayerHaveNoEffect)
 {
     TeamMaker(5).DressesFullRoster();

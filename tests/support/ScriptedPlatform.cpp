@@ -100,6 +100,11 @@ std::ostream& operator<<(std::ostream& out, const Question& question)
                << "\"}";
 }
 
+std::ostream& operator<<(std::ostream& out, const News& news)
+{
+    return out << "News{\"" << news.To << "\", \"" << news.Text << "\"}";
+}
+
 ScriptedPlatform::ScriptedPlatform()
 {
     static std::atomic<unsigned> count = 0;
@@ -120,6 +125,13 @@ std::vector<Box> ScriptedPlatform::TakeBoxes()
 {
     waitAtBoxes.clear();
     return std::exchange(boxes, {});
+}
+
+std::vector<News> ScriptedPlatform::TakeNews() { return std::exchange(news, {}); }
+
+void ScriptedPlatform::TeamNews(int team, std::string_view text)
+{
+    news.push_back({"team " + std::to_string(team), std::string(text)});
 }
 
 void ScriptedPlatform::Tell(const std::string& event)

@@ -31,6 +31,15 @@ struct Question {
 };
 std::ostream& operator<<(std::ostream& out, const Question& question);
 
+// A line that news or log was told, as a test sees it. `To` is "league", "log", or the team: "team 5".
+struct News {
+    std::string To;
+    std::string Text;
+
+    bool operator==(const News&) const = default;
+};
+std::ostream& operator<<(std::ostream& out, const News& news);
+
 // A machine that answers from a script and records what it was asked. Files are real ones, in a folder of the test's own
 // that is removed with it; any file operation can be made to fail.
 class ScriptedPlatform : public DiskFiles {
@@ -51,6 +60,11 @@ public:
     [[nodiscard]] const std::vector<bool>& WaitAtBoxes() const { return waitAtBoxes; }
     [[nodiscard]] const std::vector<Question>& Questions() const { return questions; }
     [[nodiscard]] const std::vector<std::pair<std::string, std::string>>& Dialogs() const { return dialogs; }
+
+    // What news and log were told so far, in order; `TakeNews` clears it. `ErasedPlayers` are pairs of id and team.
+    [[nodiscard]] const std::vector<News>& ToldNews() const { return news; }
+    std::vector<News> TakeNews();
+    [[nodiscard]] const std::vector<std::pair<int, int>>& ErasedPlayers() const { return erased; }
 
     // The file operations done so far, by name ("open", "create", "read", "write", "flush", "close", "length", "rename",
     // "delete", "find"). From the n-th on (counted from 1), or only then, they fail with `number`.
@@ -106,6 +120,10 @@ public:
     std::string LongDate(double days) override;
     std::string ShortTime(double days) override;
     std::array<std::uint8_t, 16> Md5(std::string_view bytes) override;
+    void LeagueNews(std::string_view text) override { news.push_back({"league", std::string(text)}); }
+    void TeamNews(int team, std::string_view text) override;
+    void WriteLog(std::string_view text) override { news.push_back({"log", std::string(text)}); }
+    void PlayerErased(int id, int team) override { erased.emplace_back(id, team); }
 
     std::unique_ptr<File> OpenFile(const std::string& path) override;
     std::unique_ptr<File> CreateFile(const std::string& path) override;
@@ -128,6 +146,8 @@ private:
     std::vector<bool> waitAtBoxes;
     std::vector<Question> questions;
     std::vector<std::pair<std::string, std::string>> dialogs;
+    std::vector<News> news;
+    std::vector<std::pair<int, int>> erased;
     std::vector<std::string> operations;
     std::size_t failAt = 0;
     int failNumber = 0;
