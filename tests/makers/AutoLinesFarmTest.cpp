@@ -560,6 +560,34 @@ TEST_F(AutoLinesFarmTwinTest, TheRankingHoldsAThousand)
     EXPECT_THAT(Run(), ElementsAre(Box{16, "9 - Subscript out of range in AutoLines!"}));
 }
 
+TEST_F(AutoLinesFarmTwinTest, AsManyRequiredAsDressedIsAllowed)
+{
+    AskForNoFarmPeople();
+    Farm(4, position::Center, 60);
+    LeagueData.ProDressedSkaters = 3;
+    PositionCounts counts;
+    EXPECT_TRUE(ListRequiredFarmSkaters(5, counts));
+    EXPECT_THAT(Machine.Boxes(), IsEmpty());
+    EXPECT_EQ(LineupCount(), 3);
+}
+
+TEST_F(AutoLinesFarmTwinTest, TheLastOf999AndTheLastOfAThousandAreDealt)
+{
+    // The only forward is the worst of all, so that the search for him walks to the end of the list.
+    constexpr int last = 9000;
+    AskForNoFarmPeople();
+    Five.FarmsGoalies(2);
+    int farmed = 0;
+    for (const int defensemen : {998, 999}) {
+        Five.Farms(defensemen - farmed, position::Defense, 60);
+        farmed = defensemen;
+        PutSkater(last, 5, position::Center, status::Farm, 10);
+        LeagueData.ProDressedSkaters = defensemen + 1;
+        EXPECT_THAT(Run(), ElementsAre(Success)) << defensemen;
+        EXPECT_EQ(Day.NormalForward(1, 1), last) << defensemen;
+    }
+}
+
 TEST_F(AutoLinesFarmTwinTest, ASkaterWithoutAPositionEndsTheRunInTheProRoutinesName)
 {
     AskForNoFarmPeople();
