@@ -39,7 +39,7 @@ bool CheckLineFarm(int team, bool showMessage, int day, bool log)
 {
     bool complete = false;
     Reporting(" in CheckLineFarm!", [&] {
-        ForgetLinesText();
+        ForgetLineVerdict();
         if (!LeagueData.FarmEnabled)
             complete = true;
         else if (!HasLineDay(team, day))
@@ -50,6 +50,11 @@ bool CheckLineFarm(int team, bool showMessage, int day, bool log)
             complete = JudgeLines(team, day, LenientRules, showMessage, log);
     });
     return complete;
+}
+
+LineVerdict VerdictOnLineFarm(int team, bool showMessage, int day, bool log)
+{
+    return LastLineVerdict(CheckLineFarm(team, showMessage, day, log));
 }
 
 } // namespace dravik

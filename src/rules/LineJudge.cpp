@@ -16,8 +16,11 @@ namespace dravik {
 
 namespace {
 
-// What the last judgement told, built in place: a judgement that finds nothing costs no memory.
-std::string LinesText;
+// What the last judgement said, built in place: a judgement that finds nothing costs no memory.
+struct {
+    std::vector<LineFinding> Findings;
+    std::string Text;
+} Said;
 
 // What names the slot of a field in the message of its being empty.
 enum class Naming { Position, Defense, Caption };
@@ -145,6 +148,8 @@ private:
 };
 
 class LineJudge {
+    using Words = decltype(LineFinding::Slots);
+
 public:
     LineJudge(int teamNumber, int day, const LineRules& lineRules) :
         team(teamNumber), rules(lineRules), lines(LinesOf(teamNumber, day, lineRules.Side))
@@ -180,7 +185,8 @@ private:
         const SlotRun second(NormalGroup, 2);
         for (const LineSlot& slot : SlotRun(NormalGroup, 1))
             if (StandsIn(Standing(slot), second.begin(), second.end()))
-                Tell(NameIn(slot), " is used twice in lines 1 and 2.");
+                Tell(LineFault::LinesShared, Standing(slot), WithAlike(slot, second.begin(), second.end()),
+                     NameIn(slot), " is used twice in lines 1 and 2.");
     }
 
     void JudgeUnits()
@@ -203,15 +209,20 @@ private:
             for (const List& list : Lists)
                 JudgeSlot(list.Field, number);
         for (const List& list : Lists)
-            TellDoubles(SlotRun(list.Field), [&](const LineSlot& left, bool) { Tell(NameIn(left), list.Words); });
+            TellDoubles(SlotRun(list.Field), [&](const LineSlot& left, const Words& slots, bool) {
+                Tell(LineFault::Double, Standing(left), slots, NameIn(left), list.Words);
+            });
     }
 
     void JudgeGoalies()
     {
-        JudgeGoalie(lines.StartGoalie, "Starting Goaler is empty.");
-        JudgeGoalie(lines.BackupGoalie, "Backup Goaler is empty.");
+        const Words start = Word(StartGoalieWord);
+        const Words backup = Word(BackupGoalieWord);
+        JudgeGoalie(lines.StartGoalie, start, "Starting Goaler is empty.");
+        JudgeGoalie(lines.BackupGoalie, backup, "Backup Goaler is empty.");
         if (lines.StartGoalie == lines.BackupGoalie && IsCompared(lines.StartGoalie))
-            Tell("Starting Goalie and BackUp Goalie are the same");
+            Tell(LineFault::SameGoalies, lines.StartGoalie, start | backup,
+                 "Starting Goalie and BackUp Goalie are the same");
     }
 
     // Counts the different values of the skater slots, the 0 of the empty ones among them.
@@ -228,13 +239,14 @@ private:
             if (std::find(heads.begin(), end, value) != end)
                 continue;
             if (static_cast<long long>(count) >= limit) {
-                Tell("More that ", limit, " Players Found");
+                Tell(LineFault::TooMany, 0, {}, "More that ", limit, " Players Found");
                 return;
             }
             heads[count++] = value;
         }
         if (rules.HeadCount == HeadCount::AtLeastToo && count < FewestHeads)
-            Tell("Not Enough Players Found. Minimum is ", static_cast<long long>(FewestHeads));
+            Tell(LineFault::TooFew, 0, {}, "Not Enough Players Found. Minimum is ",
+                 static_cast<long long>(FewestHeads));
     }
 
     // A refused skater leaves all lines of his team, so later slots of this walk may be found empty.
@@ -244,31 +256,32 @@ private:
         const auto id = static_cast<int>(Standing(slot));
         if (id == 0)
             TellEmpty(slot);
-        else if (Refuses(Players[id]))
+        else if (Refuses(Players[id], id, [&] { return WordsOfAll(id); }))
             WipePlayerFromTeamLines(team, id);
     }
 
     // A refused goalie leaves this slot only; his other slots and days keep him.
-    void JudgeGoalie(Int16& slot, std::string_view emptyMessage)
+    void JudgeGoalie(Int16& slot, const Words& word, std::string_view emptyMessage)
     {
         if (slot == 0) {
             if (rules.JudgesEmptySlots)
-                Tell(emptyMessage);
-        } else if (Refuses(Goalies[slot])) {
+                Tell(LineFault::Empty, 0, word, emptyMessage);
+        } else if (Refuses(Goalies[slot], slot, [&] { return word; })) {
             slot = 0;
         }
     }
 
-    // Tells why somebody may not stand in these lines, if so. The pro judge, too, speaks of the farm roster.
-    template <class Person>
-    bool Refuses(const Person& person)
+    // Tells why somebody may not stand in these lines, if so, and of which slots: `slots()` gives them. The pro judge, too,
+    // speaks of the farm roster.
+    template <class Person, class SlotsOf>
+    bool Refuses(const Person& person, long long id, SlotsOf slots)
     {
         if (person.Status != rules.Status || person.Team != team) {
-            Tell(person.Name.Trimmed(), " is not on farm roster for this team.");
+            Tell(LineFault::Stranger, id, slots(), person.Name.Trimmed(), " is not on farm roster for this team.");
             return true;
         }
         if (!IsDressable(person)) {
-            Tell(person.Name.Trimmed(), " is injured or suspended.");
+            Tell(LineFault::Unfit, id, slots(), person.Name.Trimmed(), " is injured or suspended.");
             return true;
         }
         return false;
@@ -279,33 +292,36 @@ private:
         if (!rules.JudgesEmptySlots)
             return;
         const EmptyWords words = WordsOf(slot.Field, rules);
+        const auto tell = [&](const auto&... parts) { Tell(LineFault::Empty, 0, Word(slot.Word), parts...); };
         switch (words.Tail) {
         case Naming::Position:
-            Tell(words.Head, slot.Number, " ", PositionName[slot.Place], " is empty.");
+            tell(words.Head, slot.Number, " ", PositionName[slot.Place], " is empty.");
             break;
         case Naming::Defense: // the line or unit once more, not the defenseman
-            Tell(words.Head, slot.Number, " Defense #", slot.Number, " is empty.");
+            tell(words.Head, slot.Number, " Defense #", slot.Number, " is empty.");
             break;
         case Naming::Caption:
-            Tell(words.Head, slot.Number, words.Caption, " is empty.");
+            tell(words.Head, slot.Number, words.Caption, " is empty.");
             break;
         }
     }
 
     void CompareWithin(const Group& group, int number)
     {
-        TellDoubles(SlotRun(group, number), [&](const LineSlot& left, bool isPair) {
-            Tell(NameIn(left), isPair ? group.PairWords : group.Words, number);
+        TellDoubles(SlotRun(group, number), [&](const LineSlot& left, const Words& slots, bool isPair) {
+            Tell(LineFault::Double, Standing(left), slots, NameIn(left), isPair ? group.PairWords : group.Words,
+                 number);
         });
     }
 
-    // Calls `tell` for each slot whose value stands once more on its right, and whether the two are the last pair.
+    // Calls `tell` for each slot whose value stands once more on its right, with all slots that hold it from there on, and
+    // whether the two are the last pair.
     template <class Telling>
     void TellDoubles(const SlotRun& run, Telling tell)
     {
         for (const auto* left = run.begin(); left != run.end(); ++left)
             if (IsCompared(Standing(*left)) && StandsIn(Standing(*left), left + 1, run.end()))
-                tell(*left, left + 2 == run.end());
+                tell(*left, WithAlike(*left, left + 1, run.end()), left + 2 == run.end());
     }
 
     // Whether `value` takes part in comparisons: two empty slots are alike where emptiness is judged.
@@ -316,17 +332,43 @@ private:
         return std::any_of(first, last, [&](const LineSlot& slot) { return Standing(slot) == value; });
     }
 
+    // A slot and those of `first` to `last` that hold the same.
+    [[nodiscard]] Words WithAlike(const LineSlot& slot, const LineSlot* first, const LineSlot* last) const
+    {
+        Words words = Word(slot.Word);
+        for (const auto* other = first; other != last; ++other)
+            if (Standing(*other) == Standing(slot))
+                words |= Word(other->Word);
+        return words;
+    }
+
+    // All slots of the day that hold a skater.
+    [[nodiscard]] Words WordsOfAll(long long id) const
+    {
+        Words words;
+        for (const LineSlot& slot : SkaterSlots)
+            if (Standing(slot) == id)
+                words |= Word(slot.Word);
+        return words;
+    }
+
+    static Words Word(int word) { return Words{}.set(static_cast<std::size_t>(word)); }
+
     [[nodiscard]] long long Standing(const LineSlot& slot) const { return At(lines, slot); }
     [[nodiscard]] std::string NameIn(const LineSlot& slot) const { return Players[Standing(slot)].Name.Trimmed(); }
 
+    // Tells one finding, in words and as data.
     template <class... Parts>
-    void Tell(const Parts&... parts)
+    void Tell(LineFault fault, long long person, const Words& slots, const Parts&... parts)
     {
+        const std::size_t begin = Said.Text.size();
         (Append(parts), ...);
-        LinesText += LineBreak;
+        const std::size_t length = Said.Text.size() - begin;
+        Said.Text += LineBreak;
+        Said.Findings.push_back({fault, static_cast<int>(person), slots, begin, length});
     }
-    static void Append(std::string_view text) { LinesText += text; }
-    static void Append(long long number) { LinesText += std::to_string(number); }
+    static void Append(std::string_view text) { Said.Text += text; }
+    static void Append(long long number) { Said.Text += std::to_string(number); }
 
     int team;
     const LineRules& rules;
@@ -350,19 +392,26 @@ constexpr LineRules ProRules{.Side = Side::Pro,
 
 } // namespace
 
-const std::string& LastLinesText() { return LinesText; }
-void ForgetLinesText() { LinesText.clear(); }
+const std::string& LastLinesText() { return Said.Text; }
+
+LineVerdict LastLineVerdict(bool complete) { return {complete, Said.Findings, Said.Text}; }
+
+void ForgetLineVerdict()
+{
+    Said.Findings.clear();
+    Said.Text.clear();
+}
 
 bool JudgeLines(int team, int day, const LineRules& rules, bool showMessage, bool log)
 {
-    ForgetLinesText();
+    ForgetLineVerdict();
     LineJudge(team, day, rules).Walk();
-    const bool perfect = LinesText.empty();
-    LinesText += perfect ? "Lines are perfect!" : rules.Closing;
+    const bool perfect = Said.Text.empty();
+    Said.Text += perfect ? "Lines are perfect!" : rules.Closing;
     if (log)
-        WriteLog(LogHead(team, rules.Side) + LinesText);
+        WriteLog(LogHead(team, rules.Side) + Said.Text);
     if (MayReport(showMessage))
-        ShowBox(LinesText, box::Information);
+        ShowBox(Said.Text, box::Information);
     return perfect;
 }
 
@@ -370,13 +419,18 @@ bool CheckLine(int team, bool showMessage, int day, bool log)
 {
     bool complete = false;
     Reporting(" in CheckLine!", [&] {
-        ForgetLinesText();
+        ForgetLineVerdict();
         if (!HasLineDay(team, day))
             ShowIntegrityFailure();
         else
             complete = JudgeLines(team, day, ProRules, showMessage, log);
     });
     return complete;
+}
+
+LineVerdict VerdictOnLine(int team, bool showMessage, int day, bool log)
+{
+    return LastLineVerdict(CheckLine(team, showMessage, day, log));
 }
 
 bool CheckLineEmpty(int team, int day)

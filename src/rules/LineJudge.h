@@ -1,6 +1,7 @@
 #pragma once
 
 #include "rules/LineSlots.h"
+#include "rules/LineVerdict.h"
 
 #include <string_view>
 
@@ -22,13 +23,16 @@ struct LineRules {
 };
 
 // Judges one day in the one order of all judges: takes out who may not stand there and makes a text of all that is
-// wrong, a line for each finding; a later test sees the repairs of the earlier ones. The text stays in `LastLinesText`
-// and is logged, or shown in an information box, when asked. True when nothing is wrong. `team` 1..100, `day` 1..10. A
-// slot that holds a number outside its table fails with 9, and so does a limit of the head count above its 25 places;
-// what was repaired and told by then stays.
+// wrong, a line for each finding; a later test sees the repairs of the earlier ones. What was said stays for
+// `LastLineVerdict`; the text is logged, or shown in an information box, when asked. True when nothing is wrong. `team`
+// 1..100, `day` 1..10. A slot that holds a number outside its table fails with 9, and so does a limit of the head count
+// above its 25 places; what was repaired and told by then stays.
 bool JudgeLines(int team, int day, const LineRules& rules, bool showMessage, bool log);
 
-// Leaves `LastLinesText` empty: there is nothing to judge, or no such day.
-void ForgetLinesText();
+// Findings and text of the last judgement, which came out `complete` or not.
+LineVerdict LastLineVerdict(bool complete);
+
+// Leaves neither findings nor text: there is nothing to judge, or no such day.
+void ForgetLineVerdict();
 
 } // namespace dravik

@@ -16,6 +16,9 @@ struct FieldShape {
 
 constexpr int WordOf(std::size_t byteOffset) { return static_cast<int>(byteOffset / sizeof(Int16)); }
 
+static_assert(WordOf(offsetof(Lines, StartGoalie)) == StartGoalieWord);
+static_assert(WordOf(offsetof(Lines, BackupGoalie)) == BackupGoalieWord);
+
 constexpr std::array Shapes{
     FieldShape{LineField::NormalForward, WordOf(offsetof(Lines, NormalForward)), 4, 3},
     FieldShape{LineField::NormalDefense, WordOf(offsetof(Lines, NormalDefense)), 4, 2},

@@ -51,6 +51,10 @@ constexpr bool WantsDefense(LineField field)
 // The slot (field, number, place). Fails with 9 when the field has no such number or place.
 LineSlot SlotOf(LineField field, int number, int place = 1);
 
+// Where the two goalies stand among those words.
+inline constexpr int StartGoalieWord = 54;
+inline constexpr int BackupGoalieWord = 55;
+
 // All 67 skater slots in the order in which a person's slots are told: normal lines, power play, 4 vs 4, 5 vs 4 penalty
 // kill, penalty kill with three, and the three lists interleaved by number. Everything that walks a line-up reads them
 // from here.

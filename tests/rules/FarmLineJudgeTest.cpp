@@ -1,9 +1,8 @@
 #include "rules/Function.h"
 #include "rules/LineSlots.h"
+#include "support/LeagueImage.h"
 #include "support/LineFindings.h"
 #include "support/SmallLeague.h"
-
-#include <cstring>
 
 namespace dravik {
 namespace {
@@ -79,12 +78,13 @@ TEST_F(FarmLineJudgeTest, CompleteLinesArePerfectInBothDegrees)
 
 TEST_F(FarmLineJudgeTest, ASilentCallOnCompleteLinesChangesNothing)
 {
-    const Team before = Teams[5];
-    EXPECT_TRUE(CheckLineFarm(5, false, 1, false));
-    LeagueData.FarmRosterRequired = true;
-    EXPECT_TRUE(CheckLineFarm(5, false, 1, true));
-    EXPECT_THAT(Machine.Boxes(), IsEmpty());
-    EXPECT_EQ(std::memcmp(&before, &Teams[5], sizeof(Team)), 0);
+    for (const bool required : {false, true}) {
+        LeagueData.FarmRosterRequired = required;
+        const auto before = AllTables();
+        EXPECT_TRUE(CheckLineFarm(5, false, 1, required));
+        EXPECT_THAT(Machine.Boxes(), IsEmpty());
+        EXPECT_TRUE(AllTables() == before);
+    }
 }
 
 TEST_F(FarmLineJudgeTest, WithoutFarmTeamsALineUpFullOfStrangersPassesUntouched)
@@ -96,11 +96,11 @@ TEST_F(FarmLineJudgeTest, WithoutFarmTeamsALineUpFullOfStrangersPassesUntouched)
         PutAll(50);
         Day1().PenaltyShot[5] = -7; // not even the numbers are looked at
         Day1().StartGoalie = 900;
-        const Team before = Teams[5];
+        const auto before = AllTables();
         EXPECT_TRUE(CheckLineFarm(5, true, 1, false));
         EXPECT_THAT(Machine.Boxes(), IsEmpty());
         EXPECT_EQ(LastLinesText(), "");
-        EXPECT_EQ(std::memcmp(&before, &Teams[5], sizeof(Team)), 0);
+        EXPECT_TRUE(AllTables() == before);
     }
 }
 
@@ -116,11 +116,13 @@ TEST_F(FarmLineJudgeTest, ATeamOrDayOutOfRangeFailsTheIntegrityCheck)
     for (const bool required : {false, true}) {
         LeagueData.FarmRosterRequired = required;
         (void)CheckLineFarm(5, false, 1, false);
+        const auto before = AllTables();
         for (const auto& [number, day] : {std::pair{0, 1}, {101, 1}, {-1, 1}, {5, 0}, {5, 11}}) {
             EXPECT_FALSE(CheckLineFarm(number, true, day, false));
             EXPECT_THAT(Machine.TakeBoxes(), ElementsAre(Box{16, "Integrity Check Failed!"}));
             EXPECT_EQ(LastLinesText(), "");
         }
+        EXPECT_TRUE(AllTables() == before);
     }
 }
 

@@ -1,10 +1,10 @@
 #include "rules/Function.h"
 #include "rules/LineSlots.h"
+#include "support/LeagueImage.h"
 #include "support/LineFindings.h"
 #include "support/SmallLeague.h"
 
 #include <algorithm>
-#include <cstring>
 
 namespace dravik {
 namespace {
@@ -60,9 +60,9 @@ TEST_F(LineJudgeTest, ASilentCallShowsNothingAndKeepsItsText)
 
 TEST_F(LineJudgeTest, ASilentCallOnCompleteLinesChangesNothing)
 {
-    const Team before = Teams[5];
+    const auto before = AllTables();
     EXPECT_TRUE(CheckLine(5, false, 1, false));
-    EXPECT_EQ(std::memcmp(&before, &Teams[5], sizeof(Team)), 0);
+    EXPECT_TRUE(AllTables() == before);
 }
 
 TEST_F(LineJudgeTest, TheLogChangesNeitherTextNorResult)
@@ -86,11 +86,14 @@ TEST_F(LineJudgeTest, OnlyTheDayAskedForIsJudged)
 TEST_F(LineJudgeTest, ATeamOrDayOutOfRangeFailsTheIntegrityCheck)
 {
     (void)CheckLine(5, false, 1, false);
+    Players[1].Condition = 50; // a day that is judged loses him
+    const auto before = AllTables();
     for (const auto& [number, day] : {std::pair{0, 1}, {101, 1}, {-1, 1}, {5, 0}, {5, 11}, {5, -1}}) {
         EXPECT_FALSE(CheckLine(number, true, day, false));
         EXPECT_THAT(Machine.TakeBoxes(), ElementsAre(Box{16, "Integrity Check Failed!"}));
         EXPECT_EQ(LastLinesText(), "");
     }
+    EXPECT_TRUE(AllTables() == before);
 }
 
 TEST_F(LineJudgeTest, AnEmptyDayTellsOfEverySlotAndEveryDoubleWithBlankNames)
@@ -513,10 +516,12 @@ TEST_F(LineEmptyTest, TheFarmsDayIsNotLookedAt)
 
 TEST_F(LineEmptyTest, ATeamOrDayOutOfRangeFailsTheIntegrityCheck)
 {
+    const auto before = AllTables();
     for (const auto& [number, day] : {std::pair{0, 1}, {101, 1}, {5, 0}, {5, 11}}) {
         EXPECT_FALSE(CheckLineEmpty(number, day));
         EXPECT_THAT(Machine.TakeBoxes(), ElementsAre(Box{16, "Integrity Check Failed!"}));
     }
+    EXPECT_TRUE(AllTables() == before);
 }
 
 } // namespace

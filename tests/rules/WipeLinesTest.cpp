@@ -137,7 +137,9 @@ TEST_F(WipeLinesTest, TeamOrDayOutsideItsRangeFailsTheIntegrityCheckAndDoesNothi
 {
     Flood(1, 3);
     Flood(100, 3);
-    const auto before = ImageOf(Teams);
+    Teams[1].Captain = Teams[100].Captain = 3;
+    PutSkater(3, 1, position::Center, status::Pro);
+    const auto before = AllTables();
     const int wrong[][2] = {{0, 1}, {101, 1}, {-1, 1}, {1, 0}, {1, 11}, {100, -1}};
     for (const auto& [team, day] : wrong) {
         WipesLines(team, day, true);
@@ -145,11 +147,13 @@ TEST_F(WipeLinesTest, TeamOrDayOutsideItsRangeFailsTheIntegrityCheckAndDoesNothi
         WipesLines(team, day, false);
         EXPECT_THAT(Machine.TakeBoxes(), ElementsAre(Box{box::Critical, "Integrity Check Failed!"}));
     }
-    for (const int team : {-1, 0, 101}) {
-        WipePlayerFromTeamLines(team, 3);
-        EXPECT_THAT(Machine.TakeBoxes(), ElementsAre(Box{box::Critical, "Integrity Check Failed!"}));
-    }
-    EXPECT_EQ(ImageOf(Teams), before);
+    for (const int team : {-1, 0, 101})
+        for (const int person : {3, 10003}) {
+            WipePlayerFromTeamLines(team, person);
+            EXPECT_THAT(Machine.TakeBoxes(), ElementsAre(Box{box::Critical, "Integrity Check Failed!"}));
+        }
+    EXPECT_TRUE(AllTables() == before);
+    EXPECT_FALSE(Modified);
 }
 
 TEST_F(WipeLinesTest, FirstAndLastTeamAndDayCanBeWiped)

@@ -28,6 +28,16 @@ inline ByteVector FiveTables()
     return all;
 }
 
+// Every table, in one run of bytes: what changes nothing leaves it as it was.
+inline ByteVector AllTables()
+{
+    ByteVector all = FiveTables();
+    for (const ByteVector& bytes :
+         {ImageOf(LeagueData), ImageOf(Coaches), ImageOf(RosterChanges), ImageOf(RosterChangesGoalie)})
+        all.insert(all.end(), bytes.begin(), bytes.end());
+    return all;
+}
+
 inline bool IsZero(const ByteVector& bytes)
 {
     return std::all_of(bytes.begin(), bytes.end(), [](unsigned char byte) { return byte == 0; });
