@@ -22,6 +22,7 @@ public:
     void SetDraftMenu(bool /*enabled*/, std::string_view /*caption*/) override {}
     void SetFreeAgentsMenu(bool /*enabled*/) override {}
     void SetDateLabel(const std::string& /*text*/) override {}
+    void Tell(QuietLine /*line*/, const std::string& /*text*/) override {}
 };
 
 template <class Table>

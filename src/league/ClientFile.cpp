@@ -7,6 +7,7 @@
 #include "league/Platform.h"
 #include "league/Reporting.h"
 #include "league/Session.h"
+#include "league/SettingsFailure.h"
 #include "league/SlotFile.h"
 
 #include <cmath>
@@ -133,12 +134,50 @@ void SetDefaults()
             field = value;
 }
 
-void ShowLeague(const std::string& path, MainWindow& window)
+// Makes the tables ready that were just read. Nothing of this fails on whatever the file holds.
+void PrepareLeague()
 {
     const bool all = static_cast<bool>(LeagueData.ShowAllRatings);
     PlayerStatCount = all ? 15 : 7;
     GoalieStatCount = all ? 13 : 7;
+    FillPlaceholder(Players[0], "Unknown Player", skater::DU);
+    Players[0].Position = position::Center;
+    FillPlaceholder(Goalies[0], "Unknown Goalie", goalie::DU);
+    CopyWords(RosterChanges, Players);
+    CopyWords(RosterChangesGoalie, Goalies);
+    SetDefaults();
+}
 
+// Stores the path for the next start. The league is open all the same where the settings cannot be written.
+void RememberLeague(const std::string& path, MainWindow& window)
+{
+    const std::string words = " The league that is open is not opened by itself at the next start.";
+    std::string told;
+    try {
+        Machine().SaveSetting("Settings", "LastLoadLeague", path);
+    } catch (const SettingsFailure& failed) {
+        told = "The settings file " + failed.File + " could not be written." + words;
+    } catch (const std::exception&) {
+        told = "The settings could not be written." + words;
+    }
+    window.Tell(QuietLine::SettingsUnwritten, told);
+}
+
+// Shows the date of the file; when it is none, that of no file.
+void ShowFileDate(MainWindow& window)
+{
+    const std::string caption = "Client File Date : ";
+    try {
+        const double date = CheckedFileDate();
+        window.SetDateLabel(caption + Machine().LongDate(date) + " at " + Machine().ShortTime(date));
+    } catch (...) {
+        window.SetDateLabel(caption);
+        throw;
+    }
+}
+
+void ShowLeague(const std::string& path, MainWindow& window)
+{
     constexpr std::size_t extension = 4; // whether the name has one or not
     WindowTitle = std::string(ProgramTitle) + " - " + WithoutLastCharacters(GetFileName(path), extension);
     window.SetWindowCaption(WindowTitle);
@@ -146,17 +185,9 @@ void ShowLeague(const std::string& path, MainWindow& window)
     window.CentreOnScreen();
     window.ShowLeagueMenus();
     CloseWait();
-    Machine().SaveSetting("Settings", "LastLoadLeague", path);
+    RememberLeague(path, window);
     SetMenus(window);
-    const double date = CheckedFileDate();
-    window.SetDateLabel("Client File Date : " + Machine().LongDate(date) + " at " + Machine().ShortTime(date));
-
-    FillPlaceholder(Players[0], "Unknown Player", skater::DU);
-    Players[0].Position = position::Center;
-    FillPlaceholder(Goalies[0], "Unknown Goalie", goalie::DU);
-    CopyWords(RosterChanges, Players);
-    CopyWords(RosterChangesGoalie, Goalies);
-    SetDefaults();
+    ShowFileDate(window);
 }
 
 } // namespace
@@ -179,6 +210,7 @@ void OpenLeagueClient(const std::string& path, MainWindow& window)
             EmptyLeagueTables();
             return;
         }
+        PrepareLeague();
         ShowLeague(path, window);
     });
 }

@@ -7,6 +7,7 @@
 #include "league/Platform.h"
 #include "league/RatingsExport.h"
 #include "league/Reporting.h"
+#include "league/SettingsFailure.h"
 #include "rules/Function.h"
 #include "screens/ElementName.h"
 #include "screens/panels/Labels.h"
@@ -73,6 +74,8 @@ frmMain::frmMain(Stage& stage) : Screen(stage, "frmMain")
     column->addWidget(teamBar);
     emptySpaceBelow = new QWidget(content);
     column->addWidget(emptySpaceBelow, 1);
+    quiet = new QuietLines(content);
+    column->addWidget(quiet);
     setCentralWidget(content);
 
     lblConference[1]->setText("No League File Load!");
@@ -210,10 +213,24 @@ void frmMain::FormLoad()
         SetWindowCaption(WindowTitle);
         MarkRosterChangesUntouched();
         CentreOnScreen();
-        const std::string last = Machine().GetSetting("Settings", "LastLoadLeague", {});
+        const std::string last = LastLeague();
         if (!last.empty() && FileExist(last))
             OpenLeagueClient(last, *this);
     });
+}
+
+// The league file of last time. Settings that cannot be understood know of none, which is told in a quiet line.
+std::string frmMain::LastLeague()
+{
+    try {
+        return Machine().GetSetting("Settings", "LastLoadLeague", {});
+    } catch (const SettingsFailure& broken) {
+        Tell(QuietLine::SettingsSetAside,
+             "The settings file " + broken.File + " could not be read." +
+                 (broken.SetAside.empty() ? " Nor could it be set aside."
+                                          : " It was set aside as " + broken.SetAside + ", and a fresh one begun."));
+    }
+    return {};
 }
 
 void frmMain::FormActivate() { ShowChosenTeam(); }
@@ -297,6 +314,8 @@ void frmMain::SetDraftMenu(bool enabled, std::string_view caption)
 void frmMain::SetFreeAgentsMenu(bool enabled) { mnuFreeAgents->setEnabled(enabled); }
 
 void frmMain::SetDateLabel(const std::string& text) { lblDate->setText(ToQString(text)); }
+
+void frmMain::Tell(QuietLine line, const std::string& text) { quiet->Tell(line, ToQString(text)); }
 
 void frmMain::lstDivision_Click(int division)
 {

@@ -3,6 +3,7 @@
 #include "league/ClientFile.h"
 #include "league/Field.h"
 #include "screens/panels/EntryList.h"
+#include "screens/panels/QuietLines.h"
 #include "screens/Screen.h"
 
 #include <optional>
@@ -32,6 +33,7 @@ public:
     void SetDraftMenu(bool enabled, std::string_view caption) override;
     void SetFreeAgentsMenu(bool enabled) override;
     void SetDateLabel(const std::string& text) override;
+    void Tell(QuietLine line, const std::string& text) override;
 
     void lstDivision_Click(int division);
     void lstDivision_DblClick(int division);
@@ -62,6 +64,7 @@ private:
     QWidget* MakeTeamBar();
     // A button that stands for a menu command.
     QPushButton* MakeShortcut(QAction* action);
+    std::string LastLeague();
     void ShowChosenTeam();
     // Whether a team is chosen, which is told when not, and its password is proved.
     bool TeamIsProved();
@@ -72,6 +75,7 @@ private:
     QPushButton* cmdOpen;
     QWidget* lists; // the two conferences
     QWidget* teamBar;
+    QuietLines* quiet;
     QWidget *emptySpace, *emptySpaceBelow; // around the words of the empty window
     Row<QWidget*, 1, 2> conferences;
 

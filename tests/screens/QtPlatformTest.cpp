@@ -1,6 +1,7 @@
 #include "screens/platform/QtPlatform.h"
 
 #include "league/Failure.h"
+#include "league/SettingsFailure.h"
 #include "screens/frmWait.h"
 #include "screens/platform/CodePage.h"
 #include "support/ReferenceMd5.h"
@@ -88,6 +89,63 @@ TEST_F(QtPlatformTest, ASettingThatCannotBeKeptFails)
     places.SettingsFile = Path("file/settings.ini");
     QtPlatform desktop(places);
     EXPECT_EQ(NumberOfFailure([&] { desktop.SaveSetting("Settings", "LastLoadLeague", "x"); }), 75);
+}
+
+// What `act` says of the settings file; two empty texts when it does not fail so.
+std::pair<std::string, std::string> SettingsFailureOf(const std::function<void()>& act)
+{
+    try {
+        act();
+    } catch (const SettingsFailure& failed) {
+        return {failed.File, failed.SetAside};
+    }
+    return {};
+}
+
+TEST_F(QtPlatformTest, ASettingThatCannotBeKeptNamesTheFileAndHoldsForThisRun)
+{
+    Write(Path("file"), "");
+    auto places = Places();
+    places.SettingsFile = Path("file/settings.ini");
+    QtPlatform desktop(places);
+    EXPECT_EQ(SettingsFailureOf([&] { desktop.SaveSetting("Settings", "LastLoadLeague", "x"); }),
+              std::pair(InFolder("file/settings.ini"), std::string()));
+    EXPECT_EQ(desktop.GetSetting("Settings", "LastLoadLeague", "none"), "x");
+    EXPECT_EQ(desktop.GetSetting("Settings", "SkipZIPClient", "No"), "No");
+    EXPECT_EQ(NumberOfFailure([&] { desktop.SaveSetting("Settings", "LastLoadLeague", "y"); }), 75);
+    EXPECT_EQ(desktop.GetSetting("Settings", "LastLoadLeague", "none"), "y");
+    EXPECT_EQ(QtPlatform(places).GetSetting("Settings", "LastLoadLeague", "none"), "none");
+}
+
+TEST_F(QtPlatformTest, ABrokenSettingsFileIsSetAsideOnceAndAFreshOneBegun)
+{
+    for (const QByteArray& broken :
+         {QByteArray("[Settings]\nLastLoadLeague=x\nno pair\n"), QByteArray("[Settings\na=b\n"),
+          QByteArray("no settings at all"), QByteArray(300, '\0')}) {
+        Write(Path("settings.ini"), broken);
+        QtPlatform desktop(Places());
+        const auto read = [&] { return desktop.GetSetting("Settings", "LastLoadLeague", "none"); };
+        EXPECT_EQ(SettingsFailureOf([&] { (void)read(); }),
+                  std::pair(InFolder("settings.ini"), InFolder("settings.ini.broken")));
+        EXPECT_FALSE(QFile::exists(Path("settings.ini")));
+        QFile aside(Path("settings.ini.broken"));
+        ASSERT_TRUE(aside.open(QIODevice::ReadOnly));
+        EXPECT_EQ(aside.readAll(), broken);
+        EXPECT_EQ(read(), "none");
+        desktop.SaveSetting("Settings", "LastLoadLeague", "y");
+        EXPECT_EQ(read(), "y");
+        EXPECT_EQ(QtPlatform(Places()).GetSetting("Settings", "LastLoadLeague", "none"), "y");
+    }
+}
+
+TEST_F(QtPlatformTest, ABrokenSettingsFileThatCannotBeSetAsideStaysAndIsNamed)
+{
+    Write(Path("settings.ini"), "no settings at all");
+    ASSERT_TRUE(QDir().mkpath(Path("settings.ini.broken/folder")));
+    EXPECT_EQ(SettingsFailureOf([&] { (void)Desktop.GetSetting("Settings", "LastLoadLeague", "none"); }),
+              std::pair(InFolder("settings.ini"), std::string()));
+    EXPECT_EQ(Desktop.GetSetting("Settings", "LastLoadLeague", "none"), "none");
+    EXPECT_TRUE(QFile::exists(Path("settings.ini")));
 }
 
 TEST_F(QtPlatformTest, TheProgramFolderHasNoSeparatorAtItsEnd)
@@ -201,6 +259,42 @@ TEST_F(QtPlatformTest, TheWaitScreenStaysUntilItIsClosed)
     Desktop.CloseWait();
     EXPECT_EQ(ShownWait(), nullptr);
     Desktop.CloseWait();
+}
+
+// Closes itself while the wait screen paints, and notes whether it was closed.
+class Impatient : public QWidget {
+public:
+    bool Asked = false;
+    bool Closed = false;
+
+    Impatient() { show(); }
+    void CloseSoon()
+    {
+        QTimer::singleShot(0, this, [this] { Asked = !close(); });
+    }
+
+protected:
+    void closeEvent(QCloseEvent* event) override
+    {
+        Closed = true;
+        QWidget::closeEvent(event);
+    }
+};
+
+TEST_F(QtPlatformTest, NoWindowClosesWhileAWaitScreenPaints)
+{
+    for (const int milliseconds : {0, 20}) {
+        Desktop.SetWaitMilliseconds(milliseconds);
+        Impatient window;
+        window.CloseSoon();
+        Desktop.ShowWait();
+        EXPECT_TRUE(window.Asked);
+        EXPECT_FALSE(window.Closed);
+        EXPECT_TRUE(window.isVisible());
+        Desktop.CloseWait();
+        EXPECT_TRUE(window.close()) << "afterwards it closes as ever";
+        EXPECT_TRUE(window.Closed);
+    }
 }
 
 TEST_F(QtPlatformTest, TheWaitScreenHasNoButtonToCloseIt)

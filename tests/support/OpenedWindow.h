@@ -2,6 +2,7 @@
 
 #include "league/ClientFile.h"
 
+#include <map>
 #include <string>
 #include <vector>
 
@@ -11,6 +12,7 @@ namespace dravik {
 class OpenedWindow final : public MainWindow {
 public:
     std::vector<std::string> Calls;
+    std::map<QuietLine, std::string> Quiet; // what stands in the quiet lines, those that say something
 
     void SetWindowCaption(const std::string& caption) override { Calls.push_back("caption " + caption); }
     void PlaceTeam() override { Calls.emplace_back("place teams"); }
@@ -25,6 +27,13 @@ public:
         Calls.emplace_back(enabled ? "free agents on" : "free agents off");
     }
     void SetDateLabel(const std::string& text) override { Calls.push_back("date " + text); }
+    void Tell(QuietLine line, const std::string& text) override
+    {
+        if (text.empty())
+            Quiet.erase(line);
+        else
+            Quiet[line] = text;
+    }
 };
 
 } // namespace dravik

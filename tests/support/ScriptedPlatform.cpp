@@ -1,9 +1,9 @@
 #include "support/ScriptedPlatform.h"
 
 #include "league/Failure.h"
+#include "league/SettingsFailure.h"
 #include "support/ReferenceMd5.h"
 
-#include <atomic>
 #include <chrono>
 #include <cmath>
 #include <filesystem>
@@ -107,11 +107,12 @@ std::ostream& operator<<(std::ostream& out, const News& news)
 
 ScriptedPlatform::ScriptedPlatform()
 {
-    static std::atomic<unsigned> count = 0;
+    // A folder is this machine's own only if nobody else has made it.
     std::random_device random;
-    const fs::path path =
-        fs::temp_directory_path() / ("dravik-test-" + std::to_string(random()) + "-" + std::to_string(++count));
-    fs::create_directories(path);
+    fs::path path;
+    do
+        path = fs::temp_directory_path() / ("dravik-test-" + std::to_string(random()) + "-" + std::to_string(random()));
+    while (!fs::create_directory(path));
     folder = path.string();
 }
 
@@ -172,7 +173,7 @@ std::string ScriptedPlatform::GetSetting(const std::string& section, const std::
 void ScriptedPlatform::SaveSetting(const std::string& section, const std::string& key, const std::string& value)
 {
     if (SaveSettingFailure != 0)
-        Fail(SaveSettingFailure);
+        throw SettingsFailure(SaveSettingFailure, InFolder("Settings"));
     if (section == "Settings")
         Settings[key] = value;
     Tell("setting " + key);

@@ -2,6 +2,7 @@
 
 #include "league/Failure.h"
 #include "league/Message.h"
+#include "league/SettingsFailure.h"
 #include "screens/frmWait.h"
 #include "screens/platform/CodePage.h"
 #include "screens/platform/Dialogs.h"
@@ -61,6 +62,20 @@ void CentreOver(QWidget& window, const QWidget* owner)
     window.move(around.center() - window.rect().center());
 }
 
+// Holds back what would close a window. Whoever waits may be a routine of that window, which has to outlive it.
+class NoClosing : public QObject {
+public:
+    NoClosing() { QCoreApplication::instance()->installEventFilter(this); }
+
+    bool eventFilter(QObject* /*watched*/, QEvent* event) override
+    {
+        if (event->type() != QEvent::Close)
+            return false;
+        event->ignore();
+        return true;
+    }
+};
+
 } // namespace
 
 QtPlatform::QtPlatform(QtPlatformPlaces newPlaces) : places(std::move(newPlaces)) {}
@@ -94,19 +109,49 @@ std::unique_ptr<QSettings> QtPlatform::Settings() const
     return settings;
 }
 
+// What a crash or a disk made of the settings must not stand in their way for ever, nor be lost.
+void QtPlatform::SetBrokenSettingsAside()
+{
+    settingsAreProved = true;
+    std::string file;
+    {
+        const auto settings = Settings();
+        (void)settings->allKeys(); // which has all of it read
+        if (settings->status() != QSettings::FormatError)
+            return;
+        file = PathToProgram(QDir::toNativeSeparators(settings->fileName()));
+    }
+    const std::string aside = file + ".broken";
+    try {
+        RenameFile(file, aside);
+    } catch (const Failure&) {
+        throw SettingsFailure(failure::PathAccess, file);
+    }
+    throw SettingsFailure(failure::PathAccess, file, aside);
+}
+
 std::string QtPlatform::GetSetting(const std::string& section, const std::string& key, const std::string& otherwise)
 {
-    const QVariant value = Settings()->value(SettingKey(section, key));
+    if (!settingsAreProved)
+        SetBrokenSettingsAside();
+    const QString name = SettingKey(section, key);
+    if (const auto kept = unwritten.find(name); kept != unwritten.end())
+        return FromQStringLossless(kept->second);
+    const QVariant value = Settings()->value(name);
     return value.isValid() ? FromQStringLossless(value.toString()) : otherwise;
 }
 
 void QtPlatform::SaveSetting(const std::string& section, const std::string& key, const std::string& value)
 {
+    const QString name = SettingKey(section, key);
     const auto settings = Settings();
-    settings->setValue(SettingKey(section, key), ToQString(value));
+    settings->setValue(name, ToQString(value));
     settings->sync();
-    if (settings->status() != QSettings::NoError)
-        Fail(failure::PathAccess);
+    if (settings->status() != QSettings::NoError) {
+        unwritten[name] = ToQString(value);
+        throw SettingsFailure(failure::PathAccess, PathToProgram(QDir::toNativeSeparators(settings->fileName())));
+    }
+    unwritten.erase(name);
 }
 
 QString ChooseProgramFolder(const QString& executableFolder, const QString& documents)
@@ -160,6 +205,7 @@ void QtPlatform::ShowWait()
         CentreOver(*wait, wait->parentWidget());
         wait->show();
     }
+    const NoClosing held;
     if (waitMilliseconds == 0) {
         QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
         return;

@@ -7,6 +7,7 @@
 #include <QSettings>
 #include <QString>
 
+#include <map>
 #include <memory>
 #include <optional>
 
@@ -37,7 +38,10 @@ public:
     int MessageBox(const std::string& text, int kind, const std::string& title) override;
     std::string InputBox(const std::string& prompt, const std::string& title, const std::string& text) override;
     std::string OpenFileDialog(const std::string& folder, const std::string& filter) override;
+    // The first reading of a file that cannot be understood sets it aside under its name and ".broken", and fails with a
+    // SettingsFailure that says so; from then on a fresh one is read.
     std::string GetSetting(const std::string& section, const std::string& key, const std::string& otherwise) override;
+    // Fails with a SettingsFailure when nothing can be stored; the value holds then for as long as this object does.
     void SaveSetting(const std::string& section, const std::string& key, const std::string& value) override;
     std::string ProgramFolder() override;
     std::string Version() override;
@@ -60,8 +64,11 @@ protected:
 
 private:
     [[nodiscard]] std::unique_ptr<QSettings> Settings() const;
+    void SetBrokenSettingsAside();
 
     QtPlatformPlaces places;
+    std::map<QString, QString> unwritten; // settings that could not be stored, by their keys
+    bool settingsAreProved = false;
     int waitMilliseconds = 100;
     QPointer<frmWait> wait;
     std::unique_ptr<QLockFile> lock;
