@@ -1,6 +1,7 @@
 #include "league/DraftFile.h"
 
 #include "league/ClientVariable.h"
+#include "league/OldFile.h"
 #include "league/OutsideCode.h"
 #include "league/SlotFile.h"
 
@@ -23,7 +24,7 @@ std::string DraftFilePath(int team) { return TeamFilePath(Teams[team].Name.Trimm
 bool WriteDraftFile(int team, const DraftRanking& ranking, const std::string& target)
 {
     DeleteIfExists(TempFile);
-    DeleteIfExists(target);
+    OldFile old(target);
     const auto write = [&](SlotWriter& slots) {
         slots.WriteMagic(StartMagic);
         slots.Write(LeagueData.LeagueCode);
@@ -32,7 +33,10 @@ bool WriteDraftFile(int team, const DraftRanking& ranking, const std::string& ta
             slots.Write(id);
         slots.WriteMagic(EndMagic);
     };
-    return WriteSlotFile(target, FileLength, write, DraftSlot, TempFile);
+    if (!WriteSlotFile(target, FileLength, write, DraftSlot, TempFile))
+        return false;
+    old.Replaced();
+    return true;
 }
 
 } // namespace dravik

@@ -15,8 +15,8 @@ using DraftRanking = Row<Int16, 0, 1000>;
 std::string DraftFilePath(int team);
 
 // Writes `ranking` as the draft file of `team` to `target`, plain or compressed as the settings say. A work file left
-// behind and what stood at `target` are deleted before; the new file is the work file until it is whole, so both have to
-// be on one disk. False after a failed compression, which is told; any other failure is thrown.
+// behind is deleted first; the new file is the work file until it is whole, so both have to be on one disk, and then takes
+// the place of what stands at `target` in one step. After a failure the old one is deleted. False after a failed compression, which is told; any other failure is thrown.
 bool WriteDraftFile(int team, const DraftRanking& ranking, const std::string& target);
 
 } // namespace dravik

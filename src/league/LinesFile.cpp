@@ -1,6 +1,7 @@
 #include "league/LinesFile.h"
 
 #include "league/ClientVariable.h"
+#include "league/OldFile.h"
 #include "league/OutsideCode.h"
 #include "league/SlotFile.h"
 
@@ -87,7 +88,7 @@ bool WriteLinesFile(int team, const std::string& target)
 {
     const Team& record = Teams[team];
     DeleteIfExists(TempFile);
-    DeleteIfExists(target);
+    OldFile old(target);
     RefreshStatus(RosterChanges, Players);
     RefreshStatus(RosterChangesGoalie, Goalies);
     const auto write = [&](SlotWriter& slots) {
@@ -101,7 +102,10 @@ bool WriteLinesFile(int team, const std::string& target)
             slots.Write(change);
         slots.WriteMagic(EndMagic);
     };
-    return WriteSlotFile(target, FileLength, write, SlotLength, TempFile);
+    if (!WriteSlotFile(target, FileLength, write, SlotLength, TempFile))
+        return false;
+    old.Replaced();
+    return true;
 }
 
 LinesFileRead ReadLinesFile(const std::string& path)

@@ -9,9 +9,9 @@ namespace dravik {
 std::string LinesFilePath(int team);
 
 // Writes the lines file of `team` to `target`, plain or compressed as the settings say. `RosterChange.Status` of every
-// person takes his `Status` first. A work file left behind and what stood at `target` are deleted before; the new file is
-// the work file until it is whole, so both have to be on one disk. False after a failed compression, which is told; any
-// other failure is thrown.
+// person takes his `Status` first. A work file left behind is deleted first; the new file is the work file until it is
+// whole, so both have to be on one disk, and then takes the place of what stands at `target` in one step. After a failure the
+// old one is deleted. False after a failed compression, which is told; any other failure is thrown.
 bool WriteLinesFile(int team, const std::string& target);
 
 enum class LinesFileRead {

@@ -2,6 +2,7 @@
 
 #include "league/ClientVariable.h"
 #include "league/Message.h"
+#include "league/OldFile.h"
 #include "league/OutsideCode.h"
 #include "league/Platform.h"
 #include "league/SlotFile.h"
@@ -74,7 +75,7 @@ OffersTally TallyOffers(int team, const OfferTable& offers)
 SavedOffers WriteOffersFile(int team, const std::string& target, OfferTable& offers)
 {
     DeleteIfExists(TempFile);
-    DeleteIfExists(target);
+    OldFile old(target);
     SavedOffers saved;
     EachSaved(offers, [&](FreeAgentOffer& offer) {
         offer.Team = team;
@@ -96,8 +97,12 @@ SavedOffers WriteOffersFile(int team, const std::string& target, OfferTable& off
         EachSaved(std::as_const(offers), [&](const FreeAgentOffer& offer) { slots.Write(offer); });
     };
     const std::int64_t length = SlotFileLength(FirstOffer - 1 + tally.Count, OfferSlot, OfferSlot);
-    const bool written = WriteSlotFile(target, length, write, OfferSlot, TempFile);
-    saved.Outcome = written ? OffersFileWrite::Saved : OffersFileWrite::NotCompressed;
+    if (!WriteSlotFile(target, length, write, OfferSlot, TempFile)) {
+        saved.Outcome = OffersFileWrite::NotCompressed;
+        return saved;
+    }
+    old.Replaced();
+    saved.Outcome = OffersFileWrite::Saved;
     return saved;
 }
 

@@ -288,9 +288,9 @@ TEST_F(OffersFileTest, AFailedCompressionIsToldAndTheOldFileIsGone)
 {
     WriteWhole(Path, {'o', 'l', 'd'});
     Offer(1);
-    Machine.FailFileOperation(5, failure::DiskFull);
+    Machine.FailFileOperation(3, failure::DiskFull);
     EXPECT_EQ(Save().Outcome, OffersFileWrite::NotCompressed);
-    EXPECT_EQ(Machine.FileOperations()[4], "write");
+    EXPECT_EQ(Machine.FileOperations()[2], "write");
     EXPECT_THAT(Machine.Boxes(), ElementsAre(Box{box::Critical, "61 - Disk full in Zlib Compress!"}));
     EXPECT_TRUE(FolderIsEmpty());
 }

@@ -54,6 +54,25 @@ TEST_F(RealFaultsTest, AClientFileThatMayNotBeReadIsNoLeague)
     }
 }
 
+TEST_F(RealFaultsTest, AWriteProtectedClientFileInAWriteProtectedFolderOpens)
+{
+    const ByteVector slots = ClientSlots();
+    for (const bool plain : {false, true}) {
+        const std::string path = Secret("League.dvs", plain, slots);
+        EXPECT_EQ(chmod(path.c_str(), 0444), 0);
+        const ByteVector before = ReadWhole(path);
+        OpenedWindow window;
+        {
+            const ReadOnly folder(Machine.Folder());
+            OpenLeagueClient(path, window);
+        }
+        EXPECT_THAT(Machine.TakeBoxes(), IsEmpty());
+        EXPECT_EQ(LeagueData.Name.Trimmed(), "Small League");
+        EXPECT_EQ(window.Calls.size(), 7U);
+        EXPECT_TRUE(ReadWhole(path) == before);
+    }
+}
+
 TEST_F(RealFaultsTest, ALinesFileThatMayNotBeReadChangesNothing)
 {
     const ByteVector slots = LinesSlots(5);

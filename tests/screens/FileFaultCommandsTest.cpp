@@ -70,7 +70,7 @@ protected:
         EXPECT_EQ(Machine.WaitShown, ending.WaitStays);
     }
 
-    // A save: the work file and the old file are looked for and deleted before the new one is written.
+    // A save: the work file is looked for and deleted before the new one is written.
     void EachFaultOfASave(bool plain, const std::string& target, const std::function<void()>& command,
                           const Ending& well)
     {
@@ -82,7 +82,7 @@ protected:
                   [&](const std::string& operation, std::size_t n, const FileFault& fault) -> Ending {
                       if (operation == "find")
                           return well;
-                      if (plain || n <= 4)
+                      if (plain || n <= 2)
                           return {{fault.ToldWith(" in cmdSaveToFile!")}};
                       return {{fault.ToldWith(" in Zlib Compress!")}, true};
                   });

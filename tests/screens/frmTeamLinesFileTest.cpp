@@ -43,7 +43,7 @@ TEST_F(LinesFileCommands, SaveWritesTheFileAndTellsWhere)
     EXPECT_FALSE(Machine.WaitShown);
 }
 
-TEST_F(LinesFileCommands, SavingTwiceGivesTheSamePathAndDeletesTheFirstFile)
+TEST_F(LinesFileCommands, SavingTwiceGivesTheSamePathAndReplacesTheFirstFile)
 {
     Office();
     const auto save = [this] {
@@ -53,11 +53,11 @@ TEST_F(LinesFileCommands, SavingTwiceGivesTheSamePathAndDeletesTheFirstFile)
         return std::vector(all.begin() + done, all.begin() + done + 4);
     };
     const Box saved{64, "Lines file for Harbour City successfully save at\r\n" + target};
-    EXPECT_THAT(save(), ElementsAre("find", "find", "create", "write"));
+    EXPECT_THAT(save(), ElementsAre("find", "create", "write", "write"));
     const ByteVector first = ReadWhole(target);
     Own().City = "Elsewhere";
-    // The work file and the target are looked for; the target, found, goes before anything is written.
-    EXPECT_THAT(save(), ElementsAre("find", "find", "delete", "create"));
+    // The work file is looked for; the target stays until the new file takes its place.
+    EXPECT_THAT(save(), ElementsAre("find", "create", "write", "write"));
     EXPECT_THAT(Machine.Boxes(), ElementsAre(saved, saved));
     EXPECT_TRUE(ReadWhole(target) == LinesSlots(5));
     EXPECT_FALSE(ReadWhole(target) == first);

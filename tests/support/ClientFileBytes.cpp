@@ -22,6 +22,14 @@ std::ofstream NewFile(const std::string& path)
     return std::ofstream(path, std::ios::binary);
 }
 
+// What was written may be refused as late as the file is closed, by a disk that is full.
+void CloseWhole(std::ofstream& file, const std::string& path)
+{
+    file.close();
+    if (!file)
+        throw std::runtime_error("cannot write " + path);
+}
+
 class Slots {
 public:
     explicit Slots(std::size_t count) : bytes(count * client_file::Slot) {}
@@ -134,6 +142,8 @@ ByteVector ReadWhole(const std::string& path)
     ByteVector bytes(static_cast<std::size_t>(file.tellg()));
     file.seekg(0);
     file.read(reinterpret_cast<char*>(bytes.data()), static_cast<std::streamsize>(bytes.size()));
+    if (!file)
+        throw std::runtime_error("cannot read all of " + path);
     return bytes;
 }
 
@@ -141,8 +151,7 @@ void WriteWhole(const std::string& path, const ByteVector& bytes)
 {
     std::ofstream file = NewFile(path);
     file.write(reinterpret_cast<const char*>(bytes.data()), static_cast<std::streamsize>(bytes.size()));
-    if (!file)
-        throw std::runtime_error("cannot write " + path);
+    CloseWhole(file, path);
 }
 
 void WriteSparse(const std::string& path, const ByteVector& bytes)
@@ -157,8 +166,7 @@ void WriteSparse(const std::string& path, const ByteVector& bytes)
         file.seekp(static_cast<std::streamoff>(at));
         file.write(reinterpret_cast<const char*>(bytes.data()) + at, static_cast<std::streamsize>(size));
     }
-    if (!file)
-        throw std::runtime_error("cannot write " + path);
+    CloseWhole(file, path);
 }
 
 } // namespace dravik

@@ -1,0 +1,19 @@
+#include "league/OldFile.h"
+
+#include "league/OutsideCode.h"
+
+#include <exception>
+
+namespace dravik {
+
+OldFile::~OldFile()
+{
+    if (replaced)
+        return;
+    try {
+        DeleteIfExists(path);
+    } catch (const std::exception&) { // NOLINT: the failure that brought us here is the one to tell
+    }
+}
+
+} // namespace dravik
