@@ -5,6 +5,7 @@
 #include "league/ZlibWrapper.h"
 
 #include <algorithm>
+#include <iterator>
 #include <optional>
 
 namespace dravik {
@@ -21,6 +22,28 @@ std::optional<std::string> Entry(const std::string& path)
     } catch (const std::exception&) { // NOLINT: an entry that cannot be looked for is not there
     }
     return std::nullopt;
+}
+
+std::string UpperCase(std::string text)
+{
+    std::transform(text.begin(), text.end(), text.begin(),
+                   [](char c) { return c >= 'a' && c <= 'z' ? static_cast<char>(c - 'a' + 'A') : c; });
+    return text;
+}
+
+// Whether one of the systems keeps the file name `name` for a device, as it does whatever stands behind the name's first
+// point. Such a name is refused on all of them: a league's files go from one to the other.
+bool IsDevice(const std::string& name)
+{
+    constexpr std::string_view devices[] = {"CON", "PRN", "AUX", "NUL", "CONIN$", "CONOUT$"};
+    constexpr std::string_view ports[] = {"COM", "LPT"};
+    constexpr std::string_view portNumbers = "123456789\xB9\xB2\xB3"; // the last three are raised digits
+    const auto isOneOf = [](const auto& names, const std::string& text) {
+        return std::find(std::begin(names), std::end(names), text) != std::end(names);
+    };
+    const std::string device = UpperCase(name.substr(0, name.find('.')));
+    return isOneOf(devices, device) || (device.size() == 4 && isOneOf(ports, device.substr(0, 3)) &&
+                                        portNumbers.find(device[3]) != std::string_view::npos);
 }
 
 } // namespace
@@ -63,14 +86,22 @@ std::string GetFileName(const std::string& path)
 
 void DeleteIfExists(const std::string& path)
 {
-    if (const auto entry = Entry(path))
-        Machine().DeleteFile(*entry);
+    const auto entry = Entry(path);
+    if (!entry)
+        return;
+    try {
+        Machine().DeleteFile(path);
+    } catch (const Failure& failed) {
+        // Where the file system tells letters from their other case, an entry of another case is somebody else's file.
+        if (*entry == path || failed.Number != failure::FileNotFound)
+            throw;
+    }
 }
 
 std::string TeamFilePath(std::string_view teamName, std::string_view extension)
 {
     const std::string name = RemoveSpaces(teamName);
-    if (name.find_first_of("\\/:*?\"<>|") != std::string::npos)
+    if (name.find_first_of("\\/:*?\"<>|") != std::string::npos || IsDevice(name))
         Fail(failure::PathAccess);
     return Machine().ProgramFolder() + PathSeparator + name + std::string(extension);
 }
@@ -81,10 +112,7 @@ void CloseWait() { Machine().CloseWait(); }
 
 bool SkipZIPClient()
 {
-    std::string setting = WithoutOuterBlanks(Machine().GetSetting("Settings", "SkipZIPClient", "No"));
-    std::transform(setting.begin(), setting.end(), setting.begin(),
-                   [](char c) { return c >= 'a' && c <= 'z' ? static_cast<char>(c - 'a' + 'A') : c; });
-    return setting == "YES";
+    return UpperCase(WithoutOuterBlanks(Machine().GetSetting("Settings", "SkipZIPClient", "No"))) == "YES";
 }
 
 } // namespace dravik

@@ -28,11 +28,12 @@ std::string ExistingPath(const std::string& path);
 // The part of `path` behind its last separator; without one the whole text.
 std::string GetFileName(const std::string& path);
 
-// Deletes the file if it is there.
+// Deletes the file if it is there. A file whose name is the same but for the case of its letters is the same file only where
+// the file system takes both for one.
 void DeleteIfExists(const std::string& path);
 
 // Where a file of the team named `teamName` is saved: the program's folder, the name without spaces, `extension`. Fails
-// with 75 when the name holds a character that no file name may hold.
+// with 75 when the name holds a character that no file name may hold, or is one that a system keeps for a device ("con").
 std::string TeamFilePath(std::string_view teamName, std::string_view extension);
 
 // Shows the wait screen and lets it paint for about 100 milliseconds.

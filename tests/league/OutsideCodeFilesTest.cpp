@@ -180,10 +180,52 @@ TEST_F(OutsideCodeFilesTest, GetFileNameIsWhatStandsBehindTheLastSeparator)
 TEST_F(OutsideCodeFilesTest, DeleteIfExistsDeletesTheEntryItFinds)
 {
     WriteWhole(Machine.InFolder("Work.dvt"), {1});
-    DeleteIfExists(Machine.InFolder("work.DVT"));
+    DeleteIfExists(Machine.InFolder("Work.dvt"));
     EXPECT_EQ(FilesLeft(), 0U);
-    DeleteIfExists(Machine.InFolder("work.DVT"));
+    DeleteIfExists(Machine.InFolder("Work.dvt"));
     EXPECT_THAT(Machine.FileOperations(), ElementsAre("find", "delete", "find"));
+}
+
+// The file system is the one to say whether both names mean one file.
+TEST_F(OutsideCodeFilesTest, AFileOfAnotherCaseIsDeletedOnlyWhereItIsTheSameFile)
+{
+    const std::string path = Machine.InFolder("Work.dvt");
+    const std::string other = Machine.InFolder("work.DVT");
+    WriteWhole(path, {1});
+    const bool same = std::filesystem::exists(other);
+    DeleteIfExists(other);
+    EXPECT_EQ(std::filesystem::exists(path), !same);
+    WriteWhole(path, {1});
+    WriteWhole(other, {2});
+    DeleteIfExists(other);
+    EXPECT_FALSE(std::filesystem::exists(other));
+    EXPECT_EQ(std::filesystem::exists(path), !same);
+}
+
+// A machine whose files have one name in every case of its letters.
+class OneCase : public ScriptedPlatform {
+public:
+    void DeleteFile(const std::string& path) override
+    {
+        ScriptedPlatform::DeleteFile(Folder() + "/" + *FindEntry(path));
+    }
+};
+
+TEST_F(OutsideCodeFilesTest, AFileSystemThatKnowsOneCaseDeletesTheFileUnderAnyName)
+{
+    OneCase machine;
+    UseMachine(machine);
+    WriteWhole(machine.InFolder("Work.dvt"), {1});
+    DeleteIfExists(machine.InFolder("work.DVT"));
+    EXPECT_FALSE(std::filesystem::exists(machine.InFolder("Work.dvt")));
+    UseMachine(Machine);
+}
+
+TEST_F(OutsideCodeFilesTest, AFileOfAnotherCaseThatCannotBeDeletedIsThrown)
+{
+    WriteWhole(Machine.InFolder("Work.dvt"), {1});
+    Machine.FailFileOperation(2, failure::PermissionDenied);
+    EXPECT_THROW(DeleteIfExists(Machine.InFolder("work.DVT")), Failure);
 }
 
 TEST_F(OutsideCodeFilesTest, DeleteIfExistsThrowsWhatCannotBeDeleted)
@@ -211,6 +253,31 @@ TEST_F(OutsideCodeFilesTest, ATeamNameThatNoFileNameMayHoldFails)
         }
         EXPECT_EQ(number, failure::PathAccess) << name;
     }
+}
+
+int NumberOfPath(const std::string& name)
+{
+    try {
+        (void)TeamFilePath(name, ".dvl");
+    } catch (const Failure& failed) {
+        return failed.Number;
+    }
+    return 0;
+}
+
+TEST_F(OutsideCodeFilesTest, ATeamNameThatASystemKeepsForADeviceFails)
+{
+    for (const char* name : {"con",    "CON",     "Con",     "prn",  "aux",      "nul",     "NUL",     "com1",
+                             "COM5",   "com9",    "lpt1",    "Lpt4", "LPT9",     "com\xB9", "COM\xB2", "lpt\xB3",
+                             "conin$", "CONOUT$", " c o n ", "nul.", "Aux.City", "com1.a.b"})
+        EXPECT_EQ(NumberOfPath(name), failure::PathAccess) << name;
+}
+
+TEST_F(OutsideCodeFilesTest, ATeamNameThatOnlyResemblesADeviceIsAFileName)
+{
+    for (const char* name : {"Cons", "Acon", "con-", "com", "com0", "com10", "COMA", "lpt", "lpt0", "nuls", "auxcity",
+                             "St.con", "conin", "conout", "comb", "prn1", "com\xB4"})
+        EXPECT_EQ(NumberOfPath(name), 0) << name;
 }
 
 TEST_F(OutsideCodeFilesTest, SkipZIPClientIsNoUnlessToldOtherwise)
