@@ -10,7 +10,7 @@ double LeadingNumber(std::string_view text)
     std::string number;
     bool point = false;
     for (const char c : text) {
-        if (c == ' ')
+        if (c == ' ' && number.empty())
             continue;
         const bool digit = c >= '0' && c <= '9';
         const bool sign = (c == '-' || c == '+') && number.empty();

@@ -182,11 +182,16 @@ TEST(ArithmeticTest, TheLeadingNumberIsReadAsFarAsItIsOne)
         EXPECT_EQ(LeadingNumber(reading.Text), reading.Number) << reading.Text;
 }
 
-TEST(ArithmeticTest, BlanksOfANumberAreSkippedWhereverTheyStand)
+TEST(ArithmeticTest, BlanksAreSkippedBeforeANumberAndEndItWithin)
 {
     EXPECT_EQ(LeadingNumber("  42"), 42);
-    EXPECT_EQ(LeadingNumber(" - 1 2 . 5 x"), -12.5);
+    EXPECT_EQ(LeadingNumber("  -42"), -42);
     EXPECT_EQ(LeadingNumber("   "), 0);
+    EXPECT_EQ(LeadingNumber("12 34"), 12);
+    EXPECT_EQ(LeadingNumber(" 1 2 . 5 x"), 1);
+    EXPECT_EQ(LeadingNumber("12. 5"), 12);
+    EXPECT_EQ(LeadingNumber("- 5"), 0) << "a sign alone is no number";
+    EXPECT_EQ(LeadingNumber("+ 5"), 0);
 }
 
 TEST(ArithmeticTest, EveryWholeNumberReadsBackFromItsText)
