@@ -209,6 +209,7 @@ TEST_F(EntryHabits, OnlyTheLeftButtonOpensByDoubleClick)
     for (const auto button : {Qt::RightButton, Qt::MiddleButton}) {
         Touch(list, 1, &QTest::mouseClick, button, Qt::NoModifier);
         Touch(list, 1, &QTest::mouseDClick, button, Qt::NoModifier);
+        Touch(list, 1, &QTest::mouseRelease, button, Qt::NoModifier);
         EXPECT_EQ(TeamScreen(), nullptr);
     }
     DoubleClickEntry(1, 1);
