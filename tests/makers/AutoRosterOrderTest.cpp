@@ -121,6 +121,28 @@ TEST_F(AutoRosterOrderTest, TheFarmsAndTheCoachesPayrollsAreAddedWithoutLosingAD
     ExpectOpeningPayroll(16777217);
 }
 
+TEST_F(AutoRosterOrderTest, AnOpeningPayrollBeyond32BitsEndsTheRunBeforeAnythingIsDone)
+{
+    constexpr int half = 2000000000;
+    Coaches[1].InUse = true;
+    Coaches[1].Team = 5;
+    LeagueData.MaxSalary = half;
+    LeagueData.FarmPayMinGames = 1;
+    LeagueData.FarmPayrollInCap = true;
+    LeagueData.CoachPayrollInCap = true;
+    KeepOnFarm(50, 0);
+    PutSkater(51, 5, position::Center, status::Pro, 90).Condition = 94;
+    Players[51].Salary = 0;
+    Players[18].Salary = half;
+    // The second half comes from the pro team, the farm and the coaches in turn.
+    for (Int32* const salary : {&Players[17].Salary, &Players[50].Salary, &Coaches[1].Salary}) {
+        *salary = half;
+        EXPECT_THAT(Run(), ElementsAre(Box{16, "6 - Overflow in AutoRoster!"}));
+        EXPECT_EQ(Players[51].Status, 2);
+        *salary = 0;
+    }
+}
+
 // ---- The order of the picks ----------------------------------------------------------------------------------------
 
 TEST_F(AutoRosterOrderTest, CentersComeUpBeforeLeftWingsBeforeRightWingsBeforeDefensemen)
