@@ -340,6 +340,17 @@ TEST_F(OverallTest, SumThatDoesNotFit16BitsGives0WithoutABox)
     EXPECT_THAT(Machine.Boxes(), ElementsAre());
 }
 
+TEST_F(OverallTest, SumsAtTheEndsOf16BitsStillFit)
+{
+    SetWeights(0);
+    LeagueData.OverallWeightCK = 4850; // with the fixed weight of 0.03 the checking rating itself
+    PutSkater(1, 5, position::Center, status::Pro, 0);
+    Players[1].Stats[skater::CK] = -32768;
+    EXPECT_EQ(CalculateOverall(position::Center, 1), -32768);
+    Players[1].Stats[skater::CK] = 32767;
+    EXPECT_EQ(CalculateOverall(position::Center, 1), 99);
+}
+
 TEST_F(OverallTest, RandomSkatersAgreeWithThePlainReading)
 {
     Dice dice(41);

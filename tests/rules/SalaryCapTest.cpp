@@ -287,5 +287,14 @@ TEST_F(SalaryCapTest, RandomLeaguesAgreeWithAPlainReadingAndNothingChanges)
     }
 }
 
+TEST_F(SalaryCapTest, AStandingThatNobodyHasReckonedIsNothingUnderNoCap)
+{
+    const CapStanding standing;
+    EXPECT_EQ(standing.Pro, 0);
+    EXPECT_EQ(standing.Farm, 0);
+    EXPECT_EQ(standing.Total, 0);
+    EXPECT_EQ(standing.Cap, std::nullopt);
+}
+
 } // namespace
 } // namespace dravik

@@ -143,5 +143,13 @@ TEST_F(StatRowsTest, AskingForRowsShowsNoBoxAndASlotOutsideTheTableFails)
     EXPECT_THAT(Machine.Boxes(), IsEmpty());
 }
 
+TEST_F(StatRowsTest, RowsOfNobodyAreNone)
+{
+    const StatRows rows;
+    EXPECT_TRUE(rows.Ratings.empty());
+    EXPECT_EQ(rows.Overall, 0);
+    EXPECT_EQ(rows.OverallRow, std::nullopt);
+}
+
 } // namespace
 } // namespace dravik

@@ -190,6 +190,15 @@ TEST_F(WipeLinesTest, WipingAGoalieLeavesASkaterWithTheSameIndexAlone)
     }
 }
 
+TEST_F(WipeLinesTest, WipingAGoalieLeavesASkaterSlotWithHisNumberAndTenThousandAlone)
+{
+    Flood(5, GoalieOffset + 3);
+    Teams[5].Captain = GoalieOffset + 3;
+    const auto before = ImageOf(Teams);
+    WipePlayerFromTeamLines(5, GoalieOffset + 3);
+    EXPECT_EQ(ImageOf(Teams), before);
+}
+
 TEST_F(WipeLinesTest, WipingASkaterLeavesAGoalieWithTheSameIndexAlone)
 {
     Flood(5, 3);
