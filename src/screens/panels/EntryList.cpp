@@ -138,6 +138,8 @@ void EntryList::Add(const QString& text, int number, const QStringList& aside)
     item->setData(entry::AsideRole, aside);
 }
 
+void EntryList::SetCurrentToNone() { setCurrentRow(-1, QItemSelectionModel::NoUpdate); }
+
 void EntryList::Unchoose()
 {
     clearSelection();
@@ -157,8 +159,7 @@ void EntryList::keyPressEvent(QKeyEvent* event)
         emit EnterPressed();
         return;
     }
-    // The toolkit makes the first entry current when the list gets the focus, without choosing it; the first arrow would
-    // then skip it.
+    // From a current entry that is not chosen, or none, the toolkit's first arrow would skip one.
     if (MovesChoice(event->key()) && Chosen() == nullptr && count() > 0) {
         setCurrentRow(event->key() == Qt::Key_End ? count() - 1 : FirstChoice(), QItemSelectionModel::ClearAndSelect);
         return;
@@ -166,10 +167,34 @@ void EntryList::keyPressEvent(QKeyEvent* event)
     QListWidget::keyPressEvent(event);
 }
 
+// The toolkit makes whatever any button presses current, also where the press chooses nothing.
+void EntryList::mousePressEvent(QMouseEvent* event)
+{
+    if (event->button() == Qt::LeftButton)
+        QListWidget::mousePressEvent(event);
+}
+
+void EntryList::mouseReleaseEvent(QMouseEvent* event)
+{
+    if (event->button() == Qt::LeftButton)
+        QListWidget::mouseReleaseEvent(event);
+}
+
 void EntryList::mouseDoubleClickEvent(QMouseEvent* event)
 {
     if (event->button() == Qt::LeftButton)
         QListWidget::mouseDoubleClickEvent(event);
+}
+
+// The toolkit makes the first entry current when the list gets the focus. That is no choice of the user's, and nobody hears
+// of it.
+void EntryList::focusInEvent(QFocusEvent* event)
+{
+    const bool hadCurrent = currentRow() >= 0;
+    const QSignalBlocker quiet(this);
+    QListWidget::focusInEvent(event);
+    if (!hadCurrent)
+        SetCurrentToNone();
 }
 
 QItemSelectionModel::SelectionFlags EntryList::selectionCommand(const QModelIndex& index, const QEvent* event) const

@@ -26,8 +26,9 @@ public:
                    const QModelIndex& index) override;
 };
 
-// A list of entries with numbers. Arrows, Home and End choose from the first key on, letters jump to an entry, and Enter
-// acts on the current one if it is chosen, as a double click does.
+// A list of entries with numbers. The left mouse button alone acts on entries, and an entry becomes current only by what
+// chooses it. Arrows, Home and End choose from the first key on, letters jump to an entry, and Enter acts on the current one
+// if it is chosen, as a double click does.
 class EntryList : public QListWidget {
     Q_OBJECT
 public:
@@ -40,6 +41,7 @@ public:
     [[nodiscard]] bool CutsNamesFirst() const { return cutsNamesFirst; }
     // Takes the choice away, so that the next click or key on any entry is a new one.
     void Unchoose();
+    void SetCurrentToNone();
     // The chosen entry, or none.
     [[nodiscard]] QListWidgetItem* Chosen() const;
 
@@ -51,8 +53,10 @@ protected:
     // The row that the first arrow chooses when nothing is chosen.
     [[nodiscard]] virtual int FirstChoice() const { return std::max(0, currentRow()); }
     void keyPressEvent(QKeyEvent* event) override;
-    // Only the left button acts on an entry.
+    void mousePressEvent(QMouseEvent* event) override;
+    void mouseReleaseEvent(QMouseEvent* event) override;
     void mouseDoubleClickEvent(QMouseEvent* event) override;
+    void focusInEvent(QFocusEvent* event) override;
     // Where one entry is chosen at a time, the chosen one is never toggled off by the control key.
     QItemSelectionModel::SelectionFlags selectionCommand(const QModelIndex& index, const QEvent* event) const override;
 

@@ -51,8 +51,6 @@ int PickList::RowOf(int number) const
     return -1;
 }
 
-void PickList::SetCurrentToNone() { setCurrentRow(-1, QItemSelectionModel::NoUpdate); }
-
 int PickList::FirstChoice() const { return currentRow() >= 0 ? currentRow() : std::min(gapRow, count() - 1); }
 
 bool PickList::viewportEvent(QEvent* event)
@@ -83,15 +81,6 @@ void PickList::keyPressEvent(QKeyEvent* event)
         EntryList::keyPressEvent(event);
         hasNews = hasNews || currentRow() != before;
     });
-}
-
-// The toolkit makes the first entry current when the list gets the focus. That is no choice of the user's.
-void PickList::focusInEvent(QFocusEvent* event)
-{
-    const bool hadCurrent = currentRow() >= 0;
-    EntryList::focusInEvent(event);
-    if (!hadCurrent)
-        SetCurrentToNone();
 }
 
 void PickList::Handle(const std::function<void()>& action)

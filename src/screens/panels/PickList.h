@@ -23,7 +23,6 @@ public:
     [[nodiscard]] int RowOf(int number) const;
     [[nodiscard]] bool IsChosen(int row) const { return item(row)->isSelected(); }
     [[nodiscard]] int ChosenCount() const { return static_cast<int>(selectedItems().size()); }
-    void SetCurrentToNone();
 
 signals:
     // The user, or code in his place, chose or let go an entry, or clicked on one.
@@ -33,7 +32,6 @@ protected:
     [[nodiscard]] int FirstChoice() const override;
     bool viewportEvent(QEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
-    void focusInEvent(QFocusEvent* event) override;
 
 private:
     // Runs what handles one thing the user did, and tells of it if it chose something.
