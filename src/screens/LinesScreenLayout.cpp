@@ -48,9 +48,8 @@ LinesScreen::LinesScreen(Stage& stage, const LinesKind& kind) : Screen(stage, ki
     QHBoxLayout* body = MakeRow({MakePeopleColumn()}, Margin);
     body->addWidget(MakeLinesColumn(), 1);
     column->addLayout(body, 1);
-    column->addLayout(Commands);
 
-    setCentralWidget(content);
+    SetPage(content, Commands);
     SetTabOrder();
     resize(DefaultSize.expandedTo(content->minimumSizeHint()));
 }
@@ -210,7 +209,7 @@ QWidget* LinesScreen::MakeHeader()
 QWidget* LinesScreen::MakePeopleColumn()
 {
     auto* panel = new QWidget(this);
-    panel->setFixedWidth(PeopleColumnWidth);
+    panel->setMinimumWidth(PeopleColumnWidth);
     QVBoxLayout* column = MakeColumn(panel);
     QHBoxLayout* filters = MakeRow({new MutedLabel("Show : ", panel)});
     for (QCheckBox* filter : chkPosition)

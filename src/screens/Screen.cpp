@@ -2,11 +2,16 @@
 
 #include "league/Reporting.h"
 #include "screens/panels/EditBox.h"
+#include "screens/panels/EntryList.h"
+#include "screens/panels/Layouts.h"
 #include "screens/platform/CodePage.h"
 #include "screens/Stage.h"
 
+#include <algorithm>
 #include <QCloseEvent>
+#include <QLayout>
 #include <QScreen>
+#include <QStyle>
 #include <utility>
 
 namespace dravik {
@@ -21,6 +26,21 @@ bool RunEvent(const QString& name, const std::function<void()>& routine)
     }
 }
 
+namespace {
+
+// A layout within a layout keeps an older hint until what it lies in is activated: inner ones first.
+void WorkOutHints(const QWidget& window)
+{
+    const QList<QWidget*> panels = window.findChildren<QWidget*>();
+    for (auto panel = panels.rbegin(); panel != panels.rend(); ++panel)
+        if (QLayout* layout = (*panel)->layout()) {
+            layout->invalidate();
+            layout->activate();
+        }
+}
+
+} // namespace
+
 Screen::Screen(Stage& stage, const QString& name) : Owner(stage) { setObjectName(name); }
 
 void Screen::CentreOnScreen()
@@ -28,10 +48,32 @@ void Screen::CentreOnScreen()
     if (isMaximized() || isFullScreen())
         return;
     const QRect area = screen()->availableGeometry();
-    resize(size().boundedTo(area.size()));
+    // A window that has not been shown yet has no frame to measure.
+    QSize frame = frameGeometry().size() - size();
+    if (frame.isEmpty())
+        frame = {0, style()->pixelMetric(QStyle::PM_TitleBarHeight, nullptr, this)};
+    resize(size().boundedTo(area.size() - frame));
     move(area.topLeft() +
          QPoint((area.width() - frameGeometry().width()) / 2, (area.height() - frameGeometry().height()) / 2));
 }
+
+void Screen::FitToDisplay()
+{
+    if (isMaximized() || isFullScreen())
+        return;
+    // All lists of a screen take the same width, since entries move between them.
+    const QList<EntryList*> lists = findChildren<EntryList*>();
+    int widest = 0;
+    for (const EntryList* list : lists)
+        widest = std::max(widest, list->WidthOfWidestEntry());
+    for (EntryList* list : lists)
+        list->AskForWidth(widest);
+    WorkOutHints(*this);
+    resize(size().expandedTo(sizeHint()));
+    CentreOnScreen();
+}
+
+void Screen::SetPage(QWidget* page, QLayout* footer) { setCentralWidget(MakeScrollingPage(page, footer, this)); }
 
 void Screen::Unload()
 {

@@ -29,8 +29,11 @@ public:
     // changed something for which lists must be rebuilt.
     virtual void ViewerClosed(bool /*changed*/) {}
 
-    // Puts the window in the middle of its screen.
+    // Puts the window in the middle of its display, no larger than that.
     void CentreOnScreen();
+    // Gives the filled window the size at which it shows everything, names in lists included, as far as the display allows,
+    // and puts it in the middle. One that fills the display already stays as it is.
+    void FitToDisplay();
     // Closes the screen. One that is still loading is closed by the stage when its FormLoad has come to an end.
     void Unload();
     [[nodiscard]] bool WantsToUnload() const { return wantsToUnload; }
@@ -45,6 +48,9 @@ protected:
     // Makes the command `name` with its caption. A click runs `click`, and reports what fails with the command's name.
     // A text box that still has the focus acts first; if its text is refused, the click is dropped.
     QPushButton* MakeCommand(const QString& name, const QString& caption, std::function<void()> click);
+    // Makes `page` what the window shows, with `footer`, if there is one, below it: where the window is too small the page
+    // scrolls, and the footer stays. Call it once, when both are filled.
+    void SetPage(QWidget* page, QLayout* footer = nullptr);
     // Makes the text box `name`; `lostFocus` runs when it loses the focus.
     EditBox* MakeBox(const QString& name, std::function<void()> lostFocus);
 

@@ -131,6 +131,7 @@ void Stage::Open(std::string_view name, Screen& opener)
         screen.close();
         return;
     }
+    RunEvent("Form_Load", [&screen] { screen.FitToDisplay(); });
     Show(screen);
     if (role->HidesOpener)
         opener.hide();

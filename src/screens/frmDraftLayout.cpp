@@ -37,9 +37,7 @@ frmDraft::frmDraft(Stage& stage) : Screen(stage, "frmDraft")
     column->addLayout(lists, 1);
     column->addSpacing(Gap);
 
-    column->addLayout(MakeFooter({cmdSearch}, {cmdSaveToFile, cmdExit}));
-
-    setCentralWidget(content);
+    SetPage(content, MakeFooter({cmdSearch}, {cmdSaveToFile, cmdExit}));
     SetTabOrder();
     resize(DefaultSize.expandedTo(content->minimumSizeHint()));
 }

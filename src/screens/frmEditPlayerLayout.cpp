@@ -7,7 +7,6 @@
 #include <QEvent>
 #include <QGroupBox>
 #include <QMetaObject>
-#include <QScrollArea>
 
 // What the player viewer is made of and where it stands.
 namespace dravik {
@@ -59,8 +58,7 @@ frmEditPlayer::frmEditPlayer(Stage& stage) : Screen(stage, "frmEditPlayer")
     column->addLayout(body);
     column->addStretch(1);
 
-    column->addLayout(MakeFooter({chkEdit, cmdSearch, cmdNewPlayer, cmdNewGoaler, cmdErase}, {cmdExit}));
-    setCentralWidget(MakeScrollable(content, this));
+    SetPage(content, MakeFooter({chkEdit, cmdSearch, cmdNewPlayer, cmdNewGoaler, cmdErase}, {cmdExit}));
 
     optGoaler->hide();
     FitList();

@@ -2,6 +2,7 @@
 #include "screens/panels/Labels.h"
 #include "screens/panels/Layouts.h"
 
+#include <algorithm>
 #include <QGroupBox>
 
 // What the screen of the offers is made of and where it stands.
@@ -37,9 +38,7 @@ frmFreeAgentClient::frmFreeAgentClient(Stage& stage) : Screen(stage, "frmFreeAge
     column->addLayout(middle, 1);
     column->addLayout(MakeLimitRow());
 
-    column->addLayout(MakeFooter({cmdSearch}, {cmdSaveToFile, cmdExit}));
-
-    setCentralWidget(content);
+    SetPage(content, MakeFooter({cmdSearch}, {cmdSaveToFile, cmdExit}));
     SetTabOrder();
     resize(DefaultSize.expandedTo(content->minimumSizeHint()));
 }
@@ -123,7 +122,6 @@ QWidget* frmFreeAgentClient::MakeListColumn()
 QWidget* frmFreeAgentClient::MakePersonColumn()
 {
     auto* panel = new QWidget(this);
-    panel->setFixedWidth(PersonColumnWidth);
     QVBoxLayout* column = MakeColumn(panel);
     column->addWidget(Stats);
     QHBoxLayout* facts = MakeRow({lblStatus});
@@ -138,6 +136,7 @@ QWidget* frmFreeAgentClient::MakePersonColumn()
     txtSalary->setFixedWidth(metrics.horizontalAdvance("0000000000000"));
     column->addLayout(facts);
     column->addWidget(MakeOfferGroup(), 1);
+    panel->setFixedWidth(std::max(PersonColumnWidth, panel->minimumSizeHint().width()));
     return panel;
 }
 

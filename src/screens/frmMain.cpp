@@ -257,8 +257,7 @@ void frmMain::PlaceTeam()
 
         const bool allSix = LeagueData.DivisionCount == AllDivisions;
         // The size belongs to the layout: lists filled anew under the same layout leave the window as the user has it.
-        if (placedSix != allSix && !isMaximized() && !isFullScreen())
-            resize(allSix ? WideWidth : NarrowWidth, FilledHeight);
+        const bool laidOutAnew = placedSix != allSix;
         placedSix = allSix;
         for (int division = 1; division <= AllDivisions; ++division) {
             const bool inUse = allSix || division % DivisionsOfConference != 0;
@@ -276,6 +275,10 @@ void frmMain::PlaceTeam()
         mnuTeam->menuAction()->setVisible(true);
         teamBar->show();
         ShowChosenTeam();
+        if (laidOutAnew && !isMaximized() && !isFullScreen()) {
+            resize(allSix ? WideWidth : NarrowWidth, FilledHeight);
+            FitToDisplay();
+        }
     });
 }
 

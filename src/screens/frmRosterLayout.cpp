@@ -3,6 +3,8 @@
 #include "screens/panels/Labels.h"
 #include "screens/panels/Layouts.h"
 
+#include <algorithm>
+
 // What the roster screen is made of and where it stands.
 namespace dravik {
 
@@ -10,7 +12,7 @@ namespace {
 
 constexpr QSize DefaultSize(1180, 760);
 constexpr int LeastListWidth = 150;
-constexpr int PersonColumnWidth = 310;
+constexpr int PersonColumnWidth = 270;
 
 } // namespace
 
@@ -40,9 +42,7 @@ frmRoster::frmRoster(Stage& stage) : Screen(stage, "frmRoster")
     column->addLayout(lists, 1);
     column->addWidget(Payroll);
 
-    column->addLayout(MakeFooter({cmdAutoRoster, cmdAutoRosterPartial}, {cmdExit}));
-
-    setCentralWidget(content);
+    SetPage(content, MakeFooter({cmdAutoRoster, cmdAutoRosterPartial}, {cmdExit}));
     SetTabOrder();
     HidePlayerDetails();
     resize(DefaultSize.expandedTo(content->minimumSizeHint()));
@@ -137,7 +137,6 @@ QWidget* frmRoster::MakeListColumn(int index)
 QWidget* frmRoster::MakePersonColumn()
 {
     auto* panel = new QWidget(this);
-    panel->setFixedWidth(PersonColumnWidth);
     QVBoxLayout* column = MakeColumn(panel);
     column->addWidget(Stats);
     auto* commands = new QGridLayout;
@@ -155,6 +154,7 @@ QWidget* frmRoster::MakePersonColumn()
     column->addLayout(commands);
     column->addWidget(lblProtectedTotal);
     column->addStretch(1);
+    panel->setFixedWidth(std::max(PersonColumnWidth, panel->minimumSizeHint().width()));
     return panel;
 }
 

@@ -3,7 +3,6 @@
 #include "screens/panels/Layouts.h"
 
 #include <QGroupBox>
-#include <QScrollArea>
 
 // What the team screen is made of and where it stands.
 namespace dravik {
@@ -57,8 +56,7 @@ frmTeam::frmTeam(Stage& stage) : Screen(stage, "frmTeam")
     grid->setRowStretch(1, 1);
     column->addLayout(grid, 1);
 
-    column->addLayout(MakeFooter({cmdPassword, cmdProspect}, {cmdExit}));
-    setCentralWidget(MakeScrollable(content, this));
+    SetPage(content, MakeFooter({cmdPassword, cmdProspect}, {cmdExit}));
 
     CloseWhatTheLeagueKeeps();
     SetTabOrder();

@@ -75,7 +75,7 @@ frmTicket::frmTicket(Stage& stage) : Screen(stage, "frmTicket"), lblTitle(MakeTi
     middle->addStretch(1);
     middle->addWidget(sheet, DefaultSize.width());
     middle->addStretch(1);
-    setCentralWidget(content);
+    SetPage(content);
     SetTabOrder();
     resize(DefaultSize.expandedTo(content->minimumSizeHint()));
 }

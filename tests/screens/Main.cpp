@@ -2,10 +2,12 @@
 
 #include <gmock/gmock.h>
 #include <QApplication>
+#include <QDir>
 #include <QFont>
 #include <QLocale>
 #include <QStyleFactory>
 #include <QTest>
+#include <QTemporaryFile>
 #include <QTimer>
 
 namespace {
@@ -23,12 +25,25 @@ class ProgramOfEachTest : public testing::EmptyTestEventListener {
     }
 };
 
+// Tells the toolkit in `file` of one display, the smallest that every screen has to fit.
+void DescribeDisplay(QFile& file)
+{
+    file.write(R"({"windowFrameMargins": false, "screens": [{"name": "small", "x": 0, "y": 0, "width": 1280,
+               "height": 800, "logicalDpi": 96, "logicalBaseDpi": 96, "dpr": 1}]})");
+    file.close();
+}
+
 } // namespace
 
-// One application for all tests, without a window system, and with the same style, font and locale on every machine.
+// One application for all tests, without a window system, and with the same display, style, font and locale on every
+// machine.
 int main(int argc, char** argv)
 {
-    qputenv("QT_QPA_PLATFORM", "offscreen");
+    QTemporaryFile display;
+    if (!display.open())
+        return 1;
+    DescribeDisplay(display);
+    qputenv("QT_QPA_PLATFORM", "offscreen:configfile=" + QDir().relativeFilePath(display.fileName()).toLocal8Bit());
     QLocale::setDefault(QLocale(QLocale::English, QLocale::UnitedStates));
     QApplication::setDesktopSettingsAware(false);
     const dravik::Application application(argc, argv);

@@ -4,11 +4,13 @@
 
 #include <algorithm>
 #include <QApplication>
+#include <QHash>
 #include <QHelpEvent>
 #include <QKeyEvent>
 #include <QMouseEvent>
 #include <QPainter>
 #include <QRegularExpression>
+#include <QScrollBar>
 #include <QTextDocument>
 #include <QToolTip>
 
@@ -28,17 +30,28 @@ int AsideWidth(const QFontMetrics& metrics, const QString& word)
 // Where text and secondary words of an entry stand.
 QRect ContentArea(const QRect& entry) { return entry.adjusted(SideMargin, 0, -SideMargin, 0); }
 
-QStringList AsideOf(const QModelIndex& index) { return index.data(entry::AsideRole).toStringList(); }
+// Of an entry, as the list or its model gives it.
+template <class Entry>
+QStringList AsideOf(const Entry& shown)
+{
+    return shown.data(entry::AsideRole).toStringList();
+}
 
-// What the secondary words of an entry take from its right end; nothing where they are left out.
+// What secondary words take from the right end of an entry.
+int RoomFor(const QStringList& aside, const QFontMetrics& metrics)
+{
+    int room = aside.isEmpty() ? 0 : SideMargin;
+    for (const QString& word : aside)
+        room += AsideWidth(metrics, word) + AsideGap;
+    return room;
+}
+
+// The same, and nothing where they are left out.
 int AsideRoom(const QStyleOptionViewItem& option, const QModelIndex& index)
 {
-    const QStringList aside = AsideOf(index);
-    if (aside.isEmpty())
+    const int room = RoomFor(AsideOf(index), option.fontMetrics);
+    if (room == 0)
         return 0;
-    int room = SideMargin;
-    for (const QString& word : aside)
-        room += AsideWidth(option.fontMetrics, word) + AsideGap;
     const int width = ContentArea(option.rect).width();
     int least = option.fontMetrics.horizontalAdvance(index.data().toString());
     const auto* list = qobject_cast<const EntryList*>(option.widget);
@@ -144,6 +157,49 @@ void EntryList::Unchoose()
 {
     clearSelection();
     setCurrentRow(-1);
+}
+
+// Thousands of entries are compared by the widths of their letters alone; only the widest is laid out.
+int EntryList::WidthOfWidestEntry() const
+{
+    const QFontMetrics metrics = fontMetrics();
+    QHash<QChar, int> letters;
+    const auto roughWidth = [&](const QString& text) {
+        int width = 0;
+        for (const QChar letter : text) {
+            auto known = letters.constFind(letter);
+            if (known == letters.constEnd())
+                known = letters.insert(letter, metrics.horizontalAdvance(letter));
+            width += *known;
+        }
+        return width;
+    };
+    QString widest;
+    int most = 0;
+    int room = 0;
+    for (int row = 0; row < count(); ++row) {
+        const QString text = item(row)->text();
+        if (const int width = roughWidth(text); width > most) {
+            most = width;
+            widest = text;
+        }
+        room = std::max(room, RoomFor(AsideOf(*item(row)), metrics));
+    }
+    constexpr int kerning = 2;
+    return metrics.horizontalAdvance(widest) + kerning + room + 2 * SideMargin + 2 * frameWidth() +
+           verticalScrollBar()->sizeHint().width();
+}
+
+void EntryList::AskForWidth(int width)
+{
+    askedWidth = width;
+    updateGeometry();
+}
+
+QSize EntryList::sizeHint() const
+{
+    const QSize usual = QListWidget::sizeHint();
+    return {askedWidth > 0 ? askedWidth : usual.width(), usual.height()};
 }
 
 QListWidgetItem* EntryList::Chosen() const

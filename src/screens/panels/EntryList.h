@@ -42,6 +42,12 @@ public:
     // Takes the choice away, so that the next click or key on any entry is a new one.
     void Unchoose();
     void SetCurrentToNone();
+    // The width at which the list shows its widest entry whole, in pixels, frame and scroll bar included.
+    [[nodiscard]] int WidthOfWidestEntry() const;
+    // Asks the layout for that width from now on.
+    void AskForWidth(int width);
+    [[nodiscard]] QSize sizeHint() const override;
+
     // The chosen entry, or none.
     [[nodiscard]] QListWidgetItem* Chosen() const;
 
@@ -62,6 +68,7 @@ protected:
 
 private:
     bool cutsNamesFirst = false;
+    int askedWidth = 0;
 };
 
 } // namespace dravik

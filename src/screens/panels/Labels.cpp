@@ -2,26 +2,67 @@
 
 #include "screens/panels/Shades.h"
 
+#include <algorithm>
+#include <QHelpEvent>
 #include <QPainter>
 #include <QPainterPath>
 #include <QStyle>
+#include <QTextDocument>
+#include <QToolTip>
 
 namespace dravik {
+
+namespace {
+
+// How a label shows the "&" in its text: as the letter that leads to its buddy, if it has one.
+int MnemonicFlags(const QLabel& label)
+{
+    if (label.buddy() == nullptr)
+        return 0;
+    const bool isUnderlined = label.style()->styleHint(QStyle::SH_UnderlineShortcut, nullptr, &label) != 0;
+    return Qt::TextShowMnemonic | (isUnderlined ? 0 : Qt::TextHideMnemonic);
+}
+
+} // namespace
 
 void MutedLabel::paintEvent(QPaintEvent* /*event*/)
 {
     QPainter painter(this);
     QPalette shaded = palette();
     shaded.setColor(QPalette::WindowText, MutedText(palette()));
-    int flags = static_cast<int>(QStyle::visualAlignment(layoutDirection(), alignment()));
-    if (buddy() != nullptr) {
-        flags |= Qt::TextShowMnemonic;
-        if (style()->styleHint(QStyle::SH_UnderlineShortcut, nullptr, this) == 0)
-            flags |= Qt::TextHideMnemonic;
-    }
+    int flags = static_cast<int>(QStyle::visualAlignment(layoutDirection(), alignment())) | MnemonicFlags(*this);
     if (wordWrap())
         flags |= Qt::TextWordWrap;
     style()->drawItemText(&painter, contentsRect(), flags, shaded, true, text(), QPalette::WindowText);
+}
+
+bool ElidingLabel::IsCut() const
+{
+    return fontMetrics().size(Qt::TextSingleLine | MnemonicFlags(*this), text()).width() > contentsRect().width();
+}
+
+QSize ElidingLabel::minimumSizeHint() const
+{
+    const QSize whole = sizeHint();
+    return {std::min(whole.width(), fontMetrics().horizontalAdvance("WWWW...")), whole.height()};
+}
+
+bool ElidingLabel::event(QEvent* event)
+{
+    if (event->type() != QEvent::ToolTip || !IsCut() || !toolTip().isEmpty())
+        return QLabel::event(event);
+    QToolTip::showText(static_cast<QHelpEvent*>(event)->globalPos(), Qt::convertFromPlainText(text()), this);
+    return true;
+}
+
+void ElidingLabel::paintEvent(QPaintEvent* /*event*/)
+{
+    QPainter painter(this);
+    const QRect area = contentsRect();
+    const int mnemonic = MnemonicFlags(*this);
+    const int flags = static_cast<int>(QStyle::visualAlignment(layoutDirection(), alignment()));
+    style()->drawItemText(&painter, area, flags | Qt::TextSingleLine | mnemonic, palette(), isEnabled(),
+                          fontMetrics().elidedText(text(), Qt::ElideRight, area.width(), mnemonic), foregroundRole());
 }
 
 WarningSign::WarningSign(QWidget* parent) : QWidget(parent)
@@ -65,7 +106,7 @@ void PaintWarningSign(QPainter& painter, const QRectF& area, const QColor& backg
 
 QLabel* MakeTitle(QWidget* parent)
 {
-    auto* label = new QLabel(parent);
+    auto* label = new ElidingLabel(parent);
     label->setFont(TitleFont(label->font()));
     label->setTextFormat(Qt::PlainText);
     return label;
@@ -73,7 +114,7 @@ QLabel* MakeTitle(QWidget* parent)
 
 QLabel* MakeHeading(const QString& text, QWidget* parent)
 {
-    auto* label = new QLabel(text, parent);
+    auto* label = new ElidingLabel(text, parent);
     label->setFont(HeadingFont(label->font()));
     label->setTextFormat(Qt::PlainText);
     return label;

@@ -13,6 +13,21 @@ protected:
     void paintEvent(QPaintEvent* event) override;
 };
 
+// A label of one plain line that gives way: where it is too narrow, its text ends in a sign and a tooltip tells the whole.
+// text() stays whole.
+class ElidingLabel : public QLabel {
+public:
+    using QLabel::QLabel;
+
+    [[nodiscard]] bool IsCut() const;
+    // Room for the first letters and the sign.
+    [[nodiscard]] QSize minimumSizeHint() const override;
+
+protected:
+    bool event(QEvent* event) override;
+    void paintEvent(QPaintEvent* event) override;
+};
+
 // The small sign that stands before whatever is wrong: a triangle with an exclamation mark, as high as the text.
 class WarningSign : public QWidget {
 public:
@@ -27,7 +42,7 @@ protected:
 // Paints that sign into `area`, in the colours that fit `background`.
 void PaintWarningSign(QPainter& painter, const QRectF& area, const QColor& background);
 
-// A label in the font of titles or headings.
+// A label in the font of titles or headings, which gives way where names are long.
 QLabel* MakeTitle(QWidget* parent = nullptr);
 QLabel* MakeHeading(const QString& text, QWidget* parent = nullptr);
 

@@ -5,6 +5,26 @@
 
 namespace dravik {
 
+namespace {
+
+// Asks for all the room of what scrolls in it, and makes do with little.
+class PageArea : public QScrollArea {
+public:
+    explicit PageArea(QWidget* parent) : QScrollArea(parent)
+    {
+        setFrameShape(QFrame::NoFrame);
+        setWidgetResizable(true);
+        setFocusPolicy(Qt::NoFocus);
+    }
+
+    [[nodiscard]] QSize sizeHint() const override
+    {
+        return widget() == nullptr ? QScrollArea::sizeHint() : widget()->sizeHint();
+    }
+};
+
+} // namespace
+
 QHBoxLayout* MakeRow(std::initializer_list<QWidget*> widgets, int spacing)
 {
     auto* row = new QHBoxLayout;
@@ -71,14 +91,19 @@ QGridLayout* MakeFieldGrid(QGroupBox* group, const QString& longestCaption)
     return grid;
 }
 
-QScrollArea* MakeScrollable(QWidget* content, QWidget* parent)
+QWidget* MakeScrollingPage(QWidget* page, QLayout* footer, QWidget* parent)
 {
-    auto* area = new QScrollArea(parent);
-    area->setFrameShape(QFrame::NoFrame);
-    area->setWidgetResizable(true);
-    area->setFocusPolicy(Qt::NoFocus);
-    area->setWidget(content);
-    return area;
+    auto* area = new PageArea(parent);
+    area->setWidget(page);
+    if (footer == nullptr)
+        return area;
+    auto* whole = new QWidget(parent);
+    QVBoxLayout* column = MakeColumn(whole, page->layout()->spacing());
+    column->addWidget(area, 1);
+    column->addLayout(footer);
+    page->layout()->setContentsMargins(Margin, Margin, Margin, 0);
+    footer->setContentsMargins(Margin, 0, Margin, Margin);
+    return whole;
 }
 
 void ChainTabs(const QList<QWidget*>& order)

@@ -9,7 +9,6 @@
 #include <QVBoxLayout>
 
 class QGroupBox;
-class QScrollArea;
 
 // Rows, columns and grids of the screens, with one set of margins and gaps. Whatever is made belongs to the panel it is made
 // for, or else to the layout it is put into.
@@ -40,8 +39,8 @@ void SetGroupMargins(QLayout* layout);
 // groups of a screen have one edge; the fields take what is left.
 QGridLayout* MakeFieldGrid(QGroupBox* group, const QString& longestCaption);
 
-// An area in which `content` scrolls where the window is too small for it, and which nothing shows of elsewhere.
-QScrollArea* MakeScrollable(QWidget* content, QWidget* parent);
+// `page` with `footer`, if there is one, below it. Where the window is too small the page scrolls, and the footer stays.
+QWidget* MakeScrollingPage(QWidget* page, QLayout* footer, QWidget* parent);
 
 // The tab key goes from each to the next.
 void ChainTabs(const QList<QWidget*>& order);

@@ -21,7 +21,8 @@ StatPanel::StatPanel(QWidget* parent, const char* numberName) : QGroupBox("Stats
     keepingPlace.setRetainSizeWhenHidden(true);
     lblStat[0]->setSizePolicy(keepingPlace);
     lblName = MakeHeading({}, this);
-    lblName->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
+    lblName->setObjectName("lblStatName");
+    lblName->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred); // no name makes the panel wider
 
     QVBoxLayout* column = MakeColumn(this);
     SetGroupMargins(column);
