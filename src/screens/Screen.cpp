@@ -8,6 +8,7 @@
 #include "screens/Stage.h"
 
 #include <algorithm>
+#include <QApplication>
 #include <QCloseEvent>
 #include <QLayout>
 #include <QScreen>
@@ -41,7 +42,15 @@ void WorkOutHints(const QWidget& window)
 
 } // namespace
 
-Screen::Screen(Stage& stage, const QString& name) : Owner(stage) { setObjectName(name); }
+Screen::Screen(Stage& stage, const QString& name) : Owner(stage)
+{
+    setObjectName(name);
+    connect(qApp, &QApplication::focusChanged, this, [this](const QWidget* /*old*/, QWidget* now) {
+        auto* list = qobject_cast<EntryList*>(now);
+        if (list != nullptr && list->window() == this)
+            lastList = list;
+    });
+}
 
 void Screen::CentreOnScreen()
 {
@@ -71,6 +80,19 @@ void Screen::FitToDisplay()
     WorkOutHints(*this);
     resize(size().expandedTo(sizeHint()));
     CentreOnScreen();
+}
+
+// Tabs may have passed other lists on the way to the command.
+EntryList* Screen::ListAtHand() const
+{
+    const auto holdsChoice = [](const EntryList* list) {
+        return list != nullptr && list->currentItem() != nullptr && list->currentItem()->isSelected();
+    };
+    if (holdsChoice(lastList))
+        return lastList;
+    const QList<EntryList*> lists = findChildren<EntryList*>();
+    const auto found = std::find_if(lists.begin(), lists.end(), holdsChoice);
+    return found == lists.end() ? lastList.data() : *found;
 }
 
 void Screen::SetPage(QWidget* page, QLayout* footer) { setCentralWidget(MakeScrollingPage(page, footer, this)); }
@@ -119,7 +141,10 @@ QPushButton* Screen::MakeCommand(const QString& name, const QString& caption, st
         if (!SettleFocus())
             return;
         command->setFocus(Qt::OtherFocusReason);
+        const QPointer<EntryList> list = ListAtHand();
         RunEvent(command->objectName(), run);
+        if (!command->isEnabled() && list != nullptr)
+            list->setFocus(Qt::OtherFocusReason);
     });
     return command;
 }

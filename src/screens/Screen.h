@@ -2,12 +2,14 @@
 
 #include <functional>
 #include <QMainWindow>
+#include <QPointer>
 #include <QPushButton>
 #include <string_view>
 
 namespace dravik {
 
 class EditBox;
+class EntryList;
 class Stage;
 
 // What all screens have in common. A screen is made and loaded by the stage, shown, hidden while another one that it
@@ -46,7 +48,8 @@ protected:
     void Open(std::string_view name);
 
     // Makes the command `name` with its caption. A click runs `click`, and reports what fails with the command's name.
-    // A text box that still has the focus acts first; if its text is refused, the click is dropped.
+    // A text box that still has the focus acts first; if its text is refused, the click is dropped. From a command that
+    // has closed itself the focus goes back to the list that the user is at.
     QPushButton* MakeCommand(const QString& name, const QString& caption, std::function<void()> click);
     // Makes `page` what the window shows, with `footer`, if there is one, below it: where the window is too small the page
     // scrolls, and the footer stays. Call it once, when both are filled.
@@ -60,8 +63,12 @@ private:
     // Lets the text box that has the focus act; false when it keeps the focus.
     bool SettleFocus();
 
+    // The list that the user is at: the one he chose in, else the one that had the focus last, or none.
+    [[nodiscard]] EntryList* ListAtHand() const;
+
     bool wantsToUnload = false;
     bool unloaded = false;
+    QPointer<EntryList> lastList; // that had the focus
 };
 
 // Runs an event routine, reporting what fails under `name`; nothing goes further. True when it came to its end.
