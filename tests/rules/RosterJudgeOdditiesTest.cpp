@@ -1,5 +1,6 @@
 #include "rules/Function.h"
 #include "rules/RosterTexts.h"
+#include "support/LeagueImage.h"
 #include "support/SmallLeague.h"
 
 #include <string>
@@ -122,6 +123,37 @@ TEST_F(RosterJudgeOdditiesTest, AnOverflowOfTheFarmsRequirementLeavesACompleteRo
     EXPECT_TRUE(CheckRoster(5, false, false, true));
     EXPECT_THAT(Machine.Boxes(), ElementsAre(Box{box::Critical, "6 - Overflow in CheckRoster!"}));
     EXPECT_EQ(Players[19].Status, status::Scratch);
+    EXPECT_EQ(RosterFixed, 1);
+}
+
+// ---- Teams at and beyond both ends --------------------------------------------------------------------------
+
+TEST_F(RosterJudgeOdditiesTest, ARefusedTeamLeavesEveryByteOfTheTables)
+{
+    PutSkater(900, 0, position::Center, status::Pro).Condition = 50;
+    PutSkater(901, 101, position::Center, status::Pro).Condition = 50;
+    const auto tables = [] {
+        return std::vector{FiveTables(), ImageOf(LeagueData), ImageOf(Coaches), ImageOf(RosterChanges),
+                           ImageOf(RosterChangesGoalie)};
+    };
+    const auto before = tables();
+    for (const int team : {-1, 0, 101})
+        for (const bool withSalaryCap : {false, true}) {
+            EXPECT_FALSE(CheckRoster(team, false, withSalaryCap, true)) << team;
+            EXPECT_TRUE(tables() == before) << team;
+        }
+}
+
+TEST_F(RosterJudgeOdditiesTest, TheLastTeamIsJudgedLikeAnyOther)
+{
+    TeamMaker last(100);
+    last.DressesFullRoster();
+    EXPECT_TRUE(CheckRoster(100, false, true, true));
+    EXPECT_THAT(Machine.TakeBoxes(), ::testing::IsEmpty());
+    Players[last.Skaters[0]].Condition = 50;
+    LeagueData.RequiredCenters = 0;
+    EXPECT_FALSE(CheckRoster(100, false, false, true));
+    EXPECT_EQ(Players[last.Skaters[0]].Status, 1);
     EXPECT_EQ(RosterFixed, 1);
 }
 

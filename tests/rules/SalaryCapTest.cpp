@@ -296,5 +296,15 @@ TEST_F(SalaryCapTest, AStandingThatNobodyHasReckonedIsNothingUnderNoCap)
     EXPECT_EQ(standing.Cap, std::nullopt);
 }
 
+TEST_F(SalaryCapTest, ThePayrollOfTheLastTeamIsJudged)
+{
+    TeamMaker(100).Dresses(1, position::Center);
+    LeagueData.SalaryCapMode = 1;
+    LeagueData.SalaryCap = 999999;
+    EXPECT_FALSE(CheckSalaryCap(100, true));
+    EXPECT_THAT(Machine.TakeBoxes(),
+                ::testing::ElementsAre(Box{box::Warning, "Team 100 is over the salary cap by $1.00!"}));
+}
+
 } // namespace
 } // namespace dravik

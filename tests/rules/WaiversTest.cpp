@@ -140,5 +140,16 @@ TEST_F(WaiversTest, RandomPeopleAgreeWithTheFivePlainConditionsAndNothingChanges
     EXPECT_THAT(Machine.Boxes(), ElementsAre());
 }
 
+TEST_F(WaiversTest, ADeadlineThatHasPassedAndIsNotInForceStillNeedsWaivers)
+{
+    LeagueData.TradeDeadlinePassed = true;
+    EXPECT_TRUE(WaiverCheck(7));
+    EXPECT_TRUE(WaiverCheck(10007));
+    LeagueData.TradeDeadlinePassed = false;
+    LeagueData.TradeDeadlineInForce = true;
+    EXPECT_FALSE(WaiverCheck(7));
+    EXPECT_FALSE(WaiverCheck(10007));
+}
+
 } // namespace
 } // namespace dravik

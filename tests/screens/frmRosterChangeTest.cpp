@@ -182,5 +182,79 @@ TEST_F(frmRosterChangeTest, ABrokenChangeIsToldUnderItsName)
     EXPECT_THAT(Machine.Boxes(), ElementsAre(Box{16, "9 - Subscript out of range in Change!"}));
 }
 
+TEST_F(frmRosterChangeTest, ASalaryTooHighForTheFarmIsToldBeforeAnythingIsAskedAboutWaivers)
+{
+    LeagueData.FarmMaxSalary = 999999;
+    LeagueData.WaiverAllowed = true;
+    Player& player = PutSkater(1, 5, position::Center, status::Scratch);
+    Goalie& keeper = PutGoalie(1, 5, status::Scratch);
+    player.Age = 40;
+    keeper.Age = 40;
+    ASSERT_TRUE(WaiverCheck(1));
+    ASSERT_TRUE(WaiverCheck(10001));
+    EXPECT_FALSE(Move(1, 0, 1, position::Center));
+    EXPECT_FALSE(Move(1, 0, 1, position::Goalie));
+    EXPECT_THAT(Machine.Boxes(), ElementsAre(Box{48, "Player Salary is too high to be send in the Farm!"},
+                                             Box{48, "Goalie Salary is too high to be send in the Farm!"}));
+    EXPECT_EQ(player.Suspension, 0);
+}
+
+TEST_F(frmRosterChangeTest, AGoalieWhoMovesLeavesTheSlotsAndTheOfficeOfTheSkaterOfHisNumber)
+{
+    PutSkater(7, 5, position::Center, status::Pro);
+    PutGoalie(7, 5, status::Pro);
+    Own().Captain = 7;
+    Lines& day = Own().ProLines[2];
+    day.NormalForward(1, 1) = 7;
+    day.PenaltyShot[1] = 7;
+    day.StartGoalie = 7;
+    EXPECT_TRUE(Move(2, 1, 7, position::Goalie));
+    EXPECT_EQ(day.NormalForward(1, 1), 7);
+    EXPECT_EQ(day.PenaltyShot[1], 7);
+    EXPECT_EQ(day.StartGoalie, 0);
+    EXPECT_EQ(Own().Captain, 7);
+    EXPECT_EQ(Players[7].Status, 2);
+}
+
+TEST_F(frmRosterChangeTest, ASkaterWhoMovesLeavesTheGoalieOfHisNumberInHisSlots)
+{
+    PutSkater(7, 5, position::Center, status::Pro);
+    PutGoalie(7, 5, status::Pro);
+    Lines& day = Own().ProLines[2];
+    day.NormalForward(1, 1) = 7;
+    day.StartGoalie = 7;
+    EXPECT_TRUE(Move(2, 1, 7, position::Center));
+    EXPECT_EQ(day.NormalForward(1, 1), 0);
+    EXPECT_EQ(day.StartGoalie, 7);
+    EXPECT_EQ(Goalies[7].Status, 2);
+}
+
+TEST_F(frmRosterChangeTest, AMoveCostsTheCaptainAndAnAssistantTheirOffice)
+{
+    PutSkaters(2, status::Pro);
+    Own().Captain = 1;
+    Own().Assistant[2] = 2;
+    EXPECT_TRUE(Move(2, 1, 1, position::Center));
+    EXPECT_TRUE(Move(2, 1, 2, position::Center));
+    EXPECT_EQ(Own().Captain, 0);
+    EXPECT_EQ(Own().Assistant[2], 0);
+    Roster().ShowPlayer(true);
+    EXPECT_EQ(EntryTextAt(1, 0), "Skater 1");
+    EXPECT_EQ(EntryTextAt(1, 1), "Skater 2");
+}
+
+TEST_F(frmRosterChangeTest, TheEntriesAndTotalsAreUpToTheCaller)
+{
+    PutSeven();
+    const std::vector<Entries> before{Listed(0), Listed(1), Listed(2)};
+    ClickEntry(1, 0);
+    EXPECT_TRUE(Move(1, 2, 1, position::Center));
+    EXPECT_EQ(Players[1].Status, 2);
+    EXPECT_EQ((std::vector<Entries>{Listed(0), Listed(1), Listed(2)}), before);
+    EXPECT_THAT(ChosenRows(1), ElementsAre(0));
+    EXPECT_EQ(Of(Roster().lblPlayer[1]), "Scratches Player = 3");
+    EXPECT_EQ(Of(Roster().lblPlayer[2]), "Pro Player = 2");
+}
+
 } // namespace
 } // namespace dravik

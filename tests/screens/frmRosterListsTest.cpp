@@ -335,5 +335,55 @@ TEST_F(frmRosterListsTest, AGoalieStandsUnderHisNumberWhileTheFarmRuleGoesByHisS
     EXPECT_TRUE(SelectedIsGoalie);
 }
 
+TEST_F(frmRosterListsTest, WhoeverIsCorrectedOffTheFarmKeepsHisLinesAndHisOffice)
+{
+    Roster();
+    PutSkater(1, 5, position::Center, status::Farm, 80);
+    PutGoalie(1, 5, status::Farm, 80);
+    Own().Captain = 1;
+    for (Lines* day : {&Own().ProLines[3], &Own().Farm.FarmLines[3]}) {
+        day->NormalForward(1, 1) = 1;
+        day->StartGoalie = 1;
+    }
+    Roster().ShowPlayer(true);
+    ASSERT_EQ(Players[1].Status, 1);
+    ASSERT_EQ(Goalies[1].Status, 1);
+    for (Lines* day : {&Own().ProLines[3], &Own().Farm.FarmLines[3]}) {
+        EXPECT_EQ(day->NormalForward(1, 1), 1);
+        EXPECT_EQ(day->StartGoalie, 1);
+    }
+    EXPECT_EQ(Own().Captain, 1);
+    EXPECT_FALSE(Modified);
+}
+
+TEST_F(frmRosterListsTest, ARebuildWithoutAJudgementLeavesTheVerdictAndItsReasons)
+{
+    CompleteTeam(5);
+    OpenFrom(MainWithLeague(), "Main");
+    ASSERT_EQ(Of(Roster().lblComplete), "Roster Is Complete");
+    LeagueData.RequiredCenters = 5;
+    Own().ProtectedCount = 3;
+    Roster().ShowPlayer(true);
+    EXPECT_EQ(Of(Roster().lblComplete), "Roster Is Complete");
+    EXPECT_EQ(Roster().txtReasons->toPlainText(), "");
+    Roster().ShowPlayer(false);
+    EXPECT_EQ(Of(Roster().lblComplete), "Roster Is Incomplete");
+    EXPECT_EQ(Roster().txtReasons->toPlainText(), "Not enough Centers available in Pro Team! 4 Dressed. 5 Required.");
+}
+
+TEST_F(frmRosterListsTest, ACaptainWhoIsAnAssistantTooIsMarkedAsTheCaptain)
+{
+    PutSkater(1, 5, position::Center, status::Pro);
+    PutSkater(2, 5, position::Center, status::Pro).TradeAvailable = true;
+    Own().Assistant[1] = 1;
+    Own().Captain = 1;
+    EXPECT_EQ(EntryTextAt(2, 0), "Skater 1 (C)");
+    Own().Assistant[2] = 2;
+    Own().Captain = 2;
+    Roster().ShowPlayer(true);
+    EXPECT_EQ(EntryTextAt(2, 0), "Skater 1 (A)");
+    EXPECT_EQ(EntryTextAt(2, 1), "Skater 2 (C) *");
+}
+
 } // namespace
 } // namespace dravik

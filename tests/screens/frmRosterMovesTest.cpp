@@ -313,5 +313,32 @@ TEST_F(frmRosterMovesTest, BrokenAutomaticRostersAreToldUnderTheirNames)
     UseMachine(Machine);
 }
 
+TEST_F(frmRosterMovesTest, WithNobodyChosenTheDeadlineAndTheLimitsAreNoMatter)
+{
+    PutSeven();
+    PassDeadline();
+    LeagueData.FarmMaxOverall = 0;
+    LeagueData.MaxProPlayers = 0;
+    Roster().PlayerOverall = 99;
+    Machine.TakeBoxes();
+    Modified = false;
+    for (void (frmRoster::*command)() :
+         {&frmRoster::cmdToFarm_Click, &frmRoster::cmdToPro_Click, &frmRoster::cmdToScratchesFromPro_Click,
+          &frmRoster::cmdToScratchesFromFarm_Click})
+        (Roster().*command)();
+    EXPECT_THAT(Machine.Boxes(), IsEmpty());
+    EXPECT_FALSE(Modified);
+}
+
+TEST_F(frmRosterMovesTest, TheMovedEntryOfACaptainKeepsItsTextUntilTheListsAreReadAgain)
+{
+    PutSkaters(1, status::Pro);
+    Own().Captain = 1;
+    ClickEntry(2, 0);
+    Click(Roster().cmdToScratchesFromPro);
+    EXPECT_THAT(Listed(1), ElementsAre(Entry{"Skater 1 (C)", 11}));
+    EXPECT_EQ(Own().Captain, 0);
+}
+
 } // namespace
 } // namespace dravik

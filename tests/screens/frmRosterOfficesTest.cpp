@@ -1,4 +1,5 @@
 #include "OnRosterScreen.h"
+#include "support/LeagueImage.h"
 
 namespace dravik {
 namespace {
@@ -337,6 +338,77 @@ TEST_F(frmRosterOfficesTest, WithNoTradeAStarThatStandsThereAlreadyGetsASecondOn
     EXPECT_TRUE(Players[1].TradeAvailable);
     Roster().ShowPlayer(false);
     EXPECT_EQ(EntryTextAt(2, 0), "Skater 1*");
+}
+
+TEST_F(frmRosterOfficesTest, AScratchMayBeCaptainAndAssistant)
+{
+    PutSkaters(2, status::Scratch);
+    Choose(1, 1);
+    Click(Roster().cmdCaptain);
+    Choose(2, 1);
+    Machine.Answer(button::Yes);
+    Click(Roster().cmdAssistant);
+    EXPECT_EQ(Own().Captain, 1);
+    EXPECT_EQ(Own().Assistant[1], 2);
+    EXPECT_THAT(Listed(1), ElementsAre(Entry{"Skater 1 (C)", 11}, Entry{"Skater 2 (A)", 21}));
+}
+
+TEST_F(frmRosterOfficesTest, OfficesAreNewsOfTheTeam)
+{
+    PutSkaters(3, status::Pro);
+    Choose(1, 1);
+    Click(Roster().cmdCaptain);
+    EXPECT_THAT(Machine.TakeNews(), ElementsAre(News{"team 5", "Skater 1 has been selected as captain."}));
+    for (const int slot : {1, 2}) {
+        Choose(slot + 1, 1);
+        Machine.Answer(slot == 1 ? button::Yes : button::No);
+        Click(Roster().cmdAssistant);
+        EXPECT_THAT(Machine.TakeNews(), ElementsAre(News{"team 5", "Skater " + std::to_string(slot + 1) +
+                                                                       " has been selected as assistant."}));
+    }
+    Own().Assistant[2] = 0;
+    Choose(3, 1);
+    Machine.Answer(button::Cancel);
+    Click(Roster().cmdAssistant);
+    EXPECT_THAT(Machine.TakeNews(), IsEmpty());
+}
+
+// Where more than one list has a current entry, as only code makes them.
+TEST_F(frmRosterOfficesTest, TheStarGoesToTheFirstListWithACurrentEntryFromTheFarmUp)
+{
+    PutSkater(1, 5, position::Center, status::Farm);
+    PutSkater(2, 5, position::Center, status::Scratch);
+    PutSkater(3, 5, position::Center, status::Pro);
+    const auto star = [&](std::initializer_list<int> lists) {
+        Roster().ShowPlayer(true);
+        for (const int index : lists)
+            Roster().lstPlayer[index]->setCurrentRow(0, QItemSelectionModel::NoUpdate);
+        SelectedPlayer = 900; // nobody's entry goes by his number
+        SelectedIsGoalie = false;
+        Roster().cmdTradeAvailable_Click();
+        Players[900].TradeAvailable = false;
+        return std::vector{EntryTextAt(0, 0), EntryTextAt(1, 0), EntryTextAt(2, 0)};
+    };
+    EXPECT_THAT(star({2, 1, 0}), ElementsAre("Skater 1*", "Skater 2", "Skater 3"));
+    EXPECT_THAT(star({2, 1}), ElementsAre("Skater 1", "Skater 2*", "Skater 3"));
+    EXPECT_THAT(star({2}), ElementsAre("Skater 1", "Skater 2", "Skater 3*"));
+}
+
+TEST_F(frmRosterOfficesTest, NoApplyRerateAndNoTradeLeaveTheListOfChangesAlone)
+{
+    PutSkaters(1, status::Pro);
+    PutGoalie(1, 5, status::Pro);
+    for (const int position : {position::Center, position::Goalie}) {
+        Choose(1, position);
+        const auto skaters = ImageOf(RosterChanges);
+        const auto goalies = ImageOf(RosterChangesGoalie);
+        Roster().chkNoApplyRerate->toggle();
+        Roster().chkNoTrade->toggle();
+        EXPECT_TRUE(ImageOf(RosterChanges) == skaters) << position;
+        EXPECT_TRUE(ImageOf(RosterChangesGoalie) == goalies) << position;
+    }
+    EXPECT_TRUE(Players[1].NoApplyRerate);
+    EXPECT_TRUE(Goalies[1].NoApplyRerate);
 }
 
 } // namespace

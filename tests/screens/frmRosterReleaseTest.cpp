@@ -1,6 +1,7 @@
 #include "OnRosterScreen.h"
 
 #include "AnswerDialog.h"
+#include "support/LeagueImage.h"
 
 namespace dravik {
 namespace {
@@ -349,6 +350,81 @@ TEST_F(frmRosterReleaseTest, TheAccountAfterABuyOutIsRoundedTiesToEven)
         PutSkater(1, 5, position::Center, status::Scratch);
         Roster().ShowPlayer(true);
     }
+}
+
+TEST_F(frmRosterReleaseTest, AnInjuredProSkaterGoesOnWaiversFromTheProList)
+{
+    PutSkaters(1, status::Pro);
+    Choose(1, 1);
+    Players[1].Condition = 50;
+    Roster().cmdSendToWaiver_Click();
+    EXPECT_THAT(Machine.Boxes(), ElementsAre(Box{48, "Cannot Move an Injured Player!"}, Integrity,
+                                             Box{64, "Skater 1 was sent to Waiver."}));
+    EXPECT_THAT(Listed(2), ElementsAre(Entry{"Skater 1", 11}));
+    EXPECT_THAT(Listed(1), IsEmpty());
+    EXPECT_EQ(Players[1].Suspension, 99);
+    EXPECT_EQ(Players[1].Status, 2);
+    EXPECT_FALSE(Modified);
+}
+
+TEST_F(frmRosterReleaseTest, AReleasedSkaterLeavesTheLinesAndHisOfficeToTheGoalieOfHisNumber)
+{
+    PutSkaters(2, status::Pro);
+    PutGoalie(2, 5, status::Pro);
+    Own().Captain = 2;
+    Own().Assistant[1] = 1;
+    for (Lines* day : {&Own().ProLines[10], &Own().Farm.FarmLines[1]}) {
+        day->NormalForward(1, 1) = 2;
+        day->PenaltyShot[5] = 2;
+        day->PenaltyShot[4] = 1;
+        day->StartGoalie = 2;
+    }
+    Choose(2, 1);
+    Release(0);
+    for (Lines* day : {&Own().ProLines[10], &Own().Farm.FarmLines[1]}) {
+        EXPECT_EQ(day->NormalForward(1, 1), 0);
+        EXPECT_EQ(day->PenaltyShot[5], 0);
+        EXPECT_EQ(day->PenaltyShot[4], 1);
+        EXPECT_EQ(day->StartGoalie, 2);
+    }
+    EXPECT_EQ(Own().Captain, 0);
+    EXPECT_EQ(Own().Assistant[1], 1);
+    EXPECT_EQ(Goalies[2].Team, 5);
+    EXPECT_THAT(Listed(2), ElementsAre(Entry{"Skater 1 (A)", 11}, Entry{"Goalie 2", 25}));
+}
+
+TEST_F(frmRosterReleaseTest, AReleasedGoalieLeavesTheSkaterOfHisNumberAsHeIs)
+{
+    PutSkaters(2, status::Pro);
+    PutGoalie(2, 5, status::Pro);
+    Own().Captain = 2;
+    Lines& day = Own().ProLines[4];
+    day.NormalForward(1, 1) = 2;
+    day.BackupGoalie = 2;
+    Choose(2, 5);
+    const auto skater = ImageOf(Players[2]);
+    Release(0);
+    EXPECT_TRUE(ImageOf(Players[2]) == skater);
+    EXPECT_EQ(day.NormalForward(1, 1), 2);
+    EXPECT_EQ(day.BackupGoalie, 0);
+    EXPECT_EQ(Own().Captain, 2);
+    EXPECT_EQ(Goalies[2].Team, 0);
+}
+
+TEST_F(frmRosterReleaseTest, AReleaseIsNewsOfTheLeagueAndOfTheTeam)
+{
+    PutExpensive();
+    Release(50);
+    const std::string news = "Skater 1 was released by Harbour City Gulls for $1,250,000.00";
+    EXPECT_THAT(Machine.ToldNews(), ElementsAre(News{"league", news}, News{"team 5", news}));
+}
+
+TEST_F(frmRosterReleaseTest, WhoIsNotReleasedIsNoNews)
+{
+    PutExpensive();
+    Machine.Answer(button::No);
+    Roster().cmdRelease_Click();
+    EXPECT_THAT(Machine.ToldNews(), IsEmpty());
 }
 
 } // namespace

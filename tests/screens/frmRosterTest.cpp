@@ -2,6 +2,7 @@
 
 #include "rules/Function.h"
 #include "rules/SalaryCap.h"
+#include "support/LeagueImage.h"
 
 #include <algorithm>
 
@@ -420,6 +421,43 @@ TEST_F(frmRosterTest, ALongNameIsCutAndHisPositionAndOverallStay)
     ASSERT_LT(list->viewport()->width(), right + list->fontMetrics().horizontalAdvance(list->item(1)->text()));
     EXPECT_EQ(edgeOf(1, right), edgeOf(0, right));
     EXPECT_EQ(edgeOf(2, right), edgeOf(0, right));
+}
+
+TEST_F(frmRosterTest, OnlyTheWordMinus1IsAnOffSeason)
+{
+    LeagueData.OffSeason.SetWord(1);
+    EXPECT_FALSE(IsShown(Roster().chkProtected));
+    EXPECT_FALSE(IsShown(Roster().lblProtectedTotal));
+}
+
+TEST_F(frmRosterTest, ARefusedTeamLeavesEveryByteOfTheTables)
+{
+    CompleteTeam(5);
+    PutSkater(900, 0, position::Center, status::Pro).Condition = 50;
+    PutSkater(901, 101, position::Center, status::Pro).Condition = 50;
+    MainWithLeague();
+    const auto tables = [] {
+        return std::vector{FiveTables(), ImageOf(LeagueData), ImageOf(Coaches), ImageOf(RosterChanges),
+                           ImageOf(RosterChangesGoalie)};
+    };
+    const auto before = tables();
+    for (const int team : {-1, 0, 101}) {
+        OpenFrom(Main(), "Main", team);
+        EXPECT_EQ(RosterScreen(), nullptr) << team;
+        EXPECT_TRUE(tables() == before) << team;
+    }
+    EXPECT_FALSE(Modified);
+}
+
+TEST_F(frmRosterTest, TheLastTeamIsATeamLikeAnyOther)
+{
+    CompleteTeam(100);
+    OpenFrom(MainWithLeague(), "Main", 100);
+    EXPECT_THAT(Machine.Boxes(), IsEmpty());
+    ASSERT_NE(RosterScreen(), nullptr);
+    EXPECT_EQ(Of(Roster().lblTeamName), "Roster for Team 100");
+    EXPECT_EQ(Of(Roster().lblComplete), "Roster Is Complete");
+    EXPECT_EQ(Roster().lstPlayer[2]->count(), 20);
 }
 
 } // namespace
