@@ -4,7 +4,9 @@
 #include <QFocusEvent>
 #include <QKeyEvent>
 #include <QMimeData>
+#include <QMouseEvent>
 #include <QRegularExpression>
+#include <utility>
 
 namespace dravik {
 
@@ -18,14 +20,38 @@ void EditArea::SetLines(int lines)
 
 void EditArea::focusInEvent(QFocusEvent* event)
 {
+    const bool isNew = !OwesAction(); // a text that is still being typed is left as it is
     QPlainTextEdit::focusInEvent(event);
     FocusCame();
+    if (!isNew)
+        return;
+    selectAll();
+    selectsAtRelease = event->reason() == Qt::MouseFocusReason;
+}
+
+// The press that brought the focus has placed the cursor.
+void EditArea::mouseReleaseEvent(QMouseEvent* event)
+{
+    QPlainTextEdit::mouseReleaseEvent(event);
+    if (std::exchange(selectsAtRelease, false) && event->button() == Qt::LeftButton && !textCursor().hasSelection())
+        selectAll();
+}
+
+void EditArea::Focus()
+{
+    setFocus(Qt::OtherFocusReason);
+    selectAll();
 }
 
 void EditArea::focusOutEvent(QFocusEvent* event)
 {
     QPlainTextEdit::focusOutEvent(event);
     FocusWent(event->reason());
+    if (OwesAction())
+        return;
+    QTextCursor cursor = textCursor();
+    cursor.clearSelection();
+    setTextCursor(cursor);
 }
 
 void EditArea::keyPressEvent(QKeyEvent* event)

@@ -1,17 +1,48 @@
 #include "screens/panels/EditBox.h"
 
+#include "screens/panels/ElidedLabel.h"
 #include "screens/panels/Shades.h"
 
 #include <QFocusEvent>
+#include <QMouseEvent>
+#include <QPainter>
+#include <QStyleOptionFrame>
+#include <utility>
 
 namespace dravik {
+
+namespace {
+
+// What the toolkit leaves free at the left and right of a line of text.
+constexpr int TextMargin = 2;
+
+} // namespace
 
 EditBox::EditBox(QWidget* parent) : QLineEdit(parent) { ShadeDisabledText(); }
 
 void EditBox::focusInEvent(QFocusEvent* event)
 {
+    const bool isNew = !OwesAction(); // a text that is still being typed is left as it is
     QLineEdit::focusInEvent(event);
     FocusCame();
+    if (!isNew)
+        return;
+    selectAll();
+    selectsAtRelease = event->reason() == Qt::MouseFocusReason;
+}
+
+// The press that brought the focus has placed the cursor.
+void EditBox::mouseReleaseEvent(QMouseEvent* event)
+{
+    QLineEdit::mouseReleaseEvent(event);
+    if (std::exchange(selectsAtRelease, false) && event->button() == Qt::LeftButton && !hasSelectedText())
+        selectAll();
+}
+
+void EditBox::Focus()
+{
+    setFocus(Qt::OtherFocusReason);
+    selectAll();
 }
 
 void EditBox::focusOutEvent(QFocusEvent* event)
@@ -27,6 +58,38 @@ void EditBox::changeEvent(QEvent* event)
         ShadeDisabledText();
     if (event->type() == QEvent::EnabledChange && readsAsLabel)
         setFrame(isEnabled());
+}
+
+QRect EditBox::TextArea() const
+{
+    QStyleOptionFrame panel;
+    initStyleOption(&panel);
+    const QRect contents = style()->subElementRect(QStyle::SE_LineEditContents, &panel, this);
+    return contents.marginsRemoved(textMargins()).adjusted(TextMargin, 0, -TextMargin, 0);
+}
+
+bool EditBox::IsCut() const { return fontMetrics().horizontalAdvance(displayText()) > TextArea().width(); }
+
+void EditBox::paintEvent(QPaintEvent* event)
+{
+    if (hasFocus() || !IsCut()) {
+        QLineEdit::paintEvent(event);
+        return;
+    }
+    QPainter painter(this);
+    QStyleOptionFrame panel;
+    initStyleOption(&panel);
+    style()->drawPrimitive(QStyle::PE_PanelLineEdit, &panel, &painter, this);
+    const QRect area = TextArea();
+    const QString shown = fontMetrics().elidedText(displayText(), Qt::ElideRight, area.width());
+    const Qt::Alignment left = QStyle::visualAlignment(layoutDirection(), Qt::AlignLeft | Qt::AlignVCenter);
+    style()->drawItemText(&painter, area, static_cast<int>(left), palette(), isEnabled(), shown, QPalette::Text);
+}
+
+bool EditBox::event(QEvent* event)
+{
+    return (event->type() == QEvent::ToolTip && IsCut() && TellWhole(displayText(), event, this)) ||
+           QLineEdit::event(event);
 }
 
 void EditBox::ReadAsLabelWhenClosed()

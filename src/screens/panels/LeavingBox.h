@@ -25,6 +25,8 @@ protected:
     virtual void Act() = 0;
     virtual void Focus() = 0;
 
+    // Whether the box has had the focus since it acted last.
+    [[nodiscard]] bool OwesAction() const { return owesAction; }
     void FocusCame();
     void FocusWent(Qt::FocusReason reason);
 
