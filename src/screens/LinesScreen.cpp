@@ -42,7 +42,7 @@ void LinesScreen::FormLoad()
         if (LeagueData.AutoRosterDisabled)
             CloseMakers();
         const QString name = ToQString(Kind.NameOf(Teams[CurrentTeam]));
-        setWindowTitle(ToQString(ProgramTitle) + " - " + name + " - Lines");
+        SetTitle(ToQString(ProgramTitle) + " - " + name + " - Lines");
         Day = 1;
         FindGames();
         lblTeamName->setText("Lines for " + name + " ");

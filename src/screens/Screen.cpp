@@ -97,6 +97,9 @@ EntryList* Screen::ListAtHand() const
 
 void Screen::SetPage(QWidget* page, QLayout* footer) { setCentralWidget(MakeScrollingPage(page, footer, this)); }
 
+// The toolkit takes "[*]" for the place of a mark of unsaved changes, and two of them for the sign itself.
+void Screen::SetTitle(const QString& title) { setWindowTitle(QString(title).replace("[*]", "[*][*]")); }
+
 void Screen::Unload()
 {
     wantsToUnload = true;

@@ -36,6 +36,8 @@ public:
     // Gives the filled window the size at which it shows everything, names in lists included, as far as the display allows,
     // and puts it in the middle. One that fills the display already stays as it is.
     void FitToDisplay();
+    // Titles the window. The title is shown as it stands, whatever signs a file's or a team's name holds.
+    void SetTitle(const QString& title);
     // Closes the screen. One that is still loading is closed by the stage when its FormLoad has come to an end.
     void Unload();
     [[nodiscard]] bool WantsToUnload() const { return wantsToUnload; }

@@ -57,7 +57,7 @@ frmAbout::frmAbout(Stage& stage) : Screen(stage, "frmAbout")
 void frmAbout::FormLoad()
 {
     Reporting(" inFormLoad!", [this] {
-        setWindowTitle(ToQString(ProgramTitle) + " - About");
+        SetTitle(ToQString(ProgramTitle) + " - About");
         lblThank->setText("Thank you to everyone who helped me make this software!\n"
                           "And thank you for playing: a league is its general managers.");
         lblVersion->setText("Version : " + ToQString(Machine().Version()));

@@ -8,7 +8,7 @@ constexpr QSize DefaultSize(480, 320);
 
 frmCoach::frmCoach(Stage& stage) : Screen(stage, "frmCoach")
 {
-    setWindowTitle("Coach");
+    SetTitle("Coach");
     resize(DefaultSize);
 }
 

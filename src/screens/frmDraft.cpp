@@ -59,7 +59,7 @@ void frmDraft::FormLoad()
             DraftType = "Fantasy Draft";
         if (EntryDraftIsAhead())
             DraftType = "Entry Draft";
-        setWindowTitle(ToQString(std::string(ProgramTitle) + " - " + DraftType + " Client"));
+        SetTitle(ToQString(std::string(ProgramTitle) + " - " + DraftType + " Client"));
         lblTeam->setText("Draft List For : " + ToQString(Teams[CurrentTeam].Name.Trimmed()));
         ShowPlayer();
     });

@@ -118,7 +118,7 @@ void frmFreeAgentClient::FormLoad()
         for (FreeAgentOffer& offer : FreeAgentOffers)
             offer = {};
         ShowTally();
-        setWindowTitle(ToQString(ProgramTitle) + " - Free Agent Client");
+        SetTitle(ToQString(ProgramTitle) + " - Free Agent Client");
         lblTeam->setText("Free Agents Offer For : " + ToQString(OwnTeam().Name.Trimmed()));
         ShowPlayer();
     });

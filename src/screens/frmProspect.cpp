@@ -8,7 +8,7 @@ constexpr QSize DefaultSize(480, 320);
 
 frmProspect::frmProspect(Stage& stage) : Screen(stage, "frmProspect")
 {
-    setWindowTitle("Prospect");
+    SetTitle("Prospect");
     resize(DefaultSize);
 }
 

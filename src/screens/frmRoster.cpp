@@ -66,7 +66,7 @@ void frmRoster::FormLoad()
             return;
         }
         const QString name = ToQString(OwnTeam().Name.Trimmed());
-        setWindowTitle(ToQString(ProgramTitle) + " - " + name + " - Roster");
+        SetTitle(ToQString(ProgramTitle) + " - " + name + " - Roster");
         lblTeamName->setText("Roster for " + name);
         if (LeagueData.OffSeason) {
             chkProtected->show();
