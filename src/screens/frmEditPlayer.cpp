@@ -41,7 +41,7 @@ void frmEditPlayer::FormLoad()
 {
     Reporting(" in FormLoad FrmEditPlayer!", [this] {
         CentreOnScreen();
-        setWindowTitle(Title(" - Edit Player"));
+        SetTitle(Title(" - Edit Player"));
         RepairPositions();
         ListPeople();
         if (lstPlayer->count() > 0)
@@ -50,7 +50,7 @@ void frmEditPlayer::FormLoad()
             chkEdit->setChecked(true);
         else
             cmdSearch->setEnabled(false);
-        setWindowTitle(Title(" - Show Player"));
+        SetTitle(Title(" - Show Player"));
     });
     CloseEditor();
 }
@@ -116,9 +116,14 @@ void frmEditPlayer::Choose(int entry)
     lstPlayer_Click();
 }
 
+bool frmEditPlayer::IsPersonShown() const
+{
+    return PlayerPosition >= position::Center && PlayerPosition <= position::Goalie;
+}
+
 std::optional<frmEditPlayer::Person> frmEditPlayer::ShownPerson() const
 {
-    if (PlayerPosition < position::Center || PlayerPosition > position::Goalie) {
+    if (!IsPersonShown()) {
         ShowIntegrityFailure();
         return std::nullopt;
     }

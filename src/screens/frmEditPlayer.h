@@ -49,7 +49,6 @@ public:
     void txtSalary_LostFocus();
     void txtSuspension_LostFocus();
     void txtStats_LostFocus(int index);
-    void txtStats_GotFocus(int index);
     void optPosition_Click(int index);
     void chkRookie_Click();
     void chkNoTrade_Click();
@@ -92,7 +91,6 @@ public:
 
 protected:
     void changeEvent(QEvent* event) override;
-    bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
     // Runs `visit` on a record.
@@ -103,6 +101,7 @@ private:
     }
     // The person shown. None, with a critical box, when the position digit is out of range.
     [[nodiscard]] std::optional<Person> ShownPerson() const;
+    [[nodiscard]] bool IsPersonShown() const;
 
     // The list.
     void RepairPositions();

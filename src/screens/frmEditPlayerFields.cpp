@@ -143,8 +143,8 @@ void frmEditPlayer::ShowFields(const Person& person)
         (this->*field->Box)->setText(Shown(field->Read(person)));
 }
 
-// What all boxes have in common: a text is judged, a new record keeps it for later, an empty one is restored, and any
-// other is taken.
+// What all boxes have in common: a text is judged, a new record keeps it for later, an empty one is restored, as one is
+// that fails to be stored, and any other is taken.
 void frmEditPlayer::LeaveBox(EditBox* box, InputMode mode, const std::function<void(const Person&)>& restore,
                              const std::function<void(const std::string&)>& take)
 {
@@ -159,10 +159,18 @@ void frmEditPlayer::LeaveBox(EditBox* box, InputMode mode, const std::function<v
         }
         if (NewPlayerMode || NewGoalieMode)
             return;
-        if (!text.empty())
+        if (text.empty()) {
+            if (const auto person = ShownPerson())
+                restore(*person);
+            return;
+        }
+        try {
             take(text);
-        else if (const auto person = ShownPerson())
-            restore(*person);
+        } catch (...) {
+            if (IsPersonShown()) // no box beside the one that tells the failure
+                restore(*ShownPerson());
+            throw;
+        }
     });
 }
 
@@ -199,6 +207,7 @@ void frmEditPlayer::LeaveText(const TextField& field, const std::function<void()
         if (!person)
             return;
         field.Store(*person, cut);
+        restore(*person);
         Modified = true;
         if (follow)
             follow();
@@ -302,8 +311,6 @@ void frmEditPlayer::txtStats_LostFocus(int index)
         ShowOverall();
     });
 }
-
-void frmEditPlayer::txtStats_GotFocus(int index) { txtStats[index]->selectAll(); }
 
 void frmEditPlayer::optPosition_Click(int index)
 {

@@ -6,14 +6,13 @@
 #include <algorithm>
 #include <QEvent>
 #include <QGroupBox>
-#include <QMetaObject>
 
 // What the player viewer is made of and where it stands.
 namespace dravik {
 
 namespace {
 
-constexpr QSize DefaultSize(1040, 560);
+constexpr QSize DefaultSize(1120, 600);
 constexpr int MostListRows = 8;
 constexpr const char* LongestCaption = "Suspension :";
 constexpr const char* WidestAmount = "-2147483648";
@@ -51,10 +50,15 @@ frmEditPlayer::frmEditPlayer(Stage& stage) : Screen(stage, "frmEditPlayer")
     QVBoxLayout* column = MakePage(content, Margin);
     column->addWidget(lstPlayer);
 
-    QHBoxLayout* body = MakeRow({}, Margin);
-    body->addLayout(MakeColumn({MakeIdentityGroup()}, Margin), 1);
-    body->addLayout(MakeColumn({MakeContractGroup(), MakeConditionGroup()}, Margin), 1);
-    body->addLayout(MakeColumn({MakeStatsGroup()}, Margin), 1);
+    // The groups with names and injuries have the wide column: forty letters of any width stand there whole.
+    auto* body = new QGridLayout;
+    body->setSpacing(Margin);
+    body->setColumnStretch(0, 2);
+    body->setColumnStretch(1, 1);
+    body->addWidget(MakeIdentityGroup(), 0, 0);
+    body->addWidget(MakeStatsGroup(), 0, 1);
+    body->addWidget(MakeConditionGroup(), 1, 0);
+    body->addWidget(MakeContractGroup(), 1, 1);
     column->addLayout(body);
     column->addStretch(1);
 
@@ -100,7 +104,6 @@ void frmEditPlayer::MakeBoxes()
         EditBox* box = MakeBox(ElementName("txtStats", row), [this, row] { txtStats_LostFocus(row); });
         makeNumeric(box, WidestNumber);
         box->ReadAsLabelWhenClosed();
-        box->installEventFilter(this);
         txtStats[row] = box;
     }
 }
@@ -274,16 +277,6 @@ void frmEditPlayer::changeEvent(QEvent* event)
     Screen::changeEvent(event);
     if (event->type() == QEvent::PaletteChange)
         ShadeClosedControls();
-}
-
-bool frmEditPlayer::eventFilter(QObject* watched, QEvent* event)
-{
-    if (event->type() == QEvent::FocusIn)
-        for (int row = StatBoxes::first; row <= StatBoxes::last; ++row)
-            if (watched == txtStats[row]) // once the press that brought the focus has placed its cursor
-                QMetaObject::invokeMethod(
-                    this, [this, row] { txtStats_GotFocus(row); }, Qt::QueuedConnection);
-    return Screen::eventFilter(watched, event);
 }
 
 } // namespace dravik
