@@ -7,6 +7,7 @@
 #include "league/Reporting.h"
 #include "screens/ElementName.h"
 #include "screens/EventGuard.h"
+#include "screens/panels/ElidedLabel.h"
 #include "screens/panels/Labels.h"
 #include "screens/panels/Layouts.h"
 #include "screens/platform/CodePage.h"
@@ -37,8 +38,9 @@ bool TextPasses(EditBox* box, InputMode mode, bool required)
 
 } // namespace
 
-frmTicket::frmTicket(Stage& stage) : Screen(stage, "frmTicket"), lblTitle(MakeTitle(this))
+frmTicket::frmTicket(Stage& stage) : Screen(stage, "frmTicket"), lblTitle(new ElidedLabel(this))
 {
+    lblTitle->setFont(TitleFont(lblTitle->font()));
     lblTitle->setObjectName("lblTitle");
     txtArena = MakeBox("txtArena", [this] { txtArena_LostFocus(); });
     txtArena->setAccessibleName("Arena Name");
@@ -142,7 +144,7 @@ void frmTicket::FormLoad()
         }
         const Team& team = OwnTeam();
         const QString name = ToQString(team.Name.Trimmed());
-        setWindowTitle(ToQString(ProgramTitle) + " - " + name + " - Ticket & Arena");
+        SetTitle(ToQString(ProgramTitle) + " - " + name + " - Ticket & Arena");
         lblTitle->setText(name);
         txtArena->setText(ToQString(team.ArenaName.Trimmed()));
         for (int level = 1; level <= 5; ++level) {
@@ -210,6 +212,7 @@ void frmTicket::txtArena_LostFocus()
     if (ListEventGuard || !TextPasses(txtArena, InputMode::NumbersAndLetters, false))
         return;
     OwnTeam().ArenaName = FromQString(txtArena->text());
+    txtArena->setText(ToQString(OwnTeam().ArenaName.Trimmed()));
     Modified = true;
 }
 

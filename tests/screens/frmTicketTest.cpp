@@ -68,6 +68,18 @@ TEST_F(frmTicketTest, TheCaptionsStandAsTheyAreWritten)
     EXPECT_EQ(Tickets().cmdExit->text().remove('&'), "Exit");
 }
 
+TEST_F(frmTicketTest, TheFirstPriceIsSelectedAndReplacedByWhatIsTyped)
+{
+    ASSERT_TRUE(Tickets().txtTicket[1]->hasFocus());
+    EXPECT_EQ(Tickets().txtTicket[1]->selectedText(), "10");
+    QTest::keyClicks(Tickets().txtTicket[1], "115");
+    Press(Tickets().txtTicket[1], Qt::Key_Tab);
+    EXPECT_EQ(Own().TicketPrice[1], 115);
+    EXPECT_EQ(Tickets().txtTicket[2]->selectedText(), "20");
+    Click(Tickets().txtTicket[5]);
+    EXPECT_EQ(Tickets().txtTicket[5]->selectedText(), "50");
+}
+
 TEST_F(frmTicketTest, ArenaAndCapacitiesAreClosedAlwaysAndPricesOpen)
 {
     frmTicket& screen = Tickets();
@@ -255,6 +267,7 @@ TEST_F(frmTicketTest, TheArenaTakesANameOfFortyCharacters)
     EXPECT_TRUE(Modified);
     Enter(Tickets().txtArena, QString(50, 'x'));
     EXPECT_EQ(Own().ArenaName.Raw(), std::string(40, 'x'));
+    EXPECT_EQ(Of(Tickets().txtArena), std::string(40, 'x'));
     Enter(Tickets().txtArena, "");
     EXPECT_EQ(Own().ArenaName.Trimmed(), "");
     EXPECT_THAT(Machine.Boxes(), IsEmpty());
