@@ -28,11 +28,11 @@ QString Shown(const Text<N>& text)
 
 QString Shown(long long number) { return QString::number(number); }
 
-// A number of whole and half games, "12" or "12.5".
+// A number of whole and half games, "12" or "12.5", with the locale's decimal sign.
 QString ShownHalves(double number)
 {
     const bool isWhole = std::nearbyint(number) == number;
-    return QString::number(number, 'f', isWhole ? 0 : 1);
+    return ToQString(Machine().Fixed(number, isWhole ? 0 : 1));
 }
 
 QString ShownMoney(double amount) { return ToQString(Machine().CurrencyNoDecimals(amount)); }
@@ -40,36 +40,6 @@ QString ShownMoney(double amount) { return ToQString(Machine().CurrencyNoDecimal
 Team& OwnTeam() { return Teams[CurrentTeam]; }
 
 int OwnNumber() { return static_cast<int>(CurrentTeam); }
-
-// `CheckInput` refuses an empty name before this sees it.
-bool TakeName(const std::string& text, const std::string& warning, const std::function<void()>& store)
-{
-    if (text.empty()) {
-        ShowBox(warning, box::Warning);
-        return false;
-    }
-    store();
-    return true;
-}
-
-bool TakeAbbreviation(const std::string& text, Text<3>& field)
-{
-    constexpr std::size_t length = 3;
-    if (text.size() != length) {
-        ShowBox("Abbreviation must be 3 characters long!", box::Warning);
-        return false;
-    }
-    field = text;
-    return true;
-}
-
-bool TakeMorale(EditBox* box, Int16& field)
-{
-    if (std::nearbyint(LeadingNumber(FromQString(box->text()))) < 1)
-        box->setText("1");
-    field = RoundToInt16(LeadingNumber(FromQString(box->text())));
-    return true;
-}
 
 // Takes the wait screen away. That brings the team screen to the front, once the command has told what it has to tell: the
 // judges that run then may have boxes of their own.
@@ -112,9 +82,8 @@ void frmTeam::FormLoad()
 
 void frmTeam::ShowTeam(const Team& team)
 {
-    ShowIdentity(team);
-    txtProMorale->setText(Shown(team.ProMorale));
-    txtFarmMorale->setText(Shown(team.Farm.FarmMorale));
+    ShowName(team);
+    ShowBoxes(team);
     lblLoadLine->setText(Shown(team.LinesLoadCount));
     txtTeamName->setEnabled(true);
     txtFarmTeamName->setEnabled(true);
@@ -124,20 +93,6 @@ void frmTeam::ShowTeam(const Team& team)
     lblDivision->setText(Shown(division.Name));
     lblConference->setText(Shown(LeagueData.Conference[division.Conference]));
     UpdateFinance();
-}
-
-void frmTeam::ShowIdentity(const Team& team)
-{
-    setWindowTitle(ToQString(WindowTitle + " - ") + Shown(team.Name));
-    lblTitle->setText(Shown(team.Name));
-    txtTeamName->setText(Shown(team.Name));
-    txtAbbre->setText(Shown(team.Abbre));
-    txtCity->setText(Shown(team.City));
-    txtGm->setText(Shown(team.Gm));
-    txtFarmTeamName->setText(Shown(team.Farm.Name));
-    txtFarmAbbre->setText(Shown(team.Farm.Abbre));
-    txtMessenger->setText(Shown(team.Messenger));
-    txtEmail->setText(Shown(team.Email));
 }
 
 void frmTeam::ShowCoach(long long coach, QLabel* label, QPushButton* fire)
@@ -233,109 +188,6 @@ void frmTeam::ShowSeason(const SeasonFigures& season)
     show(lblAverageIncome, season.AverageIncome, ShownMoney);
     show(lblEstimatedBankAccount, season.BankAccount, ShownMoney);
     show(lblEstimatedRevenue, season.Revenue, ShownMoney);
-}
-
-void frmTeam::TakeText(EditBox* box, InputMode mode, bool required, const std::function<bool(const std::string&)>& rule)
-{
-    if (ListEventGuard)
-        return;
-    Reporting(" in " + FromQString(box->objectName()) + "_LostFocus!", [&] {
-        const std::string text = FromQString(box->text());
-        const bool accepted = CheckInput(text, mode, required);
-        const bool taken = accepted && rule(text);
-        if (accepted)
-            Modified = true;
-        if (!taken) {
-            ListEventGuard = true;
-            box->TakeFocusBack();
-            ListEventGuard = false;
-        }
-    });
-}
-
-void frmTeam::txtTeamName_LostFocus()
-{
-    TakeText(txtTeamName, InputMode::NumbersAndLetters, true, [this](const std::string& text) {
-        return TakeName(text, "Team Name must be at least one character!", [&] {
-            Team& team = OwnTeam();
-            TeamNews(OwnNumber(), "Team Name Change : " + team.Name.Trimmed() + " changed name to " + text);
-            team.Name = text;
-            setWindowTitle(ToQString(WindowTitle + " - ") + Shown(team.Name));
-            lblTitle->setText(Shown(team.Name));
-            Owner.PlaceTeam();
-        });
-    });
-}
-
-void frmTeam::txtFarmTeamName_LostFocus()
-{
-    TakeText(txtFarmTeamName, InputMode::NumbersAndLetters, true, [](const std::string& text) {
-        return TakeName(text, "Farm Team Name must be at least one character!", [&] {
-            FarmTeam& farm = OwnTeam().Farm;
-            TeamNews(OwnNumber(), "Team Name Change : " + farm.Name.Trimmed() + " changed name to " + text);
-            farm.Name = text;
-        });
-    });
-}
-
-void frmTeam::txtAbbre_LostFocus()
-{
-    TakeText(txtAbbre, InputMode::Letters, true,
-             [](const std::string& text) { return TakeAbbreviation(text, OwnTeam().Abbre); });
-}
-
-void frmTeam::txtFarmAbbre_LostFocus()
-{
-    TakeText(txtFarmAbbre, InputMode::Letters, true,
-             [](const std::string& text) { return TakeAbbreviation(text, OwnTeam().Farm.Abbre); });
-}
-
-void frmTeam::txtCity_LostFocus()
-{
-    TakeText(txtCity, InputMode::NumbersAndLetters, false, [](const std::string& text) {
-        OwnTeam().City = text;
-        return true;
-    });
-}
-
-void frmTeam::txtGm_LostFocus()
-{
-    TakeText(txtGm, InputMode::Letters, false, [](const std::string& text) {
-        Team& team = OwnTeam();
-        const std::string change = "General Manager Change : " + team.Name.Trimmed();
-        if (!RemoveSpaces(team.Gm.Raw()).empty())
-            TeamNews(OwnNumber(), change + " fired general manager " + team.Gm.Trimmed());
-        if (!RemoveSpaces(text).empty())
-            TeamNews(OwnNumber(), change + " hired general manager " + text);
-        team.Gm = text;
-        return true;
-    });
-}
-
-void frmTeam::txtProMorale_LostFocus()
-{
-    TakeText(txtProMorale, InputMode::Numbers, false,
-             [this](const std::string&) { return TakeMorale(txtProMorale, OwnTeam().ProMorale); });
-}
-
-void frmTeam::txtFarmMorale_LostFocus()
-{
-    TakeText(txtFarmMorale, InputMode::Numbers, false,
-             [this](const std::string&) { return TakeMorale(txtFarmMorale, OwnTeam().Farm.FarmMorale); });
-}
-
-void frmTeam::TakeAddress(const EditBox* box, Text<40>& field, std::string_view news)
-{
-    field = FromQString(box->text());
-    LeagueNews(OwnTeam().Name.Trimmed() + std::string(news) + field.Trimmed() + ".");
-    Modified = true;
-}
-
-void frmTeam::txtEmail_LostFocus() { TakeAddress(txtEmail, OwnTeam().Email, " Email Address was change to "); }
-
-void frmTeam::txtMessenger_LostFocus()
-{
-    TakeAddress(txtMessenger, OwnTeam().Messenger, " Messenger Address was change to ");
 }
 
 void frmTeam::cmdPassword_Click()

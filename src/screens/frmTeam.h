@@ -92,16 +92,20 @@ private:
     void AddRow(QGridLayout* grid, const QString& caption, QWidget* field, int span = 1);
 
     void ShowTeam(const Team& team);
-    void ShowIdentity(const Team& team);
+    void ShowName(const Team& team);
+    // The boxes show what the record holds, where a text may be less than was typed.
+    void ShowBoxes(const Team& team);
+    void ShowTexts(const Team& team);
     void ShowCoach(long long coach, QLabel* label, QPushButton* fire);
     void CloseWhatTheLeagueKeeps();
     // Shows the figures that were reached.
     void ShowSeason(const SeasonFigures& season);
 
     // The pattern of a box: `CheckInput` judges its text; a refused one gets the focus back, an accepted one goes to
-    // `rule`, which says whether it was taken.
+    // `rule`, which says whether it was taken. Behind it a text shows as
+    // the record holds it, and behind a failure every box does.
     void TakeText(EditBox* box, InputMode mode, bool required, const std::function<bool(const std::string&)>& rule);
-    void TakeAddress(const EditBox* box, Text<40>& field, std::string_view news);
+    void TakeAddress(EditBox* box, Text<40>& field, std::string_view news);
 
     void ChangeMoney(const std::string& prompt, const std::function<void(int)>& add);
     void FireCoach(Int16& coach, const Text<40>& employer, QLabel* label, QPushButton* fire);

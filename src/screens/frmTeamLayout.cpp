@@ -1,4 +1,5 @@
 #include "screens/frmTeam.h"
+#include "screens/panels/ElidedLabel.h"
 #include "screens/panels/Labels.h"
 #include "screens/panels/Layouts.h"
 
@@ -66,17 +67,16 @@ frmTeam::frmTeam(Stage& stage) : Screen(stage, "frmTeam")
 
 void frmTeam::MakeControls()
 {
-    lblTitle = MakeTitle(this);
+    lblTitle = new ElidedLabel(this);
+    lblTitle->setFont(TitleFont(lblTitle->font()));
     lblTitle->setObjectName("lblTitle");
-    const auto makeMuted = [this](const char* name) {
-        auto* label = new MutedLabel(this);
-        label->setObjectName(name);
-        label->setTextFormat(Qt::PlainText);
-        return label;
-    };
-    lblDivision = makeMuted("lblDivision");
-    lblConference = makeMuted("lblConference");
-    lblSaveHint = makeMuted("lblSaveHint");
+    lblDivision = new ElidedLabel(this, ElidedLabel::Words::Muted);
+    lblDivision->setObjectName("lblDivision");
+    lblConference = new ElidedLabel(this, ElidedLabel::Words::Muted);
+    lblConference->setObjectName("lblConference");
+    lblSaveHint = new MutedLabel(this);
+    lblSaveHint->setObjectName("lblSaveHint");
+    lblSaveHint->setTextFormat(Qt::PlainText);
     signSaveHint = new WarningSign(this);
     signSaveHint->setObjectName("signSaveHint");
     // The screen keeps its shape when the hint goes.
@@ -133,9 +133,8 @@ void frmTeam::MakeControls()
 
 QLabel* frmTeam::MakeFigure(const char* name, bool isNumber)
 {
-    auto* label = new QLabel(this);
+    auto* label = new ElidedLabel(this);
     label->setObjectName(name);
-    label->setTextFormat(Qt::PlainText);
     label->setTextInteractionFlags(Qt::TextSelectableByMouse);
     if (isNumber)
         label->setAlignment(Qt::AlignRight | Qt::AlignVCenter);

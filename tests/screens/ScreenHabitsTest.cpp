@@ -103,7 +103,7 @@ public:
     }
 };
 
-TEST_F(TeamFinance, TheAttendanceIsWrittenByTheMachineAndHomeGamesAreNot)
+TEST_F(TeamFinance, AttendanceAndHalfGamesAreWrittenByTheMachine)
 {
     Own().SeasonGames = 81;
     Own().HomeGames = 2;
@@ -114,7 +114,7 @@ TEST_F(TeamFinance, TheAttendanceIsWrittenByTheMachineAndHomeGamesAreNot)
     office.UpdateFinance();
     UseMachine(Machine);
     EXPECT_EQ(Of(office.lblAverageAttendance), "17000,50");
-    EXPECT_EQ(Of(office.lblHGLeft), "38.5");
+    EXPECT_EQ(Of(office.lblHGLeft), "38,5");
 }
 
 class TeamOpening : public OnTeamScreen {};

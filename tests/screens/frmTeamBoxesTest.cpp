@@ -1,4 +1,5 @@
 #include "OnTeamScreen.h"
+#include "support/LeagueImage.h"
 
 namespace dravik {
 namespace {
@@ -164,20 +165,111 @@ TEST_F(TeamBoxes, AddressesAreStoredWithoutACheck)
     EXPECT_THAT(Machine.Boxes(), IsEmpty());
 }
 
-TEST_F(TeamBoxes, AddressesAreNotGuarded)
-{
-    TypeInto(Office().txtEmail, "guarded");
-    ListEventGuard = true;
-    Press(Office().txtEmail, Qt::Key_Tab);
-    ListEventGuard = false;
-    EXPECT_EQ(Own().Email.Trimmed(), "guarded");
-}
-
 TEST_F(TeamBoxes, ALongAddressIsCutToItsField)
 {
     Enter(Office().txtEmail, QString(50, 'x'));
     EXPECT_EQ(Own().Email.Raw(), std::string(40, 'x'));
     EXPECT_EQ(Own().City.Trimmed(), "Harbour City");
+}
+
+TEST_F(TeamBoxes, ATextBeyondItsFieldIsShownAsTheRecordHoldsIt)
+{
+    const QString typed = QString(39, 'x') + "yz";
+    const std::string held = std::string(39, 'x') + "y";
+    for (EditBox* box : {Office().txtTeamName, Office().txtFarmTeamName, Office().txtCity, Office().txtGm,
+                         Office().txtMessenger, Office().txtEmail}) {
+        Enter(box, typed);
+        EXPECT_EQ(Of(box), held) << box->objectName().toStdString();
+    }
+    EXPECT_EQ(Office().windowTitle().toStdString(), "Dravik Hockey Simulator Client - " + held);
+    EXPECT_THAT(Machine.Boxes(), IsEmpty());
+}
+
+TEST_F(TeamBoxes, ACharacterOutsideTheCodePageIsShownAsTheRecordHoldsIt)
+{
+    for (EditBox* box : {Office().txtMessenger, Office().txtEmail}) {
+        Enter(box, QString("t") + QChar(0x0151) + "r"); // o with a double acute
+        EXPECT_EQ(Of(box), "t?r") << box->objectName().toStdString();
+    }
+    EXPECT_EQ(Own().Messenger.Trimmed(), "t?r");
+    EXPECT_EQ(Own().Email.Trimmed(), "t?r");
+}
+
+TEST_F(TeamBoxes, AMoraleThatDoesNotFitIsShownAsTheRecordHoldsIt)
+{
+    Enter(Office().txtProMorale, "32768");
+    Enter(Office().txtFarmMorale, "99999999999");
+    EXPECT_THAT(Machine.Boxes(), ElementsAre(Box{16, "6 - Overflow in txtProMorale_LostFocus!"},
+                                             Box{16, "6 - Overflow in txtFarmMorale_LostFocus!"}));
+    EXPECT_EQ(Of(Office().txtProMorale), "51");
+    EXPECT_EQ(Of(Office().txtFarmMorale), "47");
+}
+
+// A check of words, one of letters and one of numbers take different signs.
+TEST_F(TeamBoxes, EachBoxIsCheckedForItsOwnKindOfText)
+{
+    const struct {
+        EditBox* Box;
+        const char* Text;
+        const char* Refusal;
+    } kinds[] = {
+        {Office().txtTeamName, "a_", "Only numbers, letters and spaces are allowed in that textbox!"},
+        {Office().txtFarmTeamName, "a_", "Only numbers, letters and spaces are allowed in that textbox!"},
+        {Office().txtCity, "a_", "Only numbers, letters and spaces are allowed in that textbox!"},
+        {Office().txtGm, "a1", "Only letters and spaces are allowed in that textbox!"},
+        {Office().txtAbbre, "ab1", "Only letters and spaces are allowed in that textbox!"},
+        {Office().txtFarmAbbre, "ab1", "Only letters and spaces are allowed in that textbox!"},
+        {Office().txtProMorale, "1a", "Only numbers are allowed in that textbox!"},
+        {Office().txtFarmMorale, "1a", "Only numbers are allowed in that textbox!"},
+    };
+    const ByteVector before = ImageOf(Own());
+    for (const auto& [box, text, refusal] : kinds) {
+        Enter(box, text);
+        EXPECT_THAT(Machine.TakeBoxes(), ElementsAre(Box{48, refusal})) << box->objectName().toStdString();
+        EXPECT_TRUE(box->hasFocus()) << box->objectName().toStdString();
+        ListEventGuard = true; // leaves it without a further word
+        box->clearFocus();
+        ListEventGuard = false;
+    }
+    EXPECT_EQ(ImageOf(Own()), before);
+}
+
+TEST_F(TeamBoxes, ARequiredBoxRefusesAnEmptyTextAndAnOtherTakesIt)
+{
+    for (EditBox* box : {Office().txtTeamName, Office().txtFarmTeamName, Office().txtAbbre, Office().txtFarmAbbre,
+                         Office().txtProMorale, Office().txtFarmMorale}) {
+        Enter(box, "");
+        EXPECT_THAT(Machine.TakeBoxes(), ElementsAre(Box{48, "No Valid Input!"})) << box->objectName().toStdString();
+        ListEventGuard = true;
+        box->clearFocus();
+        box->setEnabled(false);
+        ListEventGuard = false;
+    }
+    for (EditBox* box : {Office().txtCity, Office().txtGm, Office().txtMessenger, Office().txtEmail}) {
+        Enter(box, "");
+        EXPECT_TRUE(Modified) << box->objectName().toStdString();
+    }
+    EXPECT_THAT(Machine.Boxes(), IsEmpty());
+    EXPECT_EQ(Own().Abbre.Trimmed(), "HCG");
+    EXPECT_EQ(Own().Farm.Abbre.Trimmed(), "PCD");
+    EXPECT_EQ(Own().Farm.FarmMorale, 47);
+    EXPECT_EQ(Own().City.Trimmed(), "");
+    EXPECT_EQ(Own().Gm.Trimmed(), "");
+}
+
+TEST_F(TeamBoxes, NeitherAddressIsGuardedNorChecked)
+{
+    for (EditBox* box : {Office().txtMessenger, Office().txtEmail}) {
+        TypeInto(box, "_" + box->objectName());
+        Modified = false;
+        ListEventGuard = true;
+        Press(box, Qt::Key_Tab);
+        ListEventGuard = false;
+        EXPECT_TRUE(Modified);
+    }
+    EXPECT_EQ(Own().Messenger.Trimmed(), "_txtMessenger");
+    EXPECT_EQ(Own().Email.Trimmed(), "_txtEmail");
+    EXPECT_THAT(Machine.Boxes(), IsEmpty());
 }
 } // namespace
 } // namespace dravik

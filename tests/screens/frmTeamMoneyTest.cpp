@@ -234,7 +234,10 @@ TEST_F(TeamMoney, FiringTheFarmCoachLeavesTheProCoach)
 {
     Own().ProCoach = 7;
     Own().Farm.FarmCoach = 8;
+    Office();
+    Modified = false;
     Office().cmdFireFarm_Click();
+    EXPECT_TRUE(Modified);
     EXPECT_THAT(Machine.Boxes(), ElementsAre(Box{36, "Are you sure you wants to fire Marek Zelinka?"}));
     EXPECT_EQ(Coaches[8].Team, 0);
     EXPECT_EQ(Own().Farm.FarmCoach, 0);
@@ -341,6 +344,25 @@ TEST_F(TeamMoney, AnOddSeasonLeavesHalfAHomeGame)
     Own().HomeGames = 41;
     Office().UpdateFinance();
     EXPECT_EQ(Of(Office().lblHGLeft), "-0.5");
+}
+
+TEST_F(TeamMoney, AHalfGameHasTheDecimalSignOfTheLocale)
+{
+    Own().SeasonGames = 83;
+    Own().GamesPlayed = 40;
+    Own().HomeGames = 20;
+    Own().TotalAttendance = 377497;
+    const QLocale before;
+    QLocale::setDefault(QLocale(QLocale::German, QLocale::Germany));
+    OnDesktop([this] {
+        EXPECT_EQ(Of(Office().lblHGLeft), "21,5");
+        EXPECT_EQ(Of(Office().lblAverageAttendance), "18874,85");
+        EXPECT_EQ(Of(Office().lblGameLeft), "43");
+        Own().SeasonGames = 4082;
+        Office().UpdateFinance();
+        EXPECT_EQ(Of(Office().lblHGLeft), "2021");
+    });
+    QLocale::setDefault(before);
 }
 
 TEST_F(TeamMoney, WithoutExpensesTheAccountIsCashAndRevenue)

@@ -1,7 +1,12 @@
 #include "OnTeamScreen.h"
 
 #include "rules/Function.h"
+#include "screens/frmRoster.h"
 #include <QEventLoop>
+#include <QHelpEvent>
+#include <QScrollArea>
+#include <QScrollBar>
+#include <QToolTip>
 
 namespace dravik {
 namespace {
@@ -386,5 +391,65 @@ TEST_F(frmTeamTest, LinesAreRefusedWhileThePayrollIsAboveTheCap)
     EXPECT_EQ(Machine.Boxes().front().Text,
               "Roster is incomplete!\r\nYou cannot make your lines if your roster is incomplete!");
 }
+TEST_F(frmTeamTest, StandsInTheMiddleOfTheScreen)
+{
+    const QPoint middle = Office().screen()->availableGeometry().center();
+    constexpr int frame = 8; // of the window, which is not known before it is shown
+    EXPECT_LE((Office().frameGeometry().center() - middle).manhattanLength(), frame);
+}
+
+TEST_F(frmTeamTest, NamesOfFortyWideLettersLeaveMoneyAndCommandsInSight)
+{
+    const std::string longest(40, 'W');
+    Own().Name = longest;
+    LeagueData.Division[5].Name = longest;
+    LeagueData.Conference[2] = longest;
+    for (int coach = 7; coach <= 8; ++coach)
+        Coaches[coach].Name = longest;
+    Own().ProCoach = 7;
+    Own().Farm.FarmCoach = 8;
+    frmTeam& office = Office();
+    office.resize(1280, 720);
+    Settle();
+    EXPECT_EQ(office.findChild<QScrollArea*>()->horizontalScrollBar()->maximum(), 0);
+    for (const QWidget* control : std::initializer_list<QWidget*>{office.cmdExit, office.cmdLoadFile, office.lblFinance,
+                                                                  office.lblEstimatedBankAccount}) {
+        const QPoint corner = control->mapTo(&office, control->rect().topRight());
+        EXPECT_LT(corner.x(), office.width()) << control->objectName().toStdString();
+        EXPECT_FALSE(control->visibleRegion().isEmpty()) << control->objectName().toStdString();
+    }
+    for (QLabel* label : {office.lblDivision, office.lblConference, office.lblCoach, office.lblFarmCoach}) {
+        EXPECT_EQ(Of(label), longest);
+        QToolTip::hideText();
+        QHelpEvent help(QEvent::ToolTip, QPoint(2, 2), label->mapToGlobal(QPoint(2, 2)));
+        QApplication::sendEvent(label, &help);
+        EXPECT_TRUE(QToolTip::text().contains(QString::fromStdString(longest))) << label->objectName().toStdString();
+    }
+    QToolTip::hideText();
+}
+
+TEST_F(frmTeamTest, ThePayrollsFollowAMoveOnTheRoster)
+{
+    LeagueData.FarmEnabled = true;
+    LeagueData.FarmSalaryPct = 10;
+    Player& moved = PutSkater(7, 5, position::Center, status::Scratch);
+    moved.Salary = 500000;
+    moved.Contract = 2;
+    frmTeam& office = Office();
+    ASSERT_EQ(Of(office.lblProPayRoll), "$500,000");
+    ASSERT_EQ(Of(office.lblFarmPayRoll), "$0");
+    Click(office.CmdRoster);
+    auto& roster = *static_cast<frmRoster*>(TheStage.Find("Roster"));
+    bool done = false;
+    roster.Change(status::Scratch, status::Farm, 7, position::Center, done);
+    ASSERT_TRUE(done);
+    EXPECT_EQ(ProPayroll(5), 0);
+    EXPECT_EQ(FarmPayroll(5), 50000);
+    roster.close();
+    Settle();
+    EXPECT_EQ(Of(office.lblProPayRoll), "$0");
+    EXPECT_EQ(Of(office.lblFarmPayRoll), "$50,000");
+}
+
 } // namespace
 } // namespace dravik
