@@ -10,6 +10,7 @@
 #include "league/SettingsFailure.h"
 #include "rules/Function.h"
 #include "screens/ElementName.h"
+#include "screens/panels/ElidedLabel.h"
 #include "screens/panels/Labels.h"
 #include "screens/panels/Layouts.h"
 #include "screens/platform/CodePage.h"
@@ -46,7 +47,8 @@ frmMain::frmMain(Stage& stage) : Screen(stage, "frmMain")
     auto* content = new QWidget(this);
     QVBoxLayout* column = MakePage(content);
 
-    lblTitle = MakeTitle(content);
+    lblTitle = new ElidedLabel(content);
+    lblTitle->setFont(TitleFont(lblTitle->font()));
     lblTitle->setObjectName("lblTitle");
     lblTitle->setText(ToQString(ProgramTitle));
     lblDate = new MutedLabel("Client File Date : ", content);
@@ -135,19 +137,21 @@ QWidget* frmMain::MakeConference(int conference)
 {
     auto* panel = new QWidget(this);
     QVBoxLayout* rows = MakeColumn(panel, Gap / 2);
-    lblConference[conference] = MakeHeading({}, panel);
+    lblConference[conference] = new ElidedLabel(panel);
+    lblConference[conference]->setFont(HeadingFont(font()));
     lblConference[conference]->setObjectName(ElementName("lblConference", conference));
     rows->addWidget(lblConference[conference]);
     QHBoxLayout* divisions = MakeRow({});
     rows->addLayout(divisions, 1);
     const int first = (conference - 1) * DivisionsOfConference + 1;
     for (int division = first; division < first + DivisionsOfConference; ++division) {
-        lblDivision[division] = new MutedLabel("Division Name", panel);
+        lblDivision[division] = new ElidedLabel(panel, ElidedLabel::Words::Muted);
+        lblDivision[division]->setText("Division Name");
         lblDivision[division]->setObjectName(ElementName("lblDivision", division));
-        lblDivision[division]->setTextFormat(Qt::PlainText);
         lstDivision[division] = new EntryList(panel);
         lstDivision[division]->setObjectName(ElementName("lstDivision", division));
         lstDivision[division]->setMinimumWidth(LeastListWidth);
+        lstDivision[division]->KeepAsidesTogether();
         QVBoxLayout* column = MakeColumn({lblDivision[division]}, Gap / 2);
         column->addWidget(lstDivision[division], 1);
         divisions->addLayout(column);
@@ -171,11 +175,11 @@ QWidget* frmMain::MakeTeamBar()
     auto* bar = new QWidget(this);
     QVBoxLayout* column = MakeColumn(bar);
     column->setContentsMargins(0, Gap, 0, 0);
-    lblChosen = MakeHeading({}, bar);
+    lblChosen = new ElidedLabel(bar);
+    lblChosen->setFont(HeadingFont(font()));
     lblChosen->setObjectName("lblChosen");
-    lblChosenPlace = new MutedLabel(bar);
+    lblChosenPlace = new ElidedLabel(bar, ElidedLabel::Words::Muted);
     lblChosenPlace->setObjectName("lblChosenPlace");
-    lblChosenPlace->setTextFormat(Qt::PlainText);
     QHBoxLayout* names = MakeRow({lblChosen});
     names->addWidget(lblChosenPlace, 1);
     column->addLayout(names);
@@ -235,7 +239,7 @@ std::string frmMain::LastLeague()
 
 void frmMain::FormActivate() { ShowChosenTeam(); }
 
-void frmMain::SetWindowCaption(const std::string& caption) { setWindowTitle(ToQString(caption)); }
+void frmMain::SetWindowCaption(const std::string& caption) { SetTitle(ToQString(caption)); }
 
 void frmMain::PlaceTeam()
 {

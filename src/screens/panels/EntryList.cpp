@@ -46,8 +46,8 @@ int RoomFor(const QStringList& aside, const QFontMetrics& metrics)
     return room;
 }
 
-// The same, and nothing where they are left out.
-int AsideRoom(const QStyleOptionViewItem& option, const QModelIndex& index)
+// The same, and nothing where they have no room.
+int OwnAsideRoom(const QStyleOptionViewItem& option, const QModelIndex& index)
 {
     const int room = RoomFor(AsideOf(index), option.fontMetrics);
     if (room == 0)
@@ -58,6 +58,19 @@ int AsideRoom(const QStyleOptionViewItem& option, const QModelIndex& index)
     if (list != nullptr && list->CutsNamesFirst())
         least = std::min(least, width / 2);
     return least <= width - room ? room : 0;
+}
+
+// The same, and nothing where they are left out for the sake of another entry.
+int AsideRoom(const QStyleOptionViewItem& option, const QModelIndex& index)
+{
+    const auto* list = qobject_cast<const EntryList*>(option.widget);
+    if (list != nullptr && list->KeepsAsidesTogether())
+        for (int row = 0; row < list->count(); ++row) {
+            const QModelIndex other = index.siblingAtRow(row);
+            if (!AsideOf(other).join(QString()).isEmpty() && OwnAsideRoom(option, other) == 0)
+                return 0;
+        }
+    return OwnAsideRoom(option, index);
 }
 
 // The text cut to `width` in its name; the marks behind the name stay.

@@ -39,6 +39,9 @@ public:
     // Has names cut where they and the secondary words do not fit. Without this call the secondary words are left out.
     void CutNamesFirst() { cutsNamesFirst = true; }
     [[nodiscard]] bool CutsNamesFirst() const { return cutsNamesFirst; }
+    // Has the secondary words left out of all entries where those of one do not fit. For lists of few entries.
+    void KeepAsidesTogether() { keepsAsidesTogether = true; }
+    [[nodiscard]] bool KeepsAsidesTogether() const { return keepsAsidesTogether; }
     // Takes the choice away, so that the next click or key on any entry is a new one.
     void Unchoose();
     void SetCurrentToNone();
@@ -68,6 +71,7 @@ protected:
 
 private:
     bool cutsNamesFirst = false;
+    bool keepsAsidesTogether = false;
     int askedWidth = 0;
 };
 
