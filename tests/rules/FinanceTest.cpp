@@ -1,4 +1,5 @@
 #include "rules/Function.h"
+#include "support/FailingBoxes.h"
 #include "support/LeagueImage.h"
 #include "support/RandomLeague.h"
 #include "support/SmallLeague.h"
@@ -328,6 +329,22 @@ TEST_F(FinanceTest, TeamOutOfRangeFailsTheIntegrityCheck)
     isRefused(FarmPayroll);
     isRefused(CoachPayroll);
     isRefused(ExpensePerGame);
+}
+
+TEST_F(FinanceTest, AFailureIsReportedWithTheNameOfItsRoutine)
+{
+    FailingBoxes failing;
+    UseMachine(failing);
+    const auto fails = [&failing](auto&& routine, const char* ending) {
+        failing.FailuresLeft = 1;
+        EXPECT_EQ(routine(0), 0);
+        EXPECT_THAT(failing.TakeBoxes(), ElementsAre(Box{box::Critical, "6 - Overflow in " + std::string(ending)}));
+    };
+    fails(ProPayroll, "ProPayroll!");
+    fails(FarmPayroll, "FarmPayroll!");
+    fails(CoachPayroll, "CoachPayroll!");
+    fails(ExpensePerGame, "ExpensePerGame!");
+    UseMachine(Machine);
 }
 
 // A second reading of the four figures: one table of people, rounded through memory.

@@ -1,4 +1,5 @@
 #include "rules/Function.h"
+#include "support/FailingBoxes.h"
 #include "support/LeagueImage.h"
 #include "support/RandomLeague.h"
 #include "support/SmallLeague.h"
@@ -293,6 +294,18 @@ TEST_F(WipeLinesTest, WipedPersonStandsNowhereAndAllOthersStayWhereTheyStood)
                 *letter = 0;
         ASSERT_EQ(ImageOf(Teams), ImageOf(expected)) << "round " << round;
     }
+}
+
+TEST_F(WipeLinesTest, AFailureIsReportedWithTheNameOfItsRoutine)
+{
+    FailingBoxes failing(1);
+    UseMachine(failing);
+    WipesLines(0, 1, true);
+    EXPECT_THAT(failing.TakeBoxes(), ElementsAre(Box{box::Critical, "6 - Overflow in WipesLines!"}));
+    failing.FailuresLeft = 1;
+    WipePlayerFromTeamLines(0, 1);
+    EXPECT_THAT(failing.TakeBoxes(), ElementsAre(Box{box::Critical, "6 - Overflow in WipePlayerFromTeamLines!"}));
+    UseMachine(Machine);
 }
 
 } // namespace
