@@ -8,6 +8,7 @@
 #include <QStyleFactory>
 #include <QTest>
 #include <QTemporaryFile>
+#include <QTest>
 #include <QTimer>
 
 namespace {
