@@ -205,6 +205,7 @@ void LinesScreen::JudgeShownDay()
 {
     const bool complete = Kind.Judge(OwnNumber(), false, static_cast<int>(Day), false);
     lblComplete->Tell(complete ? "Lines are Complete" : "Lines are Incomplete", complete);
+    vscDay->SetVerdict(lblComplete->text());
     cmdDebug->setEnabled(!complete);
     // Another day may be judged next, so its words are read here.
     txtReasons->Tell(complete ? QString() : ToQString(LastLinesText()).replace("\r\n", "\n").trimmed());

@@ -117,6 +117,9 @@ void LinesScreen::RefreshAverage(const BoardHeading& heading)
         words = "average " + QString::number(AveragesOf(lines, *heading.Group, heading.Number).Overall);
     if (heading.Average->text() != words)
         heading.Average->setText(words);
+    const QString spoken = heading.Label->text() + (words.isEmpty() ? QString() : ", " + words);
+    if (heading.Label->accessibleName() != spoken)
+        heading.Label->setAccessibleName(spoken);
 }
 
 void LinesScreen::Heading_Click(int index)

@@ -62,9 +62,9 @@ double NumberIn(const EditBox* box) { return LeadingNumber(FromQString(box->text
 
 // An entry of the list. What is drawn beside the name is made up when it is drawn: the offer, and the overall where the
 // league shows it.
-class frmFreeAgentClient::Entry : public QListWidgetItem {
+class frmFreeAgentClient::Entry : public EntryItem {
 public:
-    Entry(const QString& text, int number, const OfferTable& all) : QListWidgetItem(text), id(number), offers(all) {}
+    Entry(const QString& text, int number, const OfferTable& all) : EntryItem(text), id(number), offers(all) {}
 
     [[nodiscard]] QVariant data(int role) const override
     {
@@ -74,7 +74,7 @@ public:
         case entry::AsideRole:
             return Aside();
         default:
-            return QListWidgetItem::data(role);
+            return EntryItem::data(role);
         }
     }
 

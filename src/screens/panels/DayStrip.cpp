@@ -2,9 +2,11 @@
 
 #include "screens/panels/Shades.h"
 
+#include <algorithm>
+#include <QAccessible>
+#include <QImage>
 #include <QMouseEvent>
 #include <QPainter>
-#include <QStyleOptionButton>
 #include <QWheelEvent>
 
 namespace dravik {
@@ -24,12 +26,37 @@ DayStrip::DayStrip(QWidget* parent) : QAbstractSlider(parent)
     setPageStep(1);
     setFocusPolicy(Qt::StrongFocus);
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
+    connect(this, &QAbstractSlider::valueChanged, this, &DayStrip::TellOfWords);
 }
 
 void DayStrip::SetGames(const QStringList& words)
 {
     games = words;
+    TellOfWords();
     update();
+}
+
+void DayStrip::SetVerdict(const QString& words)
+{
+    if (verdict == words)
+        return;
+    verdict = words;
+    TellOfWords();
+}
+
+QString DayStrip::InWords() const
+{
+    QStringList words{QString("%1 %2").arg(accessibleName()).arg(value())};
+    for (const QString& more : {games.value(value() - 1), verdict})
+        if (!more.isEmpty())
+            words << more;
+    return words.join(", ");
+}
+
+void DayStrip::TellOfWords()
+{
+    QAccessibleEvent changed(this, QAccessible::NameChanged);
+    QAccessible::updateAccessibility(&changed);
 }
 
 QRect DayStrip::CellOf(int day) const
@@ -58,31 +85,50 @@ void DayStrip::mousePressEvent(QMouseEvent* event)
 // The wheel over the days is more often a slip than a wish.
 void DayStrip::wheelEvent(QWheelEvent* event) { event->ignore(); }
 
+QStyleOptionButton DayStrip::OptionOf(int day) const
+{
+    QStyleOptionButton cell;
+    cell.initFrom(this);
+    cell.rect = CellOf(day);
+    cell.state &= ~(QStyle::State_HasFocus | QStyle::State_MouseOver | QStyle::State_Enabled);
+    if (IsOpen(day))
+        cell.state |= QStyle::State_Enabled;
+    cell.state |= day == value() ? QStyle::State_On | QStyle::State_Sunken : QStyle::State_Off | QStyle::State_Raised;
+    return cell;
+}
+
+// The style shades a button as it likes, so what stands on it is mixed from what it paints.
+QColor DayStrip::SecondaryOn(int day, const QColor& words) const
+{
+    constexpr int width = 3; // of the middle of a button
+    QStyleOptionButton cell = OptionOf(day);
+    const QRect middle(cell.rect.width() / 2, CellPadding / 2, width, std::max(1, height() - CellPadding));
+    cell.rect.moveTo(0, 0);
+    QImage painted(cell.rect.size().expandedTo({1, 1}), QImage::Format_RGB32);
+    painted.fill(palette().color(QPalette::Window));
+    QPainter painter(&painted);
+    style()->drawControl(QStyle::CE_PushButtonBevel, &cell, &painter, this);
+    painter.end();
+    return MutedOn(words, painted.copy(middle.intersected(painted.rect())));
+}
+
 void DayStrip::paintEvent(QPaintEvent* /*event*/)
 {
     QPainter painter(this);
+    const QColor words = palette().color(QPalette::Active, QPalette::ButtonText);
     for (int day = 1; day <= Days; ++day) {
         const bool isChosen = day == value();
-        const bool isOpen = isEnabled() && day <= maximum();
-        QStyleOptionButton cell;
-        cell.initFrom(this);
-        cell.rect = CellOf(day);
-        cell.state &= ~(QStyle::State_HasFocus | QStyle::State_MouseOver | QStyle::State_Enabled);
-        if (isOpen)
-            cell.state |= QStyle::State_Enabled;
-        cell.state |= isChosen ? QStyle::State_On | QStyle::State_Sunken : QStyle::State_Off | QStyle::State_Raised;
+        const QStyleOptionButton cell = OptionOf(day);
         style()->drawControl(QStyle::CE_PushButtonBevel, &cell, &painter, this);
 
-        const auto group = isOpen ? QPalette::Active : QPalette::Disabled;
-        const QColor words = palette().color(isOpen || isChosen ? QPalette::Active : group, QPalette::ButtonText);
-        const QColor ground = palette().color(QPalette::Active, QPalette::Button);
+        const QColor secondary = SecondaryOn(day, words);
         const int line = fontMetrics().lineSpacing();
         QRect area(cell.rect.left(), (height() - 2 * line) / 2, cell.rect.width(), line);
         painter.setFont(isChosen ? HeadingFont(font()) : font());
-        painter.setPen(words);
+        painter.setPen(IsOpen(day) || isChosen ? words : secondary);
         painter.drawText(area, Qt::AlignCenter | Qt::TextSingleLine, QString::number(day));
         painter.setFont(font());
-        painter.setPen(isOpen ? Muted(words, ground) : words);
+        painter.setPen(secondary);
         painter.drawText(area.translated(0, line), Qt::AlignCenter | Qt::TextSingleLine, games.value(day - 1));
         if (isChosen) {
             constexpr int thickness = 3;

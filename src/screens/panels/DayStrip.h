@@ -2,6 +2,7 @@
 
 #include <QAbstractSlider>
 #include <QStringList>
+#include <QStyleOptionButton>
 
 namespace dravik {
 
@@ -15,6 +16,10 @@ public:
 
     // The words under the days from 1 on; the days behind have none.
     void SetGames(const QStringList& words);
+    // What the judge of the chosen day found, for a screen reader; it is painted elsewhere.
+    void SetVerdict(const QString& words);
+    // The accessible name, the chosen day, its game and the verdict.
+    [[nodiscard]] QString InWords() const;
     // Where a day stands.
     [[nodiscard]] QRect CellOf(int day) const;
 
@@ -27,7 +32,15 @@ protected:
     void paintEvent(QPaintEvent* event) override;
 
 private:
+    [[nodiscard]] bool IsOpen(int day) const { return isEnabled() && day <= maximum(); }
+    [[nodiscard]] QStyleOptionButton OptionOf(int day) const;
+    // The colour of secondary words on a day.
+    [[nodiscard]] QColor SecondaryOn(int day, const QColor& words) const;
+    // Tells a screen reader that the words are others now.
+    void TellOfWords();
+
     QStringList games;
+    QString verdict;
 };
 
 } // namespace dravik

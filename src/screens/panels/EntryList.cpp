@@ -106,7 +106,10 @@ void EntryDelegate::paint(QPainter* painter, const QStyleOptionViewItem& option,
                        : (item.state & QStyle::State_Active) == 0 ? QPalette::Inactive
                                                                   : QPalette::Active;
     const QColor front = item.palette.color(group, isSelected ? QPalette::HighlightedText : QPalette::Text);
-    const QColor back = item.palette.color(group, isSelected ? QPalette::Highlight : QPalette::Base);
+    const bool isAlternate = (item.features & QStyleOptionViewItem::Alternate) != 0;
+    const QColor back = item.palette.color(group, isSelected    ? QPalette::Highlight
+                                                  : isAlternate ? QPalette::AlternateBase
+                                                                : QPalette::Base);
     const QRect area = ContentArea(item.rect);
     const int room = AsideRoom(item, index);
 
@@ -149,6 +152,13 @@ bool EntryDelegate::helpEvent(QHelpEvent* event, QAbstractItemView* view, const 
     return QStyledItemDelegate::helpEvent(event, view, option, index);
 }
 
+QVariant EntryItem::data(int role) const
+{
+    if (role != Qt::AccessibleTextRole)
+        return QListWidgetItem::data(role);
+    return QString((QStringList(text()) + data(entry::AsideRole).toStringList()).join(", "));
+}
+
 EntryList::EntryList(QWidget* parent) : QListWidget(parent)
 {
     setItemDelegate(new EntryDelegate(this));
@@ -159,7 +169,7 @@ EntryList::EntryList(QWidget* parent) : QListWidget(parent)
 
 void EntryList::Add(const QString& text, int number, const QStringList& aside)
 {
-    auto* item = new QListWidgetItem(text, this);
+    auto* item = new EntryItem(text, this);
     item->setData(entry::NumberRole, number);
     item->setData(entry::AsideRole, aside);
 }

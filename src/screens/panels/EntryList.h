@@ -13,6 +13,14 @@ inline constexpr int NumberRole = Qt::UserRole;
 inline constexpr int AsideRole = Qt::UserRole + 1;
 } // namespace entry
 
+// An entry, which says its secondary words to a screen reader as well.
+class EntryItem : public QListWidgetItem {
+public:
+    using QListWidgetItem::QListWidgetItem;
+
+    [[nodiscard]] QVariant data(int role) const override;
+};
+
 // Draws an entry with its secondary words at its right edge, each in a column of its own. Where both do not fit, the list
 // decides: either the secondary words are left out, or they stay and the name is cut, as long as half of the entry is left
 // for it. The marks behind a name (" (C) *") stay; a text that is cut is told whole by a tooltip.

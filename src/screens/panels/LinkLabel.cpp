@@ -8,8 +8,9 @@
 
 namespace dravik {
 
-LinkLabel::LinkLabel(const QString& text, QWidget* parent) : QLabel(text, parent)
+LinkLabel::LinkLabel(const QString& text, QWidget* parent) : QLabel(parent)
 {
+    setText(text);
     setTextFormat(Qt::PlainText);
     setFocusPolicy(Qt::StrongFocus);
     setCursor(Qt::PointingHandCursor);

@@ -2,12 +2,14 @@
 
 #include "league/ClientVariable.h"
 #include "league/Platform.h"
+#include "screens/panels/Accessible.h"
 #include "screens/panels/Labels.h"
 #include "screens/panels/Shades.h"
 #include "screens/platform/CodePage.h"
 #include "screens/platform/Palettes.h"
 
 #include <algorithm>
+#include <QAccessible>
 #include <QHBoxLayout>
 #include <QPainter>
 
@@ -21,15 +23,37 @@ constexpr double RoomBeyondCap = 1.1;
 
 QString Money(long long amount) { return ToQString(Machine().CurrencyNoDecimals(static_cast<double>(amount))); }
 
-class CapBar : public QWidget {
+QString Words(const CapStanding& standing)
+{
+    QString words = Money(standing.Pro) + " pro";
+    if (LeagueData.FarmPayrollInCap)
+        words += " + " + Money(standing.Farm) + " farm";
+    const long long coaches = standing.Total - standing.Pro - (LeagueData.FarmPayrollInCap ? standing.Farm : 0);
+    if (LeagueData.CoachPayrollInCap)
+        words += " + " + Money(coaches) + " coaches";
+    return words + " of " + Money(*standing.Cap);
+}
+
+class CapBar : public QWidget, public Gauge {
 public:
     explicit CapBar(QWidget* parent) : QWidget(parent)
     {
+        setAccessibleName("Payroll");
         setFixedHeight(BarHeight + 2 * MarkOverhang);
         setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
     }
 
-    CapStanding Standing;
+    void Show(const CapStanding& standing)
+    {
+        Standing = standing;
+        update();
+        QAccessibleValueChangeEvent changed(this, Shown());
+        QAccessible::updateAccessibility(&changed);
+    }
+
+    [[nodiscard]] double Shown() const override { return static_cast<double>(Standing.Total); }
+    [[nodiscard]] double Full() const override { return static_cast<double>(Standing.Cap.value_or(0)); }
+    [[nodiscard]] QString InWords() const override { return Standing.Cap ? Words(Standing) : QString(); }
 
 protected:
     void paintEvent(QPaintEvent* /*event*/) override
@@ -53,18 +77,10 @@ protected:
             fill(cap, total, Alarming(back));
         painter.fillRect(QRectF(at(cap) - 1, 0, 2, height()), front);
     }
-};
 
-QString Words(const CapStanding& standing)
-{
-    QString words = Money(standing.Pro) + " pro";
-    if (LeagueData.FarmPayrollInCap)
-        words += " + " + Money(standing.Farm) + " farm";
-    const long long coaches = standing.Total - standing.Pro - (LeagueData.FarmPayrollInCap ? standing.Farm : 0);
-    if (LeagueData.CoachPayrollInCap)
-        words += " + " + Money(coaches) + " coaches";
-    return words + " of " + Money(*standing.Cap);
-}
+private:
+    CapStanding Standing;
+};
 
 } // namespace
 
@@ -88,8 +104,7 @@ void PayrollBar::Show(const CapStanding& standing)
     setVisible(standing.Cap.has_value());
     if (!standing.Cap)
         return;
-    static_cast<CapBar*>(bar)->Standing = standing;
-    bar->update();
+    static_cast<CapBar*>(bar)->Show(standing);
     sign->setVisible(standing.Total > *standing.Cap);
     lblPayroll->setText(Words(standing));
 }

@@ -3,6 +3,7 @@
 #include "screens/platform/Palettes.h"
 
 #include <algorithm>
+#include <QAccessible>
 #include <QPainter>
 
 namespace dravik {
@@ -19,9 +20,15 @@ RatingBar::RatingBar(QWidget* parent) : QWidget(parent) { setSizePolicy(QSizePol
 
 void RatingBar::SetValue(int rating)
 {
+    if (value == rating)
+        return;
     value = rating;
     update();
+    QAccessibleValueChangeEvent changed(this, rating);
+    QAccessible::updateAccessibility(&changed);
 }
+
+double RatingBar::Full() const { return FullRating; }
 
 QSize RatingBar::sizeHint() const
 {

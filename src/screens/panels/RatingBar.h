@@ -1,11 +1,14 @@
 #pragma once
 
+#include "screens/panels/Accessible.h"
+
 #include <QWidget>
 
 namespace dravik {
 
-// A rating as a small bar, 0 to 99, in the palette's highlight on a faint ground. The number itself stands beside it.
-class RatingBar : public QWidget {
+// A rating as a small bar, 0 to 99, in the palette's highlight on a faint ground. The number itself stands beside it;
+// what is rated is its accessible name.
+class RatingBar : public QWidget, public Gauge {
 public:
     explicit RatingBar(QWidget* parent = nullptr);
 
@@ -14,6 +17,9 @@ public:
     [[nodiscard]] int Value() const { return value; }
 
     [[nodiscard]] QSize sizeHint() const override;
+    [[nodiscard]] double Shown() const override { return value; }
+    [[nodiscard]] double Full() const override;
+    [[nodiscard]] QString InWords() const override { return QString::number(value); }
 
 protected:
     void paintEvent(QPaintEvent* event) override;

@@ -54,6 +54,7 @@ void RatingRows::Hide()
 void RatingRows::Show(int row, const QString& caption, int rating)
 {
     Captions[row]->setText(caption);
+    bars[row]->setAccessibleName(caption);
     bars[row]->SetValue(rating);
     SetVisible(row, true);
 }

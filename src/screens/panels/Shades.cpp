@@ -9,13 +9,14 @@ namespace dravik {
 namespace {
 
 constexpr double ReadableContrast = 4.5;
+constexpr double TintRoom = 1.07; // how much of the contrast a style's tint may take
 
 // The first mix of `back` and `front`, from `part` of the front upwards, that is readable on `background`.
 QColor FirstReadable(const QColor& back, const QColor& front, double part, const QColor& background)
 {
     constexpr double step = 0.02;
     QColor mixed = Mixed(back, front, part);
-    while (part < 1 && Contrast(mixed, background) < ReadableContrast) {
+    while (part < 1 && Contrast(mixed, background) < ReadableContrast * TintRoom) {
         part = std::min(1.0, part + step);
         mixed = Mixed(back, front, part);
     }
@@ -32,7 +33,30 @@ QColor Muted(const QColor& text, const QColor& background)
 
 QColor MutedText(const QPalette& palette)
 {
-    return Muted(palette.color(QPalette::WindowText), palette.color(QPalette::Window));
+    return Muted(palette.color(QPalette::Active, QPalette::WindowText),
+                 palette.color(QPalette::Active, QPalette::Window));
+}
+
+QColor MutedOn(const QColor& text, const QImage& ground)
+{
+    QColor closest = ground.pixelColor(0, 0);
+    for (int y = 0; y < ground.height(); ++y)
+        for (int x = 0; x < ground.width(); ++x)
+            if (const QColor pixel = ground.pixelColor(x, y); Contrast(pixel, text) < Contrast(closest, text))
+                closest = pixel;
+    return Muted(text, closest);
+}
+
+void MutePlaceholder(QWidget& widget)
+{
+    const QPalette& all = widget.palette();
+    const QColor muted =
+        Muted(all.color(QPalette::Active, QPalette::Text), all.color(QPalette::Active, QPalette::Base));
+    if (all.color(QPalette::Active, QPalette::PlaceholderText) == muted)
+        return;
+    QPalette own;
+    own.setColor(QPalette::PlaceholderText, muted);
+    widget.setPalette(own);
 }
 
 QColor Alarming(const QColor& background)

@@ -2,16 +2,23 @@
 
 #include <QColor>
 #include <QFont>
+#include <QImage>
 #include <QPalette>
+#include <QWidget>
 
 // The few shades and fonts of the program's look. All of them are mixed from the palette at hand when something is painted,
 // so they fit light and dark desktops alike and follow a change of the theme at once.
 namespace dravik {
 
 // The colour of secondary words: text faded into its background, yet with a contrast of 4.5 at least wherever the text
-// itself has it.
+// itself has it, also where the style tints the background a little, as it does within a group.
 QColor Muted(const QColor& text, const QColor& background);
 QColor MutedText(const QPalette& palette);
+// The same on a painted ground, whichever of its colours is closest to the text's.
+QColor MutedOn(const QColor& text, const QImage& ground);
+
+// Gives a widget's placeholder text that colour, mixed from the palette at hand. To be called anew when the palette changes.
+void MutePlaceholder(QWidget& widget);
 
 // Red for what is wrong, readable on `background`. It never stands without a sign.
 QColor Alarming(const QColor& background);

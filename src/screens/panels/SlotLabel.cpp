@@ -106,6 +106,7 @@ void SlotLabel::SetAside(const QString& words)
     if (aside == words)
         return;
     aside = words;
+    Describe();
     update();
 }
 
@@ -120,7 +121,8 @@ void SlotLabel::SetPicked(bool picked)
 void SlotLabel::Describe()
 {
     const char* state = mark == Mark::Refused ? " (may not play)" : mark == Mark::Empty ? " (empty)" : "";
-    const QString name = slot + ": " + text() + state;
+    const QString overall = aside.isEmpty() ? QString() : ", overall " + aside;
+    const QString name = slot + ": " + text() + overall + state;
     if (accessibleName() != name)
         setAccessibleName(name);
 }

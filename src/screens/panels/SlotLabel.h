@@ -26,8 +26,8 @@ private:
     bool isDown = false;
 };
 
-// One slot of a line-up: a frame with the position at its left, the name, and secondary words at its right edge. The text
-// is the name alone.
+// One slot of a line-up: a frame with the position at its left, the name, and the person's overall muted at its right edge.
+// The text is the name alone; a screen reader is told everything.
 class SlotLabel : public PressLabel {
     Q_OBJECT
 public:

@@ -4,9 +4,25 @@
 #include "screens/panels/Shades.h"
 #include "screens/platform/Palettes.h"
 
+#include <QAccessible>
 #include <QPainter>
 
 namespace dravik {
+
+namespace {
+
+// Has a screen reader say a label's text, wherever the focus is.
+void Announce(QLabel& label)
+{
+#if QT_VERSION >= QT_VERSION_CHECK(6, 8, 0)
+    QAccessibleAnnouncementEvent news(&label, label.text());
+#else
+    QAccessibleEvent news(&label, QAccessible::Alert);
+#endif
+    QAccessible::updateAccessibility(&news);
+}
+
+} // namespace
 
 VerdictLabel::VerdictLabel(QWidget* parent) : QLabel(parent)
 {
@@ -16,10 +32,13 @@ VerdictLabel::VerdictLabel(QWidget* parent) : QLabel(parent)
 
 void VerdictLabel::Tell(const QString& words, bool isGood)
 {
+    const bool isNews = words != text();
     good = isGood;
     setText(words);
     updateGeometry();
     update();
+    if (isNews)
+        Announce(*this);
 }
 
 QSize VerdictLabel::sizeHint() const

@@ -5,6 +5,7 @@
 namespace dravik {
 
 // What a judge found, in a word with its sign: a tick in the accent's colour, or the warning sign with the words in red.
+// A screen reader is told of every new one.
 class VerdictLabel : public QLabel {
 public:
     explicit VerdictLabel(QWidget* parent = nullptr);

@@ -2,6 +2,7 @@
 
 #include "league/Message.h"
 #include "league/Reporting.h"
+#include "screens/panels/Accessible.h"
 #include "screens/platform/CodePage.h"
 
 namespace dravik {
@@ -10,6 +11,7 @@ Application::Application(int& argc, char** argv) : QApplication(argc, argv)
 {
     setApplicationName(ToQString(ProgramTitle));
     setOrganizationName(ToQString(ProgramTitle));
+    DescribePanelsToScreenReaders();
 }
 
 bool Application::notify(QObject* receiver, QEvent* event)
