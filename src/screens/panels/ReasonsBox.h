@@ -14,6 +14,13 @@ public:
 
     // Shows the findings, one a line. A text that stands there already keeps its place and what is chosen in it.
     void Tell(const QString& findings);
+
+protected:
+    void changeEvent(QEvent* event) override;
+
+private:
+    // Gives the box the height of its lines, no more: it scrolls by whole lines, so none is ever cut.
+    void FitLines();
 };
 
 } // namespace dravik

@@ -1,0 +1,225 @@
+#include "OnEveryScreen.h"
+#include "PaintedContrast.h"
+#include "screens/panels/DayStrip.h"
+#include "screens/panels/EditBox.h"
+#include "screens/panels/Labels.h"
+#include "screens/panels/ReasonsBox.h"
+#include "screens/panels/Shades.h"
+#include "screens/panels/SlotLabel.h"
+#include "screens/panels/Verdict.h"
+#include "screens/platform/FusionLook.h"
+
+#include <map>
+#include <QGroupBox>
+
+namespace dravik {
+namespace {
+
+constexpr double Readable = 4.5;
+
+std::vector<QPalette> AllPalettes()
+{
+    std::vector<QPalette> palettes = DesktopPalettes();
+    palettes.push_back(LightPalette());
+    palettes.push_back(DarkPalette());
+    return palettes;
+}
+
+void Use(const QPalette& palette)
+{
+    QApplication::setStyle(new FusionLook);
+    QApplication::setPalette(palette);
+}
+
+class ContrastTest : public OnEveryScreen {
+protected:
+    ContrastTest() { QApplication::setFont(SharpFont()); }
+    ~ContrastTest() override
+    {
+        QApplication::setFont(Font);
+        UseLightLook();
+    }
+
+    // Measures the words that are painted within `area` of a widget; what is scrolled away is left out.
+    void Measure(const QImage& picture, const QWidget& widget, const QRect& area, const std::string& what,
+                 double floor = Readable)
+    {
+        if (!widget.isVisible() || !widget.visibleRegion().contains(area.intersected(widget.rect())))
+            return;
+        const QRect within(widget.mapTo(widget.window(), area.topLeft()), area.size());
+        const auto contrast = PaintedContrast(picture, within);
+        if (!contrast)
+            return;
+        ++Measured[what];
+        EXPECT_GE(*contrast, floor) << what << " " << widget.objectName().toStdString() << " on " << Where;
+    }
+
+    // All secondary words of a screen.
+    void MeasureAll(Screen& screen)
+    {
+        const QImage picture = screen.grab().toImage();
+        for (QLabel* label : screen.findChildren<QLabel*>()) {
+            if (dynamic_cast<MutedLabel*>(label) != nullptr)
+                Measure(picture, *label, label->contentsRect(), "muted label");
+            if (auto* verdict = dynamic_cast<VerdictLabel*>(label)) {
+                const int sign = verdict->fontMetrics().height();
+                Measure(picture, *verdict, verdict->rect().adjusted(sign + Gap, 0, 0, 0), "verdict");
+            }
+            if (auto* slot = dynamic_cast<SlotLabel*>(label))
+                MeasureSlot(picture, *slot);
+        }
+        for (EntryList* list : screen.findChildren<EntryList*>())
+            MeasureEntries(picture, *list);
+        for (const auto* slider : screen.findChildren<QAbstractSlider*>())
+            for (int day = 1; day <= DayStrip::Days; ++day) {
+                const auto* strip = dynamic_cast<const DayStrip*>(slider);
+                if (strip == nullptr)
+                    break;
+                QRect cell = strip->CellOf(day).adjusted(4, 4, -4, -6);
+                if (day <= strip->maximum())
+                    cell.setTop(cell.center().y());
+                Measure(picture, *strip, cell, "day");
+            }
+        for (auto* reasons : screen.findChildren<ReasonsBox*>())
+            if (reasons->toPlainText().isEmpty())
+                Measure(picture, *reasons->viewport(), reasons->viewport()->rect().adjusted(0, 0, -2, 0),
+                        "empty reasons");
+        for (const auto* box : screen.findChildren<EditBox*>())
+            if (!box->isEnabled() && !box->text().isEmpty())
+                Measure(picture, *box, box->rect().adjusted(4, 4, -4, -4), "closed box");
+    }
+
+    const QFont Font = QApplication::font();
+    std::map<std::string, int> Measured;
+    std::string Where;
+
+private:
+    void MeasureSlot(const QImage& picture, const SlotLabel& slot)
+    {
+        const QFontMetrics metrics(HeadingFont(slot.font()));
+        const QRect inside = slot.rect().adjusted(Gap, 4, -Gap, -4);
+        QRect tag = inside;
+        tag.setWidth(metrics.horizontalAdvance("RW"));
+        Measure(picture, slot, tag, "tag of a slot");
+        QRect aside = inside;
+        aside.setLeft(inside.right() - slot.fontMetrics().horizontalAdvance(slot.Aside()));
+        if (!slot.Aside().isEmpty())
+            Measure(picture, slot, aside, "overall in a slot");
+    }
+
+    void MeasureEntries(const QImage& picture, const EntryList& list)
+    {
+        for (int row = 0; row < list.count(); ++row) {
+            const QStringList aside = list.item(row)->data(entry::AsideRole).toStringList();
+            if (aside.isEmpty())
+                continue;
+            const QRect entry = list.visualItemRect(list.item(row));
+            const int width = list.fontMetrics().horizontalAdvance(aside.last());
+            constexpr int margin = 8;
+            const QRect words(entry.right() - margin - width, entry.top() + 2, width + 2, entry.height() - 4);
+            const QPalette& palette = list.palette();
+            const auto group = list.isActiveWindow() ? QPalette::Active : QPalette::Inactive;
+            // No secondary word can stand out more than the first one does.
+            if (list.item(row)->isSelected())
+                Measure(picture, *list.viewport(), words, "beside the chosen entry",
+                        std::min(Readable, Contrast(palette.color(group, QPalette::HighlightedText),
+                                                    palette.color(group, QPalette::Highlight))));
+            else
+                Measure(picture, *list.viewport(), words,
+                        row % 2 == 1 ? "beside an alternate entry" : "beside an entry");
+        }
+    }
+};
+
+TEST_F(ContrastTest, EverySecondaryWordOnEveryGroundCanBeReadUnderEveryPalette)
+{
+    const std::vector<QPalette> palettes = AllPalettes();
+    EachScreen([&](Screen& screen, const std::string& name) {
+        for (std::size_t i = 0; i < palettes.size(); ++i) {
+            Use(palettes[i]);
+            Settle();
+            Where = name + ", palette " + std::to_string(i);
+            MeasureAll(screen);
+        }
+    });
+    for (const char* what : {"muted label", "verdict", "tag of a slot", "overall in a slot", "day", "empty reasons",
+                             "closed box", "beside an entry", "beside an alternate entry", "beside the chosen entry"})
+        EXPECT_GE(Measured[what], static_cast<int>(palettes.size())) << what;
+}
+
+TEST_F(ContrastTest, MutedWordsInAGroupCanBeRead)
+{
+    for (const QPalette& palette : AllPalettes()) {
+        Use(palette);
+        QGroupBox group("Group");
+        group.resize(300, 100);
+        MutedLabel label("Estimated Season Expense", &group);
+        label.setGeometry(20, 40, 250, 30);
+        group.show();
+        Settle();
+        const auto contrast = PaintedContrast(group.grab().toImage(), label.geometry());
+        ASSERT_TRUE(contrast.has_value());
+        EXPECT_GE(*contrast, Readable);
+    }
+}
+
+TEST_F(ContrastTest, EveryDayCanBeReadWhetherItIsOpenOrNot)
+{
+    for (const QPalette& palette : AllPalettes()) {
+        Use(palette);
+        DayStrip strip;
+        strip.SetGames(
+            {"vs AAA", "at BBB", "vs CCC", "at DDD", "vs EEE", "at FFF", "vs GGG", "at HHH", "vs III", "vs JJJ"});
+        strip.setMaximum(6);
+        strip.setValue(2);
+        strip.resize(strip.sizeHint());
+        strip.show();
+        for (const bool isEnabled : {true, false}) {
+            strip.setEnabled(isEnabled);
+            Settle();
+            const QImage picture = strip.grab().toImage();
+            for (int day = 1; day <= DayStrip::Days; ++day) {
+                const QRect cell = strip.CellOf(day).adjusted(4, 4, -4, -6);
+                for (const QRect& half :
+                     {cell.adjusted(0, 0, 0, -cell.height() / 2), cell.adjusted(0, cell.height() / 2, 0, 0)}) {
+                    const auto contrast = PaintedContrast(picture, half);
+                    ASSERT_TRUE(contrast.has_value()) << day;
+                    EXPECT_GE(*contrast, Readable) << day << (isEnabled ? "" : ", closed");
+                }
+            }
+        }
+    }
+}
+
+TEST_F(ContrastTest, AnEmptyReasonsBoxHeedsNoPlaceholderColourOfTheDesktop)
+{
+    ReasonsBox reasons("this roster");
+    reasons.resize(400, reasons.height());
+    reasons.show();
+    for (const QPalette& palette : AllPalettes()) {
+        Use(palette);
+        Settle();
+        const auto contrast = PaintedContrast(reasons.viewport()->grab().toImage(), reasons.viewport()->rect());
+        ASSERT_TRUE(contrast.has_value());
+        EXPECT_GE(*contrast, Readable);
+    }
+}
+
+TEST(PaintedContrastTest, MeasuresWhatIsPainted)
+{
+    QImage picture(40, 20, QImage::Format_RGB32);
+    picture.fill(Qt::white);
+    EXPECT_FALSE(PaintedContrast(picture, picture.rect()).has_value());
+    for (int y = 5; y < 10; ++y)
+        picture.setPixelColor(7, y, Qt::black);
+    EXPECT_NEAR(*PaintedContrast(picture, picture.rect()), 21, 0.01);
+    EXPECT_FALSE(PaintedContrast(picture, QRect(10, 0, 30, 20)).has_value());
+    const QColor grey("#808080"); // a row of another ground, on which the same words stand out less
+    for (int x = 0; x < 40; ++x)
+        if (x != 7)
+            picture.setPixelColor(x, 9, grey);
+    EXPECT_NEAR(*PaintedContrast(picture, picture.rect()), Contrast(Qt::black, grey), 0.01);
+}
+
+} // namespace
+} // namespace dravik
