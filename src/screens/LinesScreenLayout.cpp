@@ -94,6 +94,7 @@ void LinesScreen::MakeControls()
     connect(lstPlayer, &PickList::Picked, this, [this] { lstPlayer_Click(); });
     frmStat = new StatPanel(this);
     frmStat->setObjectName("frmStat");
+    frmStat->SetHint("Pick a player, then a slot");
 
     TabLine = new LineBoard(this);
     TabLine->tabBar()->setFocusPolicy(Qt::StrongFocus); // a press on a tab leaves a text box first

@@ -71,6 +71,7 @@ void frmFreeAgentClient::MakeControls()
     connect(chkShowPlayerWithOffer, &QCheckBox::toggled, this, [this] { chkShowPlayerWithOffer_Click(); });
 
     Stats = new StatPanel(this, "txtStats");
+    Stats->SetHint("Pick a player to see his ratings");
     for (int row = 1; row <= txtStats.last; ++row) {
         txtStats[row] = Stats->lblStat[row];
         lblStatLabel[row] = Stats->lblStatLabel[row];

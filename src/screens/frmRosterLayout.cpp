@@ -77,6 +77,7 @@ void frmRoster::MakeControls()
         lstPlayer[index] = MakeList(index, captions[index]);
     }
     Stats = new StatPanel(this);
+    Stats->SetHint("Pick a player to see his ratings");
 
     cmdToFarm = MakeCommand("cmdToFarm", "To &Farm -->", [this] { cmdToFarm_Click(); });
     cmdToPro = MakeCommand("cmdToPro", "<-- To &Pro", [this] { cmdToPro_Click(); });

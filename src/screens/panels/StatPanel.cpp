@@ -24,8 +24,15 @@ StatPanel::StatPanel(QWidget* parent, const char* numberName) : QGroupBox("Stats
     lblName->setObjectName("lblStatName");
     lblName->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred); // no name makes the panel wider
 
-    QVBoxLayout* column = MakeColumn(this);
-    SetGroupMargins(column);
+    lblHint = new MutedLabel(this);
+    lblHint->setObjectName("lblStatHint");
+    lblHint->setTextFormat(Qt::PlainText);
+
+    auto* page = new QGridLayout(this);
+    SetGroupMargins(page);
+    QVBoxLayout* column = MakeColumn({});
+    page->addLayout(column, 0, 0);
+    page->addWidget(lblHint, 0, 0, Qt::AlignCenter);
     auto* heading = new QHBoxLayout;
     heading->setSpacing(Gap);
     heading->addWidget(lblName, 1);
@@ -45,8 +52,11 @@ StatPanel::StatPanel(QWidget* parent, const char* numberName) : QGroupBox("Stats
     HideRows();
 }
 
+void StatPanel::SetHint(const QString& words) { lblHint->setText(words); }
+
 void StatPanel::HideRows()
 {
+    lblHint->show();
     lblName->clear();
     lblStat[0]->hide();
     lblStatLabel[0]->hide();
@@ -67,6 +77,7 @@ void StatPanel::ClearNumbers()
 
 void StatPanel::ShowPosition(const QString& position)
 {
+    lblHint->hide();
     lblStatLabel[0]->show();
     lblStat[0]->setText(position);
     lblStat[0]->setAccessibleName("Position " + position);
@@ -86,6 +97,7 @@ void StatPanel::ShowRows(const StatRows& rows)
 
 void StatPanel::ShowRow(int row, const StatRow& shown)
 {
+    lblHint->hide();
     const QString caption = ToQString(shown.Label);
     lblStat[row]->setText(QString::number(shown.Value));
     lblStat[row]->setAccessibleName(QString("%1 %2").arg(caption).arg(shown.Value));

@@ -15,6 +15,8 @@ public:
     // The numbers go by `numberName` and their row.
     explicit StatPanel(QWidget* parent = nullptr, const char* numberName = "lblStat");
 
+    // What to do, told in the middle of the panel as long as it shows nobody.
+    void SetHint(const QString& words);
     // Shows nobody. The panel keeps its place.
     void HideRows();
     // Hides the ratings alone; the position line stays as it is.
@@ -35,6 +37,7 @@ public:
 
 private:
     QLabel* lblName;
+    QLabel* lblHint;
     RatingRows* ratings;
 };
 
