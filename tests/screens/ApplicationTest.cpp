@@ -2,6 +2,7 @@
 #include "league/Failure.h"
 #include "support/SmallLeague.h"
 
+#include <QApplication>
 #include <QEvent>
 #include <QObject>
 
@@ -32,6 +33,13 @@ protected:
         return QApplication::sendEvent(&handler, &event);
     }
 };
+
+TEST_F(ApplicationTest, TheToolkitsOwnArgumentsMeanNothing)
+{
+    EXPECT_EQ(QApplication::layoutDirection(), Qt::LeftToRight);
+    EXPECT_EQ(qApp->styleSheet(), "");
+    EXPECT_EQ(QApplication::arguments().size(), 1);
+}
 
 TEST_F(ApplicationTest, AFailureInAHandlerIsReportedAndGoesNoFurther)
 {

@@ -11,6 +11,8 @@
 #include <QTest>
 #include <QTimer>
 
+#include <array>
+
 namespace {
 
 // A test that closes the main screen ends the program for the whole process: every dialog from then on would return at
@@ -47,7 +49,12 @@ int main(int argc, char** argv)
     qputenv("QT_QPA_PLATFORM", "offscreen:configfile=" + QDir().relativeFilePath(display.fileName()).toLocal8Bit());
     QLocale::setDefault(QLocale(QLocale::English, QLocale::UnitedStates));
     QApplication::setDesktopSettingsAware(false);
-    const dravik::Application application(argc, argv);
+    // The program has no command line: these are to mean nothing.
+    char reverse[] = "-reverse";
+    char sheet[] = "-stylesheet";
+    char file[] = "nothing.qss";
+    std::array<char*, 5> arguments{argv[0], reverse, sheet, file, nullptr};
+    const dravik::Application application(static_cast<int>(arguments.size()) - 1, arguments.data());
     QApplication::setStyle(QStyleFactory::create("Fusion"));
     QApplication::setFont(QFont("DejaVu Sans", 10));
     // Each test opens and closes its own windows; the last one to close does not end the application.

@@ -15,7 +15,8 @@ namespace dravik::tour {
 
 namespace {
 
-Plan Parse(const QCoreApplication& application)
+// The application knows none of its arguments, as the program has none.
+Plan Parse(const QStringList& arguments)
 {
     QCommandLineParser parser;
     parser.setApplicationDescription("Drives the client's screens through a typical evening, without a display.");
@@ -25,7 +26,7 @@ Plan Parse(const QCoreApplication& application)
     const QCommandLineOption team("team", "The team to work on, 1 to 100.", "number", "3");
     const QCommandLineOption password("password", "Its password.", "text", "puck");
     parser.addOptions({league, out, team, password});
-    parser.process(application);
+    parser.process(arguments);
     if (!parser.isSet(league) || !parser.isSet(out) || !TeamTable::Has(parser.value(team).toInt()))
         parser.showHelp(2);
     return {QFileInfo(parser.value(league)).absoluteFilePath(), QDir(parser.value(out)).absolutePath(),
@@ -80,6 +81,9 @@ int main(int argc, char** argv)
     QApplication::setDesktopSettingsAware(false);
     dravik::tour::usualHandler = qInstallMessageHandler(dravik::tour::TellUnlessWithoutDisplay);
     const dravik::Application application(argc, argv);
+    QStringList arguments;
+    for (int i = 0; i < argc; ++i)
+        arguments << QString::fromLocal8Bit(argv[i]);
     QApplication::setFont(QFont("DejaVu Sans", 9));
-    return dravik::tour::Run(dravik::tour::Parse(application));
+    return dravik::tour::Run(dravik::tour::Parse(arguments));
 }

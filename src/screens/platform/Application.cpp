@@ -5,9 +5,11 @@
 #include "screens/panels/Accessible.h"
 #include "screens/platform/CodePage.h"
 
+#include <algorithm>
+
 namespace dravik {
 
-Application::Application(int& argc, char** argv) : QApplication(argc, argv)
+Application::Application(int argc, char** argv) : ArgumentCount{std::min(argc, 1)}, QApplication(Count, argv)
 {
     setApplicationName(ToQString(ProgramTitle));
     setOrganizationName(ToQString(ProgramTitle));
