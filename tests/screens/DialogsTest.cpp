@@ -5,16 +5,19 @@
 #include "screens/frmWait.h"
 #include "screens/platform/BoxIcon.h"
 #include "screens/platform/CodePage.h"
+#include "screens/platform/Palettes.h"
 #include "screens/platform/QtPlatform.h"
 
 #include <gmock/gmock.h>
 #include <QAbstractItemView>
 #include <QDialogButtonBox>
 #include <QFileDialog>
+#include <QIcon>
 #include <QLabel>
 #include <QMessageBox>
 #include <QPlainTextEdit>
 #include <QPushButton>
+#include <QScopeGuard>
 #include <QScreen>
 #include <QScrollBar>
 #include <QStyle>
@@ -308,6 +311,44 @@ TEST_F(Dialogs, SignsAreSharpAndTellKindsApart)
         signs += sign.toImage();
     }
     EXPECT_TRUE(BoxIcon(QMessageBox::NoIcon, QApplication::palette(), 48, 2).isNull());
+}
+
+// The toolkit's own pictures are a few pixels wide; nothing but the desktop's signs may stand in their place.
+TEST_F(Dialogs, ABoxOfEachKindShowsItsOwnSignUnderEveryLook)
+{
+    const QScopeGuard restore([theme = QIcon::themeName()] { QIcon::setThemeName(theme); });
+    QIcon::setThemeName("none");
+    for (void (*use)() : {&UseDarkLook, &UseLightLook}) {
+        use();
+        for (const auto& [kind, icon] : {std::pair(16, QMessageBox::Critical), std::pair(36, QMessageBox::Question),
+                                         std::pair(48, QMessageBox::Warning), std::pair(64, QMessageBox::Information)})
+            Show(kind, [kind = kind, icon = icon](QMessageBox& shown) {
+                const QPixmap pixmap = shown.findChild<QLabel*>("qt_msgboxex_icon_label")->pixmap();
+                const int size = shown.style()->pixelMetric(QStyle::PM_MessageBoxIconSize, nullptr, &shown);
+                EXPECT_EQ(pixmap.toImage(), BoxIcon(icon, shown.palette(), size, shown.devicePixelRatioF()).toImage())
+                    << kind;
+                EXPECT_FALSE(pixmap.isNull());
+                shown.reject();
+            });
+    }
+}
+
+TEST_F(Dialogs, ButtonsHaveWordsAloneUnderTheProgramsLook)
+{
+    UseLightLook();
+    const auto expectWordsAlone = [](QDialog& shown) {
+        for (const QPushButton* button : shown.findChildren<QPushButton*>())
+            EXPECT_TRUE(button->icon().isNull()) << button->text().toStdString();
+    };
+    Show(35, [&](QMessageBox& shown) {
+        EXPECT_EQ(shown.buttons().size(), 3);
+        expectWordsAlone(shown);
+        shown.reject();
+    });
+    Ask("Enter New Name", [&](QDialog& dialog) {
+        expectWordsAlone(dialog);
+        dialog.reject();
+    });
 }
 
 TEST_F(Dialogs, SignsOnTheAccentAreDrawnInItsOwnInk)

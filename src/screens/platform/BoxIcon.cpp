@@ -1,10 +1,8 @@
 #include "screens/platform/BoxIcon.h"
 
-#include <QApplication>
 #include <QIcon>
 #include <QPainter>
 #include <QPainterPath>
-#include <QStyle>
 
 #include <algorithm>
 #include <array>
@@ -95,7 +93,12 @@ QPixmap BoxIcon(QMessageBox::Icon icon, const QPalette& palette, int size, doubl
 
 bool NeedsOwnBoxIcons()
 {
-    return QApplication::style()->name() == "fusion" && !QIcon::hasThemeIcon("dialog-information");
+#if defined(Q_OS_WIN) || defined(Q_OS_MACOS)
+    return false;
+#else
+    const auto names = {"dialog-error", "dialog-warning", "dialog-information", "dialog-question"};
+    return !std::all_of(names.begin(), names.end(), [](const char* name) { return QIcon::hasThemeIcon(name); });
+#endif
 }
 
 } // namespace dravik
