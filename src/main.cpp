@@ -1,6 +1,6 @@
 #include "league/Platform.h"
 #include "screens/platform/Application.h"
-#include "screens/platform/Palettes.h"
+#include "screens/platform/DesktopLook.h"
 #include "screens/platform/QtPlatform.h"
 #include "screens/Stage.h"
 
@@ -24,7 +24,7 @@ int main(int argc, char** argv)
 {
     const dravik::Application application(argc, argv);
     IntroduceToDesktop();
-    dravik::UseLookOfDesktop();
+    const auto look = dravik::UseLookOfDesktop();
     dravik::QtPlatform platform;
     dravik::UseMachine(platform);
     dravik::Stage stage;

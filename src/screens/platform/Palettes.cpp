@@ -101,21 +101,15 @@ void UseLightLook() { UseLook(LightPalette()); }
 
 void UseDarkLook() { UseLook(DarkPalette()); }
 
-void UseLookOfDesktop()
-{
-#if !defined(Q_OS_WIN) && !defined(Q_OS_MACOS)
-    const auto isSet = [](const char* name) { return !qEnvironmentVariableIsEmpty(name); };
-    if (!isSet("XDG_CURRENT_DESKTOP") && !isSet("QT_QPA_PLATFORMTHEME") && !isSet("QT_STYLE_OVERRIDE"))
-        UseLightLook();
-    else if (QApplication::style()->name().compare("fusion", Qt::CaseInsensitive) == 0)
-        QApplication::setStyle(new FusionLook);
-#endif
-}
-
 QColor Mixed(const QColor& a, const QColor& b, double part)
 {
     const auto mix = [part](float x, float y) { return static_cast<float>(x + (y - x) * part); };
     return QColor::fromRgbF(mix(a.redF(), b.redF()), mix(a.greenF(), b.greenF()), mix(a.blueF(), b.blueF()));
+}
+
+bool IsDark(const QPalette& palette)
+{
+    return Luminance(palette.color(QPalette::WindowText)) > Luminance(palette.color(QPalette::Window));
 }
 
 double Contrast(const QColor& a, const QColor& b)

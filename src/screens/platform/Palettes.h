@@ -12,12 +12,11 @@ QPalette DarkPalette();
 void UseLightLook();
 void UseDarkLook();
 
-// The light look for a desktop that has none of its own, such as a bare window manager. Everywhere else, and where the
-// user has chosen a style, the program looks as the desktop does, with the edges of FusionLook where that is Fusion.
-void UseLookOfDesktop();
-
 // `a` and `b` mixed: all of `a` at 0, all of `b` at 1. Muted words are text mixed with its background.
 QColor Mixed(const QColor& a, const QColor& b, double part);
+
+// Whether words are lighter than their background.
+bool IsDark(const QPalette& palette);
 
 // How well two colours can be told apart, from 1 to 21. Words want at least 4.5.
 double Contrast(const QColor& a, const QColor& b);

@@ -1,0 +1,60 @@
+#include "screens/platform/DesktopLook.h"
+
+#include "screens/platform/FusionLook.h"
+#include "screens/platform/Palettes.h"
+
+#include <QApplication>
+#include <QStyleFactory>
+
+#include <utility>
+
+namespace dravik {
+
+DesktopLook::DesktopLook(bool hasLook, std::unique_ptr<SchemeSource> scheme) :
+    isGiven(hasLook), givenStyle(QApplication::style()->name()), source(std::move(scheme))
+{
+    if (isGiven && givenStyle.compare("fusion", Qt::CaseInsensitive) == 0)
+        QApplication::setStyle(new FusionLook);
+    if (source != nullptr)
+        QObject::connect(source.get(), &SchemeSource::Changed, source.get(), [this] { Follow(); });
+    Follow();
+}
+
+void DesktopLook::Follow()
+{
+    const ColourScheme told = source == nullptr ? ColourScheme::Untold : source->Scheme();
+    if (isGiven) {
+        UseGivenLook();
+        const bool fits = IsDark(QApplication::palette()) == (told == ColourScheme::Dark);
+        if (told == ColourScheme::Untold || fits)
+            return;
+    }
+    isOurs = true;
+    if (told == ColourScheme::Dark)
+        UseDarkLook();
+    else
+        UseLightLook();
+}
+
+void DesktopLook::UseGivenLook()
+{
+    if (!std::exchange(isOurs, false))
+        return;
+    if (givenStyle.compare("fusion", Qt::CaseInsensitive) != 0)
+        QApplication::setStyle(givenStyle);
+    QApplication::setPalette(QPalette());
+}
+
+std::unique_ptr<DesktopLook> UseLookOfDesktop()
+{
+#if defined(Q_OS_WIN) || defined(Q_OS_MACOS)
+    return std::make_unique<DesktopLook>(true, DesktopScheme());
+#else
+    const auto isSet = [](const char* name) { return !qEnvironmentVariableIsEmpty(name); };
+    const bool isChosen = isSet("QT_QPA_PLATFORMTHEME") || isSet("QT_STYLE_OVERRIDE");
+    return std::make_unique<DesktopLook>(isChosen || isSet("XDG_CURRENT_DESKTOP"),
+                                         isChosen ? nullptr : DesktopScheme());
+#endif
+}
+
+} // namespace dravik

@@ -1,0 +1,35 @@
+#pragma once
+
+#include "screens/platform/ColourScheme.h"
+
+#include <QString>
+
+#include <memory>
+
+namespace dravik {
+
+// Has the program look as the desktop does, from the start and as long as this lives. Where the desktop gives the toolkit a
+// look of its own, that look stays unless the desktop says that its user wants the other kind of colours; where there is
+// none, such as under a bare window manager, the program brings its own. A scheme that is told, or changes, is followed at
+// once; where Fusion draws, it draws with the edges of FusionLook.
+class DesktopLook {
+public:
+    // `hasLook`: whether the desktop gives one. Without a `scheme` the colours stay as they are given.
+    DesktopLook(bool hasLook, std::unique_ptr<SchemeSource> scheme);
+
+private:
+    void Follow();
+    // The look that the desktop gave the toolkit at first.
+    void UseGivenLook();
+
+    bool isGiven;
+    QString givenStyle;
+    bool isOurs = false; // the look at hand is the program's own
+    std::unique_ptr<SchemeSource> source;
+};
+
+// The look of the desktop at hand. A style or a theme that the user has chosen for the toolkit stands, whatever the desktop
+// says.
+std::unique_ptr<DesktopLook> UseLookOfDesktop();
+
+} // namespace dravik
