@@ -6,7 +6,6 @@
 #include <QFont>
 #include <QLocale>
 #include <QStyleFactory>
-#include <QTest>
 #include <QTemporaryFile>
 #include <QTest>
 #include <QTimer>
