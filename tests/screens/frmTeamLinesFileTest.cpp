@@ -305,9 +305,11 @@ TEST_F(LinesFileCommands, TheJudgesRunWhenAllIsTold)
     office.cmdSaveToFile_Click();
     EXPECT_THAT(Machine.TakeBoxes(),
                 ElementsAre(Box{64, "Lines file for Harbour City successfully save at\r\n" + target}, judged));
-    Machine.FailFileOperation(3, failure::PermissionDenied);
+    WriteWhole(TempFile, {1});
+    Machine.FailFileOperation(2, failure::PermissionDenied); // the work file cannot be deleted
     office.cmdSaveToFile_Click();
     EXPECT_THAT(Machine.TakeBoxes(), ElementsAre(Box{16, "70 - Permission denied in cmdSaveToFile!"}, judged));
+    std::filesystem::remove(TempFile);
 
     Machine.Choose(target);
     office.cmdLoadFile_Click();
