@@ -151,12 +151,12 @@ void PrepareLeague()
 // Stores the path for the next start. The league is open all the same where the settings cannot be written.
 void RememberLeague(const std::string& path, MainWindow& window)
 {
-    const std::string words = " The league that is open is not opened by itself at the next start.";
+    const std::string words = " The next start does not open this league by itself.";
     std::string told;
     try {
         Machine().SaveSetting("Settings", "LastLoadLeague", path);
     } catch (const SettingsFailure& failed) {
-        told = "The settings file " + failed.File + " could not be written." + words;
+        told = "The settings could not be written to " + failed.File + "." + words;
     } catch (const std::exception&) {
         told = "The settings could not be written." + words;
     }

@@ -230,9 +230,10 @@ std::string frmMain::LastLeague()
         return Machine().GetSetting("Settings", "LastLoadLeague", {});
     } catch (const SettingsFailure& broken) {
         Tell(QuietLine::SettingsSetAside,
-             "The settings file " + broken.File + " could not be read." +
-                 (broken.SetAside.empty() ? " Nor could it be set aside."
-                                          : " It was set aside as " + broken.SetAside + ", and a fresh one begun."));
+             "The settings could not be read from " + broken.File + "." +
+                 (broken.SetAside.empty()
+                      ? " The file could not be set aside either."
+                      : " The file was set aside as " + broken.SetAside + ", and a fresh one begun."));
     }
     return {};
 }

@@ -129,9 +129,9 @@ TEST_F(SettingsOnDesktop, ABrokenSettingsFileAtStartIsNamedInAQuietLine)
 {
     const std::string broken = "what a crash left";
     WriteWhole(File(), {broken.begin(), broken.end()});
-    EXPECT_EQ(Line("lblSettingsSetAside").text().toStdString(), "The settings file " + File() +
-                                                                    " could not be read. It was set aside as " +
-                                                                    File() + ".broken, and a fresh one begun.");
+    EXPECT_EQ(Line("lblSettingsSetAside").text().toStdString(), "The settings could not be read from " + File() +
+                                                                    ". The file was set aside as " + File() +
+                                                                    ".broken, and a fresh one begun.");
     EXPECT_TRUE(Line("lblSettingsSetAside").isVisible());
     EXPECT_FALSE(Line("lblSettingsUnwritten").isVisible());
     EXPECT_TRUE(ReadWhole(File() + ".broken") == ByteVector(broken.begin(), broken.end()));
@@ -142,7 +142,7 @@ TEST_F(SettingsOnDesktop, ABrokenSettingsFileThatStaysIsNamedInAQuietLine)
     WriteWhole(File(), {'x'});
     std::filesystem::create_directories(File() + ".broken/folder");
     EXPECT_EQ(Line("lblSettingsSetAside").text().toStdString(),
-              "The settings file " + File() + " could not be read. Nor could it be set aside.");
+              "The settings could not be read from " + File() + ". The file could not be set aside either.");
 }
 
 TEST_F(SettingsOnDesktop, SoundSettingsAtStartSayNothing)
