@@ -1,4 +1,4 @@
-// Opens a client file of any bytes: it ends in a league or in no league, and leaves nothing behind on the disk.
+// Opens a client file of any bytes: it ends in a whole league or in no league, and leaves nothing behind on the disk.
 
 #include "fuzz/MemoryPlatform.h"
 #include "fuzz/ReadFileTarget.h"
@@ -37,6 +37,23 @@ bool NoLeague()
     return IsEmpty(Prospects) && IsEmpty(Players) && IsEmpty(Goalies) && IsEmpty(Teams) && IsEmpty(GameSchedule);
 }
 
+template <class Changes, class People>
+bool HoldsTheWordsOf(const Changes& changes, const People& people)
+{
+    for (long long i = 1; i <= Changes::last; ++i)
+        if (changes[i].Protected.Word() != people[i].Protected.Word() ||
+            changes[i].TradeAvailable.Word() != people[i].TradeAvailable.Word())
+            return false;
+    return true;
+}
+
+bool WholeLeague()
+{
+    return Players[0].Name.Trimmed() == "Unknown Player" && Goalies[0].Name.Trimmed() == "Unknown Goalie" &&
+           HoldsTheWordsOf(RosterChanges, Players) && HoldsTheWordsOf(RosterChangesGoalie, Goalies) &&
+           LeagueData.ProDressedSkaters != 0 && LeagueData.OverallWeightCK != 0;
+}
+
 } // namespace
 
 void RunTarget(Input input)
@@ -52,7 +69,7 @@ void RunTarget(Input input)
     Window window;
     OpenLeagueClient(InFolder("League.dvs"), window);
     Require(machine.Files.size() == 1 && machine.Files.count(InFolder("League.dvs")) == 1);
-    Require(window.ShowsLeague || (machine.BoxCount == 1 && NoLeague()));
+    Require(window.ShowsLeague ? WholeLeague() : machine.BoxCount == 1 && NoLeague());
 }
 
 } // namespace dravik::fuzz

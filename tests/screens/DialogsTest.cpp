@@ -500,6 +500,19 @@ TEST_F(OpenDialog, TheChosenFileComesBackAsAPathOfTheProgram)
     EXPECT_EQ(Desktop.FileLength(chosen), 0);
 }
 
+TEST_F(OpenDialog, AFileThatIsNotThereIsNotTaken)
+{
+    EXPECT_THROW(Open([](QFileDialog& dialog) {
+                     const auto* open =
+                         dialog.findChild<QDialogButtonBox*>("buttonBox")->button(QDialogButtonBox::Open);
+                     auto* name = dialog.findChild<QLineEdit*>("fileNameEdit");
+                     name->setText("none.dvs");
+                     EXPECT_FALSE(open->isEnabled());
+                     dialog.reject();
+                 }),
+                 Failure);
+}
+
 TEST_F(OpenDialog, CancelFailsWithItsNumber)
 {
     for (const bool byKey : {false, true}) {

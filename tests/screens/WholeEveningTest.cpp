@@ -14,6 +14,7 @@
 #include "screens/platform/CodePage.h"
 #include "screens/platform/QtPlatform.h"
 #include "screens/RosterEntry.h"
+#include "support/ClientFileBytes.h"
 
 #include <cstring>
 #include <memory>
@@ -290,6 +291,7 @@ TEST_F(WholeEveningTest, WhatIsDecidedInOneEveningIsFoundAgainInTheNext)
 {
     ASSERT_TRUE(IsWritten);
     ASSERT_EQ(Scratched.size(), 2U);
+    const ByteVector client = ReadWhole(League);
     auto saved = std::make_unique<Team>();
     Spend([&] {
         Answers.Choose(League);
@@ -305,6 +307,7 @@ TEST_F(WholeEveningTest, WhatIsDecidedInOneEveningIsFoundAgainInTheNext)
         Click(Office().cmdExit);
     });
     ASSERT_FALSE(HasFailure());
+    EXPECT_TRUE(ReadWhole(League) == client) << "nothing is ever written back";
 
     Spend([&] {
         EnterOffice(); // the league of last time is open
@@ -353,6 +356,7 @@ TEST_F(WholeEveningTest, WhatIsDecidedInOneEveningIsFoundAgainInTheNext)
         Click(tickets.cmdExit);
         Click(Office().cmdExit);
     });
+    EXPECT_TRUE(ReadWhole(League) == client) << "nothing is ever written back";
 }
 
 } // namespace

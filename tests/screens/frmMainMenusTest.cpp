@@ -43,6 +43,34 @@ TEST_F(MainMenus, TeamCommandsWithAWrongPasswordEndWithoutAFurtherWord)
     EXPECT_EQ(CallerScreen, "");
 }
 
+TEST_F(MainMenus, ClosingAsksNothingWhateverWasModified)
+{
+    PutTeam(1, 1);
+    MainWithLeague();
+    Modified = true;
+    Main().mnuExit->trigger();
+    EXPECT_THAT(Machine.Boxes(), IsEmpty());
+    EXPECT_THAT(Machine.Questions(), IsEmpty());
+    EXPECT_EQ(TheStage.Find("Main"), nullptr);
+    EXPECT_TRUE(Modified) << "nor does anything take it back";
+}
+
+TEST_F(MainMenus, AnotherOpenAsksNothingWhateverWasModified)
+{
+    PutTeam(1, 1);
+    LeagueData.FileDate = 45000;
+    MainWithLeague();
+    for (const bool modified : {false, true}) {
+        Modified = modified;
+        Machine.Choose(SaveLeague());
+        Main().mnuOpen->trigger();
+        EXPECT_THAT(Machine.Boxes(), IsEmpty());
+        EXPECT_THAT(Machine.Questions(), IsEmpty());
+        EXPECT_EQ(Modified, modified);
+        EXPECT_EQ(Listed(1).size(), 1U);
+    }
+}
+
 TEST_F(MainMenus, ViewTeamOpensTheTeamScreenAndHidesMain)
 {
     PutTeam(1, 1);

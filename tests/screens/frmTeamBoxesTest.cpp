@@ -77,6 +77,48 @@ TEST_F(TeamBoxes, AnAbbreviationTakesLettersOnly)
     EXPECT_EQ(Own().Abbre.Trimmed(), "HCG");
 }
 
+TEST_F(TeamBoxes, NeitherAbbreviationMayBeEmptyOrHoldADigit)
+{
+    const std::pair<EditBox*, Text<3>&> boxes[] = {{Office().txtAbbre, Own().Abbre},
+                                                   {Office().txtFarmAbbre, Own().Farm.Abbre}};
+    for (const auto& [box, field] : boxes) {
+        const std::string before = field.Trimmed();
+        const std::pair<const char*, const char*> refused[] = {
+            {"", "No Valid Input!"},
+            {"123", "No Valid Input!"},
+            {"H1G", "Only letters and spaces are allowed in that textbox!"},
+            {"HC2", "Only letters and spaces are allowed in that textbox!"}};
+        for (const auto& [text, words] : refused) {
+            Enter(box, text);
+            EXPECT_THAT(Machine.TakeBoxes(), ElementsAre(Box{48, words})) << text;
+            EXPECT_EQ(field.Trimmed(), before) << text;
+            EXPECT_EQ(Of(box), text);
+            EXPECT_TRUE(box->hasFocus()) << text;
+            EXPECT_FALSE(Modified) << text;
+        }
+        Enter(box, QString::fromStdString(before));
+        EXPECT_THAT(Machine.TakeBoxes(), IsEmpty());
+    }
+}
+
+TEST_F(TeamBoxes, TheFarmsMoraleMustBeANumberToo)
+{
+    for (const char* text : {"good", "", "-", "x4"}) {
+        Enter(Office().txtFarmMorale, text);
+        EXPECT_THAT(Machine.TakeBoxes(), ElementsAre(Box{48, "No Valid Input!"})) << text;
+        EXPECT_EQ(Own().Farm.FarmMorale, 47) << text;
+        EXPECT_TRUE(Office().txtFarmMorale->hasFocus()) << text;
+    }
+    for (const char* text : {"4x", "1 2"}) {
+        Enter(Office().txtFarmMorale, text);
+        EXPECT_THAT(Machine.TakeBoxes(), ElementsAre(Box{48, "Only numbers are allowed in that textbox!"})) << text;
+        EXPECT_EQ(Own().Farm.FarmMorale, 47) << text;
+    }
+    Enter(Office().txtFarmMorale, "48");
+    EXPECT_THAT(Machine.Boxes(), IsEmpty());
+    EXPECT_EQ(Own().Farm.FarmMorale, 48);
+}
+
 TEST_F(TeamBoxes, TheCityMayBeEmpty)
 {
     Enter(Office().txtCity, "");

@@ -1,4 +1,5 @@
-# Runs the executable TOOL as the test CASE wants it, writing into FOLDER only.
+# Runs the executable TOOL as the test CASE wants it, writing into FOLDER only, which no other test uses.
+file(MAKE_DIRECTORY ${FOLDER})
 function(run expected)
   execute_process(COMMAND ${TOOL} ${ARGN} RESULT_VARIABLE result OUTPUT_VARIABLE out ERROR_VARIABLE err)
   if(NOT result EQUAL expected)
