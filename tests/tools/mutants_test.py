@@ -199,6 +199,19 @@ class TestsTest(unittest.TestCase):
         self.assertEqual(mutate.failed_test(""), "the start of the tests")
 
 
+class FolderTest(unittest.TestCase):
+    def test_two_runs_never_work_in_one_copy_and_a_folder_is_free_again_behind_its_run(self):
+        with tempfile.TemporaryDirectory() as name:
+            first, first_lock = mutate.free_folder(Path(name))
+            second, second_lock = mutate.free_folder(Path(name))
+            self.assertEqual((first.name, second.name), ("1", "2"))
+            first_lock.close()
+            third, third_lock = mutate.free_folder(Path(name))
+            self.assertEqual(third.name, "1")
+            second_lock.close()
+            third_lock.close()
+
+
 class RunTest(unittest.TestCase):
     """The hand that gives out mutants, with a tree that has an answer for each."""
 
