@@ -170,6 +170,12 @@ class CommandTest(unittest.TestCase):
         self.assertTrue(all(entry.startswith(f"{file}:{line}:") for entry in lines))
         self.assertTrue(any(entry.startswith(f"{place}:") for entry in lines))
 
+    def test_several_lines_can_be_chosen(self):
+        places = {":".join(line.split(":")[:2]) for line in self.listed("rules", "--count", "9").stdout.splitlines()}
+        chosen = [argument for place in places for argument in ("--only", place)]
+        lines = self.listed("rules", *chosen).stdout.splitlines()
+        self.assertEqual({":".join(line.split(":")[:2]) for line in lines}, places)
+
     def test_a_place_without_anything_to_change_ends_with_2(self):
         self.assertEqual(self.listed("rules", "--only", "src/rules/Finance.cpp:1").returncode, 2)
 
