@@ -20,6 +20,7 @@ public:
     void SetVerdict(const QString& words);
     // The accessible name, the chosen day, its game and the verdict.
     [[nodiscard]] QString InWords() const;
+    [[nodiscard]] const QStringList& Games() const { return games; }
     // Where a day stands.
     [[nodiscard]] QRect CellOf(int day) const;
 
