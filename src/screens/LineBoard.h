@@ -23,6 +23,12 @@ struct BoardSlot {
     int Shown = 0;                  // the person whom the label's text names, 0 for none
 
     [[nodiscard]] bool IsGoalies() const { return Rule == Takes::Goalie; }
+    // Where it stands among the words of a line-up.
+    [[nodiscard]] std::size_t Word() const
+    {
+        const int goalies = Goalie == &Lines::StartGoalie ? StartGoalieWord : BackupGoalieWord;
+        return static_cast<std::size_t>(IsGoalies() ? goalies : Skater.Word);
+    }
     [[nodiscard]] Int16& In(Lines& lines) const { return IsGoalies() ? lines.*Goalie : At(lines, Skater); }
 };
 

@@ -13,6 +13,7 @@
 #include "screens/platform/CodePage.h"
 #include "screens/RosterEntry.h"
 
+#include <QGuiApplication>
 #include <type_traits>
 
 // Opening and closing, the list, the days, strategy, goalie pull and the commands on the lines.
@@ -55,7 +56,7 @@ void LinesScreen::FormLoad()
 
 void LinesScreen::FormUnload()
 {
-    if (!Kind.Judge(OwnNumber(), false, 1, false))
+    if (!Kind.Judge(OwnNumber(), false, 1, false).Complete)
         ShowBox(Kind.ClosingWarning, box::Warning);
 }
 
@@ -157,6 +158,7 @@ void LinesScreen::chkPosition_Click(int /*position*/) { ShowPlayer(); }
 
 void LinesScreen::Place()
 {
+    said = {};
     Reporting(" in Place!", [this] {
         if (GameRow[1] != 0)
             ShowGame();
@@ -186,13 +188,19 @@ void LinesScreen::ShowStrategy()
         lblStatsPoint[style]->setText(Shown(points));
         PointsLeft -= points;
     }
+    ShowPull();
+    StrategyReady = true;
+    lblPoint->setText(Shown(PointsLeft));
+}
+
+void LinesScreen::ShowPull()
+{
+    const Lines& lines = ShownLines();
     const auto show = [](EditBox* box, long long value, long long otherwise) {
         box->setText(Shown(value == 0 ? otherwise : value));
     };
     show(txtPullGoalerMinPct, lines.PullGoalerMinPct, LeagueData.PullGoalerMinPctDefault);
     show(txtPullGoalerMinGoal, lines.PullGoalerMinGoal, LeagueData.PullGoalerMinGoalDefault);
-    StrategyReady = true;
-    lblPoint->setText(Shown(PointsLeft));
 }
 
 void LinesScreen::Check()
@@ -203,12 +211,17 @@ void LinesScreen::Check()
 
 void LinesScreen::JudgeShownDay()
 {
-    const bool complete = Kind.Judge(OwnNumber(), false, static_cast<int>(Day), false);
+    const bool complete = Judge(false);
     lblComplete->Tell(complete ? "Lines are Complete" : "Lines are Incomplete", complete);
     vscDay->SetVerdict(lblComplete->text());
     cmdDebug->setEnabled(!complete);
-    // Another day may be judged next, so its words are read here.
-    txtReasons->Tell(complete ? QString() : ToQString(LastLinesText()).replace("\r\n", "\n").trimmed());
+}
+
+bool LinesScreen::Judge(bool showMessage)
+{
+    said = Kind.Judge(OwnNumber(), showMessage, static_cast<int>(Day), false);
+    txtReasons->Tell(said.Complete ? QString() : ToQString(said.Text).replace("\r\n", "\n").trimmed());
+    return said.Complete;
 }
 
 void LinesScreen::RefreshPlaying()
@@ -250,12 +263,21 @@ void LinesScreen::TakePull(EditBox* box, Int16 Lines::*field)
     if (ListEventGuard)
         return;
     const std::string text = FromQString(box->text());
-    if (CheckInput(text, InputMode::Numbers, false)) {
+    if (!CheckInput(text, InputMode::Numbers, false)) {
+        ReturnTo(box);
+        return;
+    }
+    const Qt::MouseButtons buttons = QGuiApplication::mouseButtons();
+    const bool isTaken = RunEvent(box->objectName() + "_LostFocus", [&] {
         ShownLines().*field = RoundToInt16(LeadingNumber(text));
         Modified = true;
-    } else {
-        ReturnTo(box);
-    }
+    });
+    if (isTaken)
+        return;
+    ShowPull(); // a number that the record cannot hold does not stay in the box either
+    wasLetGo = buttons != QGuiApplication::mouseButtons();
+    QMetaObject::invokeMethod(
+        this, [this] { wasLetGo = false; }, Qt::QueuedConnection);
 }
 
 void LinesScreen::txtPullGoalerMinGoal_LostFocus() { TakePull(txtPullGoalerMinGoal, &Lines::PullGoalerMinGoal); }
@@ -282,7 +304,7 @@ void LinesScreen::cmdWipeLines_Click()
 
 void LinesScreen::cmdDebug_Click()
 {
-    Kind.Judge(OwnNumber(), true, static_cast<int>(Day), false);
+    Judge(true);
     RefreshMarks();
 }
 

@@ -2,6 +2,7 @@
 
 #include "league/Field.h"
 #include "league/ScheduleRow.h"
+#include "rules/LineVerdict.h"
 #include "screens/LineBoard.h"
 #include "screens/panels/DayStrip.h"
 #include "screens/panels/EditBox.h"
@@ -34,7 +35,7 @@ struct LinesKind {
     std::string_view OnPick;
     std::string_view ClosingWarning;
     bool ShowsPlaceholder; // an empty slot reads the placeholder's name
-    bool (*Judge)(int team, bool showMessage, int day, bool log);
+    LineVerdict (*Judge)(int team, bool showMessage, int day, bool log);
     std::string (*PlayOnLineString)(int team, int player, int day);
     int (*PlayOnLineInteger)(int team, int player, int day);
     void (*AutoLines)(int team, bool verbose, int day);
@@ -117,6 +118,8 @@ protected:
 
     // Steps that both screens take, in an order of their own.
     void JudgeShownDay();
+    // Judges the shown day, in a box when asked, and shows what was found.
+    bool Judge(bool showMessage);
     void RefreshPlaying();
     // Runs a maker's routine, then shows and judges the day.
     void MakeLines(void (*maker)(int team, bool verbose, int day));
@@ -147,17 +150,25 @@ private:
     // Shows of every slot what stands in it now, whatever name it still reads, and the averages of the lines.
     void RefreshMarks();
     void RefreshMark(const BoardSlot& slot, long long id);
+    [[nodiscard]] bool IsUsedTwice(const BoardSlot& slot) const;
+    // What the judge said about a slot, each sentence once.
+    [[nodiscard]] QStringList FindingsOn(const BoardSlot& slot) const;
     void RefreshAverage(const BoardHeading& heading);
     [[nodiscard]] bool IsRefused(const BoardSlot& slot, long long id) const;
     [[nodiscard]] QString SlotsOf(bool isGoalie, long long id) const;
     void TellOfSlot(const BoardSlot& slot);
     void TellOfEntry(const QPoint& point);
+    void ShowPull();
     void TakePull(EditBox* box, Int16 Lines::*field);
     bool HoldsBack(QObject* watched, const QEvent* event);
+    // Ends a press whose button went up while a failure was read.
+    void LetGoOf(QObject* watched, const QEvent* event);
     // Goes back to a box whose text was refused, on whatever page it is.
     void ReturnTo(EditBox* box);
 
+    LineVerdict said;                  // by the judge about the day as it is shown
     const QObject* heldBack = nullptr; // what was pressed while a text box kept the focus
+    bool wasLetGo = false;             // the press that is under way has lost its release to a failure's box
 };
 
 } // namespace dravik

@@ -5,8 +5,10 @@
 #include "screens/panels/Labels.h"
 #include "screens/panels/Layouts.h"
 
+#include <QCoreApplication>
 #include <QGroupBox>
 #include <QHelpEvent>
+#include <QMouseEvent>
 #include <QTabBar>
 #include <utility>
 
@@ -65,6 +67,7 @@ void LinesScreen::MakeControls()
     lblPlaying->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
     lblComplete = new VerdictLabel(this);
     lblComplete->setObjectName("lblComplete");
+    lblComplete->KeepRoomFor({"Lines are Complete", "Lines are Incomplete"});
 
     txtReasons = new ReasonsBox("these lines", this);
     txtReasons->setObjectName("txtReasons");
@@ -248,6 +251,7 @@ void LinesScreen::SetTabOrder()
 
 bool LinesScreen::eventFilter(QObject* watched, QEvent* event)
 {
+    LetGoOf(watched, event);
     if (HoldsBack(watched, event))
         return true;
     if (event->type() == QEvent::ToolTip) {
@@ -279,6 +283,18 @@ bool LinesScreen::HoldsBack(QObject* watched, const QEvent* event)
     default:
         return false;
     }
+}
+
+// The mouse takes the focus off a text box before it presses. When a box comes up in between, the release goes to that one,
+// and whatever is pressed would stay so; with a release of its own the press is the click that was meant.
+void LinesScreen::LetGoOf(QObject* watched, const QEvent* event)
+{
+    if (event->type() != QEvent::MouseButtonPress || !std::exchange(wasLetGo, false))
+        return;
+    const auto* press = static_cast<const QMouseEvent*>(event);
+    QCoreApplication::postEvent(watched, new QMouseEvent(QEvent::MouseButtonRelease, press->position(),
+                                                         press->scenePosition(), press->globalPosition(),
+                                                         press->button(), Qt::NoButton, press->modifiers()));
 }
 
 void LinesScreen::ReturnTo(EditBox* box)

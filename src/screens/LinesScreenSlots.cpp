@@ -84,11 +84,32 @@ void LinesScreen::RefreshMark(const BoardSlot& slot, long long id)
     // Whoever was taken out by the judge still stands there by name.
     const bool isWiped = id == 0 && slot.Shown != 0;
     const bool isRefused = isWiped || IsRefused(slot, id);
-    slot.Label->SetMark(isRefused ? SlotLabel::Mark::Refused
-                        : id == 0 ? SlotLabel::Mark::Empty
-                                  : SlotLabel::Mark::Filled);
+    slot.Label->SetMark(isRefused           ? SlotLabel::Mark::Refused
+                        : id == 0           ? SlotLabel::Mark::Empty
+                        : IsUsedTwice(slot) ? SlotLabel::Mark::Twice
+                                            : SlotLabel::Mark::Filled);
     slot.Label->SetAside(id == 0 ? QString() : OverallOf(slot.IsGoalies(), id));
     slot.Label->SetPicked(id != 0 && id == SelectedPlayer && slot.IsGoalies() == SelectedIsGoalie);
+}
+
+// Whether the judge found whoever stands there a second time where he may stand but once.
+bool LinesScreen::IsUsedTwice(const BoardSlot& slot) const
+{
+    return std::any_of(said.Findings.begin(), said.Findings.end(), [&](const LineFinding& finding) {
+        const bool isDouble = finding.Fault == LineFault::Double || finding.Fault == LineFault::LinesShared ||
+                              finding.Fault == LineFault::SameGoalies;
+        return isDouble && finding.Slots[slot.Word()];
+    });
+}
+
+QStringList LinesScreen::FindingsOn(const BoardSlot& slot) const
+{
+    QStringList words;
+    for (const LineFinding& finding : said.Findings)
+        if (finding.Slots[slot.Word()])
+            words << ToQString(said.WordsOf(finding));
+    words.removeDuplicates();
+    return words;
 }
 
 // Whether the judge of these lines would take the person out. In a league without farm teams nobody judges their lines.
@@ -127,6 +148,7 @@ void LinesScreen::Heading_Click(int index)
     const BoardHeading& heading = TabLine->Headings[static_cast<std::size_t>(index)];
     RunEvent(heading.Group->Heading, [&] {
         const GroupAverages averages = AveragesOf(ShownLines(), *heading.Group, heading.Number);
+        lblPlaying->clear(); // the panel speaks of a line now
         frmStat->SetName({});
         frmStat->ShowPosition("T");
         frmStat->setTitle(ToQString(heading.Group->Prefix) + heading.Label->text());
@@ -145,7 +167,8 @@ void LinesScreen::TellOfSlot(const BoardSlot& slot)
 {
     const long long standing = slot.In(ShownLines());
     const long long id = standing != 0 ? standing : slot.Shown;
-    slot.Label->setToolTip(id == 0 ? QString() : DescriptionOf(slot.IsGoalies(), id, SlotsOf(slot.IsGoalies(), id)));
+    slot.Label->setToolTip(
+        id == 0 ? QString() : DescriptionOf(slot.IsGoalies(), id, SlotsOf(slot.IsGoalies(), id), FindingsOn(slot)));
 }
 
 void LinesScreen::TellOfEntry(const QPoint& point)

@@ -40,21 +40,22 @@ QString OverallOf(bool isGoalie, long long index)
     return QString::number(CalculateOverall(digit, static_cast<int>(index)));
 }
 
-QString DescriptionOf(bool isGoalie, long long index, const QString& standsIn)
+QString DescriptionOf(bool isGoalie, long long index, const QString& standsIn, const QStringList& findings)
 {
-    const int digit = PositionOf(isGoalie, index);
-    if (digit == 0)
-        return {};
     QStringList lines;
-    WithPerson(isGoalie, index, [&](const auto& person) {
-        lines << ToQString(person.Name.Trimmed()) << "Position: " + ToQString(PositionName[digit]);
-        if (LeagueData.ShowOverall)
-            lines << "Overall: " + OverallOf(isGoalie, index);
-        lines << "Condition: " + QString::number(person.Condition);
-    });
-    if (!standsIn.isEmpty())
-        lines << "Lines: " + standsIn;
-    return Qt::convertFromPlainText(lines.join('\n'));
+    const int digit = PositionOf(isGoalie, index);
+    if (digit != 0) {
+        WithPerson(isGoalie, index, [&](const auto& person) {
+            lines << ToQString(person.Name.Trimmed()) << "Position: " + ToQString(PositionName[digit]);
+            if (LeagueData.ShowOverall)
+                lines << "Overall: " + OverallOf(isGoalie, index);
+            lines << "Condition: " + QString::number(person.Condition);
+        });
+        if (!standsIn.isEmpty())
+            lines << "Lines: " + standsIn;
+    }
+    lines << findings;
+    return lines.isEmpty() ? QString() : Qt::convertFromPlainText(lines.join('\n'));
 }
 
 } // namespace dravik

@@ -15,7 +15,8 @@ QStringList AsideOf(int position, int index);
 QString OverallOf(bool isGoalie, long long index);
 
 // The tooltip of a person: name, position, overall where the league shows it, condition, and behind those the slots that
-// he `standsIn`, if any. Shown as written, whatever characters a name holds.
-QString DescriptionOf(bool isGoalie, long long index, const QString& standsIn);
+// he `standsIn`, if any, and what the judge said. Somebody without a position, or outside the tables, has the judge's words
+// alone. Shown as written, whatever characters a name holds.
+QString DescriptionOf(bool isGoalie, long long index, const QString& standsIn, const QStringList& findings = {});
 
 } // namespace dravik

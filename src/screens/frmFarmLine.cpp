@@ -23,7 +23,7 @@ constexpr LinesKind Farm{
     .OnPick = " in LstPlayer_Click!",
     .ClosingWarning = "Farm Lines for Day #1 are Incomplete!",
     .ShowsPlaceholder = true,
-    .Judge = CheckLineFarm,
+    .Judge = VerdictOnLineFarm,
     .PlayOnLineString = PlayOnLineStringFarm,
     .PlayOnLineInteger = PlayOnLineIntegerFarm,
     .AutoLines = AutoLinesFarm,

@@ -19,7 +19,7 @@ constexpr LinesKind Pro{
     .OnPick = " in lstPlayer_Click!",
     .ClosingWarning = "Lines for Day #1 are Incomplete!",
     .ShowsPlaceholder = false,
-    .Judge = CheckLine,
+    .Judge = VerdictOnLine,
     .PlayOnLineString = PlayOnLineString,
     .PlayOnLineInteger = PlayOnLineInteger,
     .AutoLines = AutoLines,

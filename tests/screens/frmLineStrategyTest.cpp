@@ -3,6 +3,8 @@
 #include <cstring>
 #include <QStyleOptionSlider>
 #include <QTabBar>
+#include <QWindow>
+#include <utility>
 
 namespace dravik {
 namespace {
@@ -282,6 +284,59 @@ TEST_F(LineStrategy, ANumberBeyondSixteenBitsIsAFailureAndStoresNothing)
     Enter(line.txtPullGoalerMinGoal, "40000");
     EXPECT_THAT(Machine.Boxes(), ElementsAre(Box{16, "6 - Overflow in txtPullGoalerMinGoal_LostFocus!"}));
     EXPECT_EQ(ProDay().PullGoalerMinGoal, 0);
+    EXPECT_FALSE(Modified);
+}
+
+TEST_F(LineStrategy, AfterThatFailureTheBoxShowsWhatTheRecordHolds)
+{
+    LeagueData.PullGoalerMinGoalDefault = 4;
+    ProDay().PullGoalerMinPct = 85;
+    frmLine& line = Strategy();
+    Enter(line.txtPullGoalerMinGoal, "40000");
+    Enter(line.txtPullGoalerMinPct, "-32769");
+    EXPECT_EQ(Of(line.txtPullGoalerMinGoal), "4");
+    EXPECT_EQ(Of(line.txtPullGoalerMinPct), "85");
+    EXPECT_EQ(ProDay().PullGoalerMinGoal, 0);
+    EXPECT_EQ(ProDay().PullGoalerMinPct, 85);
+    EXPECT_THAT(Machine.Boxes(), ElementsAre(Box{16, "6 - Overflow in txtPullGoalerMinGoal_LostFocus!"},
+                                             Box{16, "6 - Overflow in txtPullGoalerMinPct_LostFocus!"}));
+}
+
+// The hand lets go while it reads the box of the failure, so the release never comes to what was pressed.
+TEST_F(LineStrategy, TheClickThatBroughtThatFailureUpRunsBehindIt)
+{
+    frmLine& line = Strategy();
+    QWindow* window = line.windowHandle();
+    const auto clickBehindTheBox = [&](QWidget* widget, const QPoint& point) {
+        TypeInto(line.txtPullGoalerMinGoal, "40000");
+        const QPoint at = widget->mapTo(&line, point);
+        bool isHeld = true;
+        Machine.OnEvent = [&](const std::string& event) {
+            if (event == "box" && std::exchange(isHeld, false))
+                QTest::mouseRelease(window, Qt::LeftButton, {}, at);
+        };
+        QTest::mousePress(window, Qt::LeftButton, {}, at);
+        Settle();
+        Machine.OnEvent = {};
+        EXPECT_FALSE(isHeld);
+        EXPECT_FALSE(line.txtPullGoalerMinGoal->hasFocus());
+    };
+    const Box failure{16, "6 - Overflow in txtPullGoalerMinGoal_LostFocus!"};
+    QCheckBox* filter = line.chkPosition[position::Defense];
+    clickBehindTheBox(filter, filter->rect().center());
+    EXPECT_FALSE(filter->isChecked());
+    EXPECT_FALSE(filter->isDown());
+    EXPECT_THAT(Machine.TakeBoxes(), ElementsAre(failure));
+
+    clickBehindTheBox(line.cmdWipeLines, line.cmdWipeLines->rect().center());
+    EXPECT_FALSE(line.cmdWipeLines->isDown());
+    EXPECT_THAT(Machine.TakeBoxes(), ElementsAre(failure, Box{36, "Are you sure you want to wipe your lines?"}));
+
+    line.TabLine->setCurrentIndex(line.TabLine->count() - 1);
+    Settle();
+    clickBehindTheBox(line.hscStats[0], ArrowOf(line.hscStats[0], true));
+    EXPECT_EQ(ProDay().Strategy[0], 1);
+    EXPECT_THAT(Machine.TakeBoxes(), ElementsAre(failure));
 }
 
 TEST_F(LineStrategy, NothingHappensWhileEventsAreHeldBack)

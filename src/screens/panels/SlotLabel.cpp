@@ -120,7 +120,10 @@ void SlotLabel::SetPicked(bool picked)
 
 void SlotLabel::Describe()
 {
-    const char* state = mark == Mark::Refused ? " (may not play)" : mark == Mark::Empty ? " (empty)" : "";
+    const char* state = mark == Mark::Refused ? " (may not play)"
+                        : mark == Mark::Twice ? " (used twice)"
+                        : mark == Mark::Empty ? " (empty)"
+                                              : "";
     const QString overall = aside.isEmpty() ? QString() : ", overall " + aside;
     const QString name = slot + ": " + text() + overall + state;
     if (accessibleName() != name)
@@ -158,18 +161,19 @@ void SlotLabel::paintEvent(QPaintEvent* /*event*/)
     const QColor accent = palette().color(QPalette::Active, QPalette::Highlight);
     const bool isEmpty = mark == Mark::Empty;
     const bool isRefused = mark == Mark::Refused;
+    const bool isWrong = isRefused || mark == Mark::Twice;
     const bool standsOut = hasFocus() || isDropTarget || isPicked;
     QColor ground = isEmpty ? window : palette().color(QPalette::Base);
     if (isPicked || isDropTarget)
         ground = Mixed(ground, accent, PickedPart);
 
-    const QColor frame = isRefused ? Alarming(ground) : standsOut ? accent : Mixed(window, words, FramePart);
+    const QColor frame = isWrong ? Alarming(ground) : standsOut ? accent : Mixed(window, words, FramePart);
     const double width = hasFocus() || isDropTarget ? 2 : 1;
     painter.setPen(QPen(frame, width, isEmpty ? Qt::DashLine : Qt::SolidLine));
     painter.setBrush(ground);
     const QRectF whole = QRectF(rect()).adjusted(1, 1, -1, -1);
     painter.drawRoundedRect(whole, Roundness, Roundness);
-    if (isRefused && hasFocus()) { // both can be told
+    if (isWrong && hasFocus()) { // both can be told
         painter.setPen(QPen(accent, 1, Qt::DotLine));
         painter.setBrush(Qt::NoBrush);
         painter.drawRoundedRect(whole.adjusted(3, 3, -3, -3), Roundness, Roundness);
@@ -188,7 +192,7 @@ void SlotLabel::paintEvent(QPaintEvent* /*event*/)
         painter.drawText(area, Qt::AlignRight | flags, aside);
         area.setRight(area.right() - painter.fontMetrics().horizontalAdvance(aside) - Gap);
     }
-    if (isRefused) {
+    if (isWrong) {
         const int side = painter.fontMetrics().height();
         PaintWarningSign(painter, QRect(area.right() - side + 1, area.center().y() - side / 2, side, side), ground);
         area.setRight(area.right() - side - Gap / 2);

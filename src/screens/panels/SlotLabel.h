@@ -34,6 +34,7 @@ public:
     enum class Mark {
         Filled,
         Empty,  // dashed
+        Twice,  // framed in red, with the warning sign: he may play, but stands where he may not stand again
         Refused // red, with the warning sign
     };
 

@@ -4,6 +4,7 @@
 #include "screens/panels/Shades.h"
 #include "screens/platform/Palettes.h"
 
+#include <algorithm>
 #include <QAccessible>
 #include <QPainter>
 
@@ -30,6 +31,12 @@ VerdictLabel::VerdictLabel(QWidget* parent) : QLabel(parent)
     setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Preferred);
 }
 
+void VerdictLabel::KeepRoomFor(const QStringList& all)
+{
+    room = all;
+    updateGeometry();
+}
+
 void VerdictLabel::Tell(const QString& words, bool isGood)
 {
     const bool isNews = words != text();
@@ -44,7 +51,10 @@ void VerdictLabel::Tell(const QString& words, bool isGood)
 QSize VerdictLabel::sizeHint() const
 {
     const int side = fontMetrics().height();
-    return {side + Gap + fontMetrics().horizontalAdvance(text()) + 1, side};
+    int widest = fontMetrics().horizontalAdvance(text());
+    for (const QString& words : room)
+        widest = std::max(widest, fontMetrics().horizontalAdvance(words));
+    return {side + Gap + widest + 1, side};
 }
 
 void VerdictLabel::paintEvent(QPaintEvent* /*event*/)

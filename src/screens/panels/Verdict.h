@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QLabel>
+#include <QStringList>
 
 namespace dravik {
 
@@ -10,6 +11,8 @@ class VerdictLabel : public QLabel {
 public:
     explicit VerdictLabel(QWidget* parent = nullptr);
 
+    // Keeps room for the widest of all words that may be told, so that what stands beside it does not move.
+    void KeepRoomFor(const QStringList& all);
     void Tell(const QString& words, bool isGood);
     [[nodiscard]] bool IsGood() const { return good; }
 
@@ -20,6 +23,7 @@ protected:
     void paintEvent(QPaintEvent* event) override;
 
 private:
+    QStringList room;
     bool good = false;
 };
 
