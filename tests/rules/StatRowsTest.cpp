@@ -143,6 +143,20 @@ TEST_F(StatRowsTest, AskingForRowsShowsNoBoxAndASlotOutsideTheTableFails)
     EXPECT_THAT(Machine.Boxes(), IsEmpty());
 }
 
+TEST_F(StatRowsTest, RatingsOfNoOneSkaterHaveTheSameRowsAndTheOverallThatCameWithThem)
+{
+    for (const bool all : {true, false}) {
+        ShowAll(all);
+        const StatRows rows = SkaterStatRows(Players[7].Stats, 42);
+        EXPECT_EQ(rows.Ratings, SkaterStatRows(7).Ratings) << all;
+        EXPECT_EQ(rows.Overall, 42) << all;
+        EXPECT_EQ(rows.OverallRow, (StatRow{"OV", 42})) << all;
+    }
+    LeagueData.ShowOverall = false;
+    EXPECT_EQ(SkaterStatRows(Players[7].Stats, 42).Overall, 42);
+    EXPECT_EQ(SkaterStatRows(Players[7].Stats, 42).OverallRow, std::nullopt);
+}
+
 TEST_F(StatRowsTest, RowsOfNobodyAreNone)
 {
     const StatRows rows;
