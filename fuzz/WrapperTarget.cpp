@@ -1,5 +1,5 @@
 // Takes any bytes out of a wrapper, and puts them into one, in pieces of any length: what comes out is what the one-call
-// functions of zlib make of it.
+// functions of zlib make of it, by zlib's reader and by the one that tries the faster inflater first.
 
 #include "fuzz/Target.h"
 #include "league/Arithmetic.h"
@@ -19,9 +19,9 @@ namespace {
 using ByteVector = std::vector<std::uint8_t>;
 
 // The input in pieces whose lengths follow from their number.
-class Pieces final : public ByteSource {
+class Pieces final : public RewindableSource {
 public:
-    Pieces(Input all, std::size_t longest) : bytes(all), most(longest) {}
+    Pieces(Input input, std::size_t longest) : all(input), bytes(input), most(longest) {}
 
     Bytes Next() override
     {
@@ -30,8 +30,14 @@ public:
         bytes = bytes.subspan(count);
         return piece;
     }
+    void Rewind() override
+    {
+        bytes = all;
+        number = 0;
+    }
 
 private:
+    Input all;
     Input bytes;
     std::size_t most;
     std::size_t number = 0;
@@ -44,23 +50,52 @@ public:
     ByteVector All;
 };
 
-// What comes out of the wrapper; nothing when it fails.
-std::optional<ByteVector> Inflated(Input wrapper, std::size_t longest, std::size_t most)
+void TakeAll(ByteSource& stream, ByteVector& all, std::size_t most)
 {
-    ByteVector all;
+    all.clear();
+    for (Bytes piece = stream.Next(); !piece.empty(); piece = stream.Next()) {
+        all.insert(all.end(), piece.begin(), piece.end());
+        Require(all.size() <= most);
+    }
+    Require(stream.Next().empty());
+}
+
+// What comes out of a wrapper and whether it ends well; nothing when it fails.
+struct Outcome {
+    ByteVector Came;
+    bool Whole;
+
+    bool operator==(const Outcome& other) const = default;
+};
+
+// `read` fills what came and tells whether the wrapper ends well.
+template <class Read>
+std::optional<Outcome> OutcomeOf(const Read& read)
+{
+    Outcome outcome{{}, false};
     try {
-        Pieces pieces(wrapper, longest);
-        InflateStream stream(pieces);
-        for (Bytes piece = stream.Next(); !piece.empty(); piece = stream.Next()) {
-            all.insert(all.end(), piece.begin(), piece.end());
-            Require(all.size() <= most);
-        }
-        Require(stream.Next().empty());
+        outcome.Whole = read(outcome.Came);
     } catch (const Failure& failed) {
         Require(failed.Number == failure::OutOfRange);
         return std::nullopt;
     }
-    return all;
+    return outcome;
+}
+
+std::optional<ByteVector> Inflated(Input wrapper, std::size_t longest, std::size_t most)
+{
+    const auto byZlib = OutcomeOf([&](ByteVector& came) {
+        Pieces pieces(wrapper, longest);
+        InflateStream stream(pieces);
+        TakeAll(stream, came, most);
+        return stream.EndsWell();
+    });
+    const auto byBoth = OutcomeOf([&](ByteVector& came) {
+        Pieces pieces(wrapper, longest);
+        return ReadWrapper(pieces, [&](ByteSource& stream) { TakeAll(stream, came, most); });
+    });
+    Require(byZlib == byBoth);
+    return byZlib ? std::optional(byZlib->Came) : std::nullopt;
 }
 
 // The same by one call, as long as it needs no more than `most` bytes.
@@ -90,6 +125,52 @@ void CheckOut(Input wrapper, std::size_t longest)
         Require(ours == Uncompressed(wrapper, static_cast<std::size_t>(bound)));
 }
 
+// The wrapper with the checksum that fits what its stream holds, so that a changed stream can be a good one.
+ByteVector WithItsChecksum(Input wrapper)
+{
+    constexpr std::size_t head = 6;
+    ByteVector mended(wrapper.begin(), wrapper.end());
+    if (wrapper.size() <= head)
+        return mended;
+    ByteVector window(1 << 15);
+    z_stream stream{};
+    Require(inflateInit2(&stream, -MAX_WBITS) == Z_OK);
+    stream.next_in = mended.data() + head;
+    stream.avail_in = static_cast<uInt>(mended.size() - head);
+    int result = Z_OK;
+    uLong sum = adler32(0, nullptr, 0);
+    while (result == Z_OK && stream.total_out < 1U << 21U) {
+        stream.next_out = window.data();
+        stream.avail_out = static_cast<uInt>(window.size());
+        result = inflate(&stream, Z_NO_FLUSH);
+        sum = adler32(sum, window.data(), static_cast<uInt>(window.size() - stream.avail_out));
+    }
+    const std::size_t end = head + stream.total_in;
+    inflateEnd(&stream);
+    if (result != Z_STREAM_END)
+        return mended;
+    mended.resize(std::max(mended.size(), end + 4));
+    for (std::size_t i = 0; i < 4; ++i)
+        mended[end + i] = static_cast<std::uint8_t>(sum >> (24 - 8 * i));
+    return mended;
+}
+
+// The wrapper with some bits of its stream flipped, one at a time, which `choice` chooses. Flips that leave a stream nearly
+// good are in the heads of its blocks.
+void CheckFlipped(const ByteVector& wrapper, std::size_t longest, std::size_t choice)
+{
+    constexpr std::size_t head = 48;
+    constexpr std::size_t flips = 8;
+    const std::size_t bits = (wrapper.size() - head / 8) * 8;
+    for (std::size_t i = 0; i < flips; ++i) {
+        ByteVector flipped = wrapper;
+        const std::size_t reach = i % 2 == 0 ? bits : std::min<std::size_t>(bits, 640);
+        const std::size_t bit = head + (choice + i * 7919) % reach;
+        flipped[bit / 8] ^= static_cast<std::uint8_t>(1U << bit % 8);
+        CheckOut(flipped, longest);
+    }
+}
+
 void CheckIn(Input content, std::size_t longest)
 {
     if (content.empty())
@@ -108,6 +189,7 @@ void CheckIn(Input content, std::size_t longest)
     wanted.resize(4 + length);
     Require(wrapper.All == wanted);
     Require(Inflated(wrapper.All, longest, content.size() * 2 + 12) == ByteVector(content.begin(), content.end()));
+    CheckFlipped(wrapper.All, longest, adler32(1, content.data(), static_cast<uInt>(content.size())));
 }
 
 } // namespace
@@ -117,9 +199,10 @@ void RunTarget(Input input)
     if (input.empty())
         return;
     const std::size_t longest = 1 + input[0] / 2 * 13U;
-    if (input[0] % 2 == 0)
+    if (input[0] % 2 == 0) {
         CheckOut(input.subspan(1), longest);
-    else
+        CheckOut(WithItsChecksum(input.subspan(1)), longest);
+    } else
         CheckIn(input.subspan(1), longest);
 }
 

@@ -45,6 +45,19 @@ def wrapper(content, level=9):
     return struct.pack("<i", len(content)) + zlib.compress(content, level)
 
 
+def literals_alone(content):
+    """Codes of its own, and no repeats: the code of distances is there all the same."""
+    stream = zlib.compressobj(9, strategy=zlib.Z_HUFFMAN_ONLY)
+    return struct.pack("<i", len(content)) + stream.compress(content) + stream.flush()
+
+
+def in_blocks(*contents):
+    """Every one in a block of its own, empty ones between them."""
+    stream = zlib.compressobj(9)
+    blocks = [stream.compress(content) + stream.flush(zlib.Z_SYNC_FLUSH) for content in contents]
+    return struct.pack("<i", sum(map(len, contents))) + b"".join(blocks) + stream.flush()
+
+
 def client(end=16902):
     date = struct.pack("<d", 45000.5)
     player = struct.pack("<hh", -1, 1) + b"Ward Tilton".ljust(40)
@@ -77,6 +90,10 @@ def seeds():
     text = b"Lines of ten days, one after the other, one after the other. " * 4
     yield "wrapper", "out", bytes([40]) + wrapper(text)
     yield "wrapper", "out_stored", bytes([2]) + wrapper(text, 0)
+    numbers = b" ".join(b"%d" % (number * number) for number in range(120))
+    yield "wrapper", "out_own_codes", bytes([2]) + wrapper(numbers)
+    yield "wrapper", "out_literals", bytes([90]) + literals_alone(numbers)
+    yield "wrapper", "out_blocks", bytes([254]) + in_blocks(numbers + bytes(70000), numbers, numbers)
     yield "wrapper", "in", bytes([41]) + text
     yield "wrapper", "in_zeros", bytes([255]) + bytes(300)
     for target, count in (("judges", 14), ("makers", 6)):

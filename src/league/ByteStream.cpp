@@ -10,12 +10,18 @@ constexpr std::size_t ReadSize = 1 << 16;
 constexpr std::size_t WriteSize = 1 << 18;
 } // namespace
 
-FileSource::FileSource(const std::string& path) : file(Machine().OpenFile(path)), buffer(ReadSize) {}
+FileSource::FileSource(const std::string& path) : name(path), file(Machine().OpenFile(path)), buffer(ReadSize) {}
 
 Bytes FileSource::Next()
 {
     const std::size_t count = file->Read(buffer.data(), buffer.size());
     return Bytes(buffer).first(count);
+}
+
+void FileSource::Rewind()
+{
+    file.reset();
+    file = Machine().OpenFile(name);
 }
 
 WholeFile::WholeFile(const std::string& path, const std::string& work) :

@@ -21,6 +21,13 @@ public:
     virtual Bytes Next() = 0;
 };
 
+// Bytes that can be had once more.
+class RewindableSource : public ByteSource {
+public:
+    // Begins anew with the first byte.
+    virtual void Rewind() = 0;
+};
+
 // Where bytes go one piece after the other.
 class ByteSink {
 public:
@@ -33,13 +40,15 @@ public:
 };
 
 // The bytes of a file as they stand on the disk. Failures of the file are thrown.
-class FileSource final : public ByteSource {
+class FileSource final : public RewindableSource {
 public:
     explicit FileSource(const std::string& path);
 
     Bytes Next() override;
+    void Rewind() override;
 
 private:
+    std::string name;
     std::unique_ptr<File> file;
     std::vector<unsigned char> buffer;
 };

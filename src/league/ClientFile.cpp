@@ -43,20 +43,27 @@ bool ReadSlots(SlotReader& slots)
     return slots.ReadMagic(EndMagic);
 }
 
+// What became of the reading of a league.
+struct LeagueRead {
+    SlotFileRead File = SlotFileRead::NotDecompressed;
+    bool Whole = false; // both magics are right
+};
+
 // A file that cannot be read to its end is not read at all, although its head may have been: when the reading fails,
 // the tables are as they were before it.
-bool ReadLeague(SlotReader& slots)
+LeagueRead ReadLeague(const std::string& path)
 {
     const League league = LeagueData;
     const CoachTable coaches = Coaches;
-    try {
-        return ReadSlots(slots);
-    } catch (...) {
+    const auto takeBack = [&] {
         LeagueData = league;
         Coaches = coaches;
         EmptyLeagueTables();
-        throw;
-    }
+    };
+    LeagueRead outcome;
+    const auto read = [&](SlotReader& slots) { outcome.Whole = ReadSlots(slots); };
+    outcome.File = ReadSlotFile(path, read, SlotLength, takeBack);
+    return outcome;
 }
 
 void TellCritical(std::string_view text)
@@ -176,7 +183,14 @@ void ShowFileDate(MainWindow& window)
     }
 }
 
-void ShowLeague(const std::string& path, MainWindow& window)
+// A stream that does not fit its checksum gave something all the same, and nobody can tell which records are wrong.
+void TellOfDamage(bool damaged, MainWindow& window)
+{
+    window.Tell(QuietLine::Damaged,
+                damaged ? "This client file was damaged on its way, and some of it may be wrong. Get it anew." : "");
+}
+
+void ShowLeague(const std::string& path, bool damaged, MainWindow& window)
 {
     constexpr std::size_t extension = 4; // whether the name has one or not
     WindowTitle = std::string(ProgramTitle) + " - " + WithoutLastCharacters(GetFileName(path), extension);
@@ -185,6 +199,7 @@ void ShowLeague(const std::string& path, MainWindow& window)
     window.CentreOnScreen();
     window.ShowLeagueMenus();
     CloseWait();
+    TellOfDamage(damaged, window);
     RememberLeague(path, window);
     SetMenus(window);
     ShowFileDate(window);
@@ -202,16 +217,16 @@ void OpenLeagueClient(const std::string& path, MainWindow& window)
         }
         DeleteIfExists(TempFile);
         ShowWait();
-        bool whole = false;
-        if (!ReadSlotFile(ExistingPath(path), [&](SlotReader& slots) { whole = ReadLeague(slots); }))
+        const LeagueRead outcome = ReadLeague(ExistingPath(path));
+        if (outcome.File == SlotFileRead::NotDecompressed)
             return; // told, and the wait screen stays
-        if (!whole) {
+        if (!outcome.Whole) {
             TellCritical("File Integrity is incorrect!");
             EmptyLeagueTables();
             return;
         }
         PrepareLeague();
-        ShowLeague(path, window);
+        ShowLeague(path, outcome.File == SlotFileRead::Damaged, window);
     });
 }
 

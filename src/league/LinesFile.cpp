@@ -114,7 +114,9 @@ LinesFileRead ReadLinesFile(const std::string& path)
     if (!FileExist(path))
         return LinesFileRead::Refused;
     const auto content = std::make_unique<Content>();
-    if (!ReadSlotFile(ExistingPath(path), [&](SlotReader& slots) { ReadContent(slots, *content); }))
+    const auto read = [&](SlotReader& slots) { ReadContent(slots, *content); };
+    const auto takeBack = [&] { *content = {}; };
+    if (ReadSlotFile(ExistingPath(path), read, SlotLength, takeBack) == SlotFileRead::NotDecompressed)
         return LinesFileRead::NotDecompressed;
     if (!content->HeadFits)
         return LinesFileRead::Refused;

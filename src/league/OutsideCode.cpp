@@ -65,12 +65,15 @@ bool ZlibDecompress(const std::string& source, const std::string& target)
 {
     return Decompressing([&] {
         FileSource from(source);
-        InflateStream bytes(from);
-        Bytes piece = bytes.Next();
-        WholeFile to(target);
-        for (; !piece.empty(); piece = bytes.Next())
-            to.Write(piece);
-        to.Commit();
+        std::optional<WholeFile> to;
+        const auto read = [&](ByteSource& bytes) {
+            Bytes piece = bytes.Next();
+            to.emplace(target);
+            for (; !piece.empty(); piece = bytes.Next())
+                to->Write(piece);
+        };
+        ReadWrapper(from, read, [&] { to.reset(); });
+        to->Commit();
     });
 }
 

@@ -77,7 +77,8 @@ void SlotWriter::WriteBytes(Bytes record)
     behind = slotLength - record.size();
 }
 
-bool ReadSlotFile(const std::string& path, const std::function<void(SlotReader&)>& read, std::size_t slot)
+SlotFileRead ReadSlotFile(const std::string& path, const std::function<void(SlotReader&)>& read, std::size_t slot,
+                          const std::function<void()>& takeBack)
 {
     const auto readFrom = [&](ByteSource& bytes) {
         SlotReader slots(bytes, slot);
@@ -85,14 +86,20 @@ bool ReadSlotFile(const std::string& path, const std::function<void(SlotReader&)
     };
     if (SkipZIPClient()) {
         FileSource file(path);
-        readFrom(file);
-        return true;
+        try {
+            readFrom(file);
+        } catch (...) {
+            takeBack();
+            throw;
+        }
+        return SlotFileRead::Whole;
     }
-    return Decompressing([&] {
+    bool whole = false;
+    const bool done = Decompressing([&] {
         FileSource file(path);
-        InflateStream bytes(file);
-        readFrom(bytes);
+        whole = ReadWrapper(file, readFrom, takeBack);
     });
+    return !done ? SlotFileRead::NotDecompressed : whole ? SlotFileRead::Whole : SlotFileRead::Damaged;
 }
 
 bool WriteSlotFile(const std::string& target, std::int64_t length, const std::function<void(SlotWriter&)>& write,

@@ -73,10 +73,17 @@ constexpr std::int64_t SlotFileLength(std::int64_t records, std::size_t lastLeng
     return (records - 1) * static_cast<std::int64_t>(slot) + static_cast<std::int64_t>(lastLength);
 }
 
-// Opens the slot file `path` and has `read` read it; plain or through the wrapper, as `SkipZIPClient` says. False when a
-// wrapped file cannot be read or gives not a single byte, which is told with the ending of the decompression; `read` may
-// have begun by then. Failures on a plain file are thrown.
-bool ReadSlotFile(const std::string& path, const std::function<void(SlotReader&)>& read, std::size_t slot = SlotLength);
+// What became of the reading of a slot file. `Damaged` is a wrapped one whose stream does not fit its own checksum, or does not
+// come to its end: something came out of it, but not what went in.
+enum class SlotFileRead { NotDecompressed, Damaged, Whole };
+
+// Opens the slot file `path` and has `read` read it; plain or through the wrapper, as `SkipZIPClient` says. `read` may be
+// called twice; `takeBack` is called after a reading that counts for nothing, and before anything is told of a failure.
+// `NotDecompressed` when a wrapped file cannot be read or gives not a single byte, which is told with the ending of the
+// decompression. Failures on a plain file, which is `Whole` whatever it holds, are thrown.
+SlotFileRead ReadSlotFile(
+    const std::string& path, const std::function<void(SlotReader&)>& read, std::size_t slot = SlotLength,
+    const std::function<void()>& takeBack = [] {});
 
 // Has `write` write a slot file of `length` bytes, which then appears as `target`, whole; plain or wrapped, as
 // `SkipZIPClient` says. False after a failure with a wrapped file, which is told with the ending of the compression;

@@ -2,6 +2,7 @@
 
 #include "league/Arithmetic.h"
 #include "league/Failure.h"
+#include "league/FastInflate.h"
 #include "league/Field.h"
 
 #include <algorithm>
@@ -36,12 +37,29 @@ std::int64_t WrapperBound(std::int32_t length)
     return RoundTo<std::int64_t>(exact * 0.01 + exact + 12);
 }
 
+bool ReadWrapper(RewindableSource& wrapper, const std::function<void(ByteSource&)>& read,
+                 const std::function<void()>& takeBack)
+{
+    try {
+        if (HasFastInflater()) {
+            if (ReadFast(wrapper, read))
+                return true;
+            takeBack();
+            wrapper.Rewind();
+        }
+        InflateStream bytes(wrapper);
+        read(bytes);
+        return bytes.EndsWell();
+    } catch (...) {
+        takeBack();
+        throw;
+    }
+}
+
 InflateStream::Inflater::Inflater()
 {
     if (inflateInit(&Stream) != Z_OK)
         Fail(failure::OutOfMemory);
-    // A wrong checksum changes nothing of what comes out, so none is computed.
-    inflateValidate(&Stream, 0);
 }
 
 InflateStream::Inflater::~Inflater() { inflateEnd(&Stream); }
@@ -75,16 +93,29 @@ Bytes InflateStream::Next()
     const auto room = static_cast<uInt>(std::min<std::int64_t>(bound - produced, InflateWindow));
     stream.next_out = window.data();
     stream.avail_out = room;
-    while (!ended && stream.avail_out > 0) {
+    while (result == Z_OK && stream.avail_out > 0) {
         if (stream.avail_in == 0)
             Refill();
-        ended = inflate(&stream, Z_NO_FLUSH) != Z_OK;
+        result = inflate(&stream, Z_NO_FLUSH);
     }
     const std::size_t count = room - stream.avail_out;
     produced += static_cast<std::int64_t>(count);
     if (produced == 0)
         Fail(failure::OutOfRange);
     return Bytes(window).first(count);
+}
+
+bool InflateStream::EndsWell()
+{
+    const std::int64_t most = produced + static_cast<std::int64_t>(MostBehindRecords);
+    bound = most;
+    try {
+        while (result == Z_OK && produced < most)
+            Next();
+    } catch (const std::exception&) {
+        return false;
+    }
+    return result == Z_OK || result == Z_STREAM_END;
 }
 
 void InflateStream::Refill()

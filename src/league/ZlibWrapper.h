@@ -3,6 +3,7 @@
 #include "league/ByteStream.h"
 #include "league/Reporting.h"
 
+#include <functional>
 #include <zlib.h>
 
 // The compressed wrapper of the files: the uncompressed length in 4 bytes, little-endian, and one zlib stream of level 9.
@@ -14,15 +15,31 @@ namespace dravik {
 // even. It is negative for the lengths that some bad files claim.
 std::int64_t WrapperBound(std::int32_t length);
 
-// What comes out of a wrapper. No more than the bound of its length field comes, and a stream that does not decode simply
-// ends with what was decoded before the error; nothing compares the length field or the checksum with what came out. Fails
-// with 9 when not a single byte comes, and as `wrapper` does.
+// How many bytes behind those that were asked for are looked through for the end of a stream and its checksum.
+inline constexpr std::size_t MostBehindRecords = 1 << 20;
+
+// Has `read` read what comes out of `wrapper`: no more than the bound of its length field, and of a stream that does not
+// decode what was decoded before the error. True when the stream is whole and its checksum right. Where a faster inflater is
+// at hand `read` is given its bytes first; whenever that one does not come to a good end, the wrapper is read once more by
+// zlib. `takeBack` is called after every reading that counts for nothing, also after one that fails; exceptions of any type must be
+// let pass by `read`. Fails as InflateStream, `wrapper` and `read` do.
+bool ReadWrapper(
+    RewindableSource& wrapper, const std::function<void(ByteSource&)>& read,
+    const std::function<void()>& takeBack = [] {});
+
+// What comes out of a wrapper by zlib. No more than the bound of its length field comes, and a stream that does not decode simply
+// ends with what was decoded before the error; nothing that comes out depends on the checksum. Fails with 9 when not a
+// single byte comes, and as `wrapper` does.
 class InflateStream final : public ByteSource {
 public:
     // `wrapper` holds the whole wrapper, its length field first, and must outlive the stream.
     explicit InflateStream(ByteSource& wrapper);
 
     Bytes Next() override;
+    // Reads on to the end of the stream, past the bound too, if it is not far away. False when the stream does not decode, when it
+    // is cut, or when its checksum does not fit what came; true also when its end is too far away to know. Never fails: a
+    // source that does so behind what was asked for is one that is cut.
+    bool EndsWell();
 
 private:
     struct Inflater {
@@ -40,7 +57,7 @@ private:
     ByteSource& source;
     Bytes input;
     bool sourceEnded = false;
-    bool ended = false;
+    int result = Z_OK; // of the last step
     std::int64_t produced = 0;
     std::int64_t bound;
     Inflater inflater;

@@ -1,6 +1,7 @@
 #include "league/ZlibWrapper.h"
 
 #include "support/BytePieces.h"
+#include "support/SampleBytes.h"
 
 #include <algorithm>
 #include <gtest/gtest.h>
@@ -10,20 +11,40 @@
 namespace dravik {
 namespace {
 
+// Runs `read`, which may fail with 9 only, and then has left nothing in `out`.
+template <class Read>
+void ReadInto(ByteVector& out, const Read& read)
+{
+    try {
+        read();
+    } catch (const Failure& failed) {
+        EXPECT_EQ(failed.Number, failure::OutOfRange);
+        EXPECT_TRUE(out.empty());
+    }
+}
+
+void TakeAll(ByteSource& source, ByteVector& out)
+{
+    out.clear();
+    for (Bytes piece = source.Next(); !piece.empty(); piece = source.Next())
+        out.insert(out.end(), piece.begin(), piece.end());
+    EXPECT_TRUE(source.Next().empty()) << "the end is the answer from then on";
+}
+
+// What comes out of a wrapper by zlib's reader, and by the reader that tries the faster inflater first.
 ByteVector Inflated(const ByteVector& wrapper, std::size_t pieceLength = 1 << 16)
 {
     Pieces pieces(wrapper, pieceLength);
-    Collector out;
-    try {
+    ByteVector byZlib;
+    ReadInto(byZlib, [&] {
         InflateStream stream(pieces);
-        for (Bytes piece = stream.Next(); !piece.empty(); piece = stream.Next())
-            out.Write(piece);
-        EXPECT_TRUE(stream.Next().empty()) << "the end is the answer from then on";
-    } catch (const Failure& failed) {
-        EXPECT_EQ(failed.Number, failure::OutOfRange);
-        EXPECT_TRUE(out.All.empty());
-    }
-    return out.All;
+        TakeAll(stream, byZlib);
+    });
+    pieces.Rewind();
+    ByteVector byBoth;
+    ReadInto(byBoth, [&] { ReadWrapper(pieces, [&](ByteSource& bytes) { TakeAll(bytes, byBoth); }); });
+    EXPECT_TRUE(byBoth == byZlib);
+    return byZlib;
 }
 
 ByteVector Deflated(const ByteVector& bytes, std::size_t pieceLength)
@@ -34,40 +55,6 @@ ByteVector Deflated(const ByteVector& bytes, std::size_t pieceLength)
         stream.Write(Bytes(bytes).subspan(at, std::min(pieceLength, bytes.size() - at)));
     stream.Finish();
     return out.All;
-}
-
-enum class Kind { Zeros, Text, Random, Mixed, FarRepeats, RepeatAtReach };
-
-// Deterministic on every library: only the engine's own bits are used.
-ByteVector Sample(Kind kind, std::size_t size, unsigned seed)
-{
-    std::mt19937 random(seed);
-    ByteVector bytes(size);
-    const auto text = [&] { return static_cast<unsigned char>("abcdefgh  \n"[(random() >> 8) % 11]); };
-    for (std::size_t at = 0; at < size; ++at) {
-        switch (kind) {
-        case Kind::Zeros:
-            break;
-        case Kind::Text:
-            bytes[at] = text();
-            break;
-        case Kind::Random:
-            bytes[at] = static_cast<unsigned char>(random());
-            break;
-        case Kind::Mixed:
-            bytes[at] = at / 5000 % 3 == 0 ? text() : at / 5000 % 3 == 1 ? static_cast<unsigned char>(random()) : '\0';
-            break;
-        case Kind::FarRepeats:
-            bytes[at] = at < 32506 ? static_cast<unsigned char>(random()) : bytes[at - 32506];
-            break;
-        case Kind::RepeatAtReach:
-            // One repeat at the very reach of the compressor, beginning where its window is about to slide: whether it
-            // is found depends on how much input the compressor was given by then.
-            bytes[at] = at < 65274 ? static_cast<unsigned char>(random()) : bytes[at - 32506];
-            break;
-        }
-    }
-    return bytes;
 }
 
 ByteVector WithLength(ByteVector wrapper, std::int32_t length)

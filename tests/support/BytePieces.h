@@ -9,7 +9,7 @@
 namespace dravik {
 
 // Hands out bytes in pieces of a given length.
-class Pieces final : public ByteSource {
+class Pieces final : public RewindableSource {
 public:
     Pieces(ByteVector all, std::size_t length) : bytes(std::move(all)), pieceLength(length) {}
 
@@ -20,6 +20,7 @@ public:
         at += count;
         return piece;
     }
+    void Rewind() override { at = 0; }
 
     [[nodiscard]] std::size_t HandedOut() const { return at; }
 
