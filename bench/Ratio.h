@@ -4,7 +4,9 @@
 #include <benchmark/benchmark.h>
 #include <chrono>
 #include <cstdlib>
+#include <fstream>
 #include <functional>
+#include <string>
 #include <vector>
 
 namespace dravik {
@@ -29,10 +31,21 @@ inline void HoldTo(benchmark::State& state, double figure, double limit)
     WithinLimits = false;
 }
 
+// The name of the processor, as far as the system tells it.
+inline std::string ProcessorName()
+{
+    std::ifstream about("/proc/cpuinfo");
+    for (std::string line; std::getline(about, line);)
+        if (line.starts_with("model name") && line.find(": ") != std::string::npos)
+            return line.substr(line.find(": ") + 2);
+    return "unknown";
+}
+
 // The `main` of a bench. Its exit code is 0 when every figure was within its limit, and 1 when one was not.
 inline int RunBenchmarks(int argc, char** argv)
 {
     benchmark::Initialize(&argc, argv);
+    benchmark::AddCustomContext("processor", ProcessorName());
     benchmark::RunSpecifiedBenchmarks();
     return WithinLimits ? 0 : 1;
 }
