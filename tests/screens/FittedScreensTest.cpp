@@ -241,7 +241,7 @@ TEST_F(FittedScreens, ALongTitleEndsInASignAndATooltipTellsItWhole)
 {
     Own().Name = WidestName;
     OpenScreen("Roster");
-    auto* title = dynamic_cast<ElidingLabel*>(Roster().lblTeamName);
+    auto* title = dynamic_cast<ElidedLabel*>(Roster().lblTeamName);
     ASSERT_NE(title, nullptr);
     EXPECT_EQ(Of(title), "Roster for " + WidestName);
     EXPECT_TRUE(title->IsCut());
@@ -256,7 +256,7 @@ TEST_F(FittedScreens, ALongTitleEndsInASignAndATooltipTellsItWhole)
 // What is painted at the right end of a label that is cut, in a letter that leaves most of its place empty.
 TEST_F(FittedScreens, ACutLabelPaintsItsSignAndAWholeOneItsText)
 {
-    ElidingLabel label(QString(60, 'l'));
+    ElidedLabel label(QString(60, 'l'));
     label.resize(label.sizeHint());
     EXPECT_FALSE(label.IsCut());
     QLabel plain(label.text());
@@ -270,10 +270,10 @@ TEST_F(FittedScreens, ACutLabelPaintsItsSignAndAWholeOneItsText)
     EXPECT_EQ(label.grab().toImage(), cut.grab().toImage());
 }
 
-TEST_F(FittedScreens, AnElidingLabelUnderlinesTheLetterThatLeadsToItsBuddy)
+TEST_F(FittedScreens, AnElidedLabelUnderlinesTheLetterThatLeadsToItsBuddy)
 {
     QLineEdit buddy;
-    ElidingLabel label("&Players & more");
+    ElidedLabel label("&Players & more");
     QLabel plain(label.text());
     for (QLabel* each : std::initializer_list<QLabel*>{&label, &plain})
         each->setBuddy(&buddy);
@@ -293,7 +293,7 @@ TEST_F(FittedScreens, TheHeadingOfTheStatPanelIsCutWithASign)
     Players[900].Name = WidestName;
     OpenScreen("Roster");
     ClickEntry(1, 0);
-    auto* heading = dynamic_cast<ElidingLabel*>(Roster().Stats->findChild<QLabel*>("lblStatName"));
+    auto* heading = dynamic_cast<ElidedLabel*>(Roster().Stats->findChild<QLabel*>("lblStatName"));
     ASSERT_NE(heading, nullptr);
     EXPECT_EQ(Of(heading), WidestName);
     EXPECT_TRUE(heading->IsCut());

@@ -22,6 +22,8 @@ ElidedLabel::ElidedLabel(QWidget* parent, Words shownWords) : QLabel(parent), wo
     setTextFormat(Qt::PlainText);
 }
 
+ElidedLabel::ElidedLabel(const QString& text, QWidget* parent) : ElidedLabel(parent) { setText(text); }
+
 QSize ElidedLabel::minimumSizeHint() const
 {
     const QSize whole = QLabel::minimumSizeHint();
@@ -30,7 +32,10 @@ QSize ElidedLabel::minimumSizeHint() const
     return {std::min(whole.width(), least), whole.height()};
 }
 
-bool ElidedLabel::IsCut() const { return fontMetrics().horizontalAdvance(text()) > contentsRect().width(); }
+bool ElidedLabel::IsCut() const
+{
+    return fontMetrics().size(Qt::TextSingleLine | MnemonicFlags(*this), text()).width() > contentsRect().width();
+}
 
 void ElidedLabel::paintEvent(QPaintEvent* event)
 {
@@ -43,14 +48,24 @@ void ElidedLabel::paintEvent(QPaintEvent* event)
     if (words == Words::Muted)
         shaded.setColor(QPalette::WindowText, MutedText(palette()));
     const QRect area = contentsRect();
-    const QString shown = fontMetrics().elidedText(text(), Qt::ElideRight, area.width());
+    const int mnemonic = MnemonicFlags(*this);
+    const QString shown = fontMetrics().elidedText(text(), Qt::ElideRight, area.width(), mnemonic);
     const int place = static_cast<int>(QStyle::visualAlignment(layoutDirection(), alignment()));
-    style()->drawItemText(&painter, area, place | Qt::TextSingleLine, shaded, isEnabled(), shown, QPalette::WindowText);
+    style()->drawItemText(&painter, area, place | Qt::TextSingleLine | mnemonic, shaded, isEnabled(), shown,
+                          QPalette::WindowText);
 }
 
 bool ElidedLabel::event(QEvent* event)
 {
     return (event->type() == QEvent::ToolTip && IsCut() && TellWhole(text(), event, this)) || QLabel::event(event);
+}
+
+int MnemonicFlags(const QLabel& label)
+{
+    if (label.buddy() == nullptr)
+        return 0;
+    const bool isUnderlined = label.style()->styleHint(QStyle::SH_UnderlineShortcut, nullptr, &label) != 0;
+    return Qt::TextShowMnemonic | (isUnderlined ? 0 : Qt::TextHideMnemonic);
 }
 
 // A name with a tag in it stays a name.

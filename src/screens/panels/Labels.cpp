@@ -3,27 +3,11 @@
 #include "screens/panels/Shades.h"
 
 #include <algorithm>
-#include <QHelpEvent>
 #include <QPainter>
 #include <QPainterPath>
 #include <QStyle>
-#include <QTextDocument>
-#include <QToolTip>
 
 namespace dravik {
-
-namespace {
-
-// How a label shows the "&" in its text: as the letter that leads to its buddy, if it has one.
-int MnemonicFlags(const QLabel& label)
-{
-    if (label.buddy() == nullptr)
-        return 0;
-    const bool isUnderlined = label.style()->styleHint(QStyle::SH_UnderlineShortcut, nullptr, &label) != 0;
-    return Qt::TextShowMnemonic | (isUnderlined ? 0 : Qt::TextHideMnemonic);
-}
-
-} // namespace
 
 void MutedLabel::paintEvent(QPaintEvent* /*event*/)
 {
@@ -34,35 +18,6 @@ void MutedLabel::paintEvent(QPaintEvent* /*event*/)
     if (wordWrap())
         flags |= Qt::TextWordWrap;
     style()->drawItemText(&painter, contentsRect(), flags, shaded, true, text(), QPalette::WindowText);
-}
-
-bool ElidingLabel::IsCut() const
-{
-    return fontMetrics().size(Qt::TextSingleLine | MnemonicFlags(*this), text()).width() > contentsRect().width();
-}
-
-QSize ElidingLabel::minimumSizeHint() const
-{
-    const QSize whole = sizeHint();
-    return {std::min(whole.width(), fontMetrics().horizontalAdvance("WWWW...")), whole.height()};
-}
-
-bool ElidingLabel::event(QEvent* event)
-{
-    if (event->type() != QEvent::ToolTip || !IsCut() || !toolTip().isEmpty())
-        return QLabel::event(event);
-    QToolTip::showText(static_cast<QHelpEvent*>(event)->globalPos(), Qt::convertFromPlainText(text()), this);
-    return true;
-}
-
-void ElidingLabel::paintEvent(QPaintEvent* /*event*/)
-{
-    QPainter painter(this);
-    const QRect area = contentsRect();
-    const int mnemonic = MnemonicFlags(*this);
-    const int flags = static_cast<int>(QStyle::visualAlignment(layoutDirection(), alignment()));
-    style()->drawItemText(&painter, area, flags | Qt::TextSingleLine | mnemonic, palette(), isEnabled(),
-                          fontMetrics().elidedText(text(), Qt::ElideRight, area.width(), mnemonic), foregroundRole());
 }
 
 WarningSign::WarningSign(QWidget* parent) : QWidget(parent)
@@ -106,17 +61,15 @@ void PaintWarningSign(QPainter& painter, const QRectF& area, const QColor& backg
 
 QLabel* MakeTitle(QWidget* parent)
 {
-    auto* label = new ElidingLabel(parent);
+    auto* label = new ElidedLabel(parent);
     label->setFont(TitleFont(label->font()));
-    label->setTextFormat(Qt::PlainText);
     return label;
 }
 
 QLabel* MakeHeading(const QString& text, QWidget* parent)
 {
-    auto* label = new ElidingLabel(text, parent);
+    auto* label = new ElidedLabel(text, parent);
     label->setFont(HeadingFont(label->font()));
-    label->setTextFormat(Qt::PlainText);
     return label;
 }
 

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "screens/panels/ElidedLabel.h"
+
 #include <QLabel>
 
 namespace dravik {
@@ -10,21 +12,6 @@ public:
     using QLabel::QLabel;
 
 protected:
-    void paintEvent(QPaintEvent* event) override;
-};
-
-// A label of one plain line that gives way: where it is too narrow, its text ends in a sign and a tooltip tells the whole.
-// text() stays whole.
-class ElidingLabel : public QLabel {
-public:
-    using QLabel::QLabel;
-
-    [[nodiscard]] bool IsCut() const;
-    // Room for the first letters and the sign.
-    [[nodiscard]] QSize minimumSizeHint() const override;
-
-protected:
-    bool event(QEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
 };
 
