@@ -364,6 +364,24 @@ TEST_F(AutoRosterTest, AScratchOfOverallZeroIsNotDressedForAHole)
     EXPECT_EQ(Players[19].Status, 0);
 }
 
+TEST_F(AutoRosterTest, AScratchOfOverallOneIsDressedForAHole)
+{
+    Players[4].InUse = false;
+    PutSkater(19, 5, position::Center, status::Scratch, 1);
+    Run();
+    EXPECT_EQ(Players[19].Status, 2);
+}
+
+TEST_F(AutoRosterTest, ADressedSkaterOfOverallOneIsUndressed)
+{
+    LeagueData.FarmMaxOverall = 0;
+    PutSkater(19, 5, position::Center, status::Pro, 1);
+    PutOnLines(19);
+    Run();
+    EXPECT_EQ(Players[19].Status, 1);
+    EXPECT_FALSE(IsOnLines(19));
+}
+
 TEST_F(AutoRosterTest, APositionThatRunsDryLeavesItsPicksToNobodyElse)
 {
     // Of the three centers that are asked for one has no rating: the other passes go on as if nothing had happened.
@@ -482,6 +500,19 @@ TEST_F(AutoRosterTest, InPartialModeADressedSkaterOfOverallZeroIsPicked)
     PutSkater(4, 5, position::Center, status::Farm, 90);
     Run(true, true);
     EXPECT_EQ(Players[1].Status, 2);
+}
+
+TEST_F(AutoRosterTest, InPartialModeTheProSideIsWorthAHundredMore)
+{
+    // A hole, the best man of the farm, and behind him a scratch whose overall and a hundred come to more or just to as much.
+    for (const int overall : {0, -1}) {
+        Players[4].InUse = false;
+        PutSkater(19, 5, position::Center, status::Farm, 99);
+        PutSkater(20, 5, position::Center, status::Scratch, overall);
+        Run(true, true);
+        EXPECT_EQ(Players[19].Status, overall == 0 ? 0 : 2);
+        EXPECT_EQ(Players[20].Status, overall == 0 ? 2 : 1);
+    }
 }
 
 TEST_F(AutoRosterTest, SilentRunsShowNothing)
