@@ -5,8 +5,11 @@
 #include "screens/panels/SlotLabel.h"
 #include "screens/panels/Verdict.h"
 
+#include <private/qguiapplication_p.h>
 #include <QAbstractButton>
 #include <QAccessible>
+#include <qpa/qplatformaccessibility.h>
+#include <qpa/qplatformintegration.h>
 #include <QRegularExpression>
 #include <QSignalSpy>
 #include <set>
@@ -26,12 +29,12 @@ class Listening {
 public:
     Listening() : wasActive(QAccessible::isActive())
     {
-        QAccessible::setActive(true);
+        Desktop().setActive(true);
         before = QAccessible::installUpdateHandler(&Hear);
     }
     ~Listening()
     {
-        QAccessible::setActive(wasActive);
+        Desktop().setActive(wasActive);
         QAccessible::installUpdateHandler(before);
         heard.clear();
     }
@@ -44,6 +47,9 @@ public:
     }
 
 private:
+    // Nothing is told while no screen reader is there, which only the platform below the toolkit can say.
+    static QPlatformAccessibility& Desktop() { return *QGuiApplicationPrivate::platformIntegration()->accessibility(); }
+
     static void Hear(QAccessibleEvent* event) { heard.emplace_back(event->type(), event->object()); }
 
     bool wasActive;

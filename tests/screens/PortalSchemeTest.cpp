@@ -8,6 +8,7 @@
 #include <QSignalSpy>
 #include <QTemporaryDir>
 #include <QTest>
+#include <QUrl>
 
 namespace dravik {
 
@@ -34,7 +35,7 @@ namespace {
 
 class PortalSchemeTest : public ::testing::Test {
 protected:
-    PortalSchemeTest() : Server("unix:path=" + Folder.filePath("bus"))
+    PortalSchemeTest() : Server("unix:path=" + QUrl::toPercentEncoding(Folder.filePath("bus"), "/"))
     {
         Server.setAnonymousAuthenticationAllowed(true);
         QObject::connect(&Server, &QDBusServer::newConnection, &Server, [this](const QDBusConnection& connection) {

@@ -25,8 +25,10 @@ void EditArea::focusInEvent(QFocusEvent* event)
     FocusCame();
     if (!isNew)
         return;
-    selectAll();
+    // A press on a chosen text would begin to drag it.
     selectsAtRelease = event->reason() == Qt::MouseFocusReason;
+    if (!selectsAtRelease)
+        selectAll();
 }
 
 // The press that brought the focus has placed the cursor.

@@ -4,6 +4,8 @@
 
 #include <cmath>
 #include <QEvent>
+#include <QTextBlock>
+#include <QTextLayout>
 
 namespace dravik {
 
@@ -25,7 +27,9 @@ ReasonsBox::ReasonsBox(const QString& judged, QWidget* parent) : QPlainTextEdit(
 
 void ReasonsBox::FitLines()
 {
-    const double line = blockBoundingRect(firstVisibleBlock()).height();
+    const QTextBlock block = firstVisibleBlock();
+    (void)blockBoundingRect(block); // which lays it out
+    const double line = block.layout()->lineAt(0).height();
     setFixedHeight(static_cast<int>(std::ceil(line * VisibleLines)) + TextMargin + 2 * frameWidth());
 }
 
