@@ -98,13 +98,17 @@ void EntryDelegate::paint(QPainter* painter, const QStyleOptionViewItem& option,
     initStyleOption(&item, index);
     const QString text = item.text;
     item.text.clear();
-    const QStyle* style = item.widget != nullptr ? item.widget->style() : QApplication::style();
-    style->drawControl(QStyle::CE_ItemViewItem, &item, painter, item.widget);
-
     const bool isSelected = (item.state & QStyle::State_Selected) != 0;
     const auto group = (item.state & QStyle::State_Enabled) == 0  ? QPalette::Disabled
                        : (item.state & QStyle::State_Active) == 0 ? QPalette::Inactive
                                                                   : QPalette::Active;
+    if (isSelected && group != QPalette::Disabled)
+        item.palette.setColor(group, QPalette::Highlight,
+                              ChosenGround(item.palette.color(group, QPalette::Highlight),
+                                           item.palette.color(group, QPalette::HighlightedText)));
+    const QStyle* style = item.widget != nullptr ? item.widget->style() : QApplication::style();
+    style->drawControl(QStyle::CE_ItemViewItem, &item, painter, item.widget);
+
     const QColor front = item.palette.color(group, isSelected ? QPalette::HighlightedText : QPalette::Text);
     const bool isAlternate = (item.features & QStyleOptionViewItem::Alternate) != 0;
     const QColor back = item.palette.color(group, isSelected    ? QPalette::Highlight

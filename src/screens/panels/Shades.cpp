@@ -47,6 +47,12 @@ QColor MutedOn(const QColor& text, const QImage& ground)
     return Muted(text, closest);
 }
 
+QColor ChosenGround(const QColor& highlight, const QColor& words)
+{
+    const bool isLight = Contrast(words, Qt::black) > Contrast(words, Qt::white);
+    return FirstReadable(highlight, isLight ? Qt::black : Qt::white, 0, words);
+}
+
 void MutePlaceholder(QWidget& widget)
 {
     const QPalette& all = widget.palette();

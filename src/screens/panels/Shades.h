@@ -17,6 +17,10 @@ QColor MutedText(const QPalette& palette);
 // The same on a painted ground, whichever of its colours is closest to the text's.
 QColor MutedOn(const QColor& text, const QImage& ground);
 
+// The ground of a chosen entry: the palette's highlight, darkened or lightened where the words on it could not be read, so
+// that `words` and what is muted beside them have that contrast too.
+QColor ChosenGround(const QColor& highlight, const QColor& words);
+
 // Gives a widget's placeholder text that colour, mixed from the palette at hand. To be called anew when the palette changes.
 void MutePlaceholder(QWidget& widget);
 
