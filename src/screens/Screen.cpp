@@ -8,9 +8,11 @@
 #include "screens/Stage.h"
 
 #include <algorithm>
+#include <QAbstractButton>
 #include <QApplication>
 #include <QCloseEvent>
 #include <QLayout>
+#include <QMouseEvent>
 #include <QScreen>
 #include <QStyle>
 #include <utility>
@@ -124,14 +126,30 @@ void Screen::closeEvent(QCloseEvent* event)
 bool Screen::eventFilter(QObject* watched, QEvent* event)
 {
     // The mouse takes the focus to the command before it presses it. A box that refused its text has it back by now, and
-    // the press goes no further, nor does the second one of a double click.
+    // the press goes no further, nor does the second one of a double click. When leaving the box brought up a dialog, the
+    // mouse button is up again and nobody tells the command: it runs without having been pressed.
     if (event->type() == QEvent::MouseButtonPress || event->type() == QEvent::MouseButtonDblClick) {
-        const auto* button = qobject_cast<QPushButton*>(watched);
-        const auto* box = dynamic_cast<LeavingBox*>(focusWidget());
-        if (button != nullptr && box != nullptr && (button->focusPolicy() & Qt::ClickFocus) == Qt::ClickFocus)
-            return true;
+        auto* button = qobject_cast<QAbstractButton*>(watched);
+        if (button != nullptr && (button->focusPolicy() & Qt::ClickFocus) == Qt::ClickFocus) {
+            if (dynamic_cast<LeavingBox*>(focusWidget()) != nullptr)
+                return true;
+            if (pressIsInterrupted && static_cast<QMouseEvent*>(event)->button() == Qt::LeftButton) {
+                QMetaObject::invokeMethod(button, &QAbstractButton::click, Qt::QueuedConnection);
+                return true;
+            }
+        }
     }
     return QMainWindow::eventFilter(watched, event);
+}
+
+bool Screen::event(QEvent* event)
+{
+    if (event->type() == QEvent::Polish) // all that can be pressed is there
+        for (auto* button : findChildren<QAbstractButton*>())
+            button->installEventFilter(this);
+    if (event->type() == QEvent::WindowBlocked)
+        ++timesBlocked;
+    return QMainWindow::event(event);
 }
 
 QPushButton* Screen::MakeCommand(const QString& name, const QString& caption, std::function<void()> click)
@@ -139,7 +157,6 @@ QPushButton* Screen::MakeCommand(const QString& name, const QString& caption, st
     auto* command = new QPushButton(caption, this);
     command->setObjectName(name);
     command->setAutoDefault(true); // Enter presses the command that has the focus
-    command->installEventFilter(this);
     connect(command, &QPushButton::clicked, this, [this, command, run = std::move(click)] {
         if (!SettleFocus())
             return;
@@ -156,8 +173,21 @@ EditBox* Screen::MakeBox(const QString& name, std::function<void()> lostFocus)
 {
     auto* box = new EditBox(this);
     box->setObjectName(name);
-    connect(box, &EditBox::LostFocus, this, [name, run = std::move(lostFocus)] { RunEvent(name + "_LostFocus", run); });
+    connect(box, &EditBox::LostFocus, this,
+            [this, name, run = std::move(lostFocus)] { Leave([&] { RunEvent(name + "_LostFocus", run); }); });
     return box;
+}
+
+void Screen::Leave(const std::function<void()>& lostFocus)
+{
+    const int before = timesBlocked;
+    lostFocus();
+    if (timesBlocked == before)
+        return;
+    pressIsInterrupted = true;
+    // The press that took the focus away, if one did, comes before anything else.
+    QMetaObject::invokeMethod(
+        this, [this] { pressIsInterrupted = false; }, Qt::QueuedConnection);
 }
 
 bool Screen::SettleFocus()

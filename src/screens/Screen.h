@@ -44,6 +44,7 @@ public:
 
 protected:
     void closeEvent(QCloseEvent* event) override;
+    bool event(QEvent* event) override;
     bool eventFilter(QObject* watched, QEvent* event) override;
 
     // Opens another screen in front of this one.
@@ -58,6 +59,9 @@ protected:
     void SetPage(QWidget* page, QLayout* footer = nullptr);
     // Makes the text box `name`; `lostFocus` runs when it loses the focus.
     EditBox* MakeBox(const QString& name, std::function<void()> lostFocus);
+    // Runs what a text box of any kind does when it loses the focus. If that brings up a dialog, the press of the mouse
+    // that took the focus away still runs its command.
+    void Leave(const std::function<void()>& lostFocus);
 
     Stage& Owner;
 
@@ -70,7 +74,9 @@ private:
 
     bool wantsToUnload = false;
     bool unloaded = false;
-    QPointer<EntryList> lastList; // that had the focus
+    QPointer<EntryList> lastList;    // that had the focus
+    int timesBlocked = 0;            // how often a dialog came up in front
+    bool pressIsInterrupted = false; // by a dialog, between the change of the focus and the press that changed it
 };
 
 // Runs an event routine, reporting what fails under `name`; nothing goes further. True when it came to its end.

@@ -22,13 +22,16 @@ frmDraft::frmDraft(Stage& stage) : Screen(stage, "frmDraft")
 
     QHBoxLayout* header = MakeRow({lblTeam});
     header->addStretch(1);
-    header->addWidget(new MutedLabel("Show : ", content));
+    auto* show = new MutedLabel("Show : ", content);
+    show->setObjectName("lblShow");
+    header->addWidget(show);
     for (QCheckBox* filter : chkPosition)
         header->addWidget(filter);
     column->addLayout(header);
     column->addSpacing(Gap);
 
     QLabel* players = MakeHeading("Players", content);
+    players->setObjectName("lblPlayers");
     QHBoxLayout* lists = MakeRow({});
     lists->addWidget(MakeListColumn(players, lstPlayers), 1);
     lists->addWidget(MakeCommandColumn({cmdChoose, cmdRemove}, content));
@@ -94,6 +97,7 @@ QWidget* frmDraft::MakeListColumn(QLabel* heading, EntryList* list)
     auto* panel = new QWidget(this);
     QVBoxLayout* column = MakeColumn(panel, Gap / 2);
     list->setMinimumWidth(LeastListWidth);
+    list->CutNamesFirst(); // overalls and ranks are what the eye compares
     column->addWidget(heading);
     column->addWidget(list, 1);
     return panel;

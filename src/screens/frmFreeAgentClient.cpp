@@ -14,7 +14,9 @@
 #include "screens/platform/CodePage.h"
 #include "screens/Stage.h"
 
+#include <QApplication>
 #include <QSignalBlocker>
+#include <utility>
 
 // The list, the person chosen in it, the four boxes of his offer, and the offer file.
 namespace dravik {
@@ -165,12 +167,33 @@ void frmFreeAgentClient::ShowNobody()
     Stats->ClearNumbers();
     for (EditBox* box : {txtSalary, txtAge, txtOffer, txtDuration, txtBonus})
         box->clear();
+    txtSalary->setToolTip({});
     txtComment->clear();
+    lblStatus->setText(NoStatus);
     EnableOffer(false);
+}
+
+void frmFreeAgentClient::FormUnload() { ShowWaitingBox(); }
+
+void frmFreeAgentClient::Tell(std::function<void()> box)
+{
+    waitingBox = std::move(box);
+    if (isPressed)
+        secondPress.start(QApplication::doubleClickInterval());
+    else
+        ShowWaitingBox();
+}
+
+void frmFreeAgentClient::ShowWaitingBox()
+{
+    secondPress.stop();
+    if (const auto show = std::exchange(waitingBox, nullptr))
+        Reporting(" in LstPlayers Click.", show);
 }
 
 void frmFreeAgentClient::lstPlayers_Click()
 {
+    ShowWaitingBox();
     Reporting(" in LstPlayers Click.", [this] {
         Stats->HideRows();
         const QListWidgetItem* current = lstPlayers->currentItem();
@@ -181,7 +204,7 @@ void frmFreeAgentClient::lstPlayers_Click()
         constexpr int lastShown = GoalieOffset + static_cast<int>(GoalieTable::last) - 1;
         const int id = static_cast<int>(OfferIndex);
         if (id > lastShown)
-            ShowIntegrityFailure();
+            Tell(ShowIntegrityFailure);
         else if (id > GoalieOffset)
             ShowPerson(Goalies[id - GoalieOffset], id - GoalieOffset);
         else
@@ -193,7 +216,7 @@ template <class Person>
 void frmFreeAgentClient::ShowPerson(const Person& person, int index)
 {
     if (!person.InUse) {
-        ShowIntegrityFailure();
+        Tell(ShowIntegrityFailure);
         return;
     }
     const std::string name = person.Name.Trimmed();
@@ -201,14 +224,16 @@ void frmFreeAgentClient::ShowPerson(const Person& person, int index)
     Stats->SetName(ToQString(name));
     txtAge->setText(QString::number(person.Age));
     txtSalary->setText(QString::number(person.Salary));
+    txtSalary->setToolTip(ToQString(Money(person.Salary)));
     lblStatus->setText(IsYoung(person) && person.Team != 0 ? "Status : RFA" : "Status : UFA");
     if (person.Age < LeagueData.RFAAge && person.Team != 0 && person.Team != CurrentTeam) {
         EnableOffer(false);
         for (EditBox* box : {txtOffer, txtDuration, txtBonus})
             box->setText("0");
         txtComment->clear();
-        ShowBox(name + " is not allowed to sign with another team that " + Teams[person.Team].Name.Trimmed() + ".",
-                box::Warning);
+        const std::string words =
+            name + " is not allowed to sign with another team that " + Teams[person.Team].Name.Trimmed() + ".";
+        Tell([words] { ShowBox(words, box::Warning); });
         return;
     }
     FreeAgentOffer& offer = OfferAtHand();
@@ -239,6 +264,7 @@ void frmFreeAgentClient::lstPlayers_DblClick()
         constexpr int fromOffers = 3;
         ViewerReturnMode = fromOffers;
         Open("EditPlayer");
+        ShowWaitingBox(); // in front of the record
     });
 }
 
@@ -251,6 +277,7 @@ void frmFreeAgentClient::chkShowPlayerWithOffer_Click()
         chkShowPlayerWithOffer->toggle();
         return;
     }
+    ShowWaitingBox();
     ShowPlayer();
 }
 
@@ -322,6 +349,7 @@ void frmFreeAgentClient::txtComment_LostFocus()
 
 void frmFreeAgentClient::cmdSearch_Click()
 {
+    ShowWaitingBox();
     Reporting(" in cmdSearch!", [this] {
         const int row = SearchPlayer(*lstPlayers);
         if (row >= 0)
@@ -331,6 +359,7 @@ void frmFreeAgentClient::cmdSearch_Click()
 
 void frmFreeAgentClient::cmdSaveToFile_Click()
 {
+    ShowWaitingBox();
     Reporting(" in cmdSaveToFile!", [this] {
         if (!CheckPassword(OwnNumber()))
             return;
@@ -376,12 +405,19 @@ void frmFreeAgentClient::ShowTally()
 
 bool frmFreeAgentClient::eventFilter(QObject* watched, QEvent* event)
 {
-    // The mouse takes the focus to the list or the check box before it presses there. A box that refused its text has it back
-    // by now; nobody else is shown before that text is mended.
-    const bool isPress = event->type() == QEvent::MouseButtonPress || event->type() == QEvent::MouseButtonDblClick;
-    if (isPress && (watched == lstPlayers->viewport() || watched == chkShowPlayerWithOffer) &&
-        dynamic_cast<LeavingBox*>(focusWidget()) != nullptr)
-        return true;
+    // The mouse takes the focus to the list before it presses there. A box that refused its text has it back by now; nobody
+    // else is shown before that text is mended.
+    if (watched == lstPlayers->viewport()) {
+        const bool isPress = event->type() == QEvent::MouseButtonPress;
+        if ((isPress || event->type() == QEvent::MouseButtonDblClick) &&
+            dynamic_cast<LeavingBox*>(focusWidget()) != nullptr)
+            return true;
+        if (isPress) {
+            isPressed = true;
+            QMetaObject::invokeMethod(
+                this, [this] { isPressed = false; }, Qt::QueuedConnection);
+        }
+    }
     return Screen::eventFilter(watched, event);
 }
 

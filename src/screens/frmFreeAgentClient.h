@@ -9,9 +9,11 @@
 #include "screens/panels/Verdict.h"
 #include "screens/Screen.h"
 
+#include <functional>
 #include <optional>
 #include <QCheckBox>
 #include <QLabel>
+#include <QTimer>
 #include <string>
 
 namespace dravik {
@@ -24,6 +26,7 @@ public:
 
     // Fills the screen for CurrentTeam, without an offer. A number out of range is told and leaves the screen empty.
     void FormLoad() override;
+    void FormUnload() override;
 
     // Lists everybody who can be made an offer, or only those who have one, and chooses the first of them.
     void ShowPlayer();
@@ -64,6 +67,8 @@ protected:
 private:
     class Entry;
 
+    static constexpr auto NoStatus = "Status : "; // of nobody
+
     void MakeControls();
     EditBox* MakeFigure(const char* name, const QString& accessibleName);
     QWidget* MakeListColumn();
@@ -83,8 +88,17 @@ private:
     FreeAgentOffer& OfferAtHand() { return FreeAgentOffers[OfferIndex]; }
     // Whether the text of a box may be taken; a refused one gets the focus back.
     bool Accepts(LeavingBox& box, const QString& text, InputMode mode);
+    // Shows a box about the person who is being chosen. Under the mouse it waits as long as a second press would make a
+    // double click of the first: a box that comes up in between swallows it.
+    void Tell(std::function<void()> box);
+    // Shows the box that waits, if one does.
+    void ShowWaitingBox();
     // What the offers come to so far.
     void ShowTally();
+
+    bool isPressed = false; // the list is being told of a press
+    std::function<void()> waitingBox;
+    QTimer secondPress;
 };
 
 } // namespace dravik

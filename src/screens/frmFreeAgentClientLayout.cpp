@@ -60,6 +60,7 @@ void frmFreeAgentClient::MakeControls()
     lstPlayers->setObjectName("lstPlayers");
     lstPlayers->setAccessibleName("Players");
     lstPlayers->setSelectionMode(QAbstractItemView::SingleSelection);
+    lstPlayers->CutNamesFirst(); // offers and overalls are what the eye compares
     lstPlayers->viewport()->installEventFilter(this);
     lblPlayer->setBuddy(lstPlayers);
     connect(lstPlayers, &PickList::Picked, this, [this] { lstPlayers_Click(); });
@@ -67,16 +68,16 @@ void frmFreeAgentClient::MakeControls()
     connect(lstPlayers, &EntryList::EnterPressed, this, [this] { lstPlayers_DblClick(); });
     chkShowPlayerWithOffer = new QCheckBox("Show players who has received an &offer only", this);
     chkShowPlayerWithOffer->setObjectName("chkShowPlayerWithOffer");
-    chkShowPlayerWithOffer->installEventFilter(this);
     connect(chkShowPlayerWithOffer, &QCheckBox::toggled, this, [this] { chkShowPlayerWithOffer_Click(); });
 
     Stats = new StatPanel(this, "txtStats");
     Stats->SetHint("Pick a player to see his ratings");
+    Stats->setObjectName("Stats");
     for (int row = 1; row <= txtStats.last; ++row) {
         txtStats[row] = Stats->lblStat[row];
         lblStatLabel[row] = Stats->lblStatLabel[row];
     }
-    lblStatus = PlainLabel(new QLabel("Status : ", this), "lblStatus");
+    lblStatus = PlainLabel(new QLabel(NoStatus, this), "lblStatus");
     txtAge = MakeFigure("txtAge", "Age");
     txtSalary = MakeFigure("txtSalary", "Present salary");
 
@@ -88,8 +89,11 @@ void frmFreeAgentClient::MakeControls()
     txtComment = new EditArea(this);
     txtComment->setObjectName("txtComment");
     txtComment->SetLines(LinesOfComment);
-    connect(txtComment, &EditArea::LostFocus, this, [this] { txtComment_LostFocus(); });
+    connect(txtComment, &EditArea::LostFocus, this, [this] { Leave([this] { txtComment_LostFocus(); }); });
     EnableOffer(false);
+
+    secondPress.setSingleShot(true);
+    connect(&secondPress, &QTimer::timeout, this, [this] { ShowWaitingBox(); });
 
     cmdSearch = MakeCommand("cmdSearch", "Sea&rch Player", [this] { cmdSearch_Click(); });
     cmdSaveToFile = MakeCommand("cmdSaveToFile", "Save to &File", [this] { cmdSaveToFile_Click(); });
@@ -127,10 +131,10 @@ QWidget* frmFreeAgentClient::MakePersonColumn()
     column->addWidget(Stats);
     QHBoxLayout* facts = MakeRow({lblStatus});
     facts->addStretch(1);
-    facts->addWidget(new MutedLabel("Age", panel));
+    facts->addWidget(PlainLabel(new MutedLabel("Age", panel), "lblAge"));
     facts->addWidget(txtAge);
     facts->addSpacing(Gap);
-    facts->addWidget(new MutedLabel("Present salary", panel));
+    facts->addWidget(PlainLabel(new MutedLabel("Present salary", panel), "lblSalary"));
     facts->addWidget(txtSalary);
     const QFontMetrics metrics = fontMetrics();
     txtAge->setFixedWidth(metrics.horizontalAdvance("0000"));
@@ -144,12 +148,14 @@ QWidget* frmFreeAgentClient::MakePersonColumn()
 QWidget* frmFreeAgentClient::MakeOfferGroup()
 {
     auto* group = new QGroupBox("Offer", this);
+    group->setObjectName("grpOffer");
     auto* grid = new QGridLayout(group);
     SetGroupMargins(grid);
     grid->setSpacing(Gap);
     int row = 0;
     const auto add = [&](const char* caption, QWidget* box) {
         auto* label = new MutedLabel(caption, group);
+        label->setObjectName(box->objectName().replace("txt", "lbl"));
         label->setBuddy(box);
         box->setAccessibleName(QString(caption).remove('&'));
         return label;

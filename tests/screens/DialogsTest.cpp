@@ -531,6 +531,16 @@ TEST_F(OpenDialog, CancelFailsWithItsNumber)
     }
 }
 
+TEST_F(OpenDialog, CancelFailsEvenWithAFileChosen)
+{
+    EXPECT_THROW(Open([this](QFileDialog& dialog) {
+                     dialog.selectFile(Folder.filePath("one.dvs"));
+                     EXPECT_EQ(dialog.selectedFiles(), QStringList{Folder.filePath("one.dvs")});
+                     dialog.findChild<QDialogButtonBox*>("buttonBox")->button(QDialogButtonBox::Cancel)->click();
+                 }),
+                 Failure);
+}
+
 TEST_F(OpenDialog, TheFilterShowsFilesOfAnyCase)
 {
     EXPECT_THROW(Open([](QFileDialog& dialog) {

@@ -23,7 +23,9 @@ protected:
         LeagueData.MaxOffers = 50;
         PlayerStatCount = 15;
         GoalieStatCount = 13;
+        QApplication::setDoubleClickInterval(0); // a click is no first half of a double click unless a test says so
     }
+    ~OnOfferScreen() override { QApplication::setDoubleClickInterval(usualInterval); }
 
     static Team& Own() { return Teams[5]; }
 
@@ -130,6 +132,9 @@ protected:
 
     static std::string Of(const QLineEdit* box) { return box->text().toStdString(); }
     static std::string Of(const QLabel* label) { return label->text().toStdString(); }
+
+private:
+    const int usualInterval = QApplication::doubleClickInterval();
 };
 
 } // namespace dravik

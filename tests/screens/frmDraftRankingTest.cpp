@@ -55,6 +55,46 @@ TEST_F(DraftRankingTest, ChoosingTheSamePlayerTwiceLeavesOneEntryAndNoMessage)
     EXPECT_THAT(Machine.Boxes(), IsEmpty());
 }
 
+TEST_F(DraftRankingTest, ASecondChoiceShowsTheRankingAnewWithNobodyChosenInIt)
+{
+    Choose({0, 1});
+    ClickEntry(Draft().lstDraftList, 1);
+    Draft().lblTotal->clear();
+    Choose({0});
+    EXPECT_EQ(Of(Draft().lblTotal), "2 Players List");
+    EXPECT_EQ(Draft().lstDraftList->Chosen(), nullptr);
+}
+
+TEST_F(DraftRankingTest, AChoiceIntoAFullListShowsTheRankingAnewWithNobodyChosenInIt)
+{
+    FillRanking();
+    Draft().ShowPlayer();
+    Settle();
+    ClickEntry(Draft().lstDraftList, 0);
+    Draft().lblTotal->clear();
+    Choose({1001});
+    EXPECT_EQ(Of(Draft().lblTotal), "1001 Players List");
+    EXPECT_EQ(Draft().lstDraftList->Chosen(), nullptr);
+}
+
+TEST_F(DraftRankingTest, NoCommandOfTheRankingTouchesModified)
+{
+    for (const bool before : {false, true}) {
+        Modified = before;
+        Choose({0, 1, 2});
+        EXPECT_EQ(Modified, before);
+        for (QPushButton* command : {Draft().cmdUp, Draft().cmdDown, Draft().cmdRemove}) {
+            ClickEntry(Draft().lstDraftList, 1);
+            Click(command);
+            EXPECT_EQ(Modified, before) << command->objectName().toStdString();
+        }
+        EXPECT_EQ(Draft().lstDraftList->count(), 2) << "each of them did something";
+        Draft().DraftList = {};
+        Draft().PlaceOffer();
+    }
+    EXPECT_THAT(Machine.Boxes(), IsEmpty());
+}
+
 TEST_F(DraftRankingTest, AnIdBelowOneIsPassedOver)
 {
     for (const int number : {0, -3}) {
@@ -325,6 +365,16 @@ TEST_F(DraftDrag, AnEntryGoesBetweenTheTwoWhereItIsDropped)
     EXPECT_EQ(Draft().lstDraftList->count(), 5);
     EXPECT_EQ(Of(Draft().lblTotal), "5 Players List");
     EXPECT_THAT(Machine.Boxes(), IsEmpty());
+}
+
+TEST_F(DraftDrag, LeavesModifiedAlone)
+{
+    for (const bool before : {false, true}) {
+        Modified = before;
+        Drag(0, 2, Half::Lower);
+        EXPECT_EQ(Modified, before);
+    }
+    EXPECT_THAT(Ranking(), ElementsAre(13, 11, 12, 14, 15));
 }
 
 TEST_F(DraftDrag, ToTheTopAndToTheEnd)

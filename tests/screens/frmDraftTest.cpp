@@ -69,6 +69,15 @@ TEST_F(frmDraftTest, AnEntryDraftThatIsDoneIsNone)
     EXPECT_TRUE(Draft().chkPosition[1]->isEnabled());
 }
 
+TEST_F(frmDraftTest, AnEntryDraftThatIsDoneANegativeNumberOfTimesIsNoneEither)
+{
+    MakeEntryDraft();
+    LeagueData.EntryDraftDone = -1;
+    EXPECT_EQ(Draft().DraftType, "");
+    EXPECT_EQ(Draft().lstPlayers->count(), 0);
+    EXPECT_TRUE(Draft().chkPosition[1]->isEnabled());
+}
+
 TEST_F(frmDraftTest, AFantasyDraftBesideADoneEntryDraftStaysFantasy)
 {
     LeagueData.EntryDraft = true;
@@ -105,6 +114,24 @@ TEST_F(frmDraftTest, WhoIsErasedOnATeamOrWithoutAPositionIsNotListed)
     Goalies[0].InUse = true;
     EXPECT_THAT(Of(Draft().lstPlayers), IsEmpty());
     EXPECT_FALSE(Draft().cmdChoose->isEnabled());
+}
+
+TEST_F(frmDraftTest, TheFirstSlotsOfTheTablesAreListed)
+{
+    PutSkater(1, 0, position::Center, status::Farm).Name = "First Skater";
+    PutGoalie(1, 0, status::Farm).Name = "First Goalie";
+    EXPECT_THAT(Of(Draft().lstPlayers),
+                ElementsAre(Pair("First Skater (C)", 1), Pair("Ward Tilton (LW)", 7), Pair("Karl Dreyer (D)", 8),
+                            Pair("First Goalie (G)", 10001), Pair("Piet Vos (G)", 10003)));
+}
+
+TEST_F(frmDraftTest, WhoIsInjuredOrSuspendedIsListed)
+{
+    Players[7].Condition = 20;
+    Players[7].Injury = "Broken stick";
+    Players[8].Suspension = 5;
+    Goalies[3].Condition = 0;
+    EXPECT_EQ(Draft().lstPlayers->count(), 3);
 }
 
 TEST_F(frmDraftTest, AContractPlaysNoPart)

@@ -65,6 +65,7 @@ TEST_F(OfferPerson, AgeAndPresentSalaryAreShownAndCannotBeChanged)
     Open();
     EXPECT_EQ(Of(Offers().txtAge), "29");
     EXPECT_EQ(Of(Offers().txtSalary), "1250000");
+    EXPECT_EQ(Offers().txtSalary->toolTip(), "$1,250,000");
     EXPECT_FALSE(Offers().txtAge->isEnabled());
     EXPECT_FALSE(Offers().txtSalary->isEnabled());
 }

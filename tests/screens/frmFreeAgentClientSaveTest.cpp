@@ -68,6 +68,19 @@ TEST_F(OfferSaving, TellsTheOffersAndThePath)
     EXPECT_TRUE(Offers().isVisible());
 }
 
+TEST_F(OfferSaving, TheOffersMadeAndTheOffersLeftStayAsTheyAre)
+{
+    LeagueData.MaxOffers = 4;
+    Own().OffersMade = 1;
+    Open();
+    Offer(1);
+    Offer(2);
+    EXPECT_EQ(Save().size(), 1U);
+    EXPECT_EQ(Own().OffersMade, 1);
+    EXPECT_EQ(LeagueData.OffersLeft, 3);
+    EXPECT_EQ(LeagueData.MaxOffers, 4);
+}
+
 TEST_F(OfferSaving, WithTheSettingTheFileIsPlain)
 {
     Machine.Settings["SkipZIPClient"] = " yes ";

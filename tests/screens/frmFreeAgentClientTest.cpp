@@ -208,6 +208,16 @@ TEST_F(OfferList, NamesThePositionsAndRunsThroughSkatersThenGoalies)
                                  {"Goalie 1000 (G)", 11000}}));
 }
 
+TEST_F(OfferList, WhoIsInjuredOrSuspendedIsListed)
+{
+    FreeSkater(1).Condition = 20;
+    FreeSkater(2).Suspension = 5;
+    FreeGoalie(1).Condition = 0;
+    Players[1].Injury = "Broken stick";
+    Open();
+    EXPECT_EQ(Offers().lstPlayers->count(), 3);
+}
+
 TEST_F(OfferList, PassesOverSlotsThatAreNotInUse)
 {
     FreeSkater(1).InUse = false;
@@ -268,6 +278,7 @@ TEST_F(OfferList, AnEmptyListEmptiesAndClosesTheBoxes)
     EXPECT_FALSE(BoxesAreOpen());
     EXPECT_EQ(Of(Offers().txtAge), "");
     EXPECT_EQ(Of(Offers().txtSalary), "");
+    EXPECT_EQ(Of(Offers().lblStatus), "Status : ");
     for (const QLabel* number : Offers().txtStats)
         EXPECT_EQ(Of(number), "");
 }

@@ -78,7 +78,7 @@ QString Cut(const QString& text, const QFontMetrics& metrics, int width)
 {
     if (metrics.horizontalAdvance(text) <= width)
         return text;
-    static const QRegularExpression marks(R"(( \([A-Z]\))?( ?\*)*$)");
+    static const QRegularExpression marks(R"(( \([A-Z]{1,2}\))?(-RFA)?( ?\*)*$)");
     const QString behind = marks.match(text).captured();
     const QString name = text.chopped(behind.size());
     return metrics.elidedText(name, Qt::ElideRight, width - metrics.horizontalAdvance(behind)) + behind;

@@ -23,7 +23,7 @@ public:
 
 // Draws an entry with its secondary words at its right edge, each in a column of its own. Where both do not fit, the list
 // decides: either the secondary words are left out, or they stay and the name is cut, as long as half of the entry is left
-// for it. The marks behind a name (" (C) *") stay; a text that is cut is told whole by a tooltip.
+// for it. The marks behind a name (" (C) *", " (LW)-RFA") stay; a text that is cut is told whole by a tooltip.
 class EntryDelegate : public QStyledItemDelegate {
 public:
     using QStyledItemDelegate::QStyledItemDelegate;
