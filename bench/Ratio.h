@@ -83,6 +83,7 @@ inline double Compare(
     }
     state.counters["ours"] = Median(oursTimes) / unit;
     state.counters["bare"] = Median(bareTimes) / unit;
+    state.counters["worst"] = *std::max_element(oursTimes.begin(), oursTimes.end()) / unit;
     const double ratio = Median(oursTimes) / Median(bareTimes);
     state.counters["ratio"] = ratio;
     return ratio;
