@@ -4,6 +4,8 @@
 #include "screens/frmFreeAgentClient.h"
 #include "screens/frmTicket.h"
 
+#include <memory>
+
 namespace dravik {
 namespace {
 
@@ -70,7 +72,8 @@ TEST_F(DesignWordsTest, OfTheOffers)
         {"cmdSaveToFile", "Save to &File", ""},
         {"cmdExit", "E&xit", ""},
     };
-    const frmFreeAgentClient offers(TheStage);
+    const auto screen = std::make_unique<frmFreeAgentClient>(TheStage); // too large for a stack
+    const frmFreeAgentClient& offers = *screen;
     EXPECT_EQ(offers.objectName(), "frmFreeAgentClient");
     EXPECT_THAT(DesignWordsOf(offers, offers.Stats), UnorderedElementsAreArray(expected));
     for (int row = 1; row <= 16; ++row) {

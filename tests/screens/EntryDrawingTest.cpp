@@ -12,7 +12,7 @@ const QString FortyWideLetters(40, 'W');
 // What a list paints of its entry `row`, from its right end on where `width` is given.
 QImage Painted(const EntryList& list, int row, int width = 0)
 {
-    const QRect entry = list.visualItemRect(list.item(row));
+    const QRect entry = list.visualItemRect(list.item(row)) & list.viewport()->rect();
     return list.viewport()->grab(width > 0 ? entry.adjusted(entry.width() - width, 0, 0, 0) : entry).toImage();
 }
 

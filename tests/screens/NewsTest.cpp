@@ -92,7 +92,7 @@ TEST_F(RosterNews, OfficesThatAreRefusedAreNoNews)
 TEST_F(RosterNews, WaiversAreNoNews)
 {
     Player& player = Tilton();
-    Click(Roster().cmdSendToWaiver);
+    Roster().cmdSendToWaiver_Click();
     EXPECT_EQ(player.Suspension, 99);
     EXPECT_THAT(Machine.TakeNews(), IsEmpty());
 }
@@ -104,6 +104,13 @@ protected:
         frmTeam& office = Office();
         Machine.TakeNews();
         return office;
+    }
+
+    // Types a text into a box and leaves it for a command: another box would tell something when it is left in turn.
+    void Enter(EditBox* box, const QString& text)
+    {
+        TypeInto(box, text);
+        Office().cmdExit->setFocus();
     }
 };
 

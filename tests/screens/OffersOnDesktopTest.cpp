@@ -18,12 +18,15 @@ protected:
         Open();
     }
 
-    // Puts a salary above the limit into its box and presses the mouse on `button`, which the box of the limit comes
-    // before. By then the mouse button is up again.
-    void PressBehindALimit(Hands& hands, QAbstractButton* button)
+    static void ReadOfTheLimit(Hands& hands)
     {
         const std::string most = dravik::Machine().CurrencyNoDecimals(static_cast<double>(LeagueData.MaxSalary));
         hands.Read(ToQString("Maximum Salary is " + most));
+    }
+    // Puts a salary above the limit into its box and presses the mouse on `button`, which the box of the limit comes
+    // before. By then the mouse button is up again.
+    void PressBehindTheLimit(QAbstractButton* button)
+    {
         TypeInto(Offers().txtOffer, "10000001");
         QTest::mousePress(button, Qt::LeftButton);
         Settle();
@@ -38,10 +41,11 @@ TEST_F(OffersOnDesktop, APressOnACommandThatFirstBringsUpALimitStillRunsIt)
 {
     Hands hands;
     OnDesktop([&] {
+        ReadOfTheLimit(hands);
         hands.Type("Complete or Part of the Player Name?", "nobody");
         hands.Read("Player not found!");
         QPushButton* search = Offers().cmdSearch;
-        PressBehindALimit(hands, search);
+        PressBehindTheLimit(search);
         EXPECT_TRUE(hands.AreIdle()) << "the search was asked for";
         QTest::mouseRelease(search, Qt::LeftButton); // a button held longer than the box was up
         Settle();
@@ -55,7 +59,8 @@ TEST_F(OffersOnDesktop, APressOnTheFilterThatFirstBringsUpALimitStillTicksIt)
     Hands hands;
     OnDesktop([&] {
         QCheckBox* filter = Offers().chkShowPlayerWithOffer;
-        PressBehindALimit(hands, filter);
+        ReadOfTheLimit(hands);
+        PressBehindTheLimit(filter);
         EXPECT_TRUE(filter->isChecked());
         EXPECT_EQ(Offers().lstPlayers->count(), 1);
         QTest::mouseRelease(filter, Qt::LeftButton);

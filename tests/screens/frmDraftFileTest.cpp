@@ -120,10 +120,10 @@ TEST_F(DraftFileCommand, AnOldFileHeldOpenIsReportedAndStays)
 {
     Choose({0});
     WriteWhole(target, {'o', 'l', 'd'});
-    Machine.FailFileOperation(3, failure::PermissionDenied);
+    Machine.FailAllFrom(6, failure::PermissionDenied); // from the renaming on
     Click(Draft().cmdSaveToFile);
-    EXPECT_THAT(Machine.Boxes(), ElementsAre(Box{16, "70 - Permission denied in cmdSaveToFile!"}));
-    EXPECT_THAT(Machine.WaitAtBoxes(), ElementsAre(false));
+    EXPECT_THAT(Machine.Boxes(), ElementsAre(Box{16, "70 - Permission denied in Zlib Compress!"}));
+    EXPECT_THAT(Machine.WaitAtBoxes(), ElementsAre(true));
     EXPECT_EQ(std::filesystem::file_size(target), 3U);
 }
 

@@ -192,7 +192,8 @@ TEST_F(LineSlots, MarksAndOverallsFollowWhatStandsThere)
     const auto id = static_cast<int>(ProDay().ExtraForward[2]);
     EXPECT_EQ(filled->Shown(), SlotLabel::Mark::Filled);
     EXPECT_EQ(filled->Aside(), QString::number(CalculateOverall(static_cast<int>(Players[id].Position), id)));
-    EXPECT_EQ(filled->accessibleName().toStdString(), "Extra Forward 2: " + Players[id].Name.Trimmed());
+    EXPECT_EQ(filled->accessibleName().toStdString(),
+              "Extra Forward 2: " + Players[id].Name.Trimmed() + ", overall " + filled->Aside().toStdString());
 }
 
 TEST_F(LineSlots, NoOverallIsShownWhereTheLeagueKeepsItToItself)

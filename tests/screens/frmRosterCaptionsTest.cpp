@@ -65,6 +65,7 @@ TEST_F(frmRosterCaptionsTest, EveryCaptionMadeAtDesignTimeStandsAsWritten)
                                                            {"lblPlayer(0)", "Farm Players"},
                                                            {"lblPlayer(1)", "Scratch Players"},
                                                            {"lblPlayer(2)", "Pro Players"},
+                                                           {"lblStatHint", "Pick a player to see his ratings"},
                                                            {"lblStatLabel(0)", "PO"}};
     const auto inOrder = [](const std::multimap<std::string, std::string>& texts) {
         std::vector<std::pair<std::string, std::string>> sorted(texts.begin(), texts.end());

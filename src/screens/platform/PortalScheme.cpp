@@ -21,6 +21,7 @@ PortalScheme::PortalScheme(QDBusConnection bus, const QString& service)
 {
     if (!bus.isConnected())
         return;
+    qRegisterMetaType<QDBusVariant>(); // by whose name the slot is found
     bus.connect(service, Path, Interface, "SettingChanged", this, SLOT(SettingChanged(QString, QString, QDBusVariant)));
     QDBusMessage question = QDBusMessage::createMethodCall(service, Path, Interface, "Read");
     question << QString(Group) << QString(Key);
