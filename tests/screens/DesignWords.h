@@ -34,7 +34,7 @@ inline std::vector<DesignWords> DesignWordsOf(const QWidget& screen, const QWidg
 {
     std::vector<DesignWords> all;
     for (const QWidget* part : screen.findChildren<QWidget*>()) {
-        if (leftOut != nullptr && leftOut->isAncestorOf(part))
+        if (leftOut != nullptr && part != leftOut && leftOut->isAncestorOf(part))
             continue;
         const auto add = [&](const QString& caption, const QWidget* buddy = nullptr) {
             all.push_back({part->objectName().toStdString(), caption.toStdString(),
