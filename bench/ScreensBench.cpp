@@ -2,7 +2,7 @@
 // main window stands there with the league open, and the opening of every screen, painted. The start is told with the share
 // of it that bare inflating of the same file takes ("inflate_share"), in turn within one run, and without the tenth of a
 // second that the wait screen is given to paint itself. A screen is compared with a bare page of the toolkit that lists everybody,
-// and is to take at most eight times as long. Ends with 1 when one takes longer.
+// and is to take at most four times as long. Ends with 1 when one takes longer.
 //
 //     screens_bench
 
@@ -111,7 +111,7 @@ void OpenScreen(benchmark::State& state, const char* name)
     HoldTo(state,
            Compare(
                state, [&] { bench.Open(name); }, ShowBarePage, Millisecond, [&] { bench.Close(name); }),
-           8);
+           4);
     bench.Close(name);
 }
 
