@@ -1,7 +1,5 @@
 #include "OnRosterScreen.h"
 
-#include <map>
-
 namespace dravik {
 namespace {
 
@@ -24,58 +22,6 @@ protected:
         Press(command, Qt::Key_Space);
     }
 };
-
-TEST_F(frmRosterCaptionsTest, EveryCaptionMadeAtDesignTimeStandsAsWritten)
-{
-    const frmRoster unopened(TheStage);
-    std::multimap<std::string, std::string> captions;
-    const auto note = [&captions](const QWidget* widget, const QString& text) {
-        if (!text.isEmpty())
-            captions.emplace(widget->objectName().toStdString(), text.toStdString());
-    };
-    for (const auto* button : unopened.findChildren<QAbstractButton*>())
-        note(button, button->text());
-    for (const auto* group : unopened.findChildren<QGroupBox*>())
-        note(group, group->title());
-    for (const auto* label : unopened.findChildren<QLabel*>())
-        note(label, label->text());
-    const std::multimap<std::string, std::string> expected{{"", "Payroll"},
-                                                           {"", "Show : "},
-                                                           {"", "Stats"},
-                                                           {"chkNoApplyRerate", "Do Not Apply Rerate"},
-                                                           {"chkNoTrade", "No Trade"},
-                                                           {"chkPosition(1)", "Center"},
-                                                           {"chkPosition(2)", "Left Wing"},
-                                                           {"chkPosition(3)", "Right Wing"},
-                                                           {"chkPosition(4)", "Defense"},
-                                                           {"chkPosition(5)", "Goalie"},
-                                                           {"chkProtected", "Pr&otected"},
-                                                           {"cmdAssistant", "Make Ass&istant"},
-                                                           {"cmdAutoRoster", "&Auto Made Roster"},
-                                                           {"cmdAutoRosterPartial", "Partial A&uto Made Roster"},
-                                                           {"cmdCaptain", "Make Captai&n"},
-                                                           {"cmdExit", "E&xit"},
-                                                           {"cmdRelease", "Release"},
-                                                           {"cmdSendToWaiver", "Send To Waiver"},
-                                                           {"cmdToFarm", "To &Farm -->"},
-                                                           {"cmdToPro", "<-- To &Pro"},
-                                                           {"cmdToScratchesFromFarm", "<-- To S&cratch"},
-                                                           {"cmdToScratchesFromPro", "To &Scratch -->"},
-                                                           {"cmdTradeAvailable", "&Trade Available"},
-                                                           {"lblPlayer(0)", "Farm Players"},
-                                                           {"lblPlayer(1)", "Scratch Players"},
-                                                           {"lblPlayer(2)", "Pro Players"},
-                                                           {"lblStatHint", "Pick a player to see his ratings"},
-                                                           {"lblStatLabel(0)", "PO"}};
-    const auto inOrder = [](const std::multimap<std::string, std::string>& texts) {
-        std::vector<std::pair<std::string, std::string>> sorted(texts.begin(), texts.end());
-        std::ranges::sort(sorted);
-        return sorted;
-    };
-    EXPECT_EQ(inOrder(captions), inOrder(expected));
-    for (const QCheckBox* filter : unopened.chkPosition)
-        EXPECT_TRUE(filter->isChecked()) << filter->text().toStdString();
-}
 
 TEST_F(frmRosterCaptionsTest, HidingTheDetailsClosesEveryCommandAndBoxOfAPersonAndEmptiesThePanel)
 {
