@@ -1,9 +1,4 @@
-#include "OnRosterScreen.h"
-#include "screens/frmDraft.h"
-#include "screens/frmEditPlayer.h"
-#include "screens/frmFarmLine.h"
-#include "screens/frmFreeAgentClient.h"
-#include "screens/frmLine.h"
+#include "OnAnyScreen.h"
 
 // What a mouse button may do to a list of entries, on every list of every screen.
 namespace dravik {
@@ -12,39 +7,8 @@ namespace {
 using ::testing::ElementsAre;
 using ::testing::IsEmpty;
 
-class EntryButtons : public OnRosterScreen {
+class EntryButtons : public OnAnyScreen {
 protected:
-    EntryButtons()
-    {
-        CompleteTeam(5);
-        PutSkater(900, 5, position::Center, status::Scratch);
-        PutSkater(901, 5, position::Center, status::Scratch);
-        PutSkater(902, 5, position::Center, status::Scratch);
-        TeamMaker others(6);
-        LeagueData.RFAAge = 22;
-        LeagueData.UFAAge = 31;
-        LeagueData.MaxOffers = 50;
-        for (const int index : {910, 911, 912}) {
-            PutSkater(index, 0, position::Center, status::Farm);
-            PutSkater(index + 10, 6, position::Center, status::Farm).Contract = 0;
-            Players[index + 10].Age = 25;
-        }
-        LeagueData.FantasyDraft = true;
-    }
-
-    // Opens a screen for team 5.
-    Screen& OpenScreen(const char* name)
-    {
-        MainWithLeague();
-        CurrentTeam = 5;
-        CallerScreen = "Main";
-        SelectedPlayer = 0; // the viewer then lists everybody
-        TheStage.Open(name, Main());
-        Settle();
-        Machine.TakeBoxes();
-        return *TheStage.Find(name);
-    }
-
     static std::vector<EntryList*> ListsOf(const Screen& screen)
     {
         std::vector<EntryList*> lists;
@@ -76,8 +40,7 @@ constexpr Qt::KeyboardModifier Modifiers[] = {Qt::NoModifier, Qt::ControlModifie
 
 TEST_F(EntryButtons, OnEveryListOnlyTheLeftButtonChoosesAndMakesCurrent)
 {
-    for (const char* name : Names) {
-        Screen& screen = name == std::string("Main") ? MainWithLeague() : OpenScreen(name);
+    EachOf(Names, [](Screen& screen, const std::string& name) {
         const std::vector<EntryList*> lists = ListsOf(screen);
         EXPECT_FALSE(lists.empty()) << name;
         for (EntryList* list : lists) {
@@ -93,17 +56,12 @@ TEST_F(EntryButtons, OnEveryListOnlyTheLeftButtonChoosesAndMakesCurrent)
             ClickWith(list, 1, Qt::LeftButton, Qt::NoModifier);
             EXPECT_EQ(list->currentRow(), 1) << name;
         }
-        if (name != std::string("Main")) {
-            screen.close();
-            Settle();
-        }
-    }
+    });
 }
 
 TEST_F(EntryButtons, OnEveryListTheFocusMakesNobodyCurrent)
 {
-    for (const char* name : Names) {
-        Screen& screen = name == std::string("Main") ? MainWithLeague() : OpenScreen(name);
+    EachOf(Names, [](Screen& screen, const std::string& name) {
         for (EntryList* list : ListsOf(screen)) {
             list->setEnabled(true);
             list->clearFocus();
@@ -115,11 +73,7 @@ TEST_F(EntryButtons, OnEveryListTheFocusMakesNobodyCurrent)
             EXPECT_EQ(list->currentRow(), 0) << name;
             EXPECT_THAT(ChosenRowsOf(list), ElementsAre(0)) << name;
         }
-        if (name != std::string("Main")) {
-            screen.close();
-            Settle();
-        }
-    }
+    });
 }
 
 // Pressed on one of several chosen entries, the right button would make him current without a word.

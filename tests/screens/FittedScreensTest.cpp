@@ -1,7 +1,4 @@
-#include "OnRosterScreen.h"
-#include "screens/frmDraft.h"
-#include "screens/frmFreeAgentClient.h"
-#include "screens/frmLine.h"
+#include "OnAnyScreen.h"
 #include "screens/panels/Labels.h"
 
 #include <QHelpEvent>
@@ -23,25 +20,9 @@ constexpr const char* Names[] = {"Main",      "Team",  "Roster", "Line",       "
                                  "FreeAgent", "Draft", "Ticket", "EditPlayer", "About"};
 const std::string WidestName(40, 'W');
 
-class FittedScreens : public OnRosterScreen {
+class FittedScreens : public OnAnyScreen {
 protected:
-    FittedScreens() : font(QApplication::font())
-    {
-        CompleteTeam(5);
-        for (const int index : {900, 901, 902})
-            PutSkater(index, 5, position::Center, status::Scratch);
-        TeamMaker others(6);
-        LeagueData.RFAAge = 22;
-        LeagueData.UFAAge = 31;
-        LeagueData.MaxOffers = 50;
-        for (const int index : {910, 911, 912}) {
-            PutSkater(index, 0, position::Center, status::Farm);
-            PutSkater(index + 10, 6, position::Center, status::Farm).Contract = 0;
-            Players[index + 10].Age = 25;
-        }
-        LeagueData.FantasyDraft = true;
-        LeagueData.DivisionCount = 6;
-    }
+    FittedScreens() : font(QApplication::font()) { LeagueData.DivisionCount = 6; }
     ~FittedScreens() override { QApplication::setFont(font); }
 
     static void NameEverybodyWidest()
@@ -58,34 +39,6 @@ protected:
         QFont large = QApplication::font();
         large.setPointSize(LargePoints);
         QApplication::setFont(large);
-    }
-
-    // Opens a screen of team 5, the main screen included.
-    Screen& OpenScreen(const std::string& name)
-    {
-        frmMain& main = MainWithLeague();
-        if (name == "Main")
-            return main;
-        CurrentTeam = 5;
-        CallerScreen = "Main";
-        SelectedPlayer = 0; // the viewer then lists everybody
-        if (name == "Ticket")
-            OpenTeam(5);
-        TheStage.Open(name, name == "Ticket" ? static_cast<Screen&>(*TeamScreen()) : main);
-        Settle();
-        Machine.TakeBoxes();
-        return *TheStage.Find(name);
-    }
-    void CloseScreen(Screen& screen)
-    {
-        if (&screen == &Main())
-            return;
-        screen.close();
-        Settle();
-        if (TeamScreen() != nullptr) {
-            TeamScreen()->close();
-            Settle();
-        }
     }
 
     static const QScrollArea* PageOf(const QWidget* widget)
@@ -127,6 +80,14 @@ protected:
         EXPECT_LE(screen.minimumSizeHint().height(), area.height()) << name;
     }
 
+    void ExpectAllInReach()
+    {
+        EachOf(Names, [](const Screen& screen, const std::string& name) {
+            ExpectOnDisplay(screen, name);
+            ExpectCommandsInReach(screen, name);
+        });
+    }
+
     static bool IsCut(EntryList* list, int row)
     {
         QToolTip::hideText();
@@ -157,39 +118,28 @@ TEST_F(FittedScreens, TheDisplayOfTheseTestsIsASmallOne)
 TEST_F(FittedScreens, TheWidestNamesWidenNoWindowOffTheDisplay)
 {
     NameEverybodyWidest();
-    for (const char* name : Names) {
-        Screen& screen = OpenScreen(name);
-        ExpectOnDisplay(screen, name);
-        ExpectCommandsInReach(screen, name);
-        CloseScreen(screen);
-    }
+    ExpectAllInReach();
 }
 
 TEST_F(FittedScreens, LargeFontsLeaveEveryCommandInReach)
 {
     EnlargeFonts();
     NameEverybodyWidest();
-    for (const char* name : Names) {
-        Screen& screen = OpenScreen(name);
-        ExpectOnDisplay(screen, name);
-        ExpectCommandsInReach(screen, name);
-        CloseScreen(screen);
-    }
+    ExpectAllInReach();
 }
 
 TEST_F(FittedScreens, TheFooterStaysWhereThePageScrolls)
 {
     EnlargeFonts();
-    for (const char* name : {"Team", "Roster", "Line", "FarmLine", "FreeAgent", "Draft", "EditPlayer"}) {
-        Screen& screen = OpenScreen(name);
+    constexpr const char* withFooter[] = {"Team", "Roster", "Line", "FarmLine", "FreeAgent", "Draft", "EditPlayer"};
+    EachOf(withFooter, [](Screen& screen, const std::string& name) {
         screen.resize(700, 400);
         Settle();
         const auto* exit = screen.findChild<QPushButton*>("cmdExit");
         EXPECT_EQ(PageOf(exit), nullptr) << name;
         EXPECT_TRUE(screen.rect().contains(QRect(exit->mapTo(&screen, QPoint()), exit->size()))) << name;
         ExpectCommandsInReach(screen, name);
-        CloseScreen(screen);
-    }
+    });
 }
 
 TEST_F(FittedScreens, NamesThatTheDisplayHasRoomForAreShownWhole)
@@ -199,17 +149,16 @@ TEST_F(FittedScreens, NamesThatTheDisplayHasRoomForAreShownWhole)
             player.Name = "Magnus Wahlström-Benton";
     Own().Name = "Wexcombe Junction Switchmen";
     LeagueData.DivisionCount = 4;
-    for (const char* name : {"Main", "FreeAgent", "Draft", "EditPlayer", "Line", "FarmLine"}) {
-        Screen& screen = OpenScreen(name);
+    constexpr const char* withNames[] = {"Main", "FreeAgent", "Draft", "EditPlayer", "Line", "FarmLine"};
+    EachOf(withNames, [](const Screen& screen, const std::string& name) {
         for (EntryList* list : screen.findChildren<EntryList*>())
             if (list->isVisible() && list->count() > 0) { // the entries of the lines screens have tooltips of their own
                 EXPECT_GE(list->width(), list->WidthOfWidestEntry()) << name;
-                if (list->objectName() != "lstPlayer" || name == std::string("EditPlayer")) {
+                if (list->objectName() != "lstPlayer" || name == "EditPlayer") {
                     EXPECT_THAT(CutRows(list), IsEmpty()) << name << ' ' << list->objectName().toStdString();
                 }
             }
-        CloseScreen(screen);
-    }
+    });
 }
 
 TEST_F(FittedScreens, TheThreeListsOfTheRosterTakeTheWidthThatTheDisplayHas)

@@ -123,6 +123,19 @@ protected:
         return guards;
     }
 
+    // How many of the pixels that a widget paints are red.
+    static int Reddish(QWidget* widget)
+    {
+        const QImage image = widget->grab().toImage();
+        int count = 0;
+        for (int y = 0; y < image.height(); ++y)
+            for (int x = 0; x < image.width(); ++x) {
+                const QColor colour = image.pixelColor(x, y);
+                count += colour.red() > colour.green() + 60 && colour.red() > colour.blue() + 60 ? 1 : 0;
+            }
+        return count;
+    }
+
     static std::string Of(const QLabel* label) { return label->text().toStdString(); }
 
     TeamMaker Pro;

@@ -253,20 +253,10 @@ TEST_F(LineHabits, ARefusedPersonIsTheOneWhoIsRed)
     for (void (*use)() : {&UseDarkLook, &UseLightLook}) {
         use();
         Settle();
-        const auto reddish = [label] {
-            const QImage image = label->grab().toImage();
-            int count = 0;
-            for (int y = 0; y < image.height(); ++y)
-                for (int x = 0; x < image.width(); ++x) {
-                    const QColor colour = image.pixelColor(x, y);
-                    count += colour.red() > colour.green() + 60 && colour.red() > colour.blue() + 60 ? 1 : 0;
-                }
-            return count;
-        };
         label->SetMark(SlotLabel::Mark::Filled);
-        EXPECT_EQ(reddish(), 0);
+        EXPECT_EQ(Reddish(label), 0);
         label->SetMark(SlotLabel::Mark::Refused);
-        EXPECT_GT(reddish(), 100);
+        EXPECT_GT(Reddish(label), 100);
     }
 }
 
