@@ -154,5 +154,26 @@ TEST_F(DesktopLookTest, ADesktopOrAChosenThemeKeepsItsLook)
     }
 }
 
+TEST_F(DesktopLookTest, TheDesktopIsAskedUnlessAStyleOrAThemeIsChosen)
+{
+    const auto dark = []() -> std::unique_ptr<SchemeSource> {
+        auto scheme = std::make_unique<PlayedScheme>();
+        scheme->Tell(ColourScheme::Dark);
+        return scheme;
+    };
+    const QColor given = Accent();
+    for (const auto& [name, value] : {std::pair("QT_QPA_PLATFORMTHEME", "own"), {"QT_STYLE_OVERRIDE", "fusion"}}) {
+        const Environment chosen({{name, value}});
+        const auto look = UseLookOfDesktop(dark);
+        EXPECT_EQ(Accent(), given) << name;
+    }
+    for (const char* desktop : {"", "GNOME"}) {
+        QApplication::setPalette(QPalette());
+        const Environment set({{"XDG_CURRENT_DESKTOP", desktop}});
+        const auto look = UseLookOfDesktop(dark);
+        EXPECT_EQ(Accent(), Dark) << desktop;
+    }
+}
+
 } // namespace
 } // namespace dravik

@@ -45,15 +45,14 @@ void DesktopLook::UseGivenLook()
     QApplication::setPalette(QPalette());
 }
 
-std::unique_ptr<DesktopLook> UseLookOfDesktop()
+std::unique_ptr<DesktopLook> UseLookOfDesktop(std::unique_ptr<SchemeSource> (*scheme)())
 {
 #if defined(Q_OS_WIN) || defined(Q_OS_MACOS)
-    return std::make_unique<DesktopLook>(true, DesktopScheme());
+    return std::make_unique<DesktopLook>(true, scheme());
 #else
     const auto isSet = [](const char* name) { return !qEnvironmentVariableIsEmpty(name); };
     const bool isChosen = isSet("QT_QPA_PLATFORMTHEME") || isSet("QT_STYLE_OVERRIDE");
-    return std::make_unique<DesktopLook>(isChosen || isSet("XDG_CURRENT_DESKTOP"),
-                                         isChosen ? nullptr : DesktopScheme());
+    return std::make_unique<DesktopLook>(isChosen || isSet("XDG_CURRENT_DESKTOP"), isChosen ? nullptr : scheme());
 #endif
 }
 

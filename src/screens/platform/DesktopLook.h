@@ -28,8 +28,8 @@ private:
     std::unique_ptr<SchemeSource> source;
 };
 
-// The look of the desktop at hand. A style or a theme that the user has chosen for the toolkit stands, whatever the desktop
-// says.
-std::unique_ptr<DesktopLook> UseLookOfDesktop();
+// The look of the desktop at hand, whose word of colours `scheme` brings. A style or a theme that the user has chosen for the
+// toolkit stands, and the desktop is not asked.
+std::unique_ptr<DesktopLook> UseLookOfDesktop(std::unique_ptr<SchemeSource> (*scheme)() = &DesktopScheme);
 
 } // namespace dravik
