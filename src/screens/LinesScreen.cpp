@@ -12,6 +12,7 @@
 #include "screens/PersonWords.h"
 #include "screens/platform/CodePage.h"
 #include "screens/RosterEntry.h"
+#include "screens/Shown.h"
 
 #include <QGuiApplication>
 #include <type_traits>
@@ -24,8 +25,6 @@ namespace {
 constexpr int StrategyPoints = 5;
 
 int OwnNumber() { return static_cast<int>(CurrentTeam); }
-
-QString Shown(long long number) { return QString::number(number); }
 
 } // namespace
 

@@ -7,6 +7,7 @@
 #include "screens/EventGuard.h"
 #include "screens/frmEditPlayer.h"
 #include "screens/platform/CodePage.h"
+#include "screens/Shown.h"
 
 #include <algorithm>
 
@@ -14,8 +15,6 @@
 namespace dravik {
 
 namespace {
-
-QString Shown(long long number) { return QString::number(number); }
 
 // A limit of a number, and what a number beyond it becomes.
 struct Bound {

@@ -14,6 +14,7 @@
 #include "screens/panels/Labels.h"
 #include "screens/panels/Layouts.h"
 #include "screens/platform/CodePage.h"
+#include "screens/Shown.h"
 #include "screens/Stage.h"
 
 #include <QMenuBar>
@@ -31,12 +32,6 @@ constexpr int FilledHeight = 480;
 constexpr int NarrowWidth = 920;
 constexpr int WideWidth = 1240;
 constexpr int LeastListWidth = 130;
-
-template <std::size_t N>
-QString Shown(const Text<N>& text)
-{
-    return ToQString(text.Trimmed());
-}
 
 } // namespace
 

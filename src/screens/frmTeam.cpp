@@ -11,6 +11,7 @@
 #include "rules/Function.h"
 #include "rules/SeasonProjection.h"
 #include "screens/platform/CodePage.h"
+#include "screens/Shown.h"
 #include "screens/Stage.h"
 
 #include <cmath>
@@ -19,14 +20,6 @@
 namespace dravik {
 
 namespace {
-
-template <std::size_t N>
-QString Shown(const Text<N>& text)
-{
-    return ToQString(text.Trimmed());
-}
-
-QString Shown(long long number) { return QString::number(number); }
 
 // A number of whole and half games, "12" or "12.5", with the locale's decimal sign.
 QString ShownHalves(double number)

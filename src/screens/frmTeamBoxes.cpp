@@ -8,6 +8,7 @@
 #include "league/Reporting.h"
 #include "league/Session.h"
 #include "screens/platform/CodePage.h"
+#include "screens/Shown.h"
 #include "screens/Stage.h"
 
 #include <cmath>
@@ -16,14 +17,6 @@
 namespace dravik {
 
 namespace {
-
-template <std::size_t N>
-QString Shown(const Text<N>& text)
-{
-    return ToQString(text.Trimmed());
-}
-
-QString Shown(long long number) { return QString::number(number); }
 
 Team& OwnTeam() { return Teams[CurrentTeam]; }
 
