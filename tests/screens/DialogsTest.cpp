@@ -5,6 +5,7 @@
 #include "screens/frmWait.h"
 #include "screens/platform/BoxIcon.h"
 #include "screens/platform/CodePage.h"
+#include "screens/platform/FusionLook.h"
 #include "screens/platform/Palettes.h"
 #include "screens/platform/QtPlatform.h"
 
@@ -329,22 +330,38 @@ TEST_F(Dialogs, ABoxOfEachKindShowsItsOwnSignUnderEveryLook)
     }
 }
 
+// A style that puts pictures on the buttons of boxes, as a desktop may wish.
+class PicturesOnButtons : public QProxyStyle {
+public:
+    PicturesOnButtons() : QProxyStyle("Fusion") {}
+    int styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
+                  QStyleHintReturn* returned) const override
+    {
+        return hint == SH_DialogButtonBox_ButtonsHaveIcons ? 1 : QProxyStyle::styleHint(hint, option, widget, returned);
+    }
+};
+
 TEST_F(Dialogs, ButtonsHaveWordsAloneUnderTheProgramsLook)
 {
-    UseLightLook();
-    const auto expectWordsAlone = [](QDialog& shown) {
-        for (const QPushButton* button : shown.findChildren<QPushButton*>())
-            EXPECT_TRUE(button->icon().isNull()) << button->text().toStdString();
+    const auto pictures = [this] {
+        int count = 0;
+        const auto countOn = [&count](QDialog& shown) {
+            for (const QPushButton* button : shown.findChildren<QPushButton*>())
+                count += button->icon().isNull() ? 0 : 1;
+            shown.reject();
+        };
+        Show(35, countOn);
+        Ask("Enter New Name", countOn);
+        return count;
     };
-    Show(35, [&](QMessageBox& shown) {
-        EXPECT_EQ(shown.buttons().size(), 3);
-        expectWordsAlone(shown);
-        shown.reject();
-    });
-    Ask("Enter New Name", [&](QDialog& dialog) {
-        expectWordsAlone(dialog);
-        dialog.reject();
-    });
+    QApplication::setStyle(new PicturesOnButtons);
+    EXPECT_EQ(pictures(), 3 + 2);
+    UseLightLook();
+    auto* look = dynamic_cast<FusionLook*>(QApplication::style());
+    ASSERT_NE(look, nullptr);
+    look->setBaseStyle(new PicturesOnButtons);
+    EXPECT_EQ(pictures(), 0);
+    UseLightLook();
 }
 
 TEST_F(Dialogs, SignsOnTheAccentAreDrawnInItsOwnInk)
