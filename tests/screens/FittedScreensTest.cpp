@@ -161,6 +161,24 @@ TEST_F(FittedScreens, NamesThatTheDisplayHasRoomForAreShownWhole)
     });
 }
 
+TEST_F(FittedScreens, TheListsOfTheDraftOpenAtTheWidthOfTheirLongestName)
+{
+    const auto width = [this] {
+        Screen& draft = OpenScreen("Draft");
+        auto* players = draft.findChild<EntryList*>("lstPlayers");
+        EXPECT_THAT(CutRows(players), IsEmpty());
+        EXPECT_EQ(draft.findChild<EntryList*>("lstDraftList")->width(), players->width());
+        const int opened = players->width();
+        CloseScreen(draft);
+        return opened;
+    };
+    const int usual = width();
+    for (Player& player : Players)
+        if (player.InUse)
+            player.Name = std::string(34, 'W');
+    EXPECT_GT(width(), usual);
+}
+
 TEST_F(FittedScreens, TheThreeListsOfTheRosterTakeTheWidthThatTheDisplayHas)
 {
     constexpr int openingWidth = 1180; // where nobody's name asks for more
