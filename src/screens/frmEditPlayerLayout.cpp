@@ -38,6 +38,31 @@ void AddBelow(QGridLayout* grid, std::initializer_list<QWidget*> widgets)
         grid->addWidget(widget, grid->rowCount(), FieldColumn, Qt::AlignLeft);
 }
 
+// Has the rows of groups that stand side by side stand level, however high the groups are.
+void LevelRows(std::initializer_list<QWidget*> groups)
+{
+    int rows = 0;
+    int height = 0;
+    for (const QWidget* group : groups) {
+        const auto* grid = static_cast<QGridLayout*>(group->layout());
+        rows = std::max(rows, grid->rowCount());
+        for (int item = 0; item < grid->count(); ++item)
+            height = std::max(height, grid->itemAt(item)->sizeHint().height());
+    }
+    for (QWidget* group : groups) {
+        auto* grid = static_cast<QGridLayout*>(group->layout());
+        while (grid->rowCount() < rows) { // a row with nothing in it would have neither spacing nor a share
+            auto* filler = new QWidget(group);
+            filler->setFixedHeight(height);
+            grid->addWidget(filler, grid->rowCount(), CaptionColumn);
+        }
+        for (int row = 1; row < rows; ++row) { // the first row of a grid stays empty
+            grid->setRowMinimumHeight(row, height);
+            grid->setRowStretch(row, 1);
+        }
+    }
+}
+
 } // namespace
 
 frmEditPlayer::frmEditPlayer(Stage& stage) : Screen(stage, "frmEditPlayer")
@@ -57,10 +82,15 @@ frmEditPlayer::frmEditPlayer(Stage& stage) : Screen(stage, "frmEditPlayer")
     body->setColumnStretch(1, 1);
     body->addWidget(MakeIdentityGroup(), 0, 0);
     body->addWidget(MakeStatsGroup(), 0, 1);
-    body->addWidget(MakeConditionGroup(), 1, 0);
-    body->addWidget(MakeContractGroup(), 1, 1);
-    column->addLayout(body);
-    column->addStretch(1);
+    QWidget* condition = MakeConditionGroup();
+    QWidget* contract = MakeContractGroup();
+    LevelRows({condition, contract});
+    body->addWidget(condition, 1, 0);
+    body->addWidget(contract, 1, 1);
+    // What a tall window has left, the rows share.
+    body->setRowStretch(0, 2);
+    body->setRowStretch(1, 1);
+    column->addLayout(body, 1);
 
     SetPage(content, MakeFooter({chkEdit, cmdSearch, cmdNewPlayer, cmdNewGoaler, cmdErase}, {cmdExit}));
 
@@ -174,6 +204,7 @@ QWidget* frmEditPlayer::MakeIdentityGroup()
     for (int index = position::Center; index <= position::Defense; ++index)
         options->addWidget(optPosition[index], (index - 1) / 2, (index - 1) % 2);
     options->addWidget(optGoaler, 2, 0);
+    options->setColumnStretch(2, 1); // the options stand together at the left
     grid->addLayout(options, row, FieldColumn);
     AddBelow(grid, {chkRookie});
     return group;

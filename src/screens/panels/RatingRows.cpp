@@ -24,7 +24,7 @@ RatingRows::RatingRows(QWidget* panel, const Numbers& shownBy) : numbers(shownBy
 {
     setHorizontalSpacing(Gap);
     setVerticalSpacing(Gap / 2);
-    setColumnMinimumWidth(CellsOfColumn - 1, Gap / 2);
+    setColumnMinimumWidth(CellsOfColumn - 1, Gap); // a number stands closer to its bar than to the next caption
     const int captionWidth = panel->fontMetrics().horizontalAdvance("000");
     for (int row = Numbers::first; row <= Numbers::last; ++row) {
         Captions[row] = new MutedLabel(panel);
