@@ -3,6 +3,7 @@
 #include "screens/panels/DayStrip.h"
 #include "screens/panels/EditBox.h"
 #include "screens/panels/Labels.h"
+#include "screens/panels/LinkLabel.h"
 #include "screens/panels/ReasonsBox.h"
 #include "screens/panels/Shades.h"
 #include "screens/panels/SlotLabel.h"
@@ -60,6 +61,8 @@ protected:
         for (QLabel* label : screen.findChildren<QLabel*>()) {
             if (dynamic_cast<MutedLabel*>(label) != nullptr)
                 Measure(picture, *label, label->contentsRect(), "muted label");
+            if (dynamic_cast<LinkLabel*>(label) != nullptr)
+                Measure(picture, *label, label->contentsRect(), "link");
             if (auto* verdict = dynamic_cast<VerdictLabel*>(label)) {
                 const int sign = verdict->fontMetrics().height();
                 Measure(picture, *verdict, verdict->rect().adjusted(sign + Gap, 0, 0, 0), "verdict");
@@ -135,8 +138,9 @@ TEST_F(ContrastTest, EverySecondaryWordOnEveryGroundCanBeReadUnderEveryPalette)
             MeasureAll(screen);
         }
     });
-    for (const char* what : {"muted label", "verdict", "tag of a slot", "overall in a slot", "day", "empty reasons",
-                             "closed box", "beside an entry", "beside an alternate entry", "beside the chosen entry"})
+    for (const char* what :
+         {"muted label", "verdict", "tag of a slot", "overall in a slot", "day", "empty reasons", "closed box", "link",
+          "beside an entry", "beside an alternate entry", "beside the chosen entry"})
         EXPECT_GE(Measured[what], static_cast<int>(palettes.size())) << what;
 }
 

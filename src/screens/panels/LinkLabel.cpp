@@ -1,5 +1,7 @@
 #include "screens/panels/LinkLabel.h"
 
+#include "screens/panels/Shades.h"
+
 #include <QKeyEvent>
 #include <QMouseEvent>
 #include <QPainter>
@@ -23,7 +25,9 @@ void LinkLabel::paintEvent(QPaintEvent* /*event*/)
     underlined.setUnderline(true);
     painter.setFont(underlined);
     const int flags = static_cast<int>(QStyle::visualAlignment(layoutDirection(), alignment()));
-    style()->drawItemText(&painter, contentsRect(), flags, palette(), true, text(), QPalette::Link);
+    QPalette shaded = palette();
+    shaded.setColor(QPalette::Link, LinkText(palette()));
+    style()->drawItemText(&painter, contentsRect(), flags, shaded, true, text(), QPalette::Link);
     if (hasFocus()) {
         QStyleOptionFocusRect option;
         option.initFrom(this);

@@ -4,8 +4,8 @@
 
 namespace dravik {
 
-// A label that leads somewhere: underlined in the palette's colour of links. A click acts, and so do Enter and Space while
-// it has the focus.
+// A label that leads somewhere: underlined in the palette's colour of links, as far as it can be read. A click acts, and so
+// do Enter and Space while it has the focus.
 class LinkLabel : public QLabel {
     Q_OBJECT
 public:

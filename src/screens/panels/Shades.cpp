@@ -53,6 +53,13 @@ QColor ChosenGround(const QColor& highlight, const QColor& words)
     return FirstReadable(highlight, isLight ? Qt::black : Qt::white, 0, words);
 }
 
+QColor LinkText(const QPalette& palette)
+{
+    return FirstReadable(palette.color(QPalette::Active, QPalette::Link),
+                         palette.color(QPalette::Active, QPalette::WindowText), 0,
+                         palette.color(QPalette::Active, QPalette::Window));
+}
+
 void MutePlaceholder(QWidget& widget)
 {
     const QPalette& all = widget.palette();

@@ -21,7 +21,12 @@ QColor MutedOn(const QColor& text, const QImage& ground);
 // that `words` and what is muted beside them have that contrast too.
 QColor ChosenGround(const QColor& highlight, const QColor& words);
 
-// Gives a widget's placeholder text that colour, mixed from the palette at hand. To be called anew when the palette changes.
+// The palette's colour of links, mixed with its words where it could not be read on a window: a desktop that hands over dark
+// grounds may leave the toolkit's own dark blue.
+QColor LinkText(const QPalette& palette);
+
+// Gives a widget's placeholder text the colour of secondary words, mixed from the palette at hand. To be called anew when the
+// palette changes.
 void MutePlaceholder(QWidget& widget);
 
 // Red for what is wrong, readable on `background`. It never stands without a sign.
