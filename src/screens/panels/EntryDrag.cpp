@@ -59,6 +59,7 @@ bool EntryDrag::eventFilter(QObject* watched, QEvent* event)
 void EntryDrag::Begin()
 {
     isDragging = true;
+    viewport->setMouseTracking(true); // a move without a button shows that the release went elsewhere
     const QListWidgetItem* entry = list->Chosen();
     ghost = new QLabel(entry == nullptr ? QString() : entry->text(), list->window());
     ghost->setTextFormat(Qt::PlainText);
@@ -108,8 +109,10 @@ void EntryDrag::End()
     if (target != nullptr)
         target->SetDropTarget(false);
     target = nullptr;
-    if (viewport != nullptr)
+    if (viewport != nullptr) {
         viewport->unsetCursor();
+        viewport->setMouseTracking(false);
+    }
     delete ghost;
 }
 
