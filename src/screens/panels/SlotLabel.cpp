@@ -52,18 +52,6 @@ void PressLabel::keyPressEvent(QKeyEvent* event)
         QLabel::keyPressEvent(event);
 }
 
-void PressLabel::focusInEvent(QFocusEvent* event)
-{
-    QLabel::focusInEvent(event);
-    update();
-}
-
-void PressLabel::focusOutEvent(QFocusEvent* event)
-{
-    QLabel::focusOutEvent(event);
-    update();
-}
-
 void PressLabel::paintEvent(QPaintEvent* event)
 {
     QLabel::paintEvent(event);
