@@ -26,6 +26,7 @@ TEST_F(frmMainTest, EveryControlStandsUnderItsNameWithItsFirstCaption)
         EXPECT_EQ(label->text(), "Division Name");
     }
     EXPECT_EQ(Main().findChild<QLabel*>("lblConference(1)")->text(), "No League File Load!");
+    EXPECT_EQ(Main().findChild<QLabel*>("lblConference(1)")->alignment(), Qt::AlignCenter);
     EXPECT_EQ(Main().findChild<QLabel*>("lblConference(2)")->text(), "Conference Name");
     EXPECT_EQ(Main().findChild<QLabel*>("lblDate")->text(), "Client File Date : ");
 
@@ -147,6 +148,7 @@ TEST_F(frmMainTest, SixDivisionsFillSixListsInTeamNumberOrder)
     MainWithLeague();
     EXPECT_EQ(Main().windowTitle(), "Dravik Hockey Simulator Client - Autumn");
     EXPECT_EQ(Main().lblConference[1]->text(), "East");
+    EXPECT_EQ(Main().lblConference[1]->alignment(), Qt::AlignLeft | Qt::AlignVCenter);
     EXPECT_EQ(Main().lblConference[2]->text(), "West");
     EXPECT_TRUE(Main().lblConference[2]->isVisible());
     for (int division = 1; division <= 6; ++division) {
