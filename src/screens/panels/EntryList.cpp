@@ -37,19 +37,21 @@ QStringList AsideOf(const Entry& shown)
     return shown.data(entry::AsideRole).toStringList();
 }
 
-// What secondary words take from the right end of an entry.
-int RoomFor(const QStringList& aside, const QFontMetrics& metrics)
+// What secondary words take from the right end of an entry, when `width` gives that of a word.
+template <class Width>
+int RoomFor(const QStringList& aside, const Width& width)
 {
     int room = aside.isEmpty() ? 0 : SideMargin;
     for (const QString& word : aside)
-        room += AsideWidth(metrics, word) + AsideGap;
+        room += width(word) + AsideGap;
     return room;
 }
 
 // The same, and nothing where they have no room.
 int OwnAsideRoom(const QStyleOptionViewItem& option, const QModelIndex& index)
 {
-    const int room = RoomFor(AsideOf(index), option.fontMetrics);
+    const auto wordWidth = [&](const QString& word) { return AsideWidth(option.fontMetrics, word); };
+    const int room = RoomFor(AsideOf(index), wordWidth);
     if (room == 0)
         return 0;
     const int width = ContentArea(option.rect).width();
@@ -64,13 +66,7 @@ int OwnAsideRoom(const QStyleOptionViewItem& option, const QModelIndex& index)
 int AsideRoom(const QStyleOptionViewItem& option, const QModelIndex& index)
 {
     const auto* list = qobject_cast<const EntryList*>(option.widget);
-    if (list != nullptr && list->KeepsAsidesTogether())
-        for (int row = 0; row < list->count(); ++row) {
-            const QModelIndex other = index.siblingAtRow(row);
-            if (!AsideOf(other).join(QString()).isEmpty() && OwnAsideRoom(option, other) == 0)
-                return 0;
-        }
-    return OwnAsideRoom(option, index);
+    return list != nullptr && list->LeavesAsidesOut() ? 0 : OwnAsideRoom(option, index);
 }
 
 // The text cut to `width` in its name; the marks behind the name stay.
@@ -171,11 +167,13 @@ EntryList::EntryList(QWidget* parent) : QListWidget(parent)
     setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
 }
 
+// An entry that is in the list already tells everybody of each word that it is given.
 void EntryList::Add(const QString& text, int number, const QStringList& aside)
 {
-    auto* item = new EntryItem(text, this);
+    auto* item = new EntryItem(text);
     item->setData(entry::NumberRole, number);
     item->setData(entry::AsideRole, aside);
+    addItem(item);
 }
 
 void EntryList::SetCurrentToNone() { setCurrentRow(-1, QItemSelectionModel::NoUpdate); }
@@ -186,11 +184,19 @@ void EntryList::Unchoose()
     setCurrentRow(-1);
 }
 
-// Thousands of entries are compared by the widths of their letters alone; only the widest is laid out.
+// Thousands of entries are compared by the widths of their letters alone; only the widest is laid out. Of their secondary
+// words, which are few different ones, each is laid out once.
 int EntryList::WidthOfWidestEntry() const
 {
     const QFontMetrics metrics = fontMetrics();
     QHash<QChar, int> letters;
+    QHash<QString, int> words;
+    const auto wordWidth = [&](const QString& word) {
+        auto known = words.constFind(word);
+        if (known == words.constEnd())
+            known = words.insert(word, AsideWidth(metrics, word));
+        return *known;
+    };
     const auto roughWidth = [&](const QString& text) {
         int width = 0;
         for (const QChar letter : text) {
@@ -210,7 +216,7 @@ int EntryList::WidthOfWidestEntry() const
             most = width;
             widest = text;
         }
-        room = std::max(room, RoomFor(AsideOf(*item(row)), metrics));
+        room = std::max(room, RoomFor(AsideOf(*item(row)), wordWidth));
     }
     constexpr int kerning = 2;
     return metrics.horizontalAdvance(widest) + kerning + room + 2 * SideMargin + 2 * frameWidth() +
@@ -229,10 +235,29 @@ QSize EntryList::sizeHint() const
     return {askedWidth > 0 ? askedWidth : usual.width(), usual.height()};
 }
 
+bool EntryList::AnAsideHasNoRoom() const
+{
+    QStyleOptionViewItem option;
+    initViewItemOption(&option);
+    for (int row = 0; row < count(); ++row) {
+        const QModelIndex entry = model()->index(row, 0);
+        option.rect = visualRect(entry);
+        if (!AsideOf(entry).join(QString()).isEmpty() && OwnAsideRoom(option, entry) == 0)
+            return true;
+    }
+    return false;
+}
+
 QListWidgetItem* EntryList::Chosen() const
 {
     const QList<QListWidgetItem*> chosen = selectedItems();
     return chosen.isEmpty() ? nullptr : chosen.front();
+}
+
+void EntryList::paintEvent(QPaintEvent* event)
+{
+    leavesAsidesOut = keepsAsidesTogether && AnAsideHasNoRoom();
+    QListWidget::paintEvent(event);
 }
 
 void EntryList::keyPressEvent(QKeyEvent* event)

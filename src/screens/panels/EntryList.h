@@ -49,7 +49,8 @@ public:
     [[nodiscard]] bool CutsNamesFirst() const { return cutsNamesFirst; }
     // Has the secondary words left out of all entries where those of one do not fit. For lists of few entries.
     void KeepAsidesTogether() { keepsAsidesTogether = true; }
-    [[nodiscard]] bool KeepsAsidesTogether() const { return keepsAsidesTogether; }
+    // Whether they were left out when the list was painted last.
+    [[nodiscard]] bool LeavesAsidesOut() const { return leavesAsidesOut; }
     // Takes the choice away, so that the next click or key on any entry is a new one.
     void Unchoose();
     void SetCurrentToNone();
@@ -69,6 +70,7 @@ signals:
 protected:
     // The row that the first arrow chooses when nothing is chosen.
     [[nodiscard]] virtual int FirstChoice() const { return std::max(0, currentRow()); }
+    void paintEvent(QPaintEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
     void mousePressEvent(QMouseEvent* event) override;
     void mouseReleaseEvent(QMouseEvent* event) override;
@@ -78,8 +80,11 @@ protected:
     QItemSelectionModel::SelectionFlags selectionCommand(const QModelIndex& index, const QEvent* event) const override;
 
 private:
+    [[nodiscard]] bool AnAsideHasNoRoom() const;
+
     bool cutsNamesFirst = false;
     bool keepsAsidesTogether = false;
+    bool leavesAsidesOut = false;
     int askedWidth = 0;
 };
 
