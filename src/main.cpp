@@ -5,17 +5,21 @@
 #include "screens/Stage.h"
 
 #include <QIcon>
+#include <QTimer>
 
 namespace {
 
-// What task bars and window lists show. A desktop that knows the installed launcher takes the icon from there.
+// What task bars and window lists show. A desktop that knows the installed launcher takes the icon from there. The toolkit
+// looks for its readers of pictures first, so this waits until the first window is there and nothing else is to be done.
 void IntroduceToDesktop()
 {
-    QIcon icon;
-    for (const char* file : {":/icons/dravik-client-48.png", ":/icons/dravik-client-128.png"})
-        icon.addFile(file);
-    dravik::Application::setWindowIcon(icon);
     dravik::Application::setDesktopFileName("org.example.DravikClient");
+    QTimer::singleShot(0, qApp, [] {
+        QIcon icon;
+        for (const char* file : {":/icons/dravik-client-48.png", ":/icons/dravik-client-128.png"})
+            icon.addFile(file);
+        dravik::Application::setWindowIcon(icon);
+    });
 }
 
 } // namespace

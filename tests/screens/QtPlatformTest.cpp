@@ -117,6 +117,36 @@ TEST_F(QtPlatformTest, ASettingThatCannotBeKeptNamesTheFileAndHoldsForThisRun)
     EXPECT_EQ(QtPlatform(places).GetSetting("Settings", "LastLoadLeague", "none"), "none");
 }
 
+TEST_F(QtPlatformTest, ASettingThatIsStoredAlreadyIsNotWrittenOnceMore)
+{
+    const QByteArray byHand = "; by hand\n[Settings]\nLastLoadLeague=x\n";
+    const auto content = [this] {
+        QFile file(Path("settings.ini"));
+        return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+    };
+    Write(Path("settings.ini"), byHand);
+    Desktop.SaveSetting("Settings", "LastLoadLeague", "x");
+    EXPECT_EQ(content(), byHand);
+    Desktop.SaveSetting("Settings", "LastLoadLeague", "y");
+    EXPECT_NE(content(), byHand);
+    EXPECT_EQ(QtPlatform(Places()).GetSetting("Settings", "LastLoadLeague", "none"), "y");
+}
+
+TEST_F(QtPlatformTest, ASettingThatIsStoredAlreadyHoldsInsteadOfOneThatCouldNotBeKept)
+{
+    Write(Path("folder"), "");
+    auto places = Places();
+    places.SettingsFile = Path("folder/settings.ini");
+    QtPlatform desktop(places);
+    EXPECT_EQ(NumberOfFailure([&] { desktop.SaveSetting("Settings", "LastLoadLeague", "y"); }), 75);
+    ASSERT_TRUE(QFile::remove(Path("folder")));
+    ASSERT_TRUE(QDir().mkpath(Path("folder")));
+    Write(places.SettingsFile, "[Settings]\nLastLoadLeague=x\n");
+    EXPECT_EQ(desktop.GetSetting("Settings", "LastLoadLeague", "none"), "y");
+    desktop.SaveSetting("Settings", "LastLoadLeague", "x");
+    EXPECT_EQ(desktop.GetSetting("Settings", "LastLoadLeague", "none"), "x");
+}
+
 TEST_F(QtPlatformTest, ABrokenSettingsFileIsSetAsideOnceAndAFreshOneBegun)
 {
     for (const QByteArray& broken :

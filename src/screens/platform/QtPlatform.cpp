@@ -145,6 +145,12 @@ void QtPlatform::SaveSetting(const std::string& section, const std::string& key,
 {
     const QString name = SettingKey(section, key);
     const auto settings = Settings();
+    // What is stored already is not written once more: a start waits for no disk.
+    const QVariant stored = settings->value(name);
+    if (stored.isValid() && stored.toString() == ToQString(value) && settings->status() == QSettings::NoError) {
+        unwritten.erase(name);
+        return;
+    }
     settings->setValue(name, ToQString(value));
     settings->sync();
     if (settings->status() != QSettings::NoError) {
