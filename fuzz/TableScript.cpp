@@ -1,6 +1,7 @@
 #include "fuzz/TableScript.h"
 
 #include "fuzz/MemoryPlatform.h"
+#include "fuzz/Script.h"
 #include "fuzz/TableLeague.h"
 #include "league/Failure.h"
 
@@ -10,36 +11,6 @@
 namespace dravik::fuzz {
 
 namespace {
-
-class Script {
-public:
-    explicit Script(Input all) : input(all) {}
-
-    [[nodiscard]] bool Ended() const { return input.empty(); }
-    // What lies behind the end reads as 0.
-    int Byte()
-    {
-        if (input.empty())
-            return 0;
-        const int byte = input[0];
-        input = input.subspan(1);
-        return byte;
-    }
-    int Word()
-    {
-        const int low = Byte();
-        return low + 256 * Byte();
-    }
-    Input Bytes(int count)
-    {
-        const Input bytes = input.first(std::min(static_cast<std::size_t>(count), input.size()));
-        input = input.subspan(bytes.size());
-        return bytes;
-    }
-
-private:
-    Input input;
-};
 
 void Change(Script& script)
 {

@@ -1,6 +1,8 @@
-// Takes any bytes out of a wrapper, and puts them into one, in pieces of any length: what comes out is what the one-call
-// functions of zlib make of it, by zlib's reader and by the one that tries the faster inflater first.
+// Takes any bytes out of a wrapper, those of a wrapper written by a script among them, and puts them into one, in pieces of
+// any length: what comes out is what the one-call functions of zlib make of it, by zlib's reader and by the one that tries the
+// faster inflater first.
 
+#include "fuzz/DeflateScript.h"
 #include "fuzz/Target.h"
 #include "league/Arithmetic.h"
 #include "league/Failure.h"
@@ -199,11 +201,19 @@ void RunTarget(Input input)
     if (input.empty())
         return;
     const std::size_t longest = 1 + input[0] / 2 * 13U;
-    if (input[0] % 2 == 0) {
-        CheckOut(input.subspan(1), longest);
-        CheckOut(WithItsChecksum(input.subspan(1)), longest);
-    } else
-        CheckIn(input.subspan(1), longest);
+    const Input rest = input.subspan(1);
+    switch (input[0] % 4) {
+    case 0:
+        CheckOut(rest, longest);
+        CheckOut(WithItsChecksum(rest), longest);
+        break;
+    case 2:
+        CheckOut(WriteDeflate(rest), longest);
+        break;
+    default:
+        CheckIn(rest, longest);
+        break;
+    }
 }
 
 } // namespace dravik::fuzz

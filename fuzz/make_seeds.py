@@ -58,6 +58,25 @@ def in_blocks(*contents):
     return struct.pack("<i", sum(map(len, contents))) + b"".join(blocks) + stream.flush()
 
 
+SOUND = 255  # instead of the number of what is wrong with a code
+
+
+def own_codes(literals, distances):
+    """The last block of a script: two codes, what is wrong with each and with which symbol, and the symbols of the block."""
+    def code(second, splits, damage):
+        wrong = [damage] if damage == SOUND else [damage, 4]
+        return [second, len(splits)] + [byte for split in splits for byte in split] + wrong
+    last_one_with_own_codes = 6
+    symbols = [20] + [0, 1] * 10
+    return bytes([last_one_with_own_codes] + code(40, [(0, 128), (1, 41), (2, 130)], literals)
+                 + code(3, [(0, 5)], distances) + [0] + symbols)
+
+
+def script(last_block):
+    """A stored block and one with the fixed codes come before."""
+    return bytes([102, 0]) + bytes([0, 60, 65, 1]) + bytes([1, 4, 65, 66, 210, 0, 200]) + last_block
+
+
 def client(end=16902):
     date = struct.pack("<d", 45000.5)
     player = struct.pack("<hh", -1, 1) + b"Ward Tilton".ljust(40)
@@ -89,13 +108,18 @@ def seeds():
     yield "lines_wrapped", "stored", wrapper(slots(*head(lines(), 3)), 0)
     text = b"Lines of ten days, one after the other, one after the other. " * 4
     yield "wrapper", "out", bytes([40]) + wrapper(text)
-    yield "wrapper", "out_stored", bytes([2]) + wrapper(text, 0)
+    yield "wrapper", "out_stored", bytes([4]) + wrapper(text, 0)
     numbers = b" ".join(b"%d" % (number * number) for number in range(120))
-    yield "wrapper", "out_own_codes", bytes([2]) + wrapper(numbers)
-    yield "wrapper", "out_literals", bytes([90]) + literals_alone(numbers)
-    yield "wrapper", "out_blocks", bytes([254]) + in_blocks(numbers + bytes(70000), numbers, numbers)
+    yield "wrapper", "out_own_codes", bytes([4]) + wrapper(numbers)
+    yield "wrapper", "out_literals", bytes([88]) + literals_alone(numbers)
+    yield "wrapper", "out_blocks", bytes([252]) + in_blocks(numbers + bytes(70000), numbers, numbers)
     yield "wrapper", "in", bytes([41]) + text
     yield "wrapper", "in_zeros", bytes([255]) + bytes(300)
+    damages = ("lost", "longer", "shorter", "single", "none", "many", "too_many")
+    for damage, name in enumerate(damages):
+        yield "wrapper", f"script_{name}_literal", script(own_codes(damage, SOUND))
+        yield "wrapper", f"script_{name}_distance", script(own_codes(SOUND, damage))
+    yield "wrapper", "script_sound", script(own_codes(SOUND, SOUND))
     for target, count in (("judges", 14), ("makers", 6)):
         for routine in range(count):
             # Everything that the flags choose, on day 1; first on the league as it is, then with a hurt skater.
