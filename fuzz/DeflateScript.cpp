@@ -19,7 +19,8 @@ constexpr unsigned FirstLength = 257;
 constexpr unsigned Literals = 286;
 constexpr unsigned Distances = 30;
 constexpr unsigned LongestCode = 15;
-constexpr std::size_t MostContent = 1 << 18;
+// A block more than this at most. In small pieces the faster inflater moves its whole reach for each of them.
+constexpr std::size_t MostContent = 1 << 16;
 
 class Bits {
 public:

@@ -72,9 +72,9 @@ def own_codes(literals, distances):
                  + code(3, [(0, 5)], distances) + [0] + symbols)
 
 
-def script(last_block):
-    """A stored block and one with the fixed codes come before."""
-    return bytes([102, 0]) + bytes([0, 60, 65, 1]) + bytes([1, 4, 65, 66, 210, 0, 200]) + last_block
+def script(last_block, head=b""):
+    """A stored block and one with the fixed codes come before. The stream's head is the usual one unless told."""
+    return bytes([102, 240 if head else 0]) + head + bytes([0, 60, 65, 1]) + bytes([1, 4, 65, 66, 210, 0, 200]) + last_block
 
 
 def client(end=16902):
@@ -120,6 +120,8 @@ def seeds():
         yield "wrapper", f"script_{name}_literal", script(own_codes(damage, SOUND))
         yield "wrapper", f"script_{name}_distance", script(own_codes(SOUND, damage))
     yield "wrapper", "script_sound", script(own_codes(SOUND, SOUND))
+    yield "wrapper", "script_wrong_head", script(own_codes(SOUND, SOUND), b"\x78\x00")
+    yield "wrapper", "script_dictionary", script(own_codes(SOUND, SOUND), b"\x78\x20")
     for target, count in (("judges", 14), ("makers", 6)):
         for routine in range(count):
             # Everything that the flags choose, on day 1; first on the league as it is, then with a hurt skater.
