@@ -1,7 +1,7 @@
 #pragma once
 
 #include "bench/Ratio.h"
-#include "league/ClientVariable.h"
+#include "session/Session.h"
 
 #include <algorithm>
 #include <benchmark/benchmark.h>

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "league/Platform.h"
+#include "session/Session.h"
 
 #include <benchmark/benchmark.h>
 #include <cstdlib>

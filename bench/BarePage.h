@@ -1,6 +1,6 @@
 #pragma once
 
-#include "league/ClientVariable.h"
+#include "session/Session.h"
 
 #include <QGridLayout>
 #include <QLabel>

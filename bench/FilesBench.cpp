@@ -7,9 +7,9 @@
 
 #include "bench/BareInflate.h"
 #include "bench/Ratio.h"
-#include "league/ClientFile.h"
-#include "league/LinesFile.h"
 #include "league/SlotFile.h"
+#include "session/OpenLeagueClient.h"
+#include "session/Routines.h"
 #include "support/ClientFileBytes.h"
 #include "support/OpenedWindow.h"
 #include "support/ScriptedPlatform.h"

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "league/ClientVariable.h"
+#include "session/Session.h"
 #include "support/SmallLeague.h"
 
 namespace dravik {
@@ -10,7 +10,7 @@ namespace dravik {
 inline void FillLeague(int skaters = PlayerTable::last, int goalies = GoalieTable::last)
 {
     ResetClientVariables();
-    MessagesAllowed = true;
+    Machine().MessagesAllowed = true;
     MarkRosterChangesUntouched();
     SetOrdinaryRules();
     LeagueData.MaxProPlayers = 60;

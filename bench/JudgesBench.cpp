@@ -6,11 +6,11 @@
 
 #include "bench/FullLeague.h"
 #include "bench/Ratio.h"
-#include "makers/Makers.h"
-#include "rules/Function.h"
 #include "rules/People.h"
+#include "session/Routines.h"
 
 #include <array>
+#include <cstring>
 
 namespace dravik {
 namespace {
@@ -103,6 +103,8 @@ void ScratchEverybody()
 }
 
 constexpr double JudgeLimit = 4;
+constexpr double RosterAndCapLimit = 2.4; // one walk for the roster and one for both payrolls
+constexpr double CopyLimit = 1.5;         // of one memcpy
 constexpr double MakerLimit = 30;
 
 struct Case {
@@ -130,7 +132,7 @@ bool TeamIsDressed()
 constexpr std::array Cases{
     Case{"WalkWrittenOut", 0, Nothing, [] { benchmark::DoNotOptimize(WalkWrittenOut()); }},
     Case{"JudgeRoster", JudgeLimit, Nothing, [] { Demand(RosterIsComplete()); }},
-    Case{"JudgeRosterAndCap", JudgeLimit, Nothing, [] { Demand(CheckRoster(Own, true, true, false)); }},
+    Case{"JudgeRosterAndCap", RosterAndCapLimit, Nothing, [] { Demand(CheckRoster(Own, true, true, false)); }},
     Case{"JudgeCap", JudgeLimit, Nothing, [] { Demand(CheckSalaryCap(Own, false)); }},
     Case{"JudgeLines", JudgeLimit, RefillDay, [] { Demand(LinesAreComplete()); }},
     Case{"JudgeEmptyLines", JudgeLimit, EmptyDay, [] { Demand(!LinesAreComplete()); }},
@@ -157,8 +159,26 @@ void AgainstAWalk(benchmark::State& state, const Case& row)
         HoldTo(state, ratio, row.Limit);
 }
 
+// A whole league, copied onto the heap and given up again, against one memcpy of its size.
+void CopyALeague(benchmark::State& state)
+{
+    constexpr double microsecond = 1e-6;
+    UseFullLeague();
+    const auto target = MakeTables();
+    const auto ours = [] { benchmark::DoNotOptimize(Copy(OpenLeague).get()); };
+    const auto bare = [&] {
+        std::memcpy(static_cast<void*>(target.get()), &OpenLeague, sizeof OpenLeague);
+        benchmark::ClobberMemory();
+    };
+    HoldTo(state, Compare(state, ours, bare, microsecond), CopyLimit);
+}
+
 void RegisterCases()
 {
+    benchmark::RegisterBenchmark("CopyALeague", CopyALeague)
+        ->Iterations(2001)
+        ->UseManualTime()
+        ->Unit(benchmark::kMicrosecond);
     for (const Case& row : Cases)
         benchmark::RegisterBenchmark(row.Name, [&row](benchmark::State& state) { AgainstAWalk(state, row); })
             ->Iterations(2001)

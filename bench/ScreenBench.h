@@ -1,10 +1,10 @@
 #pragma once
 
 #include "bench/Ratio.h"
-#include "league/ClientVariable.h"
 #include "screens/platform/Palettes.h"
 #include "screens/Screen.h"
 #include "screens/Stage.h"
+#include "session/Session.h"
 #include "support/ScriptedPlatform.h"
 
 #include <benchmark/benchmark.h>

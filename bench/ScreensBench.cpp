@@ -10,10 +10,10 @@
 #include "bench/BarePage.h"
 #include "bench/Ratio.h"
 #include "bench/ScreenBench.h"
-#include "league/ClientVariable.h"
 #include "sample-league/ClientFileWriter.h"
 #include "sample-league/SampleLeague.h"
 #include "screens/frmMain.h"
+#include "session/Session.h"
 
 #include <benchmark/benchmark.h>
 #include <memory>

@@ -2,8 +2,8 @@
 
 #include "fuzz/MemoryPlatform.h"
 #include "fuzz/ReadFileTarget.h"
-#include "league/ClientFile.h"
-#include "league/ClientVariable.h"
+#include "session/OpenLeagueClient.h"
+#include "session/Session.h"
 
 #include <cstring>
 

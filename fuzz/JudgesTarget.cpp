@@ -1,12 +1,8 @@
 // Runs the judges, the money rules and the small lookups over tables of any bytes.
 
 #include "fuzz/TableScript.h"
-#include "league/ClientVariable.h"
 #include "league/Failure.h"
-#include "rules/Function.h"
-#include "rules/SalaryCap.h"
-#include "rules/SeasonProjection.h"
-#include "rules/StatRows.h"
+#include "session/Routines.h"
 
 #include <array>
 #include <cmath>

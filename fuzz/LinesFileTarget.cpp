@@ -4,9 +4,7 @@
 #include "fuzz/MemoryPlatform.h"
 #include "fuzz/ReadFileTarget.h"
 #include "fuzz/TableLeague.h"
-#include "league/ClientVariable.h"
-#include "league/LinesFile.h"
-#include "league/Reporting.h"
+#include "session/Routines.h"
 
 #include <cstring>
 

@@ -1,8 +1,7 @@
 // Runs the makers over tables of any bytes, and the judges over what they made.
 
 #include "fuzz/TableScript.h"
-#include "makers/Makers.h"
-#include "rules/Function.h"
+#include "session/Routines.h"
 
 namespace dravik::fuzz {
 

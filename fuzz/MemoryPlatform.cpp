@@ -101,22 +101,22 @@ void MemoryPlatform::SaveSetting(const std::string& /*section*/, const std::stri
 int MemoryPlatform::OpenLocation(const std::string& /*location*/, int /*showMode*/) { return 42; }
 
 // The digits do not matter here; that the amount is a number does.
-std::string MemoryPlatform::Currency(double amount)
+std::string MemoryPlatform::Currency(double amount) const
 {
     Require(std::isfinite(amount));
     return std::to_string(std::llround(amount));
 }
 
-std::string MemoryPlatform::CurrencyNoDecimals(double amount) { return Currency(amount); }
-std::string MemoryPlatform::Fixed(double value, int /*decimals*/) { return Currency(value); }
+std::string MemoryPlatform::CurrencyNoDecimals(double amount) const { return Currency(amount); }
+std::string MemoryPlatform::Fixed(double value, int /*decimals*/) const { return Currency(value); }
 
-std::string MemoryPlatform::LongDate(double days)
+std::string MemoryPlatform::LongDate(double days) const
 {
     Require(days >= -657434 && days < 2958466);
     return "date";
 }
 
-std::string MemoryPlatform::ShortTime(double days)
+std::string MemoryPlatform::ShortTime(double days) const
 {
     Require(days >= -657434 && days < 2958466);
     return "time";

@@ -1,8 +1,6 @@
 #include "fuzz/TableLeague.h"
 
-#include "league/ClientVariable.h"
-#include "league/Message.h"
-#include "makers/Makers.h"
+#include "session/Routines.h"
 
 #include <algorithm>
 #include <cstring>
@@ -128,7 +126,7 @@ void MakePlaceholders()
 void MakeTableLeague()
 {
     ResetClientVariables();
-    MessagesAllowed = true;
+    Machine().MessagesAllowed = true;
     MarkRosterChangesUntouched();
     MakeRules();
     MakePlaceholders();
@@ -175,7 +173,7 @@ void ResetTableLeague()
     CurrentTeam = 1;
     PlayerStatCount = 15;
     GoalieStatCount = 13;
-    MessagesAllowed = true;
+    Machine().MessagesAllowed = true;
     Modified = false;
     RosterFixed = 0;
 }

@@ -3,6 +3,7 @@
 #include "screens/platform/DesktopLook.h"
 #include "screens/platform/QtPlatform.h"
 #include "screens/Stage.h"
+#include "session/Session.h"
 
 #include <QIcon>
 #include <QTimer>

@@ -3,8 +3,8 @@
 //     open_once FILE
 
 #include "bench/Ratio.h"
-#include "league/ClientFile.h"
-#include "league/ClientVariable.h"
+#include "session/OpenLeagueClient.h"
+#include "session/Session.h"
 #include "support/OpenedWindow.h"
 #include "support/ScriptedPlatform.h"
 

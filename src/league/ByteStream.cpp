@@ -10,7 +10,10 @@ constexpr std::size_t ReadSize = 1 << 16;
 constexpr std::size_t WriteSize = 1 << 18;
 } // namespace
 
-FileSource::FileSource(const std::string& path) : name(path), file(Machine().OpenFile(path)), buffer(ReadSize) {}
+FileSource::FileSource(Disk& from, const std::string& path) :
+    disk(from), name(path), file(from.OpenFile(path)), buffer(ReadSize)
+{
+}
 
 Bytes FileSource::Next()
 {
@@ -21,14 +24,14 @@ Bytes FileSource::Next()
 void FileSource::Rewind()
 {
     file.reset();
-    file = Machine().OpenFile(name);
+    file = disk.OpenFile(name);
 }
 
-WholeFile::WholeFile(const std::string& path, const std::string& work) :
-    target(path), workPath(work.empty() ? path + ".part" : work)
+WholeFile::WholeFile(Disk& on, const std::string& path, const std::string& work) :
+    disk(on), target(path), workPath(work.empty() ? path + ".part" : work)
 {
     buffer.reserve(WriteSize);
-    file = Machine().CreateFile(workPath);
+    file = disk.CreateFile(workPath);
 }
 
 WholeFile::~WholeFile()
@@ -37,7 +40,7 @@ WholeFile::~WholeFile()
         return;
     file.reset();
     try {
-        Machine().DeleteFile(workPath);
+        disk.DeleteFile(workPath);
     } catch (const std::exception&) { // NOLINT: the failure that brought us here is the one to tell
     }
 }
@@ -58,7 +61,7 @@ void WholeFile::Commit()
     WriteOut();
     file->Flush();
     file->Close();
-    Machine().RenameFile(workPath, target);
+    disk.RenameFile(workPath, target);
     committed = true;
 }
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "league/Platform.h"
+#include "league/Disk.h"
 
 #include <span>
 #include <vector>
@@ -42,12 +42,13 @@ public:
 // The bytes of a file as they stand on the disk. Failures of the file are thrown.
 class FileSource final : public RewindableSource {
 public:
-    explicit FileSource(const std::string& path);
+    FileSource(Disk& disk, const std::string& path);
 
     Bytes Next() override;
     void Rewind() override;
 
 private:
+    Disk& disk;
     std::string name;
     std::unique_ptr<File> file;
     std::vector<unsigned char> buffer;
@@ -58,7 +59,7 @@ private:
 class WholeFile final : public ByteSink {
 public:
     // The other name is `work`, in the same folder or at least on the same disk; without one it is `path` and ".part".
-    explicit WholeFile(const std::string& path, const std::string& work = {});
+    WholeFile(Disk& disk, const std::string& path, const std::string& work = {});
     WholeFile(const WholeFile&) = delete;
     WholeFile& operator=(const WholeFile&) = delete;
     ~WholeFile() override;
@@ -69,6 +70,7 @@ public:
 private:
     void WriteOut();
 
+    Disk& disk;
     std::string target;
     std::string workPath;
     std::unique_ptr<File> file;

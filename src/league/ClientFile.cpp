@@ -1,16 +1,9 @@
 #include "league/ClientFile.h"
 
-#include "league/ClientVariable.h"
-#include "league/Failure.h"
-#include "league/Message.h"
-#include "league/OutsideCode.h"
-#include "league/Platform.h"
-#include "league/Reporting.h"
-#include "league/Session.h"
-#include "league/SettingsFailure.h"
-#include "league/SlotFile.h"
+#include "league/Positions.h"
+#include "league/RatingNames.h"
 
-#include <cmath>
+#include <string_view>
 #include <utility>
 
 namespace dravik {
@@ -29,78 +22,41 @@ void ReadTable(SlotReader& slots, Table& table)
 }
 
 // Whether both magics are right. After a wrong start magic nothing is read.
-bool ReadSlots(SlotReader& slots)
+bool ReadSlots(SlotReader& slots, Tables& league)
 {
     if (!slots.ReadMagic(StartMagic))
         return false;
-    slots.Read(LeagueData);
-    ReadTable(slots, Prospects);
-    ReadTable(slots, Teams);
-    ReadTable(slots, Players);
-    ReadTable(slots, Goalies);
-    ReadTable(slots, Coaches);
-    ReadTable(slots, GameSchedule);
+    slots.Read(league.LeagueData);
+    ReadTable(slots, league.Prospects);
+    ReadTable(slots, league.Teams);
+    ReadTable(slots, league.Players);
+    ReadTable(slots, league.Goalies);
+    ReadTable(slots, league.Coaches);
+    ReadTable(slots, league.GameSchedule);
     return slots.ReadMagic(EndMagic);
 }
 
-// What became of the reading of a league.
-struct LeagueRead {
-    SlotFileRead File = SlotFileRead::NotDecompressed;
-    bool Whole = false; // both magics are right
-};
+} // namespace
 
-// A file that cannot be read to its end is not read at all, although its head may have been: when the reading fails,
-// the tables are as they were before it.
-LeagueRead ReadLeague(const std::string& path)
+ClientFileRead ReadClientFile(Tables& league, const SlotFiles& files, const std::string& path)
 {
-    const League league = LeagueData;
-    const CoachTable coaches = Coaches;
+    const League rules = league.LeagueData;
+    const CoachTable coaches = league.Coaches;
     const auto takeBack = [&] {
-        LeagueData = league;
-        Coaches = coaches;
-        EmptyLeagueTables();
+        league.LeagueData = rules;
+        league.Coaches = coaches;
+        EmptyLeagueTables(league);
     };
-    LeagueRead outcome;
-    const auto read = [&](SlotReader& slots) { outcome.Whole = ReadSlots(slots); };
-    outcome.File = ReadSlotFile(path, read, SlotLength, takeBack);
+    ClientFileRead outcome;
+    const auto read = [&](SlotReader& slots) { outcome.Whole = ReadSlots(slots, league); };
+    outcome.File = ReadSlotFile(files, path, read, SlotLength, takeBack);
     return outcome;
 }
 
-void TellCritical(std::string_view text)
-{
-    CloseWait();
-    ShowBox(text, box::Critical);
-}
-
-void SetMenus(MainWindow& window)
-{
-    window.SetDraftMenu(false, "&Draft List");
-    if (!LeagueData.OffSeason) {
-        window.SetFreeAgentsMenu(!IsDeadlineInForce());
-        return;
-    }
-    window.SetFreeAgentsMenu(true);
-    if (LeagueData.FantasyDraft)
-        window.SetDraftMenu(true, "Fantasy &Draft List");
-    if (LeagueData.EntryDraft && LeagueData.EntryDraftDone == 0)
-        window.SetDraftMenu(true, "Entry &Draft List");
-}
-
-// The date of the client file, as long as it is one: from 1 January 100 to 31 December 9999, rounded to the second as it
-// is shown.
-double CheckedFileDate()
-{
-    constexpr double first = -657434;
-    constexpr double behindLast = 2958466;
-    constexpr double secondsOfDay = 86400;
-    const double date = LeagueData.FileDate;
-    if (!(date >= first && std::round(date * secondsOfDay) < behindLast * secondsOfDay))
-        Fail(failure::Overflow);
-    return date;
-}
+namespace {
 
 template <class Person>
-void FillPlaceholder(Person& person, std::string_view name, int endurance)
+void FillPlaceholder(Person& person, std::string_view name, int endurance, const League& rules)
 {
     person.InUse = true;
     person.Name = name;
@@ -115,7 +71,7 @@ void FillPlaceholder(Person& person, std::string_view name, int endurance)
     person.Salary = 1000;
     person.Condition = 100;
     for (auto& stat : person.Stats)
-        stat = LeagueData.UnknownRating;
+        stat = rules.UnknownRating;
     person.Stats[endurance] = 80;
 }
 
@@ -129,105 +85,33 @@ void CopyWords(Changes& changes, const People& people)
 }
 
 // Older files know nothing of these rules and hold 0.
-void SetDefaults()
+void SetDefaults(League& rules)
 {
     const std::pair<Int16&, int> defaults[] = {
-        {LeagueData.ProDressedSkaters, 18}, {LeagueData.MaxDressedGoalies, 2},  {LeagueData.RequiredCenters, 3},
-        {LeagueData.RequiredLeftWings, 3},  {LeagueData.RequiredRightWings, 3}, {LeagueData.RequiredDefensemen, 6},
-        {LeagueData.OverallWeightCK, 50},
+        {rules.ProDressedSkaters, 18}, {rules.MaxDressedGoalies, 2},  {rules.RequiredCenters, 3},
+        {rules.RequiredLeftWings, 3},  {rules.RequiredRightWings, 3}, {rules.RequiredDefensemen, 6},
+        {rules.OverallWeightCK, 50},
     };
     for (const auto& [field, value] : defaults)
         if (field == 0)
             field = value;
 }
 
-// Makes the tables ready that were just read. Nothing of this fails on whatever the file holds.
-void PrepareLeague()
-{
-    const bool all = static_cast<bool>(LeagueData.ShowAllRatings);
-    PlayerStatCount = all ? 15 : 7;
-    GoalieStatCount = all ? 13 : 7;
-    FillPlaceholder(Players[0], "Unknown Player", skater::DU);
-    Players[0].Position = position::Center;
-    FillPlaceholder(Goalies[0], "Unknown Goalie", goalie::DU);
-    CopyWords(RosterChanges, Players);
-    CopyWords(RosterChangesGoalie, Goalies);
-    SetDefaults();
-}
-
-// Stores the path for the next start. The league is open all the same where the settings cannot be written.
-void RememberLeague(const std::string& path, MainWindow& window)
-{
-    const std::string words = " The next start does not open this league by itself.";
-    std::string told;
-    try {
-        Machine().SaveSetting("Settings", "LastLoadLeague", path);
-    } catch (const SettingsFailure& failed) {
-        told = "The settings could not be written to " + failed.File + "." + words;
-    } catch (const std::exception&) {
-        told = "The settings could not be written." + words;
-    }
-    window.Tell(QuietLine::SettingsUnwritten, told);
-}
-
-// Shows the date of the file; when it is none, that of no file.
-void ShowFileDate(MainWindow& window)
-{
-    const std::string caption = "Client File Date : ";
-    try {
-        const double date = CheckedFileDate();
-        window.SetDateLabel(caption + Machine().LongDate(date) + " at " + Machine().ShortTime(date));
-    } catch (...) {
-        window.SetDateLabel(caption);
-        throw;
-    }
-}
-
-// A stream that does not fit its checksum gave something all the same, and nobody can tell which records are wrong.
-void TellOfDamage(bool damaged, MainWindow& window)
-{
-    window.Tell(QuietLine::Damaged,
-                damaged ? "This client file was damaged on its way, and some of it may be wrong. Get it anew." : "");
-}
-
-void ShowLeague(const std::string& path, bool damaged, MainWindow& window)
-{
-    constexpr std::size_t extension = 4; // whether the name has one or not
-    WindowTitle = std::string(ProgramTitle) + " - " + WithoutLastCharacters(GetFileName(path), extension);
-    window.SetWindowCaption(WindowTitle);
-    window.PlaceTeam();
-    window.CentreOnScreen();
-    window.ShowLeagueMenus();
-    CloseWait();
-    TellOfDamage(damaged, window);
-    RememberLeague(path, window);
-    SetMenus(window);
-    ShowFileDate(window);
-}
-
 } // namespace
 
-void OpenLeagueClient(const std::string& path, MainWindow& window)
+void PrepareLeague(Tables& league)
 {
-    Reporting(" in OpenLeagueClient!", [&] {
-        EmptyLeagueTables();
-        if (!FileExist(path)) {
-            TellCritical("Cannot find last client league file!");
-            return;
-        }
-        DeleteIfExists(TempFile);
-        ShowWait();
-        const LeagueRead outcome = ReadLeague(ExistingPath(path));
-        if (outcome.File == SlotFileRead::NotDecompressed)
-            return; // told, and the wait screen stays
-        if (!outcome.Whole) {
-            TellCritical("File Integrity is incorrect!");
-            EmptyLeagueTables();
-            return;
-        }
-        PrepareLeague();
-        ShowLeague(path, outcome.File == SlotFileRead::Damaged, window);
-    });
+    FillPlaceholder(league.Players[0], "Unknown Player", skater::DU, league.LeagueData);
+    league.Players[0].Position = position::Center;
+    FillPlaceholder(league.Goalies[0], "Unknown Goalie", goalie::DU, league.LeagueData);
+    CopyWords(league.RosterChanges, league.Players);
+    CopyWords(league.RosterChangesGoalie, league.Goalies);
+    SetDefaults(league.LeagueData);
+}
+
+ShownRatings RatingsShownBy(const League& rules)
+{
+    return rules.ShowAllRatings ? ShownRatings{.Skater = 15, .Goalie = 13} : ShownRatings{.Skater = 7, .Goalie = 7};
 }
 
 } // namespace dravik

@@ -1,42 +1,33 @@
 #pragma once
 
-#include <optional>
+#include "league/SlotFile.h"
+#include "league/Tables.h"
+
 #include <string>
-#include <string_view>
 
 namespace dravik {
 
-// What the main window says without a box and for as long as it holds, a line for each kind.
-enum class QuietLine {
-    SettingsSetAside,  // the settings file could not be read
-    SettingsUnwritten, // a setting could not be written
-    Damaged            // the open client file was damaged on its way
+// What became of the reading of a client file.
+struct ClientFileRead {
+    SlotFileRead File = SlotFileRead::NotDecompressed;
+    bool Whole = false; // both magics are right
 };
 
-// What opening a client file does to the main window. `frmMain` is one; tests have another.
-class MainWindow {
-public:
-    MainWindow() = default;
-    MainWindow(const MainWindow&) = delete;
-    MainWindow& operator=(const MainWindow&) = delete;
-    virtual ~MainWindow() = default;
+// Reads the client file `path` into `league`. A file that cannot be read to its end is not read at all, although its head
+// may have been: when the reading fails, `LeagueData` and `Coaches` are as they were before it and the five tables that a
+// load replaces are empty. A file that is not whole leaves in the tables what it held. A wrapper that cannot be read is
+// told; failures on a plain file are thrown.
+ClientFileRead ReadClientFile(Tables& league, const SlotFiles& files, const std::string& path);
 
-    virtual void SetWindowCaption(const std::string& caption) = 0;
-    virtual void PlaceTeam() = 0;
-    virtual void CentreOnScreen() = 0;
-    // Makes `mnuTeam` visible, and `mnuOutputRatingCSV` visible and enabled.
-    virtual void ShowLeagueMenus() = 0;
-    virtual void SetDraftMenu(bool enabled, std::string_view caption) = 0;
-    virtual void SetFreeAgentsMenu(bool enabled) = 0;
-    virtual void SetDateLabel(const std::string& text) = 0;
-    // Says `text` in the quiet line of its kind until it is told another; the empty text takes the line away.
-    virtual void Tell(QuietLine line, const std::string& text) = 0;
+// Makes a league ready that was just read: placeholders, the copied flags, the defaults of rules that older files do not
+// know. Nothing of it fails on whatever the file held.
+void PrepareLeague(Tables& league);
+
+// How many ratings the league shows of a skater and of a goalie: the single ones, or their groups.
+struct ShownRatings {
+    int Skater;
+    int Goalie;
 };
-
-// Reads the client file `path` into the tables and shows the league in `window`. It has no result: a file that is
-// missing or not whole is told in a critical box and leaves the tables empty and the window as it was. A league that was
-// read is made ready before anything of it is shown, so that it is whole whatever fails then. Settings that cannot be written
-// are told in a quiet line.
-void OpenLeagueClient(const std::string& path, MainWindow& window);
+ShownRatings RatingsShownBy(const League& rules);
 
 } // namespace dravik

@@ -1,6 +1,5 @@
 #include "league/DraftFile.h"
 
-#include "league/ClientVariable.h"
 #include "league/OldFile.h"
 #include "league/OutsideCode.h"
 #include "league/SlotFile.h"
@@ -19,21 +18,25 @@ static_assert(DraftSlot == 12 && RecordCount == 1005 && FileLength == 12060);
 
 } // namespace
 
-std::string DraftFilePath(int team) { return TeamFilePath(Teams[team].Name.Trimmed(), ".dvd"); }
-
-bool WriteDraftFile(int team, const DraftRanking& ranking, const std::string& target)
+std::string DraftFilePath(const Tables& league, Disk& disk, int team)
 {
-    DeleteIfExists(TempFile);
-    OldFile old(target);
+    return TeamFilePath(disk, league.Teams[team].Name.Trimmed(), ".dvd");
+}
+
+bool WriteDraftFile(const Tables& league, const FileAccess& access, int team, const DraftRanking& ranking,
+                    const std::string& target)
+{
+    DeleteIfExists(access.Disk, access.WorkFile);
+    OldFile old(access.Disk, target);
     const auto write = [&](SlotWriter& slots) {
         slots.WriteMagic(StartMagic);
-        slots.Write(LeagueData.LeagueCode);
+        slots.Write(league.LeagueData.LeagueCode);
         slots.Write(Int16(team));
         for (const Int16& id : ranking)
             slots.Write(id);
         slots.WriteMagic(EndMagic);
     };
-    if (!WriteSlotFile(target, FileLength, write, DraftSlot, TempFile))
+    if (!WriteSlotFile(SlotFilesOf(access), target, FileLength, write, DraftSlot, access.WorkFile))
         return false;
     old.Replaced();
     return true;

@@ -1,6 +1,7 @@
 #pragma once
 
-#include "league/Field.h"
+#include "league/FileAccess.h"
+#include "league/Tables.h"
 
 #include <string>
 
@@ -12,11 +13,12 @@ using DraftRanking = Row<Int16, 0, 1000>;
 
 // Where the draft file of `team` (1..100) is saved: the program's folder, the team's name without spaces, ".dvd". Fails
 // with 75 when the name holds a character that no file name may hold.
-std::string DraftFilePath(int team);
+std::string DraftFilePath(const Tables& league, Disk& disk, int team);
 
 // Writes `ranking` as the draft file of `team` to `target`, plain or compressed as the settings say. A work file left
 // behind is deleted first; the new file is the work file until it is whole, so both have to be on one disk, and then takes
 // the place of what stands at `target` in one step. After a failure the old one is deleted. False after a failed compression, which is told; any other failure is thrown.
-bool WriteDraftFile(int team, const DraftRanking& ranking, const std::string& target);
+bool WriteDraftFile(const Tables& league, const FileAccess& access, int team, const DraftRanking& ranking,
+                    const std::string& target);
 
 } // namespace dravik

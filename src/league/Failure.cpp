@@ -12,7 +12,7 @@ struct Description {
     const char* Text;
 };
 
-constexpr std::array Descriptions{
+constexpr std::array<Description, 12> Descriptions{
     Description{failure::InvalidCall, "Invalid procedure call or argument"},
     Description{failure::Overflow, "Overflow"},
     Description{failure::OutOfMemory, "Out of memory"},

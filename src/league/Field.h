@@ -21,6 +21,8 @@ class Field {
 public:
     constexpr Field() = default;
     constexpr Field(long long value) { *this = value; } // NOLINT: a plain number is as good as a field
+    // A float has to be rounded by the rule at hand before it is stored.
+    Field(std::floating_point auto) = delete;
 
     constexpr operator long long() const // NOLINT: a field reads as a plain number
     {
@@ -42,11 +44,12 @@ public:
         return *this;
     }
 
-    // A float has to be rounded by the rule at hand before it is stored.
     Field& operator=(std::floating_point auto) = delete;
 
     constexpr Field& operator+=(long long value) { return *this = *this + value; }
     constexpr Field& operator-=(long long value) { return *this = *this - value; }
+    Field& operator+=(std::floating_point auto) = delete;
+    Field& operator-=(std::floating_point auto) = delete;
     constexpr Field& operator++() { return *this += 1; }
 
 private:
@@ -92,10 +95,11 @@ private:
 class Boolean {
 public:
     constexpr Boolean() = default;
-    constexpr Boolean(bool value) { *this = value; } // NOLINT: a plain truth value is as good as a field
+    constexpr Boolean(std::same_as<bool> auto value) { *this = value; } // NOLINT: a truth value is as good as a field
 
     constexpr explicit operator bool() const { return word == -1; }
-    constexpr Boolean& operator=(bool value)
+    // Takes a truth value only: what a number would mean here, the raw word or a yes, is for the caller to say.
+    constexpr Boolean& operator=(std::same_as<bool> auto value)
     {
         word = value ? -1 : 0;
         return *this;
@@ -103,6 +107,7 @@ public:
 
     [[nodiscard]] constexpr long long Word() const { return word; }
     constexpr void SetWord(long long value) { word = value; }
+    void SetWord(std::floating_point auto) = delete;
 
 private:
     Int16 word;

@@ -1,9 +1,6 @@
 #include "league/InputCheck.h"
 
-#include "league/ClientVariable.h"
-#include "league/Message.h"
 #include "league/OutsideCode.h"
-#include "league/Platform.h"
 #include "league/Reporting.h"
 
 #include <algorithm>
@@ -76,13 +73,13 @@ CharacterClass ClassOf(char character, InputMode mode)
 
 } // namespace
 
-bool CheckInput(std::string_view text, InputMode mode, bool required, bool silent)
+bool CheckInput(Voice& says, std::string_view text, InputMode mode, bool required, bool silent)
 {
     // The walk alone refuses nothing: a refusal is made together with its message.
     if (silent || mode > InputMode::NumbersAndLetters)
         return true;
     bool result = false;
-    Reporting(" in CheckInput", [&] {
+    Reporting(says, " in CheckInput", [&] {
         bool proper = false;
         bool refused = false;
         for (auto at = text.begin(); at != text.end() && !refused; ++at) {
@@ -91,10 +88,10 @@ bool CheckInput(std::string_view text, InputMode mode, bool required, bool silen
             refused = !character.Accepted;
         }
         if (!proper && (required || mode == InputMode::Numbers)) {
-            ShowBox("No Valid Input!", box::Warning);
+            says.ShowBox("No Valid Input!", box::Warning);
         } else if (refused) {
             const std::string allowed(AllowedCharacters[static_cast<int>(mode)]);
-            ShowBox(allowed + " are allowed in that textbox!", box::Warning);
+            says.ShowBox(allowed + " are allowed in that textbox!", box::Warning);
         } else {
             result = true;
         }
@@ -102,24 +99,24 @@ bool CheckInput(std::string_view text, InputMode mode, bool required, bool silen
     return result;
 }
 
-bool CheckPassword(int team)
+bool CheckPassword(const Tables& league, Platform& machine, int team)
 {
     constexpr std::size_t digestLength = 32;
     bool mayGoOn = false;
-    Reporting(" in CheckPassword!", [&] {
+    Reporting(machine, " in CheckPassword!", [&] {
         if (!TeamTable::Has(team)) {
-            ShowIntegrityFailure();
+            machine.ShowIntegrityFailure();
             return;
         }
         // A blank field, and a damaged one just as well, means that there is no password.
-        const std::string password = RemoveSpaces(Teams[team].Password.Raw());
+        const std::string password = RemoveSpaces(league.Teams[team].Password.Raw());
         if (password.size() != digestLength) {
             mayGoOn = true;
             return;
         }
-        mayGoOn = DigestStrToHexStr(AskText("Password Required!")) == password;
+        mayGoOn = DigestStrToHexStr(machine, machine.AskText("Password Required!")) == password;
         if (!mayGoOn)
-            ShowBox("Password is incorrect!", box::Warning);
+            machine.ShowBox("Password is incorrect!", box::Warning);
     });
     return mayGoOn;
 }

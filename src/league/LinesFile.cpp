@@ -1,6 +1,5 @@
 #include "league/LinesFile.h"
 
-#include "league/ClientVariable.h"
 #include "league/OldFile.h"
 #include "league/OutsideCode.h"
 #include "league/SlotFile.h"
@@ -38,18 +37,18 @@ long long ReadChanges(SlotReader& slots, Changes& changes)
     return Changes::last;
 }
 
-bool ReadHead(SlotReader& slots)
+bool ReadHead(SlotReader& slots, const Tables& league, int team)
 {
     if (!slots.ReadMagic(StartMagic))
         return false;
     decltype(League::LeagueCode) code;
-    Int16 team;
-    return slots.Read(code) && code.Raw() == LeagueData.LeagueCode.Raw() && slots.Read(team) && team == CurrentTeam;
+    Int16 number;
+    return slots.Read(code) && code.Raw() == league.LeagueData.LeagueCode.Raw() && slots.Read(number) && number == team;
 }
 
-void ReadContent(SlotReader& slots, Content& content)
+void ReadContent(SlotReader& slots, Content& content, const Tables& league, int team)
 {
-    content.HeadFits = ReadHead(slots);
+    content.HeadFits = ReadHead(slots, league, team);
     if (!content.HeadFits)
         return;
     content.HasTeam = slots.Read(content.Team);
@@ -59,12 +58,12 @@ void ReadContent(SlotReader& slots, Content& content)
 }
 
 template <class Changes, class People>
-void TakeOver(const Changes& read, long long count, Changes& changes, People& people)
+void TakeOver(const Changes& read, long long count, int team, Changes& changes, People& people)
 {
     for (long long i = 1; i <= count; ++i) {
         changes[i] = read[i];
         auto& person = people[i];
-        if (person.Team != CurrentTeam)
+        if (person.Team != team)
             continue;
         if (read[i].Status != person.Status && read[i].Status < 3)
             person.Status = read[i].Status;
@@ -82,48 +81,52 @@ void RefreshStatus(Changes& changes, const People& people)
 
 } // namespace
 
-std::string LinesFilePath(int team) { return TeamFilePath(Teams[team].Name.Trimmed(), ".dvl"); }
-
-bool WriteLinesFile(int team, const std::string& target)
+std::string LinesFilePath(const Tables& league, Disk& disk, int team)
 {
-    const Team& record = Teams[team];
-    DeleteIfExists(TempFile);
-    OldFile old(target);
-    RefreshStatus(RosterChanges, Players);
-    RefreshStatus(RosterChangesGoalie, Goalies);
+    return TeamFilePath(disk, league.Teams[team].Name.Trimmed(), ".dvl");
+}
+
+bool WriteLinesFile(Tables& league, const FileAccess& access, int team, const std::string& target)
+{
+    const Team& record = league.Teams[team];
+    DeleteIfExists(access.Disk, access.WorkFile);
+    OldFile old(access.Disk, target);
+    RefreshStatus(league.RosterChanges, league.Players);
+    RefreshStatus(league.RosterChangesGoalie, league.Goalies);
     const auto write = [&](SlotWriter& slots) {
         slots.WriteMagic(StartMagic);
-        slots.Write(LeagueData.LeagueCode);
+        slots.Write(league.LeagueData.LeagueCode);
         slots.Write(Int16(team));
         slots.Write(record);
-        for (const RosterChange& change : RosterChanges)
+        for (const RosterChange& change : league.RosterChanges)
             slots.Write(change);
-        for (const RosterChange& change : RosterChangesGoalie)
+        for (const RosterChange& change : league.RosterChangesGoalie)
             slots.Write(change);
         slots.WriteMagic(EndMagic);
     };
-    if (!WriteSlotFile(target, FileLength, write, SlotLength, TempFile))
+    if (!WriteSlotFile(SlotFilesOf(access), target, FileLength, write, SlotLength, access.WorkFile))
         return false;
     old.Replaced();
     return true;
 }
 
-LinesFileRead ReadLinesFile(const std::string& path)
+LinesFileRead ReadLinesFile(Tables& league, const FileAccess& access, int team, const std::string& path)
 {
-    DeleteIfExists(TempFile);
-    if (!FileExist(path))
+    DeleteIfExists(access.Disk, access.WorkFile);
+    if (!FileExist(access.Disk, path))
         return LinesFileRead::Refused;
     const auto content = std::make_unique<Content>();
-    const auto read = [&](SlotReader& slots) { ReadContent(slots, *content); };
+    const auto read = [&](SlotReader& slots) { ReadContent(slots, *content, league, team); };
     const auto takeBack = [&] { *content = {}; };
-    if (ReadSlotFile(ExistingPath(path), read, SlotLength, takeBack) == SlotFileRead::NotDecompressed)
+    if (ReadSlotFile(SlotFilesOf(access), ExistingPath(access.Disk, path), read, SlotLength, takeBack) ==
+        SlotFileRead::NotDecompressed)
         return LinesFileRead::NotDecompressed;
     if (!content->HeadFits)
         return LinesFileRead::Refused;
     if (content->HasTeam)
-        Teams[CurrentTeam] = content->Team;
-    TakeOver(content->Players, content->PlayerCount, RosterChanges, Players);
-    TakeOver(content->Goalies, content->GoalieCount, RosterChangesGoalie, Goalies);
+        league.Teams[team] = content->Team;
+    TakeOver(content->Players, content->PlayerCount, team, league.RosterChanges, league.Players);
+    TakeOver(content->Goalies, content->GoalieCount, team, league.RosterChangesGoalie, league.Goalies);
     return content->EndFits ? LinesFileRead::Loaded : LinesFileRead::Refused;
 }
 

@@ -1,13 +1,12 @@
 #include "league/OutsideCode.h"
-#include "league/Platform.h"
 #include "league/Reporting.h"
 
 namespace dravik {
 
-int OpenLocation(const std::string& location, int showMode)
+int OpenLocation(Platform& machine, const std::string& location, int showMode)
 {
     int answer = 0;
-    Reporting(" in OpenLocation Function!", [&] { answer = Machine().OpenLocation(location, showMode); });
+    Reporting(machine, " in OpenLocation Function!", [&] { answer = machine.OpenLocation(location, showMode); });
     return answer;
 }
 

@@ -1,10 +1,9 @@
 #include "league/OffersFile.h"
 
-#include "league/ClientVariable.h"
 #include "league/Message.h"
 #include "league/OldFile.h"
 #include "league/OutsideCode.h"
-#include "league/Platform.h"
+#include "league/Positions.h"
 #include "league/SlotFile.h"
 
 #include <utility>
@@ -20,13 +19,13 @@ constexpr int RecordLimit = 1000; // the first record number that is not given o
 
 // Calls `visit` with each offer that a file takes, in order.
 template <class Offers, class Visit>
-void EachSaved(Offers& offers, Visit&& visit)
+void EachSaved(const League& rules, Offers& offers, Visit&& visit)
 {
     int record = FirstOffer;
     for (auto& offer : offers) {
         if (record == RecordLimit)
             return;
-        if (!IsOffer(offer) || offer.Id == 0)
+        if (!IsOffer(rules, offer) || offer.Id == 0)
             continue;
         visit(offer);
         ++record;
@@ -35,69 +34,79 @@ void EachSaved(Offers& offers, Visit&& visit)
 
 // What `visit` makes of the record of the person whom an offer is for.
 template <class Visit>
-auto OnPerson(const FreeAgentOffer& offer, Visit&& visit)
+auto OnPerson(const Tables& league, const FreeAgentOffer& offer, Visit&& visit)
 {
-    return offer.Id > GoalieOffset ? visit(Goalies[offer.Id - GoalieOffset]) : visit(Players[offer.Id]);
+    return offer.Id > GoalieOffset ? visit(league.Goalies[offer.Id - GoalieOffset]) : visit(league.Players[offer.Id]);
 }
 
-bool IsToOthers(const FreeAgentOffer& offer, int team)
+bool IsToOthers(const Tables& league, const FreeAgentOffer& offer, int team)
 {
-    return OnPerson(offer, [team](const auto& person) { return person.Team != team; });
+    return OnPerson(league, offer, [team](const auto& person) { return person.Team != team; });
 }
 
-std::string Money(long long amount) { return Machine().CurrencyNoDecimals(static_cast<double>(amount)); }
-
-std::string ReportLine(const FreeAgentOffer& offer)
+std::string Money(const Formats& shown, long long amount)
 {
-    const std::string name = OnPerson(offer, [](const auto& person) { return person.Name.Trimmed(); });
-    return name + " was offer " + Money(offer.Salary) + " for " + std::to_string(offer.Duration) + " year(s) with " +
-           Money(offer.Bonus) + " in bonus." + std::string(LineBreak);
+    return shown.CurrencyNoDecimals(static_cast<double>(amount));
+}
+
+std::string ReportLine(const Tables& league, const Formats& shown, const FreeAgentOffer& offer)
+{
+    const std::string name = OnPerson(league, offer, [](const auto& person) { return person.Name.Trimmed(); });
+    return name + " was offer " + Money(shown, offer.Salary) + " for " + std::to_string(offer.Duration) +
+           " year(s) with " + Money(shown, offer.Bonus) + " in bonus." + std::string(LineBreak);
 }
 
 } // namespace
 
-std::string OffersFilePath(int team) { return TeamFilePath(Teams[team].Name.Trimmed(), ".dvf"); }
+std::string OffersFilePath(const Tables& league, Disk& disk, int team)
+{
+    return TeamFilePath(disk, league.Teams[team].Name.Trimmed(), ".dvf");
+}
 
-bool IsOffer(const FreeAgentOffer& offer) { return offer.Duration > 0 && offer.Salary >= LeagueData.MinSalary; }
+bool IsOffer(const League& rules, const FreeAgentOffer& offer)
+{
+    return offer.Duration > 0 && offer.Salary >= rules.MinSalary;
+}
 
-OffersTally TallyOffers(int team, const OfferTable& offers)
+OffersTally TallyOffers(const Tables& league, int team, const OfferTable& offers)
 {
     OffersTally tally;
-    EachSaved(offers, [&](const FreeAgentOffer& offer) {
+    EachSaved(league.LeagueData, offers, [&](const FreeAgentOffer& offer) {
         ++tally.Count;
-        tally.ToOthers += IsToOthers(offer, team) ? 1 : 0;
+        tally.ToOthers += IsToOthers(league, offer, team) ? 1 : 0;
         tally.Salaries += offer.Salary;
         tally.Bonuses += offer.Bonus;
     });
     return tally;
 }
 
-SavedOffers WriteOffersFile(int team, const std::string& target, OfferTable& offers)
+SavedOffers WriteOffersFile(const Tables& league, const FileAccess& access, const Formats& shown, int team,
+                            const std::string& target, OfferTable& offers)
 {
-    DeleteIfExists(TempFile);
-    OldFile old(target);
+    DeleteIfExists(access.Disk, access.WorkFile);
+    OldFile old(access.Disk, target);
     SavedOffers saved;
-    EachSaved(offers, [&](FreeAgentOffer& offer) {
+    EachSaved(league.LeagueData, offers, [&](FreeAgentOffer& offer) {
         offer.Team = team;
-        saved.Report += ReportLine(offer);
+        saved.Report += ReportLine(league, shown, offer);
     });
-    const OffersTally tally = TallyOffers(team, offers);
+    const OffersTally tally = TallyOffers(league, team, offers);
     if (tally.Count == 0) {
         saved.Outcome = OffersFileWrite::NoOffer;
         return saved;
     }
-    if (tally.ToOthers > LeagueData.OffersLeft) {
+    if (tally.ToOthers > league.LeagueData.OffersLeft) {
         saved.Outcome = OffersFileWrite::TooMany;
         return saved;
     }
     const auto write = [&](SlotWriter& slots) {
         slots.WriteMagic(StartMagic);
-        slots.Write(LeagueData.LeagueCode);
+        slots.Write(league.LeagueData.LeagueCode);
         slots.Write(Int16(team));
-        EachSaved(std::as_const(offers), [&](const FreeAgentOffer& offer) { slots.Write(offer); });
+        EachSaved(league.LeagueData, std::as_const(offers), [&](const FreeAgentOffer& offer) { slots.Write(offer); });
     };
     const std::int64_t length = SlotFileLength(FirstOffer - 1 + tally.Count, OfferSlot, OfferSlot);
-    if (!WriteSlotFile(target, length, write, OfferSlot, TempFile)) {
+    if (!WriteSlotFile(SlotFilesOf(access), target, length, write, OfferSlot, access.WorkFile)) {
         saved.Outcome = OffersFileWrite::NotCompressed;
         return saved;
     }

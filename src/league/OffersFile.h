@@ -1,6 +1,9 @@
 #pragma once
 
+#include "league/FileAccess.h"
+#include "league/Formats.h"
 #include "league/FreeAgentOffer.h"
+#include "league/Tables.h"
 
 #include <string>
 
@@ -8,10 +11,10 @@ namespace dravik {
 
 // Where the offer file of `team` (1..100) is saved: the program's folder, the team's name without spaces, ".dvf". Fails
 // with 75 when the name holds a character that no file name may hold.
-std::string OffersFilePath(int team);
+std::string OffersFilePath(const Tables& league, Disk& disk, int team);
 
 // Whether an offer says enough to be one: at least a year, and at least the league's least salary.
-bool IsOffer(const FreeAgentOffer& offer);
+bool IsOffer(const League& rules, const FreeAgentOffer& offer);
 
 // What of a team's offers a file takes. It has room for 996; who comes behind them in order of the ids is left out.
 struct OffersTally {
@@ -22,7 +25,7 @@ struct OffersTally {
 
     bool operator==(const OffersTally&) const = default;
 };
-OffersTally TallyOffers(int team, const OfferTable& offers);
+OffersTally TallyOffers(const Tables& league, int team, const OfferTable& offers);
 
 enum class OffersFileWrite {
     Saved,
@@ -40,6 +43,7 @@ struct SavedOffers {
 // deleted first; the new file is the work file until it is whole, so both have to be on one disk, and then takes the place of
 // what stands at `target` in one step. Where no new one comes, for whatever reason, the old one is deleted. `Team` of each offer that the file takes becomes `team`. A failure that is not one of the
 // compression is thrown.
-SavedOffers WriteOffersFile(int team, const std::string& target, OfferTable& offers);
+SavedOffers WriteOffersFile(const Tables& league, const FileAccess& access, const Formats& shown, int team,
+                            const std::string& target, OfferTable& offers);
 
 } // namespace dravik

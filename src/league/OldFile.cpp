@@ -11,7 +11,7 @@ OldFile::~OldFile()
     if (replaced)
         return;
     try {
-        DeleteIfExists(path);
+        DeleteIfExists(disk, path);
     } catch (const std::exception&) { // NOLINT: the failure that brought us here is the one to tell
     }
 }

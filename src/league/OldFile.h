@@ -1,5 +1,7 @@
 #pragma once
 
+#include "league/Disk.h"
+
 #include <string>
 #include <utility>
 
@@ -10,7 +12,7 @@ namespace dravik {
 // holds no more.
 class OldFile {
 public:
-    explicit OldFile(std::string target) : path(std::move(target)) {}
+    OldFile(Disk& on, std::string target) : disk(on), path(std::move(target)) {}
     OldFile(const OldFile&) = delete;
     OldFile& operator=(const OldFile&) = delete;
     ~OldFile();
@@ -19,6 +21,7 @@ public:
     void Replaced() { replaced = true; }
 
 private:
+    Disk& disk;
     std::string path;
     bool replaced = false;
 };

@@ -1,7 +1,6 @@
 #include "league/OutsideCode.h"
 
 #include "league/Failure.h"
-#include "league/Platform.h"
 #include "league/ZlibWrapper.h"
 
 #include <algorithm>
@@ -13,10 +12,10 @@ namespace dravik {
 namespace {
 
 // The path under which an entry stands on the disk. Whatever goes wrong on the way counts as no entry.
-std::optional<std::string> Entry(const std::string& path)
+std::optional<std::string> Entry(Disk& disk, const std::string& path)
 {
     try {
-        const auto name = Machine().FindEntry(path);
+        const auto name = disk.FindEntry(path);
         if (name)
             return path.substr(0, path.size() - GetFileName(path).size()) + *name;
     } catch (const std::exception&) { // NOLINT: an entry that cannot be looked for is not there
@@ -48,12 +47,12 @@ bool IsDevice(const std::string& name)
 
 } // namespace
 
-bool ZlibCompress(const std::string& source, const std::string& target)
+bool ZlibCompress(Disk& disk, Voice& says, const std::string& source, const std::string& target)
 {
-    return Compressing([&] {
-        FileSource from(source);
-        WholeFile to(target);
-        DeflateStream wrapper(to, Machine().FileLength(source));
+    return Compressing(says, [&] {
+        FileSource from(disk, source);
+        WholeFile to(disk, target);
+        DeflateStream wrapper(to, disk.FileLength(source));
         for (Bytes piece = from.Next(); !piece.empty(); piece = from.Next())
             wrapper.Write(piece);
         wrapper.Finish();
@@ -61,14 +60,14 @@ bool ZlibCompress(const std::string& source, const std::string& target)
     });
 }
 
-bool ZlibDecompress(const std::string& source, const std::string& target)
+bool ZlibDecompress(Disk& disk, Voice& says, const std::string& source, const std::string& target)
 {
-    return Decompressing([&] {
-        FileSource from(source);
+    return Decompressing(says, [&] {
+        FileSource from(disk, source);
         std::optional<WholeFile> to;
         const auto read = [&](ByteSource& bytes) {
             Bytes piece = bytes.Next();
-            to.emplace(target);
+            to.emplace(disk, target);
             for (; !piece.empty(); piece = bytes.Next())
                 to->Write(piece);
         };
@@ -77,9 +76,9 @@ bool ZlibDecompress(const std::string& source, const std::string& target)
     });
 }
 
-bool FileExist(const std::string& path) { return Entry(path).has_value(); }
+bool FileExist(Disk& disk, const std::string& path) { return Entry(disk, path).has_value(); }
 
-std::string ExistingPath(const std::string& path) { return Entry(path).value_or(path); }
+std::string ExistingPath(Disk& disk, const std::string& path) { return Entry(disk, path).value_or(path); }
 
 std::string GetFileName(const std::string& path)
 {
@@ -87,13 +86,13 @@ std::string GetFileName(const std::string& path)
     return separator == std::string::npos ? path : path.substr(separator + 1);
 }
 
-void DeleteIfExists(const std::string& path)
+void DeleteIfExists(Disk& disk, const std::string& path)
 {
-    const auto entry = Entry(path);
+    const auto entry = Entry(disk, path);
     if (!entry)
         return;
     try {
-        Machine().DeleteFile(path);
+        disk.DeleteFile(path);
     } catch (const Failure& failed) {
         // Where the file system tells letters from their other case, an entry of another case is somebody else's file.
         if (*entry == path || failed.Number != failure::FileNotFound)
@@ -101,21 +100,17 @@ void DeleteIfExists(const std::string& path)
     }
 }
 
-std::string TeamFilePath(std::string_view teamName, std::string_view extension)
+std::string TeamFilePath(Disk& disk, std::string_view teamName, std::string_view extension)
 {
     const std::string name = RemoveSpaces(teamName);
     if (name.find_first_of("\\/:*?\"<>|") != std::string::npos || IsDevice(name))
         Fail(failure::PathAccess);
-    return Machine().ProgramFolder() + PathSeparator + name + std::string(extension);
+    return disk.ProgramFolder() + PathSeparator + name + std::string(extension);
 }
 
-void ShowWait() { Machine().ShowWait(); }
-
-void CloseWait() { Machine().CloseWait(); }
-
-bool SkipZIPClient()
+bool SkipZIPClient(Settings& settings)
 {
-    return UpperCase(WithoutOuterBlanks(Machine().GetSetting("Settings", "SkipZIPClient", "No"))) == "YES";
+    return UpperCase(WithoutOuterBlanks(settings.GetSetting("Settings", "SkipZIPClient", "No"))) == "YES";
 }
 
 } // namespace dravik

@@ -1,7 +1,7 @@
 #include "league/RatingsExport.h"
 
-#include "league/ClientVariable.h"
-#include "league/Platform.h"
+#include "league/Positions.h"
+#include "league/RatingNames.h"
 
 #include <memory>
 #include <string_view>
@@ -34,7 +34,7 @@ private:
 // A file under its own name from the first row on, so that what was written before a failure stays.
 class RowFile {
 public:
-    explicit RowFile(const std::string& path) : file(Machine().CreateFile(path)) {}
+    RowFile(Disk& disk, const std::string& path) : file(disk.CreateFile(path)) {}
 
     void Add(const Columns& row)
     {
@@ -125,17 +125,17 @@ Columns CoachesHeader()
 
 } // namespace
 
-void ExportRatings(const std::string& folder)
+void ExportRatings(const Tables& league, Disk& disk, const std::string& folder)
 {
-    RowFile players(folder + PathSeparator + "PlayersRatings.csv");
+    RowFile players(disk, folder + PathSeparator + "PlayersRatings.csv");
     players.Add(PlayersHeader());
-    AddEverybody(players, Players);
-    AddEverybody(players, Goalies);
+    AddEverybody(players, league.Players);
+    AddEverybody(players, league.Goalies);
     players.Close();
 
-    RowFile coaches(folder + PathSeparator + "CoachesRatings.csv");
+    RowFile coaches(disk, folder + PathSeparator + "CoachesRatings.csv");
     coaches.Add(CoachesHeader());
-    AddEverybody(coaches, Coaches);
+    AddEverybody(coaches, league.Coaches);
     coaches.Close();
 }
 

@@ -1,5 +1,8 @@
 #pragma once
 
+#include "league/Disk.h"
+#include "league/Tables.h"
+
 #include <string>
 
 namespace dravik {
@@ -7,6 +10,6 @@ namespace dravik {
 // Writes the ratings of everybody in the league into two comma-separated files in `folder`, replacing earlier ones: the
 // skaters and goalies into PlayersRatings.csv, then the coaches into CoachesRatings.csv. Fields are never quoted, so a comma
 // in a name parts it. Failures are thrown; a file that was being written then stays as far as it came.
-void ExportRatings(const std::string& folder);
+void ExportRatings(const Tables& league, Disk& disk, const std::string& folder);
 
 } // namespace dravik

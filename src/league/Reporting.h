@@ -1,49 +1,50 @@
 #pragma once
 
 #include "league/Failure.h"
+#include "league/Voice.h"
 
 #include <exception>
 #include <new>
+#include <optional>
 #include <string_view>
 
 namespace dravik {
 
 // Shows the common failure message: number, " - ", description and `ending` (" in CheckRoster!") in a critical box.
-void ReportFailure(int number, std::string_view ending);
+void ReportFailure(Voice& says, int number, std::string_view ending);
 
-// Runs `body`. Whatever it throws is reported with `ending` and goes no further; what `body` changed by then stays. True
-// when `body` came to its end.
+// Runs `body`. Whatever it throws goes no further; what `body` changed by then stays. The number of the failure; none when
+// `body` came to its end.
 template <class Body>
-bool Reporting(std::string_view ending, Body&& body)
+std::optional<int> FailureIn(Body&& body)
 {
     try {
         body();
-        return true;
+        return std::nullopt;
     } catch (const Failure& failed) {
-        ReportFailure(failed.Number, ending);
+        return failed.Number;
     } catch (const std::bad_alloc&) {
-        ReportFailure(failure::OutOfMemory, ending);
+        return failure::OutOfMemory;
     } catch (const std::exception&) {
-        ReportFailure(failure::InvalidCall, ending);
+        return failure::InvalidCall;
     }
-    return false;
 }
 
-// Like Reporting, but a cancelled dialog ends `body` without a word.
+// The same, and the failure is reported with `ending`.
 template <class Body>
-bool ReportingUnlessCancelled(std::string_view ending, Body&& body)
+std::optional<int> FailureOf(Voice& says, std::string_view ending, Body&& body)
 {
-    bool cancelled = false;
-    const bool done = Reporting(ending, [&] {
-        try {
-            body();
-        } catch (const Failure& failed) {
-            if (failed.Number != failure::Cancelled)
-                throw;
-            cancelled = true;
-        }
-    });
-    return done && !cancelled;
+    const auto failed = FailureIn(body);
+    if (failed)
+        ReportFailure(says, *failed, ending);
+    return failed;
+}
+
+// The same; true when `body` came to its end.
+template <class Body>
+bool Reporting(Voice& says, std::string_view ending, Body&& body)
+{
+    return !FailureOf(says, ending, body);
 }
 
 } // namespace dravik

@@ -1,6 +1,5 @@
 #include "league/SlotFile.h"
 
-#include "league/OutsideCode.h"
 #include "league/ZlibWrapper.h"
 
 #include <algorithm>
@@ -77,15 +76,15 @@ void SlotWriter::WriteBytes(Bytes record)
     behind = slotLength - record.size();
 }
 
-SlotFileRead ReadSlotFile(const std::string& path, const std::function<void(SlotReader&)>& read, std::size_t slot,
-                          const std::function<void()>& takeBack)
+SlotFileRead ReadSlotFile(const SlotFiles& files, const std::string& path, const std::function<void(SlotReader&)>& read,
+                          std::size_t slot, const std::function<void()>& takeBack)
 {
     const auto readFrom = [&](ByteSource& bytes) {
         SlotReader slots(bytes, slot);
         read(slots);
     };
-    if (SkipZIPClient()) {
-        FileSource file(path);
+    if (files.Plain) {
+        FileSource file(files.Disk, path);
         try {
             readFrom(file);
         } catch (...) {
@@ -95,28 +94,28 @@ SlotFileRead ReadSlotFile(const std::string& path, const std::function<void(Slot
         return SlotFileRead::Whole;
     }
     bool whole = false;
-    const bool done = Decompressing([&] {
-        FileSource file(path);
+    const bool done = Decompressing(files.Says, [&] {
+        FileSource file(files.Disk, path);
         whole = ReadWrapper(file, readFrom, takeBack);
     });
     return !done ? SlotFileRead::NotDecompressed : whole ? SlotFileRead::Whole : SlotFileRead::Damaged;
 }
 
-bool WriteSlotFile(const std::string& target, std::int64_t length, const std::function<void(SlotWriter&)>& write,
-                   std::size_t slot, const std::string& work)
+bool WriteSlotFile(const SlotFiles& files, const std::string& target, std::int64_t length,
+                   const std::function<void(SlotWriter&)>& write, std::size_t slot, const std::string& work)
 {
     const auto writeTo = [&](ByteSink& bytes) {
         SlotWriter slots(bytes, slot);
         write(slots);
     };
-    if (SkipZIPClient()) {
-        WholeFile file(target, work);
+    if (files.Plain) {
+        WholeFile file(files.Disk, target, work);
         writeTo(file);
         file.Commit();
         return true;
     }
-    return Compressing([&] {
-        WholeFile file(target, work);
+    return Compressing(files.Says, [&] {
+        WholeFile file(files.Disk, target, work);
         DeflateStream bytes(file, length);
         writeTo(bytes);
         bytes.Finish();

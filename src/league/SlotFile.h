@@ -2,6 +2,7 @@
 
 #include "league/ByteStream.h"
 #include "league/Team.h"
+#include "league/Voice.h"
 
 #include <functional>
 #include <string_view>
@@ -77,19 +78,28 @@ constexpr std::int64_t SlotFileLength(std::int64_t records, std::size_t lastLeng
 // come to its end: something came out of it, but not what went in.
 enum class SlotFileRead { NotDecompressed, Damaged, Whole };
 
-// Opens the slot file `path` and has `read` read it; plain or through the wrapper, as `SkipZIPClient` says. `read` may be
+// Where files of the system are read and written, who tells of a wrapper that cannot be, and whether they are plain slot
+// files instead of wrapped ones.
+struct SlotFiles {
+    dravik::Disk& Disk;
+    Voice& Says;
+    bool Plain = false;
+};
+
+// Opens the slot file `path` and has `read` read it; plain or through the wrapper. `read` may be
 // called twice; `takeBack` is called after a reading that counts for nothing, and before anything is told of a failure.
 // `NotDecompressed` when a wrapped file cannot be read or gives not a single byte, which is told with the ending of the
 // decompression. Failures on a plain file, which is `Whole` whatever it holds, are thrown.
 SlotFileRead ReadSlotFile(
-    const std::string& path, const std::function<void(SlotReader&)>& read, std::size_t slot = SlotLength,
-    const std::function<void()>& takeBack = [] {});
+    const SlotFiles& files, const std::string& path, const std::function<void(SlotReader&)>& read,
+    std::size_t slot = SlotLength, const std::function<void()>& takeBack = [] {});
 
-// Has `write` write a slot file of `length` bytes, which then appears as `target`, whole; plain or wrapped, as
-// `SkipZIPClient` says. False after a failure with a wrapped file, which is told with the ending of the compression;
+// Has `write` write a slot file of `length` bytes, which then appears as `target`, whole; plain or wrapped.
+// False after a failure with a wrapped file, which is told with the ending of the compression;
 // failures with a plain one are thrown. Either leaves `target` as it was. Until it is whole the file is called `work`, as
 // in WholeFile.
-bool WriteSlotFile(const std::string& target, std::int64_t length, const std::function<void(SlotWriter&)>& write,
-                   std::size_t slot = SlotLength, const std::string& work = {});
+bool WriteSlotFile(const SlotFiles& files, const std::string& target, std::int64_t length,
+                   const std::function<void(SlotWriter&)>& write, std::size_t slot = SlotLength,
+                   const std::string& work = {});
 
 } // namespace dravik

@@ -97,14 +97,14 @@ private:
 // Runs `body`, which writes or reads a wrapper. What goes wrong in it is told with the ending of the compression or the
 // decompression. True when it came to its end.
 template <class Body>
-bool Compressing(Body&& body)
+bool Compressing(Voice& says, Body&& body)
 {
-    return Reporting(" in Zlib Compress!", std::forward<Body>(body));
+    return Reporting(says, " in Zlib Compress!", std::forward<Body>(body));
 }
 template <class Body>
-bool Decompressing(Body&& body)
+bool Decompressing(Voice& says, Body&& body)
 {
-    return Reporting(" in Zlib Decompress!", std::forward<Body>(body));
+    return Reporting(says, " in Zlib Decompress!", std::forward<Body>(body));
 }
 
 } // namespace dravik

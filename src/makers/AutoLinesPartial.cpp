@@ -1,9 +1,8 @@
 #include "league/Message.h"
-#include "league/Platform.h"
 #include "league/Reporting.h"
 #include "makers/Dealing.h"
 #include "makers/Makers.h"
-#include "rules/Function.h"
+#include "rules/LineJudge.h"
 #include "rules/People.h"
 
 #include <algorithm>
@@ -60,38 +59,39 @@ bool StandsElsewhere(const Lines& lines, const LineSlot& slot, Barred&& barred)
     });
 }
 
-bool IsLegal(const Lines& lines, const LineSlot& slot)
+bool IsLegal(const League& rules, const Lines& lines, const LineSlot& slot)
 {
     if (StandsElsewhere(lines, slot, [&](const LineSlot& other) { return ShareGroup(slot, other); }))
         return false;
     // Lines 1 and 2 bar each other where the league says so.
     const bool isTopLine = FamilyOf(slot.Field) == Family::Line && slot.Number <= 2;
-    return !isTopLine || !LeagueData.LinesOneTwoExclusive || !StandsElsewhere(lines, slot, [&](const LineSlot& other) {
+    return !isTopLine || !rules.LinesOneTwoExclusive || !StandsElsewhere(lines, slot, [&](const LineSlot& other) {
         return FamilyOf(other.Field) == Family::Line && other.Number == 3 - slot.Number;
     });
 }
 
-bool IsUsable(long long id, int team)
+bool IsUsable(const Tables& league, long long id, int team)
 {
-    const Player& player = Players[id];
+    const Player& player = league.Players[id];
     return id != 0 && player.Status == status::Pro && player.Team == team && IsDressable(player);
 }
 
 // Leaves a usable slot alone and refills any other, from the worst of the list upwards. False when it stays empty.
-bool Repair(Lines& lines, const LineSlot& slot, int team)
+bool Repair(const LinesRun& run, Lines& lines, const LineSlot& slot)
 {
+    const League& rules = run.At.League.LeagueData;
     Int16& word = At(lines, slot);
-    if (IsUsable(word, team))
+    if (IsUsable(run.At.League, word, run.Team))
         return true;
     word = 0;
-    for (long long place = LeagueData.ProDressedSkaters; place >= 1 && word == 0; --place) {
-        const Player& player = SkaterAtPlace(place);
+    for (long long place = rules.ProDressedSkaters; place >= 1 && word == 0; --place) {
+        const Player& player = run.SkaterAt(place);
         const bool fits =
             WantsDefense(slot.Field) ? player.Position == position::Defense : player.Position < position::Defense;
         if (!fits)
             continue;
-        word = LineupIds[place];
-        if (!IsLegal(lines, slot))
+        word = run.List.Ids[place];
+        if (!IsLegal(rules, lines, slot))
             word = 0;
     }
     return word != 0;
@@ -121,45 +121,50 @@ constexpr Stage Stages[] = {{4, NormalLines}, {2, SpecialUnits}, {5, ExtraLists}
 
 } // namespace
 
-void AutoLinesPartial(int team, bool verbose, int day)
+Made AutoLinesPartial(const Work& work, int team, bool verbose, int day)
 {
-    Reporting(" in AutoLinesPartial!", [&] {
+    Made made;
+    const auto failed = FailureOf(work.Says, " in AutoLinesPartial!", [&] {
         if (!TeamTable::Has(team)) {
-            ShowIntegrityFailure();
+            work.Says.ShowIntegrityFailure();
             return;
         }
-        if (CheckLineEmpty(team, day)) {
-            AutoLines(team, verbose, day);
+        if (CheckLineEmpty(work.League, work.Says, team, day)) {
+            made = AutoLines(work, team, verbose, day);
             return;
         }
-        if (!RosterIsReady(team))
+        LinesRun run{.At = work, .Team = team, .Told = made};
+        if (!RosterIsReady(run))
             return;
 
         bool filled = true;
         for (const Stage& stage : Stages) {
-            if (!ListDressedSkaters(team))
+            if (!ListDressedSkaters(run))
                 return;
-            Lines& lines = LinesOf(team, day, Side::Pro);
+            Lines& lines = LinesOf(work.League, team, day, Side::Pro);
             for (int number = 1; number <= stage.Numbers; ++number)
                 for (const auto& [field, places] : stage.Fields)
                     for (int place = 1; place <= places; ++place)
-                        filled = Repair(lines, SlotOf(field, number, place), team) && filled;
+                        filled = Repair(run, lines, SlotOf(field, number, place)) && filled;
         }
 
-        ListDressedGoalies(team);
-        if (!GoaliesAreListed())
+        ListDressedGoalies(run);
+        if (!GoaliesAreListed(run))
             return;
-        Lines& lines = LinesOf(team, day, Side::Pro);
+        Lines& lines = LinesOf(work.League, team, day, Side::Pro);
         if (lines.StartGoalie == 0 || lines.BackupGoalie == 0)
-            DealGoalies(lines, ConditionOfGoalie);
+            DealGoaliesByCondition(run, lines);
 
         if (filled) {
-            CloseRun("Auto Lines Partial Function", team, verbose);
+            CloseRun(run, "Auto Lines Partial Function", verbose);
         } else {
-            ShowBox("Auto Lines Partial Function Error.", box::Information);
-            Modified = true;
+            work.Says.ShowBox("Auto Lines Partial Function Error.", box::Information);
+            work.Modified = true;
         }
     });
+    if (failed)
+        made.Failed = failed;
+    return made;
 }
 
 } // namespace dravik

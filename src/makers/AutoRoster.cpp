@@ -1,12 +1,14 @@
 #include "league/Arithmetic.h"
 #include "league/Message.h"
-#include "league/Platform.h"
+#include "league/Positions.h"
 #include "league/Reporting.h"
-#include "league/Session.h"
 #include "makers/Makers.h"
 #include "makers/RatingList.h"
-#include "rules/Function.h"
+#include "rules/Finance.h"
+#include "rules/Overall.h"
 #include "rules/People.h"
+#include "rules/Waivers.h"
+#include "rules/WipeLines.h"
 
 namespace dravik {
 
@@ -14,6 +16,7 @@ namespace {
 
 // Working state of one run.
 struct RosterRun {
+    const Work& At;
     int Team = 0;
     bool Verbose = false;
     bool Partial = false;
@@ -27,23 +30,30 @@ struct RosterRun {
 
 // What the two kinds of people differ in.
 struct SkaterKind {
-    static PlayerTable& People() { return Players; }
-    static PlayerChangeTable& Changes() { return RosterChanges; }
+    static PlayerTable& People(Tables& league) { return league.Players; }
+    static PlayerChangeTable& Changes(Tables& league) { return league.RosterChanges; }
     static constexpr int Offset = 0;
     static constexpr bool WipedGoingDown = true;
 
-    static int Rating(int id) { return CalculateOverall(static_cast<int>(Players[id].Position), id); }
+    static int Rating(const Work& work, int id)
+    {
+        const int position = static_cast<int>(work.League.Players[id].Position);
+        return CalculateOverall(work.League, work.Says, position, id);
+    }
     static void Count(RosterRun& run, const Player& player) { ++run.PositionCount[player.Position]; }
     static bool MustSitOut(const Player& player) { return player.Status == status::Pro && !IsDressable(player); }
 };
 
 struct GoalieKind {
-    static GoalieTable& People() { return Goalies; }
-    static GoalieChangeTable& Changes() { return RosterChangesGoalie; }
+    static GoalieTable& People(Tables& league) { return league.Goalies; }
+    static GoalieChangeTable& Changes(Tables& league) { return league.RosterChangesGoalie; }
     static constexpr int Offset = GoalieOffset;
     static constexpr bool WipedGoingDown = false;
 
-    static int Rating(int id) { return CalculateOverall(position::Goalie, id); }
+    static int Rating(const Work& work, int id)
+    {
+        return CalculateOverall(work.League, work.Says, position::Goalie, id);
+    }
     static void Count(RosterRun& /*run*/, const Goalie& /*goalie*/) {}
     // A suspended goalie sits out wherever he stands, on the farm too.
     static bool MustSitOut(const Goalie& goalie)
@@ -53,42 +63,43 @@ struct GoalieKind {
 };
 
 template <class Kind>
-void SetStatus(int id, int status)
+void SetStatus(const RosterRun& run, int id, int status)
 {
-    Kind::People()[id].Status = status;
-    Kind::Changes()[id].Status = status;
+    Kind::People(run.At.League)[id].Status = status;
+    Kind::Changes(run.At.League)[id].Status = status;
 }
 
 template <class Kind>
 void Wipe(const RosterRun& run, int id)
 {
-    WipePlayerFromTeamLines(run.Team, id + Kind::Offset);
+    WipePlayerFromTeamLines(run.At.League, run.At.Says, run.Team, id + Kind::Offset);
 }
 
 template <class Kind>
 void Scratch(const RosterRun& run, int id)
 {
-    SetStatus<Kind>(id, status::Scratch);
+    SetStatus<Kind>(run, id, status::Scratch);
     Wipe<Kind>(run, id);
 }
 
 template <class Person>
-bool IsUsable(const Person& person)
+bool IsUsable(const League& rules, const Person& person)
 {
-    return IsFit(person) && person.Salary >= LeagueData.MinSalary && person.Salary <= LeagueData.MaxSalary;
+    return IsFit(person) && person.Salary >= rules.MinSalary && person.Salary <= rules.MaxSalary;
 }
 
 int RankingCount(const RosterRun& run) { return static_cast<int>(run.Ratings[0]); }
 
-std::string TeamName(const RosterRun& run) { return Teams[run.Team].Name.Trimmed(); }
+std::string TeamName(const RosterRun& run) { return run.At.League.Teams[run.Team].Name.Trimmed(); }
 
-int OpeningPayroll(int team)
+int OpeningPayroll(const Tables& league, Voice& says, int team)
 {
-    int payroll = RoundToInt32(ProPayroll(team));
-    if (LeagueData.FarmPayrollInCap)
-        payroll = RoundToInt32(payroll + static_cast<double>(FarmPayroll(team)));
-    if (LeagueData.CoachPayrollInCap)
-        payroll = RoundToInt32(payroll + static_cast<double>(CoachPayroll(team)));
+    const League& rules = league.LeagueData;
+    int payroll = RoundToInt32(ProPayroll(league, says, team));
+    if (rules.FarmPayrollInCap)
+        payroll = RoundToInt32(payroll + static_cast<double>(FarmPayroll(league, says, team)));
+    if (rules.CoachPayrollInCap)
+        payroll = RoundToInt32(payroll + static_cast<double>(CoachPayroll(league, says, team)));
     return payroll;
 }
 
@@ -99,14 +110,14 @@ void Rank(RosterRun& run)
 {
     constexpr int proAdvantage = 100;
     EmptyRatingList(run.Ids, run.Ratings);
-    EachOfTeam(Kind::People(), run.Team, [&](const auto& person, int id) {
-        if (!IsUsable(person)) {
+    EachOfTeam(Kind::People(run.At.League), run.Team, [&](const auto& person, int id) {
+        if (!IsUsable(run.At.League.LeagueData, person)) {
             if (Kind::MustSitOut(person))
                 Scratch<Kind>(run, id);
             return;
         }
         Kind::Count(run, person);
-        int rating = Kind::Rating(id);
+        int rating = Kind::Rating(run.At, id);
         if (run.Partial && (person.Status == status::Scratch || person.Status == status::Pro))
             rating += proAdvantage;
         InsertByRating(run.Ids, run.Ratings, id, rating);
@@ -116,19 +127,20 @@ void Rank(RosterRun& run)
 // Whether there are enough of `what`; the pro team's number counts twice where the farm has to be filled too.
 bool Suffices(const RosterRun& run, long long available, long long required, std::string_view what)
 {
-    const int teamsToFill = LeagueData.FarmRosterRequired.Word() != 0 ? 2 : 1;
+    const int teamsToFill = run.At.League.LeagueData.FarmRosterRequired.Word() != 0 ? 2 : 1;
     if (available >= Limit16(required * teamsToFill))
         return true;
-    if (MayReport(run.Verbose))
-        ShowBox("Not Enough " + std::string(what) + " available!", box::Warning);
+    if (run.At.Says.MayReport(run.Verbose))
+        run.At.Says.ShowBox("Not Enough " + std::string(what) + " available!", box::Warning);
     return false;
 }
 
 bool SkatersSuffice(const RosterRun& run)
 {
-    const long long required[] = {LeagueData.RequiredCenters, LeagueData.RequiredLeftWings,
-                                  LeagueData.RequiredRightWings, LeagueData.RequiredDefensemen};
-    bool enough = Suffices(run, RankingCount(run), LeagueData.ProDressedSkaters, "Players");
+    const League& rules = run.At.League.LeagueData;
+    const long long required[] = {rules.RequiredCenters, rules.RequiredLeftWings, rules.RequiredRightWings,
+                                  rules.RequiredDefensemen};
+    bool enough = Suffices(run, RankingCount(run), rules.ProDressedSkaters, "Players");
     for (int position = position::Center; position <= position::Defense; ++position)
         enough = Suffices(run, run.PositionCount[position], required[position - 1], PositionName[position]) && enough;
     return enough;
@@ -139,24 +151,25 @@ bool FitsUnderCap(const RosterRun& run, const Person& person)
 {
     constexpr int fixedCap = 1;
     constexpr int capAndCash = 2;
-    if (LeagueData.SalaryCapMode == fixedCap)
-        return Limit32(person.Salary + run.Payroll) <= LeagueData.SalaryCap;
-    if (LeagueData.SalaryCapMode == capAndCash)
-        return Limit32(person.Salary + run.Payroll) <= Limit32(LeagueData.SalaryCap + Teams[run.Team].Cash);
+    const League& rules = run.At.League.LeagueData;
+    if (rules.SalaryCapMode == fixedCap)
+        return Limit32(person.Salary + run.Payroll) <= rules.SalaryCap;
+    if (rules.SalaryCapMode == capAndCash)
+        return Limit32(person.Salary + run.Payroll) <= Limit32(rules.SalaryCap + run.At.League.Teams[run.Team].Cash);
     return true;
 }
 
 // What a person costs on the farm, to the cap's account.
 template <class Person>
-double FarmShare(const Person& person)
+double FarmShare(const RosterRun& run, const Person& person)
 {
-    return static_cast<double>(LeagueData.FarmSalaryPct) / 100 * static_cast<double>(person.Salary);
+    return static_cast<double>(run.At.League.LeagueData.FarmSalaryPct) / 100 * static_cast<double>(person.Salary);
 }
 
 template <class Person>
 void LogMove(const RosterRun& run, const Person& person, std::string_view where)
 {
-    LeagueNews(person.Name.Trimmed() + " of " + TeamName(run) + " was sent to " + std::string(where) + ".");
+    run.At.Says.LeagueNews(person.Name.Trimmed() + " of " + TeamName(run) + " was sent to " + std::string(where) + ".");
 }
 
 // Calls a person up, as far as the payroll goes; the status follows when he is dressed. The farm's share leaves the
@@ -164,31 +177,31 @@ void LogMove(const RosterRun& run, const Person& person, std::string_view where)
 template <class Kind>
 void CallUp(RosterRun& run, int id)
 {
-    const auto& person = Kind::People()[id];
+    const auto& person = Kind::People(run.At.League)[id];
     LogMove(run, person, "pro");
     Wipe<Kind>(run, id);
     run.Payroll = RoundToInt32(static_cast<double>(person.Salary) +
-                               std::nearbyint(static_cast<double>(run.Payroll) - FarmShare(person)));
+                               std::nearbyint(static_cast<double>(run.Payroll) - FarmShare(run, person)));
 }
 
 template <class Kind>
 void SendDown(RosterRun& run, int id)
 {
-    const auto& person = Kind::People()[id];
+    const auto& person = Kind::People(run.At.League)[id];
     if constexpr (Kind::WipedGoingDown)
         Wipe<Kind>(run, id);
-    SetStatus<Kind>(id, status::Farm);
+    SetStatus<Kind>(run, id, status::Farm);
     LogMove(run, person, "farm");
-    run.Payroll = RoundToInt32(std::nearbyint(static_cast<double>(run.Payroll) + FarmShare(person)) -
+    run.Payroll = RoundToInt32(std::nearbyint(static_cast<double>(run.Payroll) + FarmShare(run, person)) -
                                static_cast<double>(person.Salary));
 }
 
 template <class Kind>
 void Dress(const RosterRun& run, int id)
 {
-    if (Kind::People()[id].Status != status::Pro)
+    if (Kind::People(run.At.League)[id].Status != status::Pro)
         Wipe<Kind>(run, id);
-    SetStatus<Kind>(id, status::Pro);
+    SetStatus<Kind>(run, id, status::Pro);
 }
 
 constexpr int AnyPosition = 0;
@@ -199,7 +212,7 @@ bool DressBest(RosterRun& run, int position)
 {
     for (int place = 1; place <= RankingCount(run); ++place) {
         const int id = static_cast<int>(run.Ids[place]);
-        const Player& player = Players[id];
+        const Player& player = run.At.League.Players[id];
         if (run.Ratings[place] <= 0 || (position != AnyPosition && player.Position != position))
             continue;
         run.Ratings[place] = 0;
@@ -226,7 +239,7 @@ void UndressTheRest(const RosterRun& run)
 {
     for (int place = 1; place <= RankingCount(run); ++place) {
         const int id = static_cast<int>(run.Ids[place]);
-        if (run.Ratings[place] > 0 && Players[id].Status == status::Pro)
+        if (run.Ratings[place] > 0 && run.At.League.Players[id].Status == status::Pro)
             Scratch<SkaterKind>(run, id);
     }
 }
@@ -237,7 +250,7 @@ void DressGoalies(RosterRun& run)
     int limit = 2;
     for (int place = 1; place <= RankingCount(run); ++place) {
         const int id = static_cast<int>(run.Ids[place]);
-        const Goalie& goalie = Goalies[id];
+        const Goalie& goalie = run.At.League.Goalies[id];
         if (place > limit) {
             if (goalie.Status == status::Pro)
                 Scratch<GoalieKind>(run, id);
@@ -256,24 +269,26 @@ void DressGoalies(RosterRun& run)
 }
 
 template <class Kind>
-bool MayGoDown(int id)
+bool MayGoDown(const RosterRun& run, int id)
 {
-    if (Kind::Rating(id) > LeagueData.FarmMaxOverall || WaiverCheck(id + Kind::Offset))
+    const League& rules = run.At.League.LeagueData;
+    if (Kind::Rating(run.At, id) > rules.FarmMaxOverall || WaiverCheck(run.At.League, run.At.Says, id + Kind::Offset))
         return false;
-    return LeagueData.FarmMaxSalary <= 0 || Kind::People()[id].Salary <= LeagueData.FarmMaxSalary;
+    return rules.FarmMaxSalary <= 0 || Kind::People(run.At.League)[id].Salary <= rules.FarmMaxSalary;
 }
 
 // Sends every ranked scratch down who may go. Partial mode sends nobody, and nobody goes after the trade deadline.
 template <class Kind>
 void SendScratchesDown(RosterRun& run)
 {
-    if (run.Partial || (LeagueData.TradeDeadlinePassed && IsDeadlineInForce()))
+    const League& rules = run.At.League.LeagueData;
+    if (run.Partial || (rules.TradeDeadlinePassed && IsDeadlineInForce(rules)))
         return;
     for (int place = 1; place <= RankingCount(run); ++place) {
         const int id = static_cast<int>(run.Ids[place]);
-        if (Kind::People()[id].Status != status::Scratch)
+        if (Kind::People(run.At.League)[id].Status != status::Scratch)
             continue;
-        if (MayGoDown<Kind>(id))
+        if (MayGoDown<Kind>(run, id))
             SendDown<Kind>(run, id);
         else
             ++run.StuckCount;
@@ -282,36 +297,44 @@ void SendScratchesDown(RosterRun& run)
 
 void Close(const RosterRun& run)
 {
-    Modified = true;
-    if (LeagueData.ProDressedSkaters + run.StuckCount > LeagueData.MaxProPlayers)
-        ShowBox(TeamName(run) + " has too many players in scratch " + std::string(LineBreak) +
-                    "that cannot be sent to farm without being sent to waiver.",
-                box::Information);
+    const League& rules = run.At.League.LeagueData;
+    Voice& says = run.At.Says;
+    run.At.Modified = true;
+    if (rules.ProDressedSkaters + run.StuckCount > rules.MaxProPlayers)
+        says.ShowBox(TeamName(run) + " has too many players in scratch " + std::string(LineBreak) +
+                         "that cannot be sent to farm without being sent to waiver.",
+                     box::Information);
     const std::string routine = run.Partial ? "Auto Roster Partial Function" : "Auto Roster Function";
-    LeagueNews(routine + " has been run for " + TeamName(run) + ".");
-    if (MayReport(run.Verbose))
-        ShowBox(routine + " has been run successfully.", box::Information);
+    says.LeagueNews(routine + " has been run for " + TeamName(run) + ".");
+    if (says.MayReport(run.Verbose))
+        says.ShowBox(routine + " has been run successfully.", box::Information);
 }
 
 } // namespace
 
-void AutoRoster(int team, bool verbose, bool partial)
+Made AutoRoster(const Work& work, int team, bool verbose, bool partial)
 {
-    Reporting(" in AutoRoster!", [&] {
+    Made made;
+    made.Failed = FailureOf(work.Says, " in AutoRoster!", [&] {
         if (!TeamTable::Has(team)) {
-            ShowIntegrityFailure();
+            work.Says.ShowIntegrityFailure();
             return;
         }
-        RosterRun run{.Team = team, .Verbose = verbose, .Partial = partial, .Payroll = OpeningPayroll(team)};
+        const League& rules = work.League.LeagueData;
+        RosterRun run{.At = work,
+                      .Team = team,
+                      .Verbose = verbose,
+                      .Partial = partial,
+                      .Payroll = OpeningPayroll(work.League, work.Says, team)};
 
         Rank<SkaterKind>(run);
         if (!SkatersSuffice(run))
             return;
-        DressSkaters(run, position::Center, LeagueData.RequiredCenters);
-        DressSkaters(run, position::LeftWing, LeagueData.RequiredLeftWings);
-        DressSkaters(run, position::RightWing, LeagueData.RequiredRightWings);
-        DressSkaters(run, position::Defense, LeagueData.RequiredDefensemen);
-        DressSkaters(run, AnyPosition, Limit16(LeagueData.ProDressedSkaters - run.DressedCount));
+        DressSkaters(run, position::Center, rules.RequiredCenters);
+        DressSkaters(run, position::LeftWing, rules.RequiredLeftWings);
+        DressSkaters(run, position::RightWing, rules.RequiredRightWings);
+        DressSkaters(run, position::Defense, rules.RequiredDefensemen);
+        DressSkaters(run, AnyPosition, Limit16(rules.ProDressedSkaters - run.DressedCount));
         UndressTheRest(run);
         SendScratchesDown<SkaterKind>(run);
 
@@ -322,7 +345,9 @@ void AutoRoster(int team, bool verbose, bool partial)
         SendScratchesDown<GoalieKind>(run);
 
         Close(run);
+        made.Done = true;
     });
+    return made;
 }
 
 } // namespace dravik

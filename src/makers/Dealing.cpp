@@ -1,12 +1,11 @@
 #include "makers/Dealing.h"
 
 #include "league/Message.h"
-#include "league/Platform.h"
 #include "league/Reporting.h"
-#include "league/Session.h"
 #include "makers/Makers.h"
-#include "rules/Function.h"
 #include "rules/People.h"
+#include "rules/RosterJudge.h"
+#include "rules/WipeLines.h"
 
 #include <algorithm>
 #include <initializer_list>
@@ -14,60 +13,67 @@
 
 namespace dravik {
 
-bool RosterIsReady(int team)
+bool RosterIsReady(LinesRun& run)
 {
-    const auto isComplete = [team] { return CheckRoster(team, false, true, false); };
+    Voice& says = run.At.Says;
+    const auto isComplete = [&run] {
+        const RosterVerdict verdict = CheckRoster(run.At, run.Team, false, true, false);
+        run.Told.RosterRepaired = verdict.Repaired;
+        return verdict.Complete;
+    };
     if (isComplete())
         return true;
-    const std::string name = Teams[team].Name.Trimmed();
-    ShowBox("Roster for " + name + " is incomplete!" + std::string(LineBreak) + "Trying Auto Rosters Function for " +
-                name + ".",
-            box::Information);
-    AutoRoster(team, false, false);
+    const std::string name = run.At.League.Teams[run.Team].Name.Trimmed();
+    says.ShowBox("Roster for " + name + " is incomplete!" + std::string(LineBreak) +
+                     "Trying Auto Rosters Function for " + name + ".",
+                 box::Information);
+    AutoRoster(run.At, run.Team, false, false);
     if (isComplete())
         return true;
-    ShowBox("Roster for " + name + " is still incomplete!" + std::string(LineBreak) + "Cannot make lines for " + name +
-                ".",
-            box::Information);
+    says.ShowBox("Roster for " + name + " is still incomplete!" + std::string(LineBreak) + "Cannot make lines for " +
+                     name + ".",
+                 box::Information);
     return false;
 }
 
-bool ListDressedSkaters(int team, PositionCounts* counts)
+bool ListDressedSkaters(LinesRun& run, PositionCounts* counts)
 {
     constexpr int fewest = 18;
-    EmptyLineup();
-    EachOfTeam(Players, team, [&](const Player& player, int id) {
-        if (player.Status != status::Pro || !IsHealthy(player) || LineupCount() >= LeagueData.ProDressedSkaters)
+    Tables& league = run.At.League;
+    const long long most = league.LeagueData.ProDressedSkaters;
+    run.List.Empty();
+    EachOfTeam(league.Players, run.Team, [&](const Player& player, int id) {
+        if (player.Status != status::Pro || !IsHealthy(player) || run.List.Count() >= most)
             return;
         if (counts != nullptr)
             ++(*counts)[player.Position];
-        InsertInLineup(id);
+        run.Insert(id);
     });
-    if (LineupCount() >= fewest && LineupCount() <= LeagueData.ProDressedSkaters)
+    if (run.List.Count() >= fewest && run.List.Count() <= most)
         return true;
-    ShowIntegrityFailure();
+    run.At.Says.ShowIntegrityFailure();
     return false;
 }
 
-void ListDressedGoalies(int team)
+void ListDressedGoalies(LinesRun& run)
 {
-    EmptyLineup();
-    EachOfTeam(Goalies, team, [](const Goalie& goalie, int id) {
+    run.List.Empty();
+    EachOfTeam(run.At.League.Goalies, run.Team, [&run](const Goalie& goalie, int id) {
         if (goalie.Status != status::Pro || !IsHealthy(goalie))
             return;
         id += GoalieOffset;
-        InsertInLineup(id);
+        run.Insert(id);
     });
 }
 
-void DealForwardLines(Lines& lines, int room)
+void DealForwardLines(const LinesRun& run, Lines& lines, int room)
 {
     constexpr int forwardLines = 4;
     constexpr int powerPlayUnits = 2;
     UsedPlaces used(room);
     const auto deal = [&](int line, int position, auto&& wanted) {
         const LineSlot slot = SlotOf(LineField::NormalForward, line, position);
-        if (At(lines, slot) == 0 && DealFirstUnused(lines, slot, used, wanted) && line <= powerPlayUnits)
+        if (At(lines, slot) == 0 && DealFirstUnused(run, lines, slot, used, wanted) && line <= powerPlayUnits)
             At(lines, SlotOf(LineField::PPForward, line, position)) = At(lines, slot);
     };
     const auto dealLine = [&](int line, auto&& wantedAt) {
@@ -109,16 +115,16 @@ LineSlot SlotOf(Pair pair) { return dravik::SlotOf(LineField::NormalDefense, pai
 
 } // namespace
 
-void DealDefensePairs(Lines& lines, const PositionCounts& counts, int fewestRepeated)
+void DealDefensePairs(const LinesRun& run, Lines& lines, const PositionCounts& counts, int fewestRepeated)
 {
     constexpr long long most = 8;
     const long long defensemen = std::min<long long>(counts[position::Defense], most);
 
     int placed = 0;
-    for (int place = 1; place <= LineupCount(); ++place) {
-        if (SkaterAtPlace(place).Position != position::Defense || placed >= defensemen)
+    for (int place = 1; place <= run.List.Count(); ++place) {
+        if (run.SkaterAt(place).Position != position::Defense || placed >= defensemen)
             continue;
-        At(lines, SlotOf(Pair{placed / 2 + 1, placed % 2 + 1})) = LineupIds[place];
+        At(lines, SlotOf(Pair{placed / 2 + 1, placed % 2 + 1})) = run.List.Ids[place];
         ++placed;
     }
     for (const Repeat& repeat : Repeats)
@@ -131,46 +137,53 @@ namespace {
 // Walks the list and puts the first `men` skaters who are wanted into a slot of each of the fields; `slotAt` tells which,
 // by the number of men dealt before.
 template <class Wanted, class SlotAt>
-void DealWalk(Lines& lines, int men, Wanted&& wanted, std::initializer_list<LineField> fields, SlotAt&& slotAt)
+void DealWalk(const LinesRun& run, Lines& lines, int men, Wanted&& wanted, std::initializer_list<LineField> fields,
+              SlotAt&& slotAt)
 {
     int dealt = 0;
-    for (int place = 1; place <= LineupCount() && dealt < men; ++place) {
-        if (!wanted(SkaterAtPlace(place).Position))
+    for (int place = 1; place <= run.List.Count() && dealt < men; ++place) {
+        if (!wanted(run.SkaterAt(place).Position))
             continue;
         for (const LineField field : fields)
-            At(lines, slotAt(field, dealt)) = LineupIds[place];
+            At(lines, slotAt(field, dealt)) = run.List.Ids[place];
         ++dealt;
     }
 }
 
 } // namespace
 
-void DealSpecialTeams(Lines& lines)
+void DealSpecialTeams(const LinesRun& run, Lines& lines)
 {
     const auto isDefense = [](long long position) { return position == position::Defense; };
     const auto inUnits = [](LineField field, int dealt) { return dravik::SlotOf(field, dealt / 2 + 1, dealt % 2 + 1); };
     const auto byNumber = [](LineField field, int dealt) { return dravik::SlotOf(field, dealt + 1); };
 
-    DealWalk(lines, 4, IsForward, {LineField::PKForward, LineField::FourVsFourForward}, inUnits);
-    DealWalk(lines, 2, IsForward, {LineField::PK3Forward}, byNumber);
-    DealWalk(lines, 4, isDefense,
+    DealWalk(run, lines, 4, IsForward, {LineField::PKForward, LineField::FourVsFourForward}, inUnits);
+    DealWalk(run, lines, 2, IsForward, {LineField::PK3Forward}, byNumber);
+    DealWalk(run, lines, 4, isDefense,
              {LineField::PPDefense, LineField::PKDefense, LineField::FourVsFourDefense, LineField::PK3Defense},
              inUnits);
-    DealWalk(lines, 5, IsForward, {LineField::ExtraForward, LineField::PenaltyShot}, byNumber);
-    DealWalk(lines, 5, isDefense, {LineField::ExtraDefense}, byNumber);
+    DealWalk(run, lines, 5, IsForward, {LineField::ExtraForward, LineField::PenaltyShot}, byNumber);
+    DealWalk(run, lines, 5, isDefense, {LineField::ExtraDefense}, byNumber);
 }
 
-bool GoaliesAreListed()
+bool GoaliesAreListed(const LinesRun& run)
 {
-    if (LineupIds[1] == 0 || LineupIds[2] == 0)
-        ShowIntegrityFailure();
-    if (Goalies[LineupIds[1]].InUse && Goalies[LineupIds[2]].InUse)
+    const GoalieTable& goalies = run.At.League.Goalies;
+    const long long first = run.List.Ids[1];
+    const long long second = run.List.Ids[2];
+    if (first == 0 || second == 0)
+        run.At.Says.ShowIntegrityFailure();
+    if (goalies[first].InUse && goalies[second].InUse)
         return true;
-    ShowIntegrityFailure();
+    run.At.Says.ShowIntegrityFailure();
     return false;
 }
 
-long long ConditionOfGoalie(long long id) { return Goalies[id].Condition; }
+void DealGoaliesByCondition(const LinesRun& run, Lines& lines)
+{
+    DealGoalies(run, lines, [&run](long long id) -> long long { return run.At.League.Goalies[id].Condition; });
+}
 
 void DealStrategy(Lines& lines)
 {
@@ -182,42 +195,47 @@ void DealStrategy(Lines& lines)
     lines.Strategy[offense] = 2;
 }
 
-void CloseRun(std::string_view routine, int team, bool verbose)
+void CloseRun(LinesRun& run, std::string_view routine, bool verbose)
 {
+    Voice& says = run.At.Says;
     const std::string name(routine);
-    LeagueNews(name + " has been run for " + Teams[team].Name.Trimmed() + ".");
-    if (MayReport(verbose))
-        ShowBox(name + " has been run successfully.", box::Information);
-    Modified = true;
+    says.LeagueNews(name + " has been run for " + run.At.League.Teams[run.Team].Name.Trimmed() + ".");
+    if (says.MayReport(verbose))
+        says.ShowBox(name + " has been run successfully.", box::Information);
+    run.At.Modified = true;
+    run.Told.Done = true;
 }
 
-void MakeLines(int team, bool verbose, int day, const LinesMaker& maker)
+Made MakeLines(const Work& work, int team, bool verbose, int day, const LinesMaker& maker)
 {
     constexpr int fewestRepeated = 5;
-    Reporting(" in AutoLines!", [&] {
+    Made made;
+    made.Failed = FailureOf(work.Says, " in AutoLines!", [&] {
         if (!TeamTable::Has(team)) {
-            ShowIntegrityFailure();
+            work.Says.ShowIntegrityFailure();
             return;
         }
-        if (!RosterIsReady(team))
+        LinesRun run{.At = work, .Team = team, .Told = made};
+        if (!RosterIsReady(run))
             return;
-        WipesLines(team, day, maker.Of == Side::Pro);
+        WipesLines(work.League, work.Says, team, day, maker.Of == Side::Pro);
 
         PositionCounts counts;
-        if (!maker.ListSkaters(team, counts))
+        if (!maker.ListSkaters(run, counts))
             return;
-        Lines& lines = LinesOf(team, day, maker.Of);
-        DealForwardLines(lines, maker.Room);
-        DealDefensePairs(lines, counts, fewestRepeated);
-        DealSpecialTeams(lines);
+        Lines& lines = LinesOf(work.League, team, day, maker.Of);
+        DealForwardLines(run, lines, maker.Room);
+        DealDefensePairs(run, lines, counts, fewestRepeated);
+        DealSpecialTeams(run, lines);
 
-        maker.ListGoalies(team);
-        if (!GoaliesAreListed())
+        maker.ListGoalies(run);
+        if (!GoaliesAreListed(run))
             return;
-        DealGoalies(lines, ConditionOfGoalie);
+        DealGoaliesByCondition(run, lines);
         DealStrategy(lines);
-        CloseRun("Auto Lines Function", team, verbose);
+        CloseRun(run, "Auto Lines Function", verbose);
     });
+    return made;
 }
 
 } // namespace dravik

@@ -1,29 +1,23 @@
 #include "makers/Lineup.h"
 
+#include "league/Positions.h"
 #include "makers/RatingList.h"
-#include "rules/Function.h"
+#include "rules/Overall.h"
 
 namespace dravik {
 
-Row<Int16, 1, 11000> LineupIds;
-Row<Int16, 0, 11000> LineupRatings;
+void Lineup::Empty() { EmptyRatingList(Ids, Ratings); }
 
-void EmptyLineup() { EmptyRatingList(LineupIds, LineupRatings); }
-
-void InsertInLineup(int& id)
+void InsertInLineup(const Tables& league, Voice& says, Lineup& lineup, int& id)
 {
     int rating = 0;
     if (id <= GoalieOffset) {
-        rating = CalculateOverall(static_cast<int>(Players[id].Position), id);
+        rating = CalculateOverall(league, says, static_cast<int>(league.Players[id].Position), id);
     } else {
         id -= GoalieOffset;
-        rating = CalculateOverall(position::Goalie, id);
+        rating = CalculateOverall(league, says, position::Goalie, id);
     }
-    InsertByRating(LineupIds, LineupRatings, id, rating);
+    InsertByRating(lineup.Ids, lineup.Ratings, id, rating);
 }
-
-int LineupCount() { return static_cast<int>(LineupRatings[0]); }
-
-Player& SkaterAtPlace(long long place) { return Players[LineupIds[place]]; }
 
 } // namespace dravik

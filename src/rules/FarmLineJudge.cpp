@@ -1,7 +1,7 @@
-#include "league/Message.h"
+#include "league/Positions.h"
 #include "league/Reporting.h"
-#include "rules/Function.h"
 #include "rules/LineJudge.h"
+#include "rules/LineRules.h"
 
 namespace dravik {
 
@@ -26,35 +26,31 @@ constexpr LineRules LenientRules{.Side = Side::Farm,
                                  .Closing = ""};
 
 // A farm line-up must be as complete as a pro one. Its failures are told under the pro judge's name.
-bool CheckLineFarmStrict(int team, bool showMessage, int day, bool log)
+void CheckLineFarmStrict(const Work& work, int team, bool showMessage, int day, bool log, LineVerdict& verdict)
 {
-    bool complete = false;
-    Reporting(" in CheckLine!", [&] { complete = JudgeLines(team, day, StrictRules, showMessage, log); });
-    return complete;
+    verdict.Failed = FailureOf(work.Says, " in CheckLine!",
+                               [&] { JudgeLines(work, team, day, StrictRules, showMessage, log, verdict); });
 }
 
 } // namespace
 
-bool CheckLineFarm(int team, bool showMessage, int day, bool log)
+LineVerdict CheckLineFarm(const Work& work, int team, bool showMessage, int day, bool log)
 {
-    bool complete = false;
-    Reporting(" in CheckLineFarm!", [&] {
-        ForgetLineVerdict();
-        if (!LeagueData.FarmEnabled)
-            complete = true;
+    LineVerdict verdict;
+    const League& league = work.League.LeagueData;
+    const auto failed = FailureOf(work.Says, " in CheckLineFarm!", [&] {
+        if (!league.FarmEnabled)
+            verdict.Complete = true;
         else if (!HasLineDay(team, day))
-            ShowIntegrityFailure();
-        else if (LeagueData.FarmRosterRequired)
-            complete = CheckLineFarmStrict(team, showMessage, day, log);
+            work.Says.ShowIntegrityFailure();
+        else if (league.FarmRosterRequired)
+            CheckLineFarmStrict(work, team, showMessage, day, log, verdict);
         else
-            complete = JudgeLines(team, day, LenientRules, showMessage, log);
+            JudgeLines(work, team, day, LenientRules, showMessage, log, verdict);
     });
-    return complete;
-}
-
-LineVerdict VerdictOnLineFarm(int team, bool showMessage, int day, bool log)
-{
-    return LastLineVerdict(CheckLineFarm(team, showMessage, day, log));
+    if (failed)
+        verdict.Failed = failed;
+    return verdict;
 }
 
 } // namespace dravik

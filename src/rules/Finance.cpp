@@ -1,8 +1,8 @@
+#include "rules/Finance.h"
+
 #include "league/Arithmetic.h"
-#include "league/ClientVariable.h"
-#include "league/Message.h"
+#include "league/Positions.h"
 #include "league/Reporting.h"
-#include "rules/Function.h"
 #include "rules/People.h"
 
 #include <string_view>
@@ -19,9 +19,8 @@ double SalaryOf(const Person& person)
 
 // What a person costs on the farm: a share of his salary, or all of it once he has enough pro games.
 template <class Person>
-double FarmCost(const Person& person)
+double FarmCost(const League& league, const Person& person)
 {
-    const League& league = LeagueData;
     if (league.FarmPayMinGames != 0 && person.ProGames >= league.FarmPayMinGames)
         return SalaryOf(person);
     return static_cast<double>(league.FarmSalaryPct) / 100 * SalaryOf(person);
@@ -29,98 +28,102 @@ double FarmCost(const Person& person)
 
 // Calls `visit` with every player, then every goalie of the team.
 template <class Visit>
-void EachPerson(int team, Visit&& visit)
+void EachPerson(const Tables& league, int team, Visit&& visit)
 {
-    EachOfTeam(Players, team, [&](const Player& player, int /*index*/) { visit(player); });
-    EachOfTeam(Goalies, team, [&](const Goalie& goalie, int /*index*/) { visit(goalie); });
+    EachOfTeam(league.Players, team, [&](const Player& player, int /*index*/) { visit(player); });
+    EachOfTeam(league.Goalies, team, [&](const Goalie& goalie, int /*index*/) { visit(goalie); });
 }
 
 // Adds a person's cost when he is healthy enough, and takes it off when he is suspended. Each looks at its own
 // condition only, so that who is both suspended and hurt lowers the payroll.
 template <class Person>
-void AddToPayroll(Single& sum, const Person& person, double cost)
+void AddToPayroll(const League& league, Single& sum, const Person& person, double cost)
 {
-    if (person.Condition > LeagueData.PayrollMinCondition)
+    if (person.Condition > league.PayrollMinCondition)
         sum += cost;
-    if (person.Suspension > 0 && LeagueData.PayrollSkipsSuspended)
+    if (person.Suspension > 0 && league.PayrollSkipsSuspended)
         sum -= cost;
 }
 
-void AddCoaches(Single& sum, int team)
+void AddCoaches(const Tables& league, Single& sum, int team)
 {
-    for (const Coach& coach : Coaches)
+    for (const Coach& coach : league.Coaches)
         if (BelongsTo(coach, team))
             sum += SalaryOf(coach);
 }
 
 // The result of `body` for a team that exists; 0 for another, which is told, and after a failure.
 template <class Result, class Body>
-Result ForTeam(int team, std::string_view ending, Body&& body)
+Result ForTeam(Voice& says, int team, std::string_view ending, Body&& body)
 {
     Result result = 0;
-    Reporting(ending, [&] {
+    Reporting(says, ending, [&] {
         if (TeamTable::Has(team))
             result = body();
         else
-            ShowIntegrityFailure();
+            says.ShowIntegrityFailure();
     });
     return result;
 }
 
 } // namespace
 
-float ProPayroll(int team)
+Payrolls PayrollsOf(const Tables& league, int team)
 {
-    return ForTeam<float>(team, " in ProPayroll!", [&] {
-        Single sum;
-        EachPerson(team, [&](const auto& person) {
-            if (person.Status > status::Farm && person.Contract > 0)
-                AddToPayroll(sum, person, SalaryOf(person));
-        });
-        if (LeagueData.PayrollIncludesBonus)
-            sum += static_cast<double>(Teams[team].PayrollBonus);
-        return sum.Value();
+    const League& rules = league.LeagueData;
+    Single pro;
+    Single farm;
+    EachPerson(league, team, [&](const auto& person) {
+        if (person.Contract <= 0)
+            return;
+        if (person.Status > status::Farm)
+            AddToPayroll(rules, pro, person, SalaryOf(person));
+        else if (person.Status == status::Farm && rules.FarmEnabled)
+            AddToPayroll(rules, farm, person, FarmCost(rules, person));
     });
+    if (rules.PayrollIncludesBonus)
+        pro += static_cast<double>(league.Teams[team].PayrollBonus);
+    return {.Pro = pro.Value(), .Farm = farm.Value()};
 }
 
-float FarmPayroll(int team)
+float CoachesOf(const Tables& league, int team)
 {
-    return ForTeam<float>(team, " in FarmPayroll!", [&] {
-        Single sum;
-        if (LeagueData.FarmEnabled)
-            EachPerson(team, [&](const auto& person) {
-                if (person.Status == status::Farm && person.Contract > 0)
-                    AddToPayroll(sum, person, FarmCost(person));
-            });
-        return sum.Value();
-    });
+    Single sum;
+    AddCoaches(league, sum, team);
+    return sum.Value();
 }
 
-float CoachPayroll(int team)
+float ProPayroll(const Tables& league, Voice& says, int team)
 {
-    return ForTeam<float>(team, " in CoachPayroll!", [&] {
-        Single sum;
-        AddCoaches(sum, team);
-        return sum.Value();
-    });
+    return ForTeam<float>(says, team, " in ProPayroll!", [&] { return PayrollsOf(league, team).Pro; });
 }
 
-int ExpensePerGame(int team)
+float FarmPayroll(const Tables& league, Voice& says, int team)
 {
-    return ForTeam<int>(team, " in ExpensePerGame!", [&] {
-        if (LeagueData.ExpenseFlag)
+    return ForTeam<float>(says, team, " in FarmPayroll!", [&] { return PayrollsOf(league, team).Farm; });
+}
+
+float CoachPayroll(const Tables& league, Voice& says, int team)
+{
+    return ForTeam<float>(says, team, " in CoachPayroll!", [&] { return CoachesOf(league, team); });
+}
+
+int ExpensePerGame(const Tables& league, Voice& says, int team)
+{
+    return ForTeam<int>(says, team, " in ExpensePerGame!", [&] {
+        if (league.LeagueData.ExpenseFlag)
             return 0;
         Single sum;
-        EachPerson(team, [&](const auto& person) {
+        EachPerson(league, team, [&](const auto& person) {
             if (person.Suspension != 0)
                 return;
-            if (person.Status == status::Farm && LeagueData.FarmEnabled)
-                sum += FarmCost(person);
+            if (person.Status == status::Farm && league.LeagueData.FarmEnabled)
+                sum += FarmCost(league.LeagueData, person);
             else if (person.Status == status::Scratch || person.Status == status::Pro)
                 sum += SalaryOf(person);
         });
-        AddCoaches(sum, team);
-        const long long games = Teams[team].SeasonGames;
+        AddCoaches(league, sum, team);
+        const long long games = league.Teams[team].SeasonGames;
         return games == 0 ? 0 : RoundToInt32(static_cast<double>(sum.Value()) / static_cast<double>(games));
     });
 }

@@ -1,11 +1,11 @@
 #include "rules/LineJudge.h"
 
 #include "league/Message.h"
-#include "league/Platform.h"
+#include "league/Positions.h"
 #include "league/Reporting.h"
-#include "league/Session.h"
-#include "rules/Function.h"
+#include "rules/LineRules.h"
 #include "rules/People.h"
+#include "rules/WipeLines.h"
 
 #include <algorithm>
 #include <array>
@@ -15,12 +15,6 @@
 namespace dravik {
 
 namespace {
-
-// What the last judgement said, built in place: a judgement that finds nothing costs no memory.
-struct {
-    std::vector<LineFinding> Findings;
-    std::string Text;
-} Said;
 
 // What names the slot of a field in the message of its being empty.
 enum class Naming { Position, Defense, Caption };
@@ -151,15 +145,16 @@ class LineJudge {
     using Words = decltype(LineFinding::Slots);
 
 public:
-    LineJudge(int teamNumber, int day, const LineRules& lineRules) :
-        team(teamNumber), rules(lineRules), lines(LinesOf(teamNumber, day, lineRules.Side))
+    LineJudge(const Work& at, int teamNumber, int day, const LineRules& lineRules, LineVerdict& found) :
+        work(at), team(teamNumber), rules(lineRules), lines(LinesOf(at.League, teamNumber, day, lineRules.Side)),
+        verdict(found)
     {
     }
 
     void Walk()
     {
         JudgeNormalLines();
-        if (rules.ComparesLinesOneAndTwo && LeagueData.LinesOneTwoExclusive)
+        if (rules.ComparesLinesOneAndTwo && work.League.LeagueData.LinesOneTwoExclusive)
             CompareLinesOneAndTwo();
         JudgeUnits();
         JudgeLists();
@@ -228,7 +223,7 @@ private:
     // Counts the different values of the skater slots, the 0 of the empty ones among them.
     void CountHeads()
     {
-        const long long limit = LeagueData.ProDressedSkaters;
+        const long long limit = work.League.LeagueData.ProDressedSkaters;
         if (limit > static_cast<long long>(HeadCountPlaces))
             Fail(failure::OutOfRange);
         std::array<long long, HeadCountPlaces> heads{};
@@ -256,8 +251,8 @@ private:
         const auto id = static_cast<int>(Standing(slot));
         if (id == 0)
             TellEmpty(slot);
-        else if (Refuses(Players[id], id, [&] { return WordsOfAll(id); }))
-            WipePlayerFromTeamLines(team, id);
+        else if (Refuses(work.League.Players[id], id, [&] { return WordsOfAll(id); }))
+            WipePlayerFromTeamLines(work.League, work.Says, team, id);
     }
 
     // A refused goalie leaves this slot only; his other slots and days keep him.
@@ -266,7 +261,7 @@ private:
         if (slot == 0) {
             if (rules.JudgesEmptySlots)
                 Tell(LineFault::Empty, 0, word, emptyMessage);
-        } else if (Refuses(Goalies[slot], slot, [&] { return word; })) {
+        } else if (Refuses(work.League.Goalies[slot], slot, [&] { return word; })) {
             slot = 0;
         }
     }
@@ -355,30 +350,35 @@ private:
     static Words Word(int word) { return Words{}.set(static_cast<std::size_t>(word)); }
 
     [[nodiscard]] long long Standing(const LineSlot& slot) const { return At(lines, slot); }
-    [[nodiscard]] std::string NameIn(const LineSlot& slot) const { return Players[Standing(slot)].Name.Trimmed(); }
+    [[nodiscard]] std::string NameIn(const LineSlot& slot) const
+    {
+        return work.League.Players[Standing(slot)].Name.Trimmed();
+    }
 
     // Tells one finding, in words and as data.
     template <class... Parts>
     void Tell(LineFault fault, long long person, const Words& slots, const Parts&... parts)
     {
-        const std::size_t begin = Said.Text.size();
+        const std::size_t begin = verdict.Text.size();
         (Append(parts), ...);
-        const std::size_t length = Said.Text.size() - begin;
-        Said.Text += LineBreak;
-        Said.Findings.push_back({fault, static_cast<int>(person), slots, begin, length});
+        const std::size_t length = verdict.Text.size() - begin;
+        verdict.Text += LineBreak;
+        verdict.Findings.push_back({fault, static_cast<int>(person), slots, begin, length});
     }
-    static void Append(std::string_view text) { Said.Text += text; }
-    static void Append(long long number) { Said.Text += std::to_string(number); }
+    void Append(std::string_view text) { verdict.Text += text; }
+    void Append(long long number) { verdict.Text += std::to_string(number); }
 
+    const Work& work;
     int team;
     const LineRules& rules;
     Lines& lines;
+    LineVerdict& verdict;
 };
 
-std::string LogHead(int team, Side side)
+std::string LogHead(const Team& team, Side side)
 {
-    const std::string name = Teams[team].Name.Trimmed();
-    return (side == Side::Pro ? name : Teams[team].Farm.Name.Trimmed() + " (" + name + ")") + " lines errors : ";
+    const std::string name = team.Name.Trimmed();
+    return (side == Side::Pro ? name : team.Farm.Name.Trimmed() + " (" + name + ")") + " lines errors : ";
 }
 
 constexpr LineRules ProRules{.Side = Side::Pro,
@@ -392,54 +392,38 @@ constexpr LineRules ProRules{.Side = Side::Pro,
 
 } // namespace
 
-const std::string& LastLinesText() { return Said.Text; }
-
-LineVerdict LastLineVerdict(bool complete) { return {complete, Said.Findings, Said.Text}; }
-
-void ForgetLineVerdict()
+void JudgeLines(const Work& work, int team, int day, const LineRules& rules, bool showMessage, bool log,
+                LineVerdict& verdict)
 {
-    Said.Findings.clear();
-    Said.Text.clear();
-}
-
-bool JudgeLines(int team, int day, const LineRules& rules, bool showMessage, bool log)
-{
-    ForgetLineVerdict();
-    LineJudge(team, day, rules).Walk();
-    const bool perfect = Said.Text.empty();
-    Said.Text += perfect ? "Lines are perfect!" : rules.Closing;
+    LineJudge(work, team, day, rules, verdict).Walk();
+    const bool perfect = verdict.Text.empty();
+    verdict.Text += perfect ? "Lines are perfect!" : rules.Closing;
     if (log)
-        WriteLog(LogHead(team, rules.Side) + Said.Text);
-    if (MayReport(showMessage))
-        ShowBox(Said.Text, box::Information);
-    return perfect;
+        work.Says.WriteLog(LogHead(work.League.Teams[team], rules.Side) + verdict.Text);
+    if (work.Says.MayReport(showMessage))
+        work.Says.ShowBox(verdict.Text, box::Information);
+    verdict.Complete = perfect;
 }
 
-bool CheckLine(int team, bool showMessage, int day, bool log)
+LineVerdict CheckLine(const Work& work, int team, bool showMessage, int day, bool log)
 {
-    bool complete = false;
-    Reporting(" in CheckLine!", [&] {
-        ForgetLineVerdict();
+    LineVerdict verdict;
+    verdict.Failed = FailureOf(work.Says, " in CheckLine!", [&] {
         if (!HasLineDay(team, day))
-            ShowIntegrityFailure();
+            work.Says.ShowIntegrityFailure();
         else
-            complete = JudgeLines(team, day, ProRules, showMessage, log);
+            JudgeLines(work, team, day, ProRules, showMessage, log, verdict);
     });
-    return complete;
+    return verdict;
 }
 
-LineVerdict VerdictOnLine(int team, bool showMessage, int day, bool log)
-{
-    return LastLineVerdict(CheckLine(team, showMessage, day, log));
-}
-
-bool CheckLineEmpty(int team, int day)
+bool CheckLineEmpty(const Tables& league, Voice& says, int team, int day)
 {
     if (!HasLineDay(team, day)) {
-        ShowIntegrityFailure();
+        says.ShowIntegrityFailure();
         return false;
     }
-    const Lines& lines = LinesOf(team, day, Side::Pro);
+    const Lines& lines = LinesOf(league, team, day, Side::Pro);
     return std::all_of(SkaterSlots.begin(), SkaterSlots.end(),
                        [&](const LineSlot& slot) { return At(lines, slot) == 0; }) &&
            lines.StartGoalie == 0 && lines.BackupGoalie == 0;

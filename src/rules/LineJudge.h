@@ -1,38 +1,21 @@
 #pragma once
 
-#include "rules/LineSlots.h"
+#include "league/Work.h"
 #include "rules/LineVerdict.h"
-
-#include <string_view>
 
 namespace dravik {
 
-// How many different skaters a farm line-up may hold, and whether it needs enough of them.
-enum class HeadCount { None, AtMost, AtLeastToo };
+// Judges one day of the pro lines and takes illegal people out of them, silent calls included. Complete when nothing is
+// missing or illegal. With `showMessage` the text is shown in an information box, as long as reports are allowed; `log`
+// logs it. A team (1..100) or day (1..10) out of range shows "Integrity Check Failed!" in a critical box. A slot that holds
+// a number outside its table fails with 9, which is told; the verdict then holds what was found by then.
+LineVerdict CheckLine(const Work& work, int team, bool showMessage, int day, bool log);
 
-// In what the three judges of lines differ. Everything else is one walk.
-struct LineRules {
-    dravik::Side Side;
-    int Status;                         // of those who may stand in the lines
-    bool JudgesEmptySlots;              // an empty slot is wrong, and so is an empty slot like another
-    bool ComparesLinesOneAndTwo;        // if the league wants them kept apart
-    std::string_view PPForwardHead;     // begins the message of an empty power play forward slot
-    std::string_view PK3ForwardCaption; // names the one forward's slot of three penalty killers
-    dravik::HeadCount HeadCount;
-    std::string_view Closing; // ends a text that tells of something
-};
+// The same for the farm's lines: strict when the league requires farm rosters, otherwise judging only what stands in
+// them; complete at once, without a text, in a league without farm teams.
+LineVerdict CheckLineFarm(const Work& work, int team, bool showMessage, int day, bool log);
 
-// Judges one day in the one order of all judges: takes out who may not stand there and makes a text of all that is
-// wrong, a line for each finding; a later test sees the repairs of the earlier ones. What was said stays for
-// `LastLineVerdict`; the text is logged, or shown in an information box, when asked. True when nothing is wrong. `team`
-// 1..100, `day` 1..10. A slot that holds a number outside its table fails with 9, and so does a limit of the head count
-// above its 25 places; what was repaired and told by then stays.
-bool JudgeLines(int team, int day, const LineRules& rules, bool showMessage, bool log);
-
-// Findings and text of the last judgement, which came out `complete` or not.
-LineVerdict LastLineVerdict(bool complete);
-
-// Leaves neither findings nor text: there is nothing to judge, or no such day.
-void ForgetLineVerdict();
+// True when every slot of the pro day is 0, goalies included. A team or day out of range is told like that.
+bool CheckLineEmpty(const Tables& league, Voice& says, int team, int day);
 
 } // namespace dravik

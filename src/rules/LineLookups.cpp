@@ -1,4 +1,5 @@
-#include "rules/Function.h"
+#include "rules/LineLookups.h"
+
 #include "rules/LineSlots.h"
 
 #include <array>
@@ -34,18 +35,18 @@ static_assert(static_cast<std::size_t>(LineField::PenaltyShot) + 1 == Tags.size(
 
 // Calls `found` with every skater slot of the day that holds `player`, in the order in which they are told.
 template <class Found>
-void EachSlotOf(int team, int player, int day, Side side, Found&& found)
+void EachSlotOf(const Tables& league, int team, int player, int day, Side side, Found&& found)
 {
-    const Lines& lines = LinesOf(team, day, side);
+    const Lines& lines = LinesOf(league, team, day, side);
     for (const LineSlot& slot : SkaterSlots)
         if (At(lines, slot) == player)
             found(slot);
 }
 
-std::string TagsOf(int team, int player, int day, Side side)
+std::string TagsOf(const Tables& league, int team, int player, int day, Side side)
 {
     std::string text;
-    EachSlotOf(team, player, day, side, [&](const LineSlot& slot) {
+    EachSlotOf(league, team, player, day, side, [&](const LineSlot& slot) {
         const Tag& tag = Tags[static_cast<std::size_t>(slot.Field)];
         text += tag.Prefix;
         text += std::to_string(slot.Number);
@@ -54,18 +55,33 @@ std::string TagsOf(int team, int player, int day, Side side)
     return text;
 }
 
-int CountOf(int team, int player, int day, Side side)
+int CountOf(const Tables& league, int team, int player, int day, Side side)
 {
     int count = 0;
-    EachSlotOf(team, player, day, side, [&](const LineSlot&) { ++count; });
+    EachSlotOf(league, team, player, day, side, [&](const LineSlot&) { ++count; });
     return count;
 }
 
 } // namespace
 
-std::string PlayOnLineString(int team, int player, int day) { return TagsOf(team, player, day, Side::Pro); }
-std::string PlayOnLineStringFarm(int team, int player, int day) { return TagsOf(team, player, day, Side::Farm); }
-int PlayOnLineInteger(int team, int player, int day) { return CountOf(team, player, day, Side::Pro); }
-int PlayOnLineIntegerFarm(int team, int player, int day) { return CountOf(team, player, day, Side::Farm); }
+std::string PlayOnLineString(const Tables& league, int team, int player, int day)
+{
+    return TagsOf(league, team, player, day, Side::Pro);
+}
+
+std::string PlayOnLineStringFarm(const Tables& league, int team, int player, int day)
+{
+    return TagsOf(league, team, player, day, Side::Farm);
+}
+
+int PlayOnLineInteger(const Tables& league, int team, int player, int day)
+{
+    return CountOf(league, team, player, day, Side::Pro);
+}
+
+int PlayOnLineIntegerFarm(const Tables& league, int team, int player, int day)
+{
+    return CountOf(league, team, player, day, Side::Farm);
+}
 
 } // namespace dravik

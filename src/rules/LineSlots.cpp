@@ -19,7 +19,7 @@ constexpr int WordOf(std::size_t byteOffset) { return static_cast<int>(byteOffse
 static_assert(WordOf(offsetof(Lines, StartGoalie)) == StartGoalieWord);
 static_assert(WordOf(offsetof(Lines, BackupGoalie)) == BackupGoalieWord);
 
-constexpr std::array Shapes{
+constexpr std::array<FieldShape, 13> Shapes{
     FieldShape{LineField::NormalForward, WordOf(offsetof(Lines, NormalForward)), 4, 3},
     FieldShape{LineField::NormalDefense, WordOf(offsetof(Lines, NormalDefense)), 4, 2},
     FieldShape{LineField::PPForward, WordOf(offsetof(Lines, PPForward)), 2, 3},
@@ -95,9 +95,14 @@ const Int16& At(const Lines& lines, const LineSlot& slot)
 
 bool HasLineDay(int team, int day) { return TeamTable::Has(team) && decltype(Team::ProLines)::Has(day); }
 
-Lines& LinesOf(int team, int day, Side side)
+Lines& LinesOf(Tables& league, int team, int day, Side side)
 {
-    Team& record = Teams[team];
+    Team& record = league.Teams[team];
+    return side == Side::Pro ? record.ProLines[day] : record.Farm.FarmLines[day];
+}
+const Lines& LinesOf(const Tables& league, int team, int day, Side side)
+{
+    const Team& record = league.Teams[team];
     return side == Side::Pro ? record.ProLines[day] : record.Farm.FarmLines[day];
 }
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "league/ClientVariable.h"
+#include "league/Tables.h"
 
 #include <array>
 #include <string_view>
@@ -70,6 +70,7 @@ bool HasLineDay(int team, int day);
 
 // The line-up of a team's day, pro or farm. `team` 1..100, `day` 1..10; anything else fails with 9.
 enum class Side { Pro, Farm };
-Lines& LinesOf(int team, int day, Side side);
+Lines& LinesOf(Tables& league, int team, int day, Side side);
+const Lines& LinesOf(const Tables& league, int team, int day, Side side);
 
 } // namespace dravik

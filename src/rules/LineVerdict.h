@@ -2,6 +2,7 @@
 
 #include <bitset>
 #include <cstddef>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -32,12 +33,17 @@ struct LineFinding {
     std::size_t Length;
 };
 
-// What a judge of lines said of one day. The findings stand in the order of the text; one that was not told to its end,
-// because the judgement failed in the midst of it, is none.
+// What a judge of lines said of one day, as far as he came. The findings stand in the order of the text; one that was not
+// told to its end, because the judgement failed in the midst of it, is none.
 struct LineVerdict {
     bool Complete = false;
+    std::optional<int> Failed; // the number of the failure that ended the judgement, which was told
     std::vector<LineFinding> Findings;
-    std::string Text; // as LastLinesText gives it
+    // What he said, shown or not, with a line break behind each finding; "Lines are perfect!" when there was none. Empty when
+    // nothing was judged.
+    std::string Text;
+
+    explicit operator bool() const { return Complete; }
 
     // The words of one of the findings.
     [[nodiscard]] std::string_view WordsOf(const LineFinding& finding) const
@@ -45,9 +51,5 @@ struct LineVerdict {
         return std::string_view(Text).substr(finding.Begin, finding.Length);
     }
 };
-
-// CheckLine and CheckLineFarm, with all that they say: the same arguments, repairs, boxes and failures.
-LineVerdict VerdictOnLine(int team, bool showMessage, int day, bool log);
-LineVerdict VerdictOnLineFarm(int team, bool showMessage, int day, bool log);
 
 } // namespace dravik

@@ -1,7 +1,8 @@
+#include "rules/Overall.h"
+
 #include "league/Arithmetic.h"
-#include "league/ClientVariable.h"
-#include "league/Message.h"
-#include "rules/Function.h"
+#include "league/Positions.h"
+#include "league/RatingNames.h"
 
 #include <array>
 #include <cmath>
@@ -36,14 +37,13 @@ void AddBase(Single& sum, const Person& person, const Weights& weights)
 // A league's own weight is a share of a fixed divisor.
 double Share(long long weight, double divisor) { return static_cast<double>(weight) / divisor; }
 
-void AddSkater(Single& sum, const Player& player, int position)
+void AddSkater(Single& sum, const League& league, const Player& player, int position)
 {
     const auto rating = [&](int stat) { return static_cast<double>(player.Stats[stat]); };
     const bool defense = position == position::Defense;
     const bool staysHome = player.Stats[skater::DF] > player.Stats[skater::SC];
     AddBase(sum, player, !defense ? ForwardBase : staysHome ? StayingDefenseBase : ScoringDefenseBase);
 
-    const League& league = LeagueData;
     // A defenseman's checking goes by the weight of discipline.
     sum += rating(skater::CK) * Share(defense ? league.OverallWeightDI : league.OverallWeightCK, 5000);
     sum += rating(skater::FG) * Share(league.OverallWeightFG, 5000);
@@ -58,7 +58,7 @@ void AddSkater(Single& sum, const Player& player, int position)
 
 // The mean of a goalie's four stopping ratings by the mean of two league weights. The ratings add up in 16 bits and the
 // weights in 8; a sum that does not fit leaves the whole term out.
-double GoalieStopping(const Goalie& goalie)
+double GoalieStopping(const League& league, const Goalie& goalie)
 {
     long long ratings = 0;
     for (const int stat : {goalie::RB, goalie::SC, goalie::HS, goalie::RT}) {
@@ -66,48 +66,54 @@ double GoalieStopping(const Goalie& goalie)
         if (ratings < std::numeric_limits<std::int16_t>::min() || ratings > std::numeric_limits<std::int16_t>::max())
             return 0;
     }
-    const long long weights = LeagueData.OverallWeightSC + LeagueData.OverallWeightPHPA;
+    const long long weights = league.OverallWeightSC + league.OverallWeightPHPA;
     if (weights > std::numeric_limits<std::uint8_t>::max())
         return 0;
     return static_cast<double>(ratings) / 4 * (static_cast<double>(weights) / 2 / 1667);
 }
 
-void AddGoalie(Single& sum, const Goalie& goalie)
+void AddGoalie(Single& sum, const League& league, const Goalie& goalie)
 {
     const auto rating = [&](int stat) { return static_cast<double>(goalie.Stats[stat]); };
     AddBase(sum, goalie, GoalieBase);
 
-    sum += rating(goalie::DU) * Share(LeagueData.OverallWeightDU, 3333);
-    sum += GoalieStopping(goalie);
-    sum += rating(goalie::EX) * Share(LeagueData.OverallWeightEXLD, 3333);
-    sum += rating(goalie::LD) * Share(LeagueData.OverallWeightEXLD, 3333);
+    sum += rating(goalie::DU) * Share(league.OverallWeightDU, 3333);
+    sum += GoalieStopping(league, goalie);
+    sum += rating(goalie::EX) * Share(league.OverallWeightEXLD, 3333);
+    sum += rating(goalie::LD) * Share(league.OverallWeightEXLD, 3333);
 }
 
 } // namespace
 
-int CalculateOverall(int position, int id)
+std::optional<int> OverallAt(const Tables& league, int position, int id)
 {
     constexpr int best = 99;
-    if (position < position::Center || position > position::Goalie) {
-        ShowIntegrityFailure();
-        return 0;
-    }
+    if (position < position::Center || position > position::Goalie)
+        return std::nullopt;
 
     Single sum;
     if (position == position::Goalie) {
         if (!GoalieTable::Has(id))
             return 0;
-        AddGoalie(sum, Goalies[id]);
+        AddGoalie(sum, league.LeagueData, league.Goalies[id]);
     } else {
         if (!PlayerTable::Has(id))
             return 0;
-        AddSkater(sum, Players[id], position);
+        AddSkater(sum, league.LeagueData, league.Players[id], position);
     }
 
     const double rounded = std::nearbyint(static_cast<double>(sum.Value()));
     if (rounded < std::numeric_limits<std::int16_t>::min() || rounded > std::numeric_limits<std::int16_t>::max())
         return 0;
     return rounded > best ? best : static_cast<int>(rounded);
+}
+
+int CalculateOverall(const Tables& league, Voice& says, int position, int id)
+{
+    const auto overall = OverallAt(league, position, id);
+    if (!overall)
+        says.ShowIntegrityFailure();
+    return overall.value_or(0);
 }
 
 } // namespace dravik

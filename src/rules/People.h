@@ -1,6 +1,6 @@
 #pragma once
 
-#include "league/ClientVariable.h"
+#include "league/Tables.h"
 
 namespace dravik {
 

@@ -1,12 +1,12 @@
+#include "rules/RosterJudge.h"
+
 #include "league/Arithmetic.h"
-#include "league/ClientVariable.h"
 #include "league/Message.h"
-#include "league/Platform.h"
+#include "league/Positions.h"
 #include "league/Reporting.h"
-#include "league/Session.h"
-#include "rules/Function.h"
+#include "rules/Overall.h"
 #include "rules/People.h"
-#include "rules/SalaryCap.h"
+#include "rules/WipeLines.h"
 
 #include <string>
 #include <string_view>
@@ -14,8 +14,6 @@
 namespace dravik {
 
 namespace {
-
-std::string RosterText; // what the last judgement had to say
 
 // Fit people by position.
 class HeadCount {
@@ -28,14 +26,14 @@ public:
     [[nodiscard]] long long Goalies() const { return Of(position::Goalie); }
 
     // A skater without a position is told and left out.
-    void Add(const Player& player)
+    void Add(Voice& says, const Player& player)
     {
         if (player.Position >= position::Center && player.Position <= position::Defense)
             ++count[player.Position];
         else
-            ShowBox(player.Name.Trimmed() + " has no position!", box::Critical);
+            says.ShowBox(player.Name.Trimmed() + " has no position!", box::Critical);
     }
-    void Add(const Goalie& /*goalie*/) { ++count[position::Goalie]; }
+    void Add(Voice& /*says*/, const Goalie& /*goalie*/) { ++count[position::Goalie]; }
 
 private:
     Row<long long, 1, 5> count;
@@ -44,11 +42,14 @@ private:
 // The number that names a person where skaters and goalies share one, and his entry in the list of changes.
 int IdOf(const Player& /*player*/, int index) { return index; }
 int IdOf(const Goalie& /*goalie*/, int index) { return index + GoalieOffset; }
-RosterChange& ChangeOf(const Player& /*player*/, int index) { return RosterChanges[index]; }
-RosterChange& ChangeOf(const Goalie& /*goalie*/, int index) { return RosterChangesGoalie[index]; }
+RosterChange& ChangeOf(Tables& league, const Player& /*player*/, int index) { return league.RosterChanges[index]; }
+RosterChange& ChangeOf(Tables& league, const Goalie& /*goalie*/, int index)
+{
+    return league.RosterChangesGoalie[index];
+}
 
-int OverallOf(const Player& player, int index) { return CalculateOverall(static_cast<int>(player.Position), index); }
-int OverallOf(const Goalie& /*goalie*/, int index) { return CalculateOverall(position::Goalie, index); }
+int PositionOf(const Player& player) { return static_cast<int>(player.Position); }
+int PositionOf(const Goalie& /*goalie*/) { return position::Goalie; }
 
 // Where the farm's rule differs: a skater over a limit keeps his status on the farm, and is told again by every
 // judgement; a goalie is moved. Their words differ by a capital letter.
@@ -60,7 +61,10 @@ std::string_view TooGoodForFarm(const Goalie& /*goalie*/) { return " Overall is 
 // One judgement of one team's roster.
 class RosterJudge {
 public:
-    explicit RosterJudge(int judged) : team(judged) {}
+    RosterJudge(const Work& at, int judged, RosterVerdict& found) :
+        work(at), rules(at.League.LeagueData), team(judged), verdict(found)
+    {
+    }
 
     // The three tests each see the status that the one before has left.
     template <class Person>
@@ -74,59 +78,59 @@ public:
             ++scratched;
     }
 
-    // Compares the pro counts with the league's requirements; every one that does not hold gets its line and makes
-    // `complete` False.
-    void ComparePro(bool& complete) const
+    // Compares the pro counts with the league's requirements; every one that does not hold gets its line and makes the
+    // roster incomplete.
+    void ComparePro()
     {
-        const League& league = LeagueData;
         const auto atLeast = [&](long long count, long long least, std::string_view message) {
             if (count < least)
-                AddLine(complete, message, count, least, " Required.");
+                AddLine(message, count, least, " Required.");
         };
-        atLeast(pro.Of(position::Center), league.RequiredCenters, "Not enough Centers available in Pro Team! ");
-        atLeast(pro.Of(position::LeftWing), league.RequiredLeftWings, "Not enough Left Wings available in Pro Team! ");
-        atLeast(pro.Of(position::RightWing), league.RequiredRightWings,
+        atLeast(pro.Of(position::Center), rules.RequiredCenters, "Not enough Centers available in Pro Team! ");
+        atLeast(pro.Of(position::LeftWing), rules.RequiredLeftWings, "Not enough Left Wings available in Pro Team! ");
+        atLeast(pro.Of(position::RightWing), rules.RequiredRightWings,
                 "Not enough Right Wings available in Pro Team! ");
-        atLeast(pro.Of(position::Defense), league.RequiredDefensemen, "Not enough Defenseman available in Pro Team! ");
+        atLeast(pro.Of(position::Defense), rules.RequiredDefensemen, "Not enough Defenseman available in Pro Team! ");
         atLeast(pro.Goalies(), 2, "Not enough Goalie available in Pro Team! ");
         atLeast(pro.Skaters(), 18, "Not enough players available in Pro Team! ");
         // The limit shown is 3 whatever the league allows, and players are "Required." where "Maximum." is meant: the
         // texts as general managers know them.
-        if (pro.Goalies() > league.MaxDressedGoalies)
-            AddLine(complete, "Too many Goalie available in Pro Team! ", pro.Goalies(), 3, " Maximum.");
-        if (pro.Skaters() > league.ProDressedSkaters)
-            AddLine(complete, "Too many players available in Pro Team! ", pro.Skaters(), league.ProDressedSkaters,
-                    " Required.");
-        if (pro.Skaters() + pro.Goalies() + scratched > league.MaxProPlayers) {
-            RosterText += "Maximum Players Limit Reached in Pro Team!";
-            RosterText += LineBreak;
-            complete = false;
+        if (pro.Goalies() > rules.MaxDressedGoalies)
+            AddLine("Too many Goalie available in Pro Team! ", pro.Goalies(), 3, " Maximum.");
+        if (pro.Skaters() > rules.ProDressedSkaters)
+            AddLine("Too many players available in Pro Team! ", pro.Skaters(), rules.ProDressedSkaters, " Required.");
+        if (pro.Skaters() + pro.Goalies() + scratched > rules.MaxProPlayers) {
+            verdict.Text += "Maximum Players Limit Reached in Pro Team!";
+            verdict.Text += LineBreak;
+            verdict.Complete = false;
         }
     }
 
     // The same for pro and farm together, which need twice as many; scratches do not count.
-    void CompareBoth(bool& complete) const
+    void CompareBoth()
     {
-        const League& league = LeagueData;
         const auto atLeast = [&](long long count, long long least, std::string_view message) {
             if (count < least)
-                AddLine(complete, message, count, least, " Required.");
+                AddLine(message, count, least, " Required.");
         };
         const auto both = [&](int position) { return pro.Of(position) + farm.Of(position); };
-        atLeast(both(position::Center), Limit16(2 * league.RequiredCenters),
+        atLeast(both(position::Center), Limit16(2 * rules.RequiredCenters),
                 "Not enough Centers available in Pro and Farm Team! ");
-        atLeast(both(position::LeftWing), Limit16(2 * league.RequiredLeftWings),
+        atLeast(both(position::LeftWing), Limit16(2 * rules.RequiredLeftWings),
                 "Not enough Left Wings available in Pro and Farm Team! ");
-        atLeast(both(position::RightWing), Limit16(2 * league.RequiredRightWings),
+        atLeast(both(position::RightWing), Limit16(2 * rules.RequiredRightWings),
                 "Not enough Right Wings available in Pro and Farm Team! ");
-        atLeast(both(position::Defense), Limit16(2 * league.RequiredDefensemen),
+        atLeast(both(position::Defense), Limit16(2 * rules.RequiredDefensemen),
                 "Not enough Defenseman available in Pro and Farm Team! ");
         atLeast(pro.Goalies() + farm.Goalies(), 4, "Not enough Goalie available in Pro and Farm Team! ");
         atLeast(pro.Skaters() + farm.Skaters(), 36, "Not enough players available in Pro Team and Farm Team! ");
     }
 
 private:
+    const Work& work;
+    const League& rules;
     int team;
+    RosterVerdict& verdict;
     HeadCount pro;
     HeadCount farm;
     long long scratched = 0;
@@ -134,8 +138,8 @@ private:
     template <class Person>
     void ExaminePro(Person& person, int index)
     {
-        if (IsFit(person) && person.Salary >= LeagueData.MinSalary && person.Salary <= LeagueData.MaxSalary) {
-            pro.Add(person);
+        if (IsFit(person) && person.Salary >= rules.MinSalary && person.Salary <= rules.MaxSalary) {
+            pro.Add(work.Says, person);
             return;
         }
         AddComplaint(person, " is injured, suspended, has no contract or incorrect salaries but he's on Pro Team!");
@@ -151,87 +155,84 @@ private:
             LeaveFarm(person);
             TakeOffLines(person, index);
         };
-        if (OverallOf(person, index) > LeagueData.FarmMaxOverall)
+        if (CalculateOverall(work.League, work.Says, PositionOf(person), index) > rules.FarmMaxOverall)
             refuse(TooGoodForFarm(person));
-        if (LeagueData.FarmMaxSalary >= 1 && person.Salary > LeagueData.FarmMaxSalary)
+        if (rules.FarmMaxSalary >= 1 && person.Salary > rules.FarmMaxSalary)
             refuse(" salary is too high to be in farm!");
         // He counts for the farm even when he has just left it; a goalie then counts among the scratches too.
         if (IsFit(person))
-            farm.Add(person);
+            farm.Add(work.Says, person);
     }
 
     template <class Person>
-    void TakeOffLines(const Person& person, int index) const
+    void TakeOffLines(const Person& person, int index)
     {
-        ChangeOf(person, index).Status = status::Scratch;
-        WipePlayerFromTeamLines(team, IdOf(person, index));
-        RosterFixed = 1;
+        ChangeOf(work.League, person, index).Status = status::Scratch;
+        WipePlayerFromTeamLines(work.League, work.Says, team, IdOf(person, index));
+        verdict.Repaired = true;
     }
 
     template <class Person>
-    static void AddComplaint(const Person& person, std::string_view words)
+    void AddComplaint(const Person& person, std::string_view words)
     {
-        RosterText += person.Name.Trimmed();
-        RosterText += words;
-        RosterText += LineBreak;
+        verdict.Text += person.Name.Trimmed();
+        verdict.Text += words;
+        verdict.Text += LineBreak;
     }
 
-    static void AddLine(bool& complete, std::string_view message, long long count, long long limit,
-                        std::string_view closing)
+    void AddLine(std::string_view message, long long count, long long limit, std::string_view closing)
     {
-        RosterText += message;
-        RosterText += std::to_string(count);
-        RosterText += " Dressed. ";
-        RosterText += std::to_string(limit);
-        RosterText += closing;
-        RosterText += LineBreak;
-        complete = false;
+        verdict.Text += message;
+        verdict.Text += std::to_string(count);
+        verdict.Text += " Dressed. ";
+        verdict.Text += std::to_string(limit);
+        verdict.Text += closing;
+        verdict.Text += LineBreak;
+        verdict.Complete = false;
     }
 };
 
 // Closes a text that says something and shows it.
-void TellRosterText(const std::string& teamName, bool log, bool showMessage)
+void TellRosterText(const Work& work, std::string& text, const std::string& teamName, bool log, bool showMessage)
 {
-    if (RosterText.empty())
+    if (text.empty())
         return;
-    RosterText += "Some errors will be automatically fixed.";
-    RosterText += LineBreak;
+    text += "Some errors will be automatically fixed.";
+    text += LineBreak;
     if (log)
-        WriteLog(teamName + " roster errors : " + RosterText);
-    RosterText = teamName + " Roster Error : " + std::string(LineBreak) + RosterText;
-    if (MayReport(showMessage))
-        ShowBox(RosterText, box::Warning);
+        work.Says.WriteLog(teamName + " roster errors : " + text);
+    text = teamName + " Roster Error : " + std::string(LineBreak) + text;
+    if (work.Says.MayReport(showMessage))
+        work.Says.ShowBox(text, box::Warning);
 }
 
 } // namespace
 
-bool CheckRoster(int team, bool log, bool withSalaryCap, bool showMessage)
+RosterVerdict CheckRoster(const Work& work, int team, bool log, bool withSalaryCap, bool showMessage)
 {
-    bool complete = false;
-    Reporting(" in CheckRoster!", [&] {
+    RosterVerdict verdict;
+    Tables& league = work.League;
+    verdict.Failed = FailureOf(work.Says, " in CheckRoster!", [&] {
         if (!TeamTable::Has(team)) {
-            ShowIntegrityFailure();
+            work.Says.ShowIntegrityFailure();
             return;
         }
-        complete = true;
-        RosterFixed = 0;
-        RosterText.clear();
-        if (withSalaryCap)
-            ForgetCapText();
+        verdict.Complete = true;
 
-        RosterJudge judge(team);
-        EachOfTeam(Players, team, [&](Player& player, int index) { judge.Examine(player, index); });
-        EachOfTeam(Goalies, team, [&](Goalie& goalie, int index) { judge.Examine(goalie, index); });
-        judge.ComparePro(complete);
-        if (LeagueData.FarmEnabled && LeagueData.FarmRosterRequired)
-            judge.CompareBoth(complete);
-        TellRosterText(Teams[team].Name.Trimmed(), log, showMessage);
-        if (withSalaryCap && !CheckSalaryCap(team, showMessage))
-            complete = false;
+        RosterJudge judge(work, team, verdict);
+        EachOfTeam(league.Players, team, [&](Player& player, int index) { judge.Examine(player, index); });
+        EachOfTeam(league.Goalies, team, [&](Goalie& goalie, int index) { judge.Examine(goalie, index); });
+        judge.ComparePro();
+        if (league.LeagueData.FarmEnabled && league.LeagueData.FarmRosterRequired)
+            judge.CompareBoth();
+        TellRosterText(work, verdict.Text, league.Teams[team].Name.Trimmed(), log, showMessage);
+        if (!withSalaryCap)
+            return;
+        verdict.Cap = CheckSalaryCap(work, team, showMessage);
+        if (!*verdict.Cap)
+            verdict.Complete = false;
     });
-    return complete;
+    return verdict;
 }
-
-const std::string& LastRosterText() { return RosterText; }
 
 } // namespace dravik

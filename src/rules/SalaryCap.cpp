@@ -1,12 +1,9 @@
 #include "rules/SalaryCap.h"
 
 #include "league/Arithmetic.h"
-#include "league/ClientVariable.h"
 #include "league/Message.h"
-#include "league/Platform.h"
 #include "league/Reporting.h"
-#include "league/Session.h"
-#include "rules/Function.h"
+#include "rules/Finance.h"
 
 #include <optional>
 #include <string>
@@ -16,82 +13,82 @@ namespace dravik {
 
 namespace {
 
-std::string CapText; // what the last judgement had to say
-
 // What the payroll of a team may reach, in the modes that have a cap.
-std::optional<long long> CapOf(const Team& team)
+std::optional<long long> CapOf(const League& league, const Team& team)
 {
-    switch (LeagueData.SalaryCapMode) {
+    switch (league.SalaryCapMode) {
     case 1:
-        return LeagueData.SalaryCap;
+        return league.SalaryCap;
     case 2: // a rich team may pay more; a team in debt must pay less
-        return Limit32(LeagueData.SalaryCap + team.Cash);
+        return Limit32(league.SalaryCap + team.Cash);
     default:
         return std::nullopt;
     }
 }
 
-void Tell(const std::string& name, std::string_view words, long long amount, bool showMessage)
+void Tell(const Work& work, CapVerdict& verdict, const std::string& name, std::string_view words, long long amount,
+          bool showMessage)
 {
-    const std::string text = name + std::string(words) + Machine().Currency(static_cast<double>(Limit32(amount))) + "!";
-    CapText += text;
-    CapText += LineBreak;
-    if (MayReport(showMessage))
-        ShowBox(text, box::Warning);
+    const std::string text =
+        name + std::string(words) + work.Shown.Currency(static_cast<double>(Limit32(amount))) + "!";
+    verdict.Text += text;
+    verdict.Text += LineBreak;
+    if (work.Says.MayReport(showMessage))
+        work.Says.ShowBox(text, box::Warning);
     else
-        WriteLog(text);
+        work.Says.WriteLog(text);
 }
 
 } // namespace
 
-CapStanding StandingAgainstCap(int team)
+CapStanding StandingAgainstCap(const Tables& league, int team)
 {
+    const League& rules = league.LeagueData;
+    const Payrolls payrolls = PayrollsOf(league, team);
     CapStanding standing;
-    standing.Pro = RoundToInt32(ProPayroll(team));
-    standing.Farm = RoundToInt32(FarmPayroll(team));
+    standing.Pro = RoundToInt32(payrolls.Pro);
+    standing.Farm = RoundToInt32(payrolls.Farm);
     standing.Total = standing.Pro;
-    if (LeagueData.FarmPayrollInCap)
+    if (rules.FarmPayrollInCap)
         standing.Total = Limit32(standing.Pro + standing.Farm);
-    if (LeagueData.CoachPayrollInCap)
-        standing.Total = RoundToInt32(static_cast<double>(CoachPayroll(team)) + static_cast<double>(standing.Total));
-    standing.Cap = CapOf(Teams[team]);
+    if (rules.CoachPayrollInCap)
+        standing.Total =
+            RoundToInt32(static_cast<double>(CoachesOf(league, team)) + static_cast<double>(standing.Total));
+    standing.Cap = CapOf(rules, league.Teams[team]);
     return standing;
 }
 
-const std::string& LastCapText() { return CapText; }
-
-void ForgetCapText() { CapText.clear(); }
-
-bool CheckSalaryCap(int team, bool showMessage)
+CapVerdict CheckSalaryCap(const Work& work, int team, bool showMessage)
 {
-    bool within = false;
-    Reporting(" in CheckSalaryCap!", [&] {
+    CapVerdict verdict;
+    verdict.Failed = FailureOf(work.Says, " in CheckSalaryCap!", [&] {
         if (!TeamTable::Has(team)) {
-            ShowIntegrityFailure();
+            work.Says.ShowIntegrityFailure();
             return;
         }
-        within = true;
-        ForgetCapText();
-        const League& league = LeagueData;
-        if (league.SalaryCapMode == 0)
+        verdict.Within = true;
+        const League& rules = work.League.LeagueData;
+        if (rules.SalaryCapMode == 0)
             return;
-        const Team& record = Teams[team];
+        const Team& record = work.League.Teams[team];
+        const auto tell = [&](const std::string& name, std::string_view words, long long amount) {
+            Tell(work, verdict, name, words, amount, showMessage);
+        };
 
-        const auto [pro, farm, total, cap] = StandingAgainstCap(team);
+        const auto [pro, farm, total, cap] = StandingAgainstCap(work.League, team);
         if (cap && total > *cap) {
-            within = false;
-            Tell(record.Name.Trimmed(), " is over the salary cap by ", total - *cap, showMessage);
+            verdict.Within = false;
+            tell(record.Name.Trimmed(), " is over the salary cap by ", total - *cap);
         }
-        if (league.FarmSalaryCap > 0 && farm > league.FarmSalaryCap) {
-            within = false;
-            Tell(record.Farm.Name.Trimmed(), " is over the salary cap by ", farm - league.FarmSalaryCap, showMessage);
+        if (rules.FarmSalaryCap > 0 && farm > rules.FarmSalaryCap) {
+            verdict.Within = false;
+            tell(record.Farm.Name.Trimmed(), " is over the salary cap by ", farm - rules.FarmSalaryCap);
         }
         // Too small a payroll is told, and allowed.
-        if (total < league.MinSalaryCap)
-            Tell(record.Name.Trimmed(), " is under the minimum salary cap by ", league.MinSalaryCap - total,
-                 showMessage);
+        if (total < rules.MinSalaryCap)
+            tell(record.Name.Trimmed(), " is under the minimum salary cap by ", rules.MinSalaryCap - total);
     });
-    return within;
+    return verdict;
 }
 
 } // namespace dravik

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "league/Work.h"
+
 #include <optional>
 #include <string>
 
@@ -14,12 +16,20 @@ struct CapStanding {
 };
 
 // Where a team of 1..100 stands. Payrolls or a cap beyond 32 bits fail with 6.
-CapStanding StandingAgainstCap(int team);
+CapStanding StandingAgainstCap(const Tables& league, int team);
 
-// What the CheckSalaryCap that ran last had to say, shown or not, with a line break behind each message. Nothing, where
-// the CheckRoster that was to judge the payroll too broke off before it.
-const std::string& LastCapText();
-// Forgets it, so that no team is shown what another one was told.
-void ForgetCapText();
+// What the judge of the cap found, as far as he came.
+struct CapVerdict {
+    bool Within = false;
+    std::optional<int> Failed; // the number of the failure that ended the judgement, which was told
+    std::string Text;          // what he had to say, shown or not, with a line break behind each message
+
+    explicit operator bool() const { return Within; }
+};
+
+// Whether the payroll stands within the cap. With `showMessage` what is wrong is shown in warning boxes, as long as reports
+// are allowed; otherwise it is logged. A team out of 1..100 shows "Integrity Check Failed!" in a critical box and is not
+// within.
+CapVerdict CheckSalaryCap(const Work& work, int team, bool showMessage);
 
 } // namespace dravik

@@ -1,8 +1,7 @@
 #include "rules/SeasonProjection.h"
 
 #include "league/Arithmetic.h"
-#include "league/ClientVariable.h"
-#include "rules/Function.h"
+#include "rules/Finance.h"
 
 namespace dravik {
 
@@ -21,14 +20,14 @@ void TellNoMoney(SeasonFigures& season)
 
 } // namespace
 
-void ProjectSeason(int team, SeasonFigures& season)
+void ProjectSeason(const Tables& league, Voice& says, int team, SeasonFigures& season)
 {
     season = {};
-    const Team& record = Teams[team];
+    const Team& record = league.Teams[team];
     const auto cash = static_cast<int>(record.Cash);
     season.Cash = cash;
-    season.ProPayroll = RoundToInt32(ProPayroll(team));
-    season.FarmPayroll = RoundToInt32(FarmPayroll(team));
+    season.ProPayroll = RoundToInt32(ProPayroll(league, says, team));
+    season.FarmPayroll = RoundToInt32(FarmPayroll(league, says, team));
     if (record.SeasonGames < 2) {
         season.HomeGamesLeft = 0;
         season.GamesLeft = 0;
@@ -36,14 +35,14 @@ void ProjectSeason(int team, SeasonFigures& season)
         return;
     }
 
-    const int expense = ExpensePerGame(team);
+    const int expense = ExpensePerGame(league, says, team);
     const long long gamesLeft = record.SeasonGames - record.GamesPlayed;
     const long long seasonExpense = Limit32(gamesLeft * expense);
     const double homeLeft = static_cast<double>(record.SeasonGames) / 2 - static_cast<double>(record.HomeGames);
     season.HomeGamesLeft = homeLeft;
     season.GamesLeft = static_cast<int>(gamesLeft);
     season.Form = SeasonForm::NoAverages;
-    if (record.HomeGames <= 0 || LeagueData.HideFinanceAverages) {
+    if (record.HomeGames <= 0 || league.LeagueData.HideFinanceAverages) {
         TellNoMoney(season);
         return;
     }

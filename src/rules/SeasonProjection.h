@@ -1,5 +1,8 @@
 #pragma once
 
+#include "league/Tables.h"
+#include "league/Voice.h"
+
 #include <optional>
 
 namespace dravik {
@@ -31,6 +34,6 @@ struct SeasonFigures {
 // Works out the season of `team` (1..100; anything else fails with 9) into `season`, from empty, in the order in which
 // the figures are told. Counts home games only for income, and all games left for expenses. Fails with 6 when a figure
 // does not fit 32 bits; `season` then holds what was reached. Shows nothing of its own.
-void ProjectSeason(int team, SeasonFigures& season);
+void ProjectSeason(const Tables& league, Voice& says, int team, SeasonFigures& season);
 
 } // namespace dravik

@@ -1,8 +1,9 @@
 #include "rules/StatRows.h"
 
 #include "league/Arithmetic.h"
-#include "league/ClientVariable.h"
-#include "rules/Function.h"
+#include "league/Positions.h"
+#include "league/RatingNames.h"
+#include "rules/Overall.h"
 
 namespace dravik {
 
@@ -52,11 +53,11 @@ int Mean(const Stats& stats, const Group& group)
 }
 
 template <class Stats, class Names, class GroupNames>
-void TellRatings(const Stats& stats, long long count, const Names& names, const GroupNames& groupNames,
-                 const Groups& groups, const TellStatRow& tell)
+void TellRatings(const League& rules, const Stats& stats, long long count, const Names& names,
+                 const GroupNames& groupNames, const Groups& groups, const TellStatRow& tell)
 {
     for (int row = 1; row <= count; ++row) {
-        if (LeagueData.ShowAllRatings)
+        if (rules.ShowAllRatings)
             tell(row, {names[row], static_cast<int>(stats[row])});
         else
             tell(row, {groupNames[row], Mean(stats, groups[row])});
@@ -64,9 +65,9 @@ void TellRatings(const Stats& stats, long long count, const Names& names, const 
 }
 
 template <class Names, class GroupNames>
-StatRow OverallRowOf(int overall, const Names& names, const GroupNames& groupNames)
+StatRow OverallRowOf(const League& rules, int overall, const Names& names, const GroupNames& groupNames)
 {
-    return {LeagueData.ShowAllRatings ? names[names.last] : groupNames[groupNames.last], overall};
+    return {rules.ShowAllRatings ? names[names.last] : groupNames[groupNames.last], overall};
 }
 
 TellStatRow Into(std::vector<StatRow>& rows)
@@ -74,50 +75,59 @@ TellStatRow Into(std::vector<StatRow>& rows)
     return [&rows](int /*row*/, const StatRow& shown) { rows.push_back(shown); };
 }
 
-void AddOverall(StatRows& rows, int overall, StatRow (*row)(int))
+void AddOverall(const League& rules, StatRows& rows, int overall, StatRow (*row)(const League&, int))
 {
     rows.Overall = overall;
-    if (LeagueData.ShowOverall)
-        rows.OverallRow = row(overall);
+    if (rules.ShowOverall)
+        rows.OverallRow = row(rules, overall);
 }
 
 } // namespace
 
-void TellSkaterRatings(int index, const TellStatRow& tell)
+void TellSkaterRatings(const Tables& league, int index, int count, const TellStatRow& tell)
 {
-    TellRatings(Players[index].Stats, PlayerStatCount, SkaterStatName, SkaterGroupName, SkaterGroups, tell);
+    TellRatings(league.LeagueData, league.Players[index].Stats, count, SkaterStatName, SkaterGroupName, SkaterGroups,
+                tell);
 }
 
-void TellGoalieRatings(int index, const TellStatRow& tell)
+void TellGoalieRatings(const Tables& league, int index, int count, const TellStatRow& tell)
 {
-    TellRatings(Goalies[index].Stats, GoalieStatCount, GoalieStatName, GoalieGroupName, GoalieGroups, tell);
+    TellRatings(league.LeagueData, league.Goalies[index].Stats, count, GoalieStatName, GoalieGroupName, GoalieGroups,
+                tell);
 }
 
-StatRow SkaterOverallRow(int overall) { return OverallRowOf(overall, SkaterStatName, SkaterGroupName); }
+StatRow SkaterOverallRow(const League& rules, int overall)
+{
+    return OverallRowOf(rules, overall, SkaterStatName, SkaterGroupName);
+}
 
-StatRow GoalieOverallRow(int overall) { return OverallRowOf(overall, GoalieStatName, GoalieGroupName); }
+StatRow GoalieOverallRow(const League& rules, int overall)
+{
+    return OverallRowOf(rules, overall, GoalieStatName, GoalieGroupName);
+}
 
-StatRows SkaterStatRows(int index)
+StatRows SkaterStatRows(const Tables& league, Voice& says, int index, int count)
 {
     StatRows rows;
-    TellSkaterRatings(index, Into(rows.Ratings));
-    AddOverall(rows, CalculateOverall(static_cast<int>(Players[index].Position), index), SkaterOverallRow);
+    TellSkaterRatings(league, index, count, Into(rows.Ratings));
+    const int position = static_cast<int>(league.Players[index].Position);
+    AddOverall(league.LeagueData, rows, CalculateOverall(league, says, position, index), SkaterOverallRow);
     return rows;
 }
 
-StatRows SkaterStatRows(const SkaterRatings& ratings, int overall)
+StatRows SkaterStatRows(const League& rules, const SkaterRatings& ratings, int count, int overall)
 {
     StatRows rows;
-    TellRatings(ratings, PlayerStatCount, SkaterStatName, SkaterGroupName, SkaterGroups, Into(rows.Ratings));
-    AddOverall(rows, overall, SkaterOverallRow);
+    TellRatings(rules, ratings, count, SkaterStatName, SkaterGroupName, SkaterGroups, Into(rows.Ratings));
+    AddOverall(rules, rows, overall, SkaterOverallRow);
     return rows;
 }
 
-StatRows GoalieStatRows(int index)
+StatRows GoalieStatRows(const Tables& league, Voice& says, int index, int count)
 {
     StatRows rows;
-    TellGoalieRatings(index, Into(rows.Ratings));
-    AddOverall(rows, CalculateOverall(position::Goalie, index), GoalieOverallRow);
+    TellGoalieRatings(league, index, count, Into(rows.Ratings));
+    AddOverall(league.LeagueData, rows, CalculateOverall(league, says, position::Goalie, index), GoalieOverallRow);
     return rows;
 }
 

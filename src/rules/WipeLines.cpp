@@ -1,7 +1,7 @@
-#include "league/ClientVariable.h"
-#include "league/Message.h"
+#include "rules/WipeLines.h"
+
+#include "league/Positions.h"
 #include "league/Reporting.h"
-#include "rules/Function.h"
 #include "rules/LineSlots.h"
 
 #include <algorithm>
@@ -47,14 +47,14 @@ void TakeOut(Lines& lines, int id)
 
 } // namespace
 
-void WipesLines(int team, int day, bool pro)
+void WipesLines(Tables& league, Voice& says, int team, int day, bool pro)
 {
-    Reporting(" in WipesLines!", [&] {
+    Reporting(says, " in WipesLines!", [&] {
         if (!HasLineDay(team, day)) {
-            ShowIntegrityFailure();
+            says.ShowIntegrityFailure();
             return;
         }
-        Lines& lines = LinesOf(team, day, pro ? Side::Pro : Side::Farm);
+        Lines& lines = LinesOf(league, team, day, pro ? Side::Pro : Side::Farm);
         for (const LineSlot& slot : SkaterSlots)
             At(lines, slot) = 0;
         lines.StartGoalie = 0;
@@ -64,20 +64,20 @@ void WipesLines(int team, int day, bool pro)
     });
 }
 
-void WipePlayerFromTeamLines(int team, int id)
+void WipePlayerFromTeamLines(Tables& league, Voice& says, int team, int id)
 {
-    Reporting(" in WipePlayerFromTeamLines!", [&] {
+    Reporting(says, " in WipePlayerFromTeamLines!", [&] {
         if (!TeamTable::Has(team)) {
-            ShowIntegrityFailure();
+            says.ShowIntegrityFailure();
             return;
         }
         for (int day = 1; day <= LineDays; ++day) {
-            TakeOut(LinesOf(team, day, Side::Pro), id);
-            TakeOut(LinesOf(team, day, Side::Farm), id);
+            TakeOut(LinesOf(league, team, day, Side::Pro), id);
+            TakeOut(LinesOf(league, team, day, Side::Farm), id);
         }
         if (id > GoalieOffset)
             return;
-        Team& record = Teams[team];
+        Team& record = league.Teams[team];
         EmptyIfHolding(record.Captain, id);
         for (Int16& assistant : record.Assistant)
             EmptyIfHolding(assistant, id);

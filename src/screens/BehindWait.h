@@ -1,6 +1,6 @@
 #pragma once
 
-#include "league/OutsideCode.h"
+#include "session/Routines.h"
 
 #include <utility>
 

@@ -1,7 +1,7 @@
 #include "screens/LineGroups.h"
 
 #include "league/Arithmetic.h"
-#include "rules/Function.h"
+#include "session/Routines.h"
 
 namespace dravik {
 

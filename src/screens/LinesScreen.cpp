@@ -1,18 +1,14 @@
 #include "screens/LinesScreen.h"
 
 #include "league/Arithmetic.h"
-#include "league/ClientVariable.h"
-#include "league/InputCheck.h"
-#include "league/Message.h"
 #include "league/Platform.h"
-#include "league/Reporting.h"
-#include "rules/Function.h"
 #include "rules/People.h"
 #include "screens/EventGuard.h"
 #include "screens/PersonWords.h"
 #include "screens/platform/CodePage.h"
 #include "screens/RosterEntry.h"
 #include "screens/Shown.h"
+#include "session/Routines.h"
 
 #include <QGuiApplication>
 #include <type_traits>

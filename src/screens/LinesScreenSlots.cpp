@@ -1,9 +1,9 @@
-#include "league/ClientVariable.h"
 #include "rules/People.h"
 #include "screens/LinesScreen.h"
 #include "screens/PersonWords.h"
 #include "screens/platform/CodePage.h"
 #include "screens/RosterEntry.h"
+#include "session/Session.h"
 
 #include <algorithm>
 

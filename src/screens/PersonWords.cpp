@@ -1,9 +1,8 @@
 #include "screens/PersonWords.h"
 
-#include "league/ClientVariable.h"
-#include "rules/Function.h"
 #include "screens/platform/CodePage.h"
 #include "screens/RosterEntry.h"
+#include "session/Routines.h"
 
 #include <QTextDocument>
 

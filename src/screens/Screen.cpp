@@ -1,11 +1,11 @@
 #include "screens/Screen.h"
 
-#include "league/Reporting.h"
 #include "screens/panels/EditBox.h"
 #include "screens/panels/EntryList.h"
 #include "screens/panels/Layouts.h"
 #include "screens/platform/CodePage.h"
 #include "screens/Stage.h"
+#include "session/Routines.h"
 
 #include <algorithm>
 #include <QAbstractButton>

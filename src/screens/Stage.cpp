@@ -1,8 +1,6 @@
 #include "screens/Stage.h"
 
-#include "league/ClientVariable.h"
 #include "league/Failure.h"
-#include "league/Message.h"
 #include "screens/frmAbout.h"
 #include "screens/frmCoach.h"
 #include "screens/frmDraft.h"
@@ -15,6 +13,7 @@
 #include "screens/frmRoster.h"
 #include "screens/frmTeam.h"
 #include "screens/frmTicket.h"
+#include "session/Routines.h"
 
 #include <algorithm>
 #include <iterator>

@@ -1,12 +1,10 @@
 #include "screens/frmAbout.h"
 
-#include "league/Message.h"
-#include "league/OutsideCode.h"
 #include "league/Platform.h"
-#include "league/Reporting.h"
 #include "screens/panels/Labels.h"
 #include "screens/panels/Shades.h"
 #include "screens/platform/CodePage.h"
+#include "session/Routines.h"
 
 #include <QGridLayout>
 #include <QShortcut>

@@ -1,15 +1,10 @@
 #include "screens/frmDraft.h"
 
-#include "league/ClientVariable.h"
-#include "league/InputCheck.h"
-#include "league/Message.h"
-#include "league/OutsideCode.h"
 #include "league/Platform.h"
-#include "league/Reporting.h"
-#include "rules/Function.h"
 #include "screens/BehindWait.h"
 #include "screens/panels/NameSearch.h"
 #include "screens/platform/CodePage.h"
+#include "session/Routines.h"
 
 #include <algorithm>
 #include <utility>

@@ -1,13 +1,11 @@
 #include "screens/frmEditPlayer.h"
 
-#include "league/Message.h"
 #include "league/Platform.h"
-#include "league/Reporting.h"
-#include "rules/StatRows.h"
 #include "screens/EventGuard.h"
 #include "screens/platform/CodePage.h"
 #include "screens/RosterEntry.h"
 #include "screens/Stage.h"
+#include "session/Routines.h"
 
 #include <QSignalBlocker>
 

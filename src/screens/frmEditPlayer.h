@@ -1,11 +1,10 @@
 #pragma once
 
-#include "league/ClientVariable.h"
-#include "league/InputCheck.h"
 #include "screens/panels/EditBox.h"
 #include "screens/panels/EntryList.h"
 #include "screens/panels/RatingRows.h"
 #include "screens/Screen.h"
+#include "session/Routines.h"
 
 #include <functional>
 #include <optional>

@@ -1,13 +1,10 @@
 #include "league/Arithmetic.h"
-#include "league/Message.h"
 #include "league/Platform.h"
-#include "league/Reporting.h"
-#include "league/Session.h"
-#include "rules/Function.h"
 #include "screens/EventGuard.h"
 #include "screens/frmEditPlayer.h"
 #include "screens/platform/CodePage.h"
 #include "screens/Shown.h"
+#include "session/Routines.h"
 
 #include <algorithm>
 

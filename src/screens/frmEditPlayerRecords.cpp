@@ -1,9 +1,7 @@
-#include "league/Message.h"
 #include "league/Platform.h"
-#include "league/Reporting.h"
-#include "league/Session.h"
 #include "screens/frmEditPlayer.h"
 #include "screens/panels/NameSearch.h"
+#include "session/Routines.h"
 
 #include <QSignalBlocker>
 

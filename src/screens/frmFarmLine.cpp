@@ -1,10 +1,8 @@
 #include "screens/frmFarmLine.h"
 
-#include "league/ClientVariable.h"
-#include "makers/Makers.h"
-#include "rules/Function.h"
 #include "screens/platform/CodePage.h"
 #include "screens/RosterEntry.h"
+#include "session/Routines.h"
 
 namespace dravik {
 

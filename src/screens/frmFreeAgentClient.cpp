@@ -1,11 +1,7 @@
 #include "screens/frmFreeAgentClient.h"
 
 #include "league/Arithmetic.h"
-#include "league/ClientVariable.h"
-#include "league/Message.h"
-#include "league/OffersFile.h"
 #include "league/Platform.h"
-#include "league/Reporting.h"
 #include "league/ReportPages.h"
 #include "screens/BehindWait.h"
 #include "screens/EventGuard.h"
@@ -13,6 +9,7 @@
 #include "screens/PersonWords.h"
 #include "screens/platform/CodePage.h"
 #include "screens/Stage.h"
+#include "session/Routines.h"
 
 #include <QApplication>
 #include <QSignalBlocker>

@@ -1,9 +1,7 @@
 #include "screens/frmLine.h"
 
-#include "league/ClientVariable.h"
-#include "makers/Makers.h"
-#include "rules/Function.h"
 #include "screens/Stage.h"
+#include "session/Routines.h"
 
 namespace dravik {
 

@@ -1,14 +1,7 @@
 #include "screens/frmMain.h"
 
-#include "league/ClientVariable.h"
-#include "league/InputCheck.h"
-#include "league/Message.h"
-#include "league/OutsideCode.h"
 #include "league/Platform.h"
-#include "league/RatingsExport.h"
-#include "league/Reporting.h"
 #include "league/SettingsFailure.h"
-#include "rules/Function.h"
 #include "screens/ElementName.h"
 #include "screens/panels/ElidedLabel.h"
 #include "screens/panels/Labels.h"
@@ -16,6 +9,7 @@
 #include "screens/platform/CodePage.h"
 #include "screens/Shown.h"
 #include "screens/Stage.h"
+#include "session/Routines.h"
 
 #include <QMenuBar>
 
@@ -206,7 +200,7 @@ void frmMain::FormLoad()
             Unload();
             return;
         }
-        MessagesAllowed = true;
+        Machine().MessagesAllowed = true;
         TempFile = Machine().ProgramFolder() + PathSeparator + "ClientTemp.dvt";
         WindowTitle = ProgramTitle;
         SetWindowCaption(WindowTitle);

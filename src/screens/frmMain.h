@@ -1,10 +1,10 @@
 #pragma once
 
-#include "league/ClientFile.h"
 #include "league/Field.h"
 #include "screens/panels/EntryList.h"
 #include "screens/panels/QuietLines.h"
 #include "screens/Screen.h"
+#include "session/OpenLeagueClient.h"
 
 #include <optional>
 #include <QAction>

@@ -1,18 +1,13 @@
 #include "screens/frmRoster.h"
 
-#include "league/ClientVariable.h"
-#include "league/Message.h"
 #include "league/Platform.h"
-#include "league/Reporting.h"
-#include "league/Session.h"
-#include "rules/Function.h"
 #include "rules/People.h"
-#include "rules/StatRows.h"
 #include "screens/EventGuard.h"
 #include "screens/PersonWords.h"
 #include "screens/platform/CodePage.h"
 #include "screens/RosterEntry.h"
 #include "screens/Stage.h"
+#include "session/Routines.h"
 
 #include <algorithm>
 #include <type_traits>

@@ -1,14 +1,9 @@
 #include "league/Arithmetic.h"
-#include "league/ClientVariable.h"
-#include "league/Message.h"
 #include "league/Platform.h"
-#include "league/Reporting.h"
-#include "league/Session.h"
-#include "makers/Makers.h"
-#include "rules/Function.h"
 #include "screens/frmRoster.h"
 #include "screens/platform/CodePage.h"
 #include "screens/RosterEntry.h"
+#include "session/Routines.h"
 
 #include <algorithm>
 #include <cmath>

@@ -1,18 +1,11 @@
 #include "screens/frmTeam.h"
 
 #include "league/Arithmetic.h"
-#include "league/ClientVariable.h"
-#include "league/LinesFile.h"
-#include "league/Message.h"
-#include "league/OutsideCode.h"
 #include "league/Platform.h"
-#include "league/Reporting.h"
-#include "league/Session.h"
-#include "rules/Function.h"
-#include "rules/SeasonProjection.h"
 #include "screens/platform/CodePage.h"
 #include "screens/Shown.h"
 #include "screens/Stage.h"
+#include "session/Routines.h"
 
 #include <cmath>
 #include <QTextDocument>

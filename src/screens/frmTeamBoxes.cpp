@@ -1,15 +1,11 @@
 #include "screens/frmTeam.h"
 
 #include "league/Arithmetic.h"
-#include "league/ClientVariable.h"
-#include "league/Message.h"
-#include "league/OutsideCode.h"
 #include "league/Platform.h"
-#include "league/Reporting.h"
-#include "league/Session.h"
 #include "screens/platform/CodePage.h"
 #include "screens/Shown.h"
 #include "screens/Stage.h"
+#include "session/Routines.h"
 
 #include <cmath>
 

@@ -1,16 +1,13 @@
 #include "screens/frmTicket.h"
 
 #include "league/Arithmetic.h"
-#include "league/ClientVariable.h"
-#include "league/InputCheck.h"
-#include "league/Message.h"
-#include "league/Reporting.h"
 #include "screens/ElementName.h"
 #include "screens/EventGuard.h"
 #include "screens/panels/ElidedLabel.h"
 #include "screens/panels/Labels.h"
 #include "screens/panels/Layouts.h"
 #include "screens/platform/CodePage.h"
+#include "session/Routines.h"
 
 #include <QGroupBox>
 

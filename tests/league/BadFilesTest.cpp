@@ -1,9 +1,8 @@
 // Every way in which a file can be bad: each ends in its words, and leaves no half league and nothing beside the file.
 
-#include "league/ClientFile.h"
 #include "league/Failure.h"
-#include "league/LinesFile.h"
-#include "league/OutsideCode.h"
+#include "session/OpenLeagueClient.h"
+#include "session/Routines.h"
 #include "support/LeagueImage.h"
 #include "support/OpenedWindow.h"
 #include "support/SmallLeague.h"

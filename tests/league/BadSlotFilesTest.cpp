@@ -1,6 +1,7 @@
 // Bad bytes and cuts all over a slot file that is small enough for thousands of readings.
 
 #include "league/SlotFile.h"
+#include "session/Routines.h"
 #include "support/LeagueImage.h"
 #include "support/SmallLeague.h"
 

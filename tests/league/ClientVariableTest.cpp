@@ -1,3 +1,4 @@
+#include "session/Routines.h"
 #include "support/SmallLeague.h"
 
 #include <algorithm>
@@ -36,8 +37,8 @@ void SoilEverything()
     Soil(RosterChanges);
     Soil(RosterChangesGoalie);
     WindowTitle = TempFile = CallerScreen = "soiled";
-    CurrentTeam = PlayerStatCount = GoalieStatCount = MsgResult = SelectedPlayer = RosterFixed = ViewerReturnMode = 7;
-    Modified = SelectedIsGoalie = ListEventGuard = MessagesAllowed = true;
+    CurrentTeam = PlayerStatCount = GoalieStatCount = SelectedPlayer = RosterFixed = ViewerReturnMode = 7;
+    Modified = SelectedIsGoalie = ListEventGuard = true;
 }
 
 template <class Table>
@@ -63,11 +64,17 @@ TEST(ClientVariableTest, AProgramThatHasJustStartedKnowsNoLeagueAndNoTeam)
     EXPECT_EQ(CurrentTeam, 0);
     EXPECT_EQ(PlayerStatCount, 0);
     EXPECT_EQ(GoalieStatCount, 0);
-    EXPECT_EQ(MsgResult, 0);
     EXPECT_EQ(SelectedPlayer, 0);
     EXPECT_EQ(RosterFixed, 0);
     EXPECT_EQ(ViewerReturnMode, 0);
-    EXPECT_FALSE(Modified || SelectedIsGoalie || ListEventGuard || MessagesAllowed);
+    EXPECT_FALSE(Modified || SelectedIsGoalie || ListEventGuard);
+}
+
+TEST(ClientVariableTest, AVoiceThatHasJustStartedMayNotReportAndHasNoAnswer)
+{
+    const MuteVoice voice;
+    EXPECT_FALSE(voice.MessagesAllowed);
+    EXPECT_EQ(voice.MsgResult, 0);
 }
 
 TEST(ClientVariableTest, EmptyingForALoadSparesTheLeagueTheCoachesTheRosterWordsAndTheVariables)

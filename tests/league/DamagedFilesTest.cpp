@@ -1,7 +1,7 @@
 // Files that were damaged on their way and open all the same, because what came out of them has all that is asked for.
 
-#include "league/ClientFile.h"
-#include "league/LinesFile.h"
+#include "session/OpenLeagueClient.h"
+#include "session/Routines.h"
 #include "support/LeagueImage.h"
 #include "support/OpenedWindow.h"
 #include "support/SmallLeague.h"

@@ -1,6 +1,6 @@
 #include "league/Digest.h"
 
-#include "league/OutsideCode.h"
+#include "session/Routines.h"
 #include "support/FailingAllocation.h"
 #include "support/SmallLeague.h"
 
@@ -50,17 +50,17 @@ TEST_F(DigestTest, TheDigestHashesTheBytesOfTheCodePageWithoutTheSpareElement)
 
 TEST_F(DigestTest, TheArrayHasOneElementMoreThanTheTextAndItIs0)
 {
-    EXPECT_THAT(StringToArray("A\xE9"), ElementsAre(0x41, 0xE9, 0));
-    EXPECT_THAT(StringToArray(""), ElementsAre(0));
+    EXPECT_THAT(StringToArray(Machine, "A\xE9"), ElementsAre(0x41, 0xE9, 0));
+    EXPECT_THAT(StringToArray(Machine, ""), ElementsAre(0));
 }
 
 TEST_F(DigestTest, EveryByteBelow16HasAnUpperCaseDigitAndEveryOtherALowerCasePair)
 {
     std::array<std::uint8_t, 16> low{};
     std::iota(low.begin(), low.end(), std::uint8_t{0});
-    EXPECT_EQ(DigestToString(low), "000102030405060708090A0B0C0D0E0F");
-    EXPECT_EQ(DigestToString(
-                  {0x10, 0x1A, 0x1F, 0x9F, 0xA0, 0xAC, 0xAF, 0xBE, 0xCD, 0xDE, 0xEF, 0xF0, 0xFA, 0xFC, 0xFE, 0xFF}),
+    EXPECT_EQ(DigestToString(Machine, low), "000102030405060708090A0B0C0D0E0F");
+    EXPECT_EQ(DigestToString(Machine, {0x10, 0x1A, 0x1F, 0x9F, 0xA0, 0xAC, 0xAF, 0xBE, 0xCD, 0xDE, 0xEF, 0xF0, 0xFA,
+                                       0xFC, 0xFE, 0xFF}),
               "101a1f9fa0acafbecddeeff0fafcfeff");
 }
 
@@ -78,14 +78,14 @@ TEST_F(DigestTest, AFailingDigestIsToldAndLeavesTheEmptyText)
 TEST_F(DigestTest, AnArrayThatDoesNotFitMemoryIsToldAndEmpty)
 {
     const FailingAllocation first(1);
-    EXPECT_THAT(StringToArray("a"), IsEmpty());
+    EXPECT_THAT(StringToArray(Machine, "a"), IsEmpty());
     EXPECT_THAT(Machine.Boxes(), ElementsAre(Box{16, "7 - Out of memory in String To Array Function!"}));
 }
 
 TEST_F(DigestTest, ADigestTextThatDoesNotFitMemoryIsToldAndEmpty)
 {
     const FailingAllocation first(1);
-    EXPECT_EQ(DigestToString({}), "");
+    EXPECT_EQ(DigestToString(Machine, {}), "");
     EXPECT_THAT(Machine.Boxes(), ElementsAre(Box{16, "7 - Out of memory in Digest To String Function!"}));
 }
 

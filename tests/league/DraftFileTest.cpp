@@ -1,4 +1,4 @@
-#include "league/DraftFile.h"
+#include "session/Routines.h"
 
 #include "support/ClientFileBytes.h"
 #include "support/LeagueImage.h"

@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 #include <string>
+#include <type_traits>
 
 namespace dravik {
 namespace {
@@ -21,6 +22,23 @@ int NumberThrownBy(auto&& action)
     }
     return 0;
 }
+
+// A broken number goes into no field by itself: a rule says how it is rounded.
+template <class Field>
+constexpr bool TakesBrokenNumbers = std::is_constructible_v<Field, double> || std::is_convertible_v<float, Field> ||
+                                    std::is_assignable_v<Field&, double> || requires(Field& field)
+{
+    field += 2.9;
+}
+|| requires(Field& field) { field -= 2.9F; };
+static_assert(!TakesBrokenNumbers<Byte> && !TakesBrokenNumbers<Int16> && !TakesBrokenNumbers<Int32>);
+template <class Word>
+constexpr bool IsTrueOrFalseAlone = !std::is_constructible_v<Word, double> && !std::is_constructible_v<Word, int> &&
+                                    !std::is_assignable_v<Word&, int> && !requires(Word & field)
+{
+    field.SetWord(2.9);
+};
+static_assert(IsTrueOrFalseAlone<Boolean>);
 
 TEST(FieldTest, NumbersAreLittleEndian)
 {

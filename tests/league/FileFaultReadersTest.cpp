@@ -2,9 +2,9 @@
 // as before or as the file has them, an open ends in a league or in none, the words are the known ones, and the file read
 // stays as it is with nothing beside it after the next reading.
 
-#include "league/ClientFile.h"
 #include "league/Failure.h"
-#include "league/LinesFile.h"
+#include "session/OpenLeagueClient.h"
+#include "session/Routines.h"
 #include "support/FaultyFiles.h"
 #include "support/OpenedWindow.h"
 

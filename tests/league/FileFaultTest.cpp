@@ -2,8 +2,7 @@
 // killed at every one of them. Saves, opens and loads have tests of their own beside this one.
 
 #include "league/Failure.h"
-#include "league/OutsideCode.h"
-#include "league/RatingsExport.h"
+#include "session/Routines.h"
 #include "support/FaultyFiles.h"
 
 #include <random>

@@ -2,11 +2,9 @@
 // before is gone after a failure that was told, stays after a kill, or is replaced whole; the words are the known ones, no
 // table changes, and the next operation leaves nothing beside its file.
 
-#include "league/ClientFile.h"
-#include "league/DraftFile.h"
 #include "league/Failure.h"
-#include "league/LinesFile.h"
-#include "league/OffersFile.h"
+#include "session/OpenLeagueClient.h"
+#include "session/Routines.h"
 #include "support/FaultyFiles.h"
 #include "support/OpenedWindow.h"
 #include "support/RealFaults.h"

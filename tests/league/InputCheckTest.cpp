@@ -1,6 +1,5 @@
-#include "league/InputCheck.h"
+#include "session/Routines.h"
 
-#include "league/OutsideCode.h"
 #include "support/FailingBoxes.h"
 #include "support/SmallLeague.h"
 

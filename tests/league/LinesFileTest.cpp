@@ -1,4 +1,4 @@
-#include "league/LinesFile.h"
+#include "session/Routines.h"
 
 #include "league/Failure.h"
 #include "support/LeagueImage.h"

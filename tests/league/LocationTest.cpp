@@ -1,4 +1,4 @@
-#include "league/OutsideCode.h"
+#include "session/Routines.h"
 #include "support/SmallLeague.h"
 
 namespace dravik {

@@ -1,4 +1,4 @@
-#include "league/OffersFile.h"
+#include "session/Routines.h"
 
 #include "league/Failure.h"
 #include "support/ClientFileBytes.h"

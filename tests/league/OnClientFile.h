@@ -1,7 +1,7 @@
 #pragma once
 
-#include "league/ClientFile.h"
-#include "league/OutsideCode.h"
+#include "session/OpenLeagueClient.h"
+#include "session/Routines.h"
 #include "support/LeagueImage.h"
 #include "support/OpenedWindow.h"
 #include "support/SmallLeague.h"

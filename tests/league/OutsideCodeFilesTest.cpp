@@ -1,5 +1,5 @@
 #include "league/Failure.h"
-#include "league/OutsideCode.h"
+#include "session/Routines.h"
 #include "support/ClientFileBytes.h"
 #include "support/SmallLeague.h"
 

@@ -1,4 +1,4 @@
-#include "league/RatingsExport.h"
+#include "session/Routines.h"
 
 #include "support/ClientFileBytes.h"
 #include "support/LeagueImage.h"

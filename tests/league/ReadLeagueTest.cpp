@@ -1,6 +1,6 @@
 // A client file was read: whatever fails while its league is shown, the tables hold that league whole, and no file is open.
 
-#include "league/ClientFile.h"
+#include "session/OpenLeagueClient.h"
 
 #include "league/Failure.h"
 #include "support/LeagueImage.h"

@@ -3,10 +3,9 @@
 
 #include "support/RealFaults.h"
 
-#include "league/ClientFile.h"
 #include "league/Failure.h"
-#include "league/LinesFile.h"
-#include "league/RatingsExport.h"
+#include "session/OpenLeagueClient.h"
+#include "session/Routines.h"
 #include "support/FaultyFiles.h"
 #include "support/OpenedWindow.h"
 

@@ -1,6 +1,5 @@
-#include "league/Reporting.h"
+#include "session/Routines.h"
 
-#include "league/Message.h"
 #include "support/SmallLeague.h"
 
 #include <stdexcept>
@@ -85,9 +84,9 @@ TEST_F(ReportingTest, OfTwoReportingsOnlyTheInnerOneTells)
 
 TEST_F(ReportingTest, TheButtonOfTheReportGoesToMsgResult)
 {
-    MsgResult = 0;
+    Machine.MsgResult = 0;
     Reporting(" in mnuOpen!", [] { Fail(failure::Overflow); });
-    EXPECT_EQ(MsgResult, 1);
+    EXPECT_EQ(Machine.MsgResult, 1);
 }
 
 TEST_F(ReportingTest, ACancelledDialogIsToldUnlessItIsDropped)
@@ -111,7 +110,7 @@ TEST_F(ReportingTest, ABoxStandsUnderTheProgramsTitleAndItsButtonStaysInMsgResul
 {
     Machine.Answer(button::No);
     EXPECT_EQ(ShowBox("Are you sure?", box::YesNo), 7);
-    EXPECT_EQ(MsgResult, 7);
+    EXPECT_EQ(Machine.MsgResult, 7);
     EXPECT_THAT(Machine.Boxes(), ElementsAre(Box{36, "Are you sure?", "Dravik Hockey Simulator Client"}));
 }
 

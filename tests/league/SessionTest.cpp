@@ -1,4 +1,4 @@
-#include "league/Session.h"
+#include "session/Routines.h"
 
 #include "support/SmallLeague.h"
 
@@ -90,7 +90,7 @@ std::string Everything()
     add(RosterChanges);
     add(RosterChangesGoalie);
     all += WindowTitle + TempFile + CallerScreen;
-    for (const long long number : {static_cast<long long>(CurrentTeam), static_cast<long long>(MsgResult),
+    for (const long long number : {static_cast<long long>(CurrentTeam), static_cast<long long>(Machine().MsgResult),
                                    static_cast<long long>(RosterFixed), static_cast<long long>(Modified)})
         all += std::to_string(number) + ";";
     return all;

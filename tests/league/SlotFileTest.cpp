@@ -1,6 +1,6 @@
 #include "league/SlotFile.h"
 
-#include "league/ClientVariable.h"
+#include "session/Routines.h"
 #include "support/BytePieces.h"
 #include "support/SmallLeague.h"
 

@@ -1,4 +1,4 @@
-#include "league/OutsideCode.h"
+#include "session/Routines.h"
 
 #include <gtest/gtest.h>
 #include <string>

@@ -1,4 +1,4 @@
-#include "makers/Makers.h"
+#include "session/Routines.h"
 #include "support/SmallLeague.h"
 
 // What the makers still show while the program allows no messages: only what nobody has to ask for.
@@ -14,7 +14,7 @@ protected:
     AllowedReportsTest() : team(5)
     {
         team.DressesFullRoster().FarmsFullRoster();
-        MessagesAllowed = false;
+        Machine.MessagesAllowed = false;
     }
 
     TeamMaker team;

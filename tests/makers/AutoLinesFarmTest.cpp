@@ -1,7 +1,6 @@
-#include "makers/Dealing.h"
 #include "makers/LinesView.h"
-#include "makers/Makers.h"
-#include "rules/Function.h"
+#include "makers/OpenRun.h"
+#include "session/Routines.h"
 #include "support/SmallLeague.h"
 
 namespace dravik {
@@ -521,9 +520,10 @@ TEST_F(AutoLinesFarmTwinTest, MoreRequiredThanDressedIsRefused)
     Farm(4, position::Center, 60);
     LeagueData.ProDressedSkaters = 2;
     PositionCounts counts;
-    EXPECT_FALSE(ListRequiredFarmSkaters(5, counts));
+    OpenRun run;
+    EXPECT_FALSE(ListRequiredFarmSkaters(run, counts));
     EXPECT_THAT(Machine.Boxes(), ElementsAre(IntegrityFailed));
-    EXPECT_EQ(LineupCount(), 3);
+    EXPECT_EQ(run.Count(), 3);
 }
 
 TEST_F(AutoLinesFarmTwinTest, TheListCountsItsPositions)
@@ -532,8 +532,9 @@ TEST_F(AutoLinesFarmTwinTest, TheListCountsItsPositions)
     Farm(7, position::Defense, 60);
     LeagueData.ProDressedSkaters = 11;
     PositionCounts counts;
-    EXPECT_TRUE(ListRequiredFarmSkaters(5, counts));
-    EXPECT_EQ(LineupCount(), 11);
+    OpenRun run;
+    EXPECT_TRUE(ListRequiredFarmSkaters(run, counts));
+    EXPECT_EQ(run.Count(), 11);
     EXPECT_EQ(counts[position::Center], 5);
     EXPECT_EQ(counts[position::Defense], 6);
 }
@@ -566,9 +567,10 @@ TEST_F(AutoLinesFarmTwinTest, AsManyRequiredAsDressedIsAllowed)
     Farm(4, position::Center, 60);
     LeagueData.ProDressedSkaters = 3;
     PositionCounts counts;
-    EXPECT_TRUE(ListRequiredFarmSkaters(5, counts));
+    OpenRun run;
+    EXPECT_TRUE(ListRequiredFarmSkaters(run, counts));
     EXPECT_THAT(Machine.Boxes(), IsEmpty());
-    EXPECT_EQ(LineupCount(), 3);
+    EXPECT_EQ(run.Count(), 3);
 }
 
 TEST_F(AutoLinesFarmTwinTest, TheLastOf999AndTheLastOfAThousandAreDealt)

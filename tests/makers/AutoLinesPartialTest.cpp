@@ -1,5 +1,5 @@
 #include "makers/LinesView.h"
-#include "makers/Makers.h"
+#include "session/Routines.h"
 #include "support/SmallLeague.h"
 
 #include <numeric>

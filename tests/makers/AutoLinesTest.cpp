@@ -1,6 +1,6 @@
-#include "makers/Dealing.h"
 #include "makers/LinesView.h"
-#include "makers/Makers.h"
+#include "makers/OpenRun.h"
+#include "session/Routines.h"
 #include "support/SmallLeague.h"
 
 namespace dravik {
@@ -356,9 +356,10 @@ TEST_F(AutoLinesTest, TheListStopsByIndexAndNotByRating)
     Dress(12, 6);
     Five.Dresses(1, position::Center, 99);
     PositionCounts counts;
-    EXPECT_TRUE(ListDressedSkaters(5, &counts));
-    EXPECT_EQ(LineupCount(), 18);
-    EXPECT_EQ(LineupIds[1], 1);
+    OpenRun run;
+    EXPECT_TRUE(ListDressedSkaters(run, &counts));
+    EXPECT_EQ(run.Count(), 18);
+    EXPECT_EQ(run.IdAt(1), 1);
     EXPECT_EQ(counts[position::Center], 12);
     EXPECT_EQ(counts[position::Defense], 6);
 }
@@ -413,7 +414,8 @@ TEST_F(AutoLinesTest, FewerThan18InTheListAreRefused)
 {
     Dress(12, 6);
     Players[18].Condition = 94;
-    EXPECT_FALSE(ListDressedSkaters(5));
+    OpenRun run;
+    EXPECT_FALSE(ListDressedSkaters(run));
     EXPECT_THAT(Machine.Boxes(), ElementsAre(IntegrityFailed));
 }
 
@@ -421,7 +423,8 @@ TEST_F(AutoLinesTest, ALeagueThatDressesFewerThan18IsRefused)
 {
     Dress(12, 6);
     LeagueData.ProDressedSkaters = 17;
-    EXPECT_FALSE(ListDressedSkaters(5));
+    OpenRun run;
+    EXPECT_FALSE(ListDressedSkaters(run));
     EXPECT_THAT(Machine.Boxes(), ElementsAre(IntegrityFailed));
 }
 
@@ -430,9 +433,10 @@ TEST_F(AutoLinesTest, TheListTakesSuspendedPeopleAndThoseWithoutContract)
     Dress(12, 6);
     Players[1].Suspension = 2;
     Players[2].Contract = 0;
-    EXPECT_TRUE(ListDressedSkaters(5));
-    EXPECT_EQ(LineupIds[1], 1);
-    EXPECT_EQ(LineupCount(), 18);
+    OpenRun run;
+    EXPECT_TRUE(ListDressedSkaters(run));
+    EXPECT_EQ(run.IdAt(1), 1);
+    EXPECT_EQ(run.Count(), 18);
 }
 
 TEST_F(AutoLinesTest, ASkaterWithoutAPositionEndsTheRunAfterTheWipe)
@@ -524,9 +528,10 @@ TEST_F(AutoLinesTest, OnlyDressedAndHealthyGoaliesAreListed)
     PutGoalie(7, 5, status::Farm, 96);
     PutGoalie(8, 5, status::Pro, 95);
     LeagueData.FarmMaxOverall = 99;
-    ListDressedGoalies(5);
-    EXPECT_EQ(LineupCount(), 3);
-    EXPECT_EQ(LineupIds[1], 8);
+    OpenRun run;
+    ListDressedGoalies(run);
+    EXPECT_EQ(run.Count(), 3);
+    EXPECT_EQ(run.IdAt(1), 8);
     Run();
     EXPECT_EQ(Day.StartGoalie, 8);
     EXPECT_EQ(Day.BackupGoalie, 1);
@@ -535,10 +540,11 @@ TEST_F(AutoLinesTest, OnlyDressedAndHealthyGoaliesAreListed)
 TEST_F(AutoLinesTest, WithOneGoalieTheSecondSlotStaysEmptyAfterTheMessage)
 {
     Five.DressesGoalies(1);
-    ListDressedGoalies(5);
-    EXPECT_TRUE(GoaliesAreListed());
+    OpenRun run;
+    ListDressedGoalies(run);
+    EXPECT_TRUE(GoaliesAreListed(run));
     EXPECT_THAT(Machine.Boxes(), ElementsAre(IntegrityFailed));
-    DealGoalies(Day, ConditionOfGoalie);
+    DealGoaliesByCondition(run, Day);
     EXPECT_EQ(Day.StartGoalie, 1);
     EXPECT_EQ(Day.BackupGoalie, 0);
 }
@@ -547,9 +553,10 @@ TEST_F(AutoLinesTest, OneTiredGoalieGivesTheStartToNobody)
 {
     Five.DressesGoalies(1);
     Goalies[1].Condition = 97;
-    ListDressedGoalies(5);
-    EXPECT_TRUE(GoaliesAreListed());
-    DealGoalies(Day, ConditionOfGoalie);
+    OpenRun run;
+    ListDressedGoalies(run);
+    EXPECT_TRUE(GoaliesAreListed(run));
+    DealGoaliesByCondition(run, Day);
     EXPECT_EQ(Day.StartGoalie, 0);
     EXPECT_EQ(Day.BackupGoalie, 1);
 }
@@ -558,8 +565,9 @@ TEST_F(AutoLinesTest, AMissingGoalieWhoseRecordIsNotInUseIsToldTwiceAndRefused)
 {
     Goalies[0].InUse = false;
     Five.DressesGoalies(1);
-    ListDressedGoalies(5);
-    EXPECT_FALSE(GoaliesAreListed());
+    OpenRun run;
+    ListDressedGoalies(run);
+    EXPECT_FALSE(GoaliesAreListed(run));
     EXPECT_THAT(Machine.Boxes(), ElementsAre(IntegrityFailed, IntegrityFailed));
 }
 
@@ -567,8 +575,9 @@ TEST_F(AutoLinesTest, TwoGoaliesPassInSilenceWithoutTheirPlaceholder)
 {
     Goalies[0].InUse = false;
     Five.DressesGoalies(2);
-    ListDressedGoalies(5);
-    EXPECT_TRUE(GoaliesAreListed());
+    OpenRun run;
+    ListDressedGoalies(run);
+    EXPECT_TRUE(GoaliesAreListed(run));
     EXPECT_THAT(Machine.Boxes(), IsEmpty());
 }
 

@@ -1,5 +1,5 @@
 #include "makers/AutoRosterTeam.h"
-#include "rules/Function.h"
+#include "session/Routines.h"
 #include "support/LineFindings.h"
 
 namespace dravik {

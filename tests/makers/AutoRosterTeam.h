@@ -1,7 +1,7 @@
 #pragma once
 
-#include "makers/Makers.h"
 #include "rules/LineSlots.h"
+#include "session/Routines.h"
 #include "support/SmallLeague.h"
 
 namespace dravik {

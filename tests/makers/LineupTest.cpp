@@ -1,4 +1,4 @@
-#include "makers/Lineup.h"
+#include "makers/OpenRun.h"
 #include "support/SmallLeague.h"
 
 namespace dravik {
@@ -8,29 +8,29 @@ using ::testing::ElementsAre;
 
 class LineupTest : public SmallLeague {
 protected:
-    LineupTest() { EmptyLineup(); }
-
-    static int Insert(int id)
+    int Insert(int id)
     {
-        InsertInLineup(id);
+        InsertInLineup(OpenLeague, Machine, List, id);
         return id;
     }
 
-    static std::vector<long long> Ids()
+    [[nodiscard]] std::vector<long long> Ids() const
     {
         std::vector<long long> ids;
-        for (int place = 1; place <= LineupCount(); ++place)
-            ids.push_back(LineupIds[place]);
+        for (int place = 1; place <= List.Count(); ++place)
+            ids.push_back(List.Ids[place]);
         return ids;
     }
 
-    static std::vector<long long> Ratings()
+    [[nodiscard]] std::vector<long long> Ratings() const
     {
         std::vector<long long> ratings;
-        for (int place = 1; place <= LineupCount(); ++place)
-            ratings.push_back(LineupRatings[place]);
+        for (int place = 1; place <= List.Count(); ++place)
+            ratings.push_back(List.Ratings[place]);
         return ratings;
     }
+
+    Lineup List;
 };
 
 TEST_F(LineupTest, TheListRunsFromBestToWorst)
@@ -55,11 +55,11 @@ TEST_F(LineupTest, AmongEqualRatingsTheEarlierInsertedStandsFirst)
 TEST_F(LineupTest, EntryZeroOfTheRatingsIsTheCount)
 {
     TeamMaker(5).Dresses(2, position::Center);
-    EXPECT_EQ(LineupRatings[0], 0);
+    EXPECT_EQ(List.Ratings[0], 0);
     Insert(1);
     Insert(2);
-    EXPECT_EQ(LineupRatings[0], 2);
-    EXPECT_EQ(LineupCount(), 2);
+    EXPECT_EQ(List.Ratings[0], 2);
+    EXPECT_EQ(List.Count(), 2);
 }
 
 TEST_F(LineupTest, ASkatersIdComesBackAsItWas)
@@ -97,12 +97,12 @@ TEST_F(LineupTest, EmptyingLeavesNothingBehindTheEnd)
     TeamMaker(5).Dresses(5, position::Center);
     for (int id = 1; id <= 5; ++id)
         Insert(id);
-    LineupRatings[0] = 2;
-    EmptyLineup();
-    EXPECT_EQ(LineupCount(), 0);
+    List.Ratings[0] = 2;
+    List.Empty();
+    EXPECT_EQ(List.Count(), 0);
     for (int place = 1; place <= 5; ++place) {
-        EXPECT_EQ(LineupIds[place], 0);
-        EXPECT_EQ(LineupRatings[place], 0);
+        EXPECT_EQ(List.Ids[place], 0);
+        EXPECT_EQ(List.Ratings[place], 0);
     }
 }
 
@@ -110,8 +110,10 @@ TEST_F(LineupTest, APlaceBehindTheEndIsThatOfRecordZero)
 {
     TeamMaker(5).Dresses(1, position::Center);
     Insert(1);
-    EXPECT_EQ(&SkaterAtPlace(1), &Players[1]);
-    EXPECT_EQ(&SkaterAtPlace(2), &Players[0]);
+    OpenRun run;
+    run.Lines.List = List;
+    EXPECT_EQ(&run.Lines.SkaterAt(1), &Players[1]);
+    EXPECT_EQ(&run.Lines.SkaterAt(2), &Players[0]);
 }
 
 TEST_F(LineupTest, AFullListFailsWithNumber9)
@@ -125,7 +127,7 @@ TEST_F(LineupTest, AFullListFailsWithNumber9)
     } catch (const Failure& failed) {
         EXPECT_EQ(failed.Number, failure::OutOfRange);
     }
-    EXPECT_EQ(LineupCount(), 11000);
+    EXPECT_EQ(List.Count(), 11000);
 }
 
 TEST_F(LineupTest, ARatingBelowZeroStandsLast)
@@ -136,7 +138,7 @@ TEST_F(LineupTest, ARatingBelowZeroStandsLast)
     for (int id = 1; id <= 3; ++id)
         Insert(id);
     EXPECT_THAT(Ids(), ElementsAre(3, 2, 1));
-    EXPECT_LT(LineupRatings[3], 0);
+    EXPECT_LT(List.Ratings[3], 0);
 }
 
 } // namespace

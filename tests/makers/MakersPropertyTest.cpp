@@ -1,10 +1,9 @@
 #include "makers/Dealing.h"
 #include "makers/LinesView.h"
-#include "makers/Makers.h"
 #include "makers/RandomTeam.h"
 #include "makers/RatingList.h"
 #include "makers/SecondReading.h"
-#include "rules/Function.h"
+#include "session/Routines.h"
 
 #include <algorithm>
 #include <cstring>

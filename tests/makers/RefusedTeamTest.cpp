@@ -1,5 +1,4 @@
-#include "makers/Makers.h"
-#include "rules/Function.h"
+#include "session/Routines.h"
 #include "support/LeagueImage.h"
 #include "support/RandomLeague.h"
 #include "support/SmallLeague.h"

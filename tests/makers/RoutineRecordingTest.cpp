@@ -1,10 +1,5 @@
-#include "league/Reporting.h"
-#include "makers/Makers.h"
 #include "makers/RandomTeam.h"
-#include "rules/Function.h"
-#include "rules/SalaryCap.h"
-#include "rules/SeasonProjection.h"
-#include "rules/StatRows.h"
+#include "session/Routines.h"
 #include "support/LeagueImage.h"
 #include "support/RandomLeague.h"
 
@@ -266,7 +261,7 @@ protected:
     std::string Record(unsigned seed)
     {
         ResetClientVariables();
-        MessagesAllowed = true;
+        Machine.MessagesAllowed = true;
         SetOrdinaryRules();
         int team = 1;
         if (seed % 2 == 0) {

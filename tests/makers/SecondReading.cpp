@@ -1,7 +1,7 @@
 #include "makers/SecondReading.h"
 
-#include "rules/Function.h"
 #include "rules/LineSlots.h"
+#include "session/Routines.h"
 
 #include <algorithm>
 #include <cmath>

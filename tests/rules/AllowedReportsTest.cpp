@@ -1,6 +1,5 @@
-#include "league/Message.h"
-#include "rules/Function.h"
 #include "rules/RosterTexts.h"
+#include "session/Routines.h"
 #include "support/LineFindings.h"
 #include "support/SmallLeague.h"
 
@@ -18,7 +17,7 @@ protected:
     {
         team.DressesFullRoster();
         FillDay(Teams[5].ProLines[1], team);
-        MessagesAllowed = false;
+        Machine.MessagesAllowed = false;
     }
 
     TeamMaker team;
@@ -28,7 +27,7 @@ TEST_F(AllowedReportsTest, AReportNeedsBothTheRequestAndThePermission)
 {
     EXPECT_FALSE(MayReport(true));
     EXPECT_FALSE(MayReport(false));
-    MessagesAllowed = true;
+    Machine.MessagesAllowed = true;
     EXPECT_TRUE(MayReport(true));
     EXPECT_FALSE(MayReport(false));
 }

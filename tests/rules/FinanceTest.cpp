@@ -1,4 +1,4 @@
-#include "rules/Function.h"
+#include "session/Routines.h"
 #include "support/FailingBoxes.h"
 #include "support/LeagueImage.h"
 #include "support/RandomLeague.h"
@@ -325,10 +325,10 @@ TEST_F(FinanceTest, TeamOutOfRangeFailsTheIntegrityCheck)
     };
     LeagueData.ExpenseFlag = true;
     LeagueData.FarmEnabled = false;
-    isRefused(ProPayroll);
-    isRefused(FarmPayroll);
-    isRefused(CoachPayroll);
-    isRefused(ExpensePerGame);
+    isRefused([](int team) { return ProPayroll(team); });
+    isRefused([](int team) { return FarmPayroll(team); });
+    isRefused([](int team) { return CoachPayroll(team); });
+    isRefused([](int team) { return ExpensePerGame(team); });
 }
 
 TEST_F(FinanceTest, AFailureIsReportedWithTheNameOfItsRoutine)
@@ -340,10 +340,10 @@ TEST_F(FinanceTest, AFailureIsReportedWithTheNameOfItsRoutine)
         EXPECT_EQ(routine(0), 0);
         EXPECT_THAT(failing.TakeBoxes(), ElementsAre(Box{box::Critical, "6 - Overflow in " + std::string(ending)}));
     };
-    fails(ProPayroll, "ProPayroll!");
-    fails(FarmPayroll, "FarmPayroll!");
-    fails(CoachPayroll, "CoachPayroll!");
-    fails(ExpensePerGame, "ExpensePerGame!");
+    fails([](int team) { return ProPayroll(team); }, "ProPayroll!");
+    fails([](int team) { return FarmPayroll(team); }, "FarmPayroll!");
+    fails([](int team) { return CoachPayroll(team); }, "CoachPayroll!");
+    fails([](int team) { return ExpensePerGame(team); }, "ExpensePerGame!");
     UseMachine(Machine);
 }
 

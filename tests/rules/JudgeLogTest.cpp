@@ -1,5 +1,5 @@
-#include "rules/Function.h"
 #include "rules/RosterTexts.h"
+#include "session/Routines.h"
 #include "support/FailingBoxes.h"
 #include "support/LineFindings.h"
 #include "support/SmallLeague.h"
@@ -92,7 +92,7 @@ TEST_F(JudgeLogTest, ACapThatIsShownIsNotLogged)
 
 TEST_F(JudgeLogTest, ACapThatMayNotBeShownIsLogged)
 {
-    MessagesAllowed = false;
+    Machine.MessagesAllowed = false;
     LeagueData.SalaryCapMode = 1;
     LeagueData.SalaryCap = 1000000;
     EXPECT_FALSE(CheckSalaryCap(5, true));

@@ -1,5 +1,5 @@
-#include "rules/Function.h"
 #include "rules/LineSlots.h"
+#include "session/Routines.h"
 #include "support/LineFindings.h"
 #include "support/SmallLeague.h"
 

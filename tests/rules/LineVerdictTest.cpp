@@ -1,7 +1,7 @@
 #include "rules/LineVerdict.h"
 
-#include "rules/Function.h"
 #include "rules/LineSlots.h"
+#include "session/Routines.h"
 #include "support/LineFindings.h"
 #include "support/SmallLeague.h"
 

@@ -1,5 +1,5 @@
-#include "rules/Function.h"
 #include "rules/RosterTexts.h"
+#include "session/Routines.h"
 #include "support/LeagueImage.h"
 #include "support/SmallLeague.h"
 

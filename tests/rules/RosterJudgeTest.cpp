@@ -1,6 +1,6 @@
-#include "rules/Function.h"
 #include "rules/LineSlots.h"
 #include "rules/RosterTexts.h"
+#include "session/Routines.h"
 #include "support/LeagueImage.h"
 #include "support/SmallLeague.h"
 

@@ -1,6 +1,5 @@
-#include "rules/SeasonProjection.h"
+#include "session/Routines.h"
 
-#include "rules/Function.h"
 #include "support/LeagueImage.h"
 #include "support/RandomLeague.h"
 #include "support/SmallLeague.h"

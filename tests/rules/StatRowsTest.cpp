@@ -1,6 +1,5 @@
-#include "rules/StatRows.h"
+#include "session/Routines.h"
 
-#include "rules/Function.h"
 #include "support/SmallLeague.h"
 
 #include <numeric>

@@ -1,4 +1,4 @@
-#include "rules/Function.h"
+#include "session/Routines.h"
 #include "support/FailingBoxes.h"
 #include "support/LeagueImage.h"
 #include "support/RandomLeague.h"

@@ -2,6 +2,7 @@
 
 #include "OnMainScreen.h"
 #include "OnTeamScreen.h"
+#include "session/Routines.h"
 
 #include <filesystem>
 #include <QPointer>

@@ -1,6 +1,6 @@
 #include "screens/platform/CodePage.h"
 
-#include "league/OutsideCode.h"
+#include "session/Routines.h"
 
 #include <QList>
 #include <QStringList>

@@ -1,13 +1,13 @@
 #include "screens/platform/Dialogs.h"
 #include "AnswerDialog.h"
 #include "league/Failure.h"
-#include "league/Message.h"
 #include "screens/frmWait.h"
 #include "screens/platform/BoxIcon.h"
 #include "screens/platform/CodePage.h"
 #include "screens/platform/FusionLook.h"
 #include "screens/platform/Palettes.h"
 #include "screens/platform/QtPlatform.h"
+#include "session/Routines.h"
 
 #include <gmock/gmock.h>
 #include <QIcon>

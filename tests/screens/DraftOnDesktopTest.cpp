@@ -1,6 +1,6 @@
 #include "Hands.h"
-#include "league/OutsideCode.h"
 #include "OnDraftScreen.h"
+#include "session/Routines.h"
 
 #include <filesystem>
 

@@ -1,8 +1,8 @@
 #include "Hands.h"
 #include "OnMainScreen.h"
 
-#include "league/OutsideCode.h"
 #include "screens/platform/QtPlatform.h"
+#include "session/Routines.h"
 
 #include <filesystem>
 

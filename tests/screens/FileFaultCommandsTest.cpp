@@ -2,11 +2,11 @@
 // stays, character by character; and that the command works again right after it. What becomes of files and tables is told
 // by the tests of the core.
 
-#include "league/OutsideCode.h"
 #include "OnDraftScreen.h"
 #include "OnMainScreen.h"
 #include "OnOfferScreen.h"
 #include "OnTeamScreen.h"
+#include "session/Routines.h"
 #include "support/FaultyFiles.h"
 
 #include <filesystem>

@@ -1,6 +1,7 @@
 #include "Hands.h"
 #include "OnOfferScreen.h"
 #include "screens/platform/CodePage.h"
+#include "session/Routines.h"
 
 namespace dravik {
 namespace {

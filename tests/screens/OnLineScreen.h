@@ -1,10 +1,10 @@
 #pragma once
 
 #include "OnStage.h"
-#include "rules/Function.h"
 #include "screens/frmFarmLine.h"
 #include "screens/frmLine.h"
 #include "screens/RosterEntry.h"
+#include "session/Routines.h"
 
 namespace dravik {
 

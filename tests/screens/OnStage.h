@@ -4,6 +4,7 @@
 #include "screens/frmTeam.h"
 #include "screens/platform/QtPlatform.h"
 #include "screens/Stage.h"
+#include "session/Routines.h"
 #include "support/LineFindings.h"
 #include "support/SmallLeague.h"
 

@@ -1,8 +1,8 @@
 #pragma once
 
 #include "OnStage.h"
-#include "rules/Function.h"
 #include "screens/frmEditPlayer.h"
+#include "session/Routines.h"
 
 namespace dravik {
 

@@ -1,7 +1,7 @@
 #include "OnMainScreen.h"
 #include "OnTeamScreen.h"
-#include "rules/Function.h"
 #include "screens/platform/CodePage.h"
+#include "session/Routines.h"
 
 #include <QHelpEvent>
 #include <QTextDocument>
@@ -95,7 +95,7 @@ TEST_F(TeamFinance, AFullSeasonWithoutSpectatorsShowsTwoDigits)
 
 class CommaMachine : public ScriptedPlatform {
 public:
-    std::string Fixed(double value, int decimals) override
+    std::string Fixed(double value, int decimals) const override
     {
         std::string text = ScriptedPlatform::Fixed(value, decimals);
         text[text.find('.')] = ',';

@@ -1,9 +1,6 @@
 #include "Dragging.h"
 #include "Hands.h"
-#include "league/LinesFile.h"
-#include "league/OutsideCode.h"
 #include "OnStage.h"
-#include "rules/Function.h"
 #include "rules/People.h"
 #include "sample-league/ClientFileWriter.h"
 #include "sample-league/SampleLeague.h"
@@ -14,6 +11,7 @@
 #include "screens/platform/CodePage.h"
 #include "screens/platform/QtPlatform.h"
 #include "screens/RosterEntry.h"
+#include "session/Routines.h"
 #include "support/ClientFileBytes.h"
 
 #include <cstring>

@@ -1,5 +1,6 @@
 #include "screens/frmAbout.h"
 #include "OnStage.h"
+#include "session/Routines.h"
 
 namespace dravik {
 namespace {

@@ -1,4 +1,5 @@
 #include "OnDraftScreen.h"
+#include "session/Routines.h"
 
 namespace dravik {
 namespace {

@@ -1,6 +1,5 @@
-#include "makers/Makers.h"
 #include "OnLineScreen.h"
-#include "rules/Function.h"
+#include "session/Routines.h"
 
 #include <cstring>
 

@@ -1,4 +1,5 @@
 #include "OnOfferScreen.h"
+#include "session/Routines.h"
 
 namespace dravik {
 namespace {

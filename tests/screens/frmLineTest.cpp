@@ -1,5 +1,5 @@
 #include "OnLineScreen.h"
-#include "rules/Function.h"
+#include "session/Routines.h"
 
 namespace dravik {
 namespace {

@@ -1,4 +1,5 @@
 #include "OnMainScreen.h"
+#include "session/Routines.h"
 
 #include <filesystem>
 

@@ -1,6 +1,6 @@
 #include "OnMainScreen.h"
 
-#include "rules/Function.h"
+#include "session/Routines.h"
 #include <QMenuBar>
 
 namespace dravik {

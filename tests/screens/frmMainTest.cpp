@@ -1,4 +1,5 @@
 #include "OnMainScreen.h"
+#include "session/Routines.h"
 
 namespace dravik {
 namespace {
@@ -68,12 +69,13 @@ TEST_F(frmMainTest, ASecondInstanceEndsBeforeItLoadsAnything)
     PutTeam(1, 1);
     Machine.Settings["LastLoadLeague"] = SaveLeague();
     ResetClientVariables();
+    Machine.MessagesAllowed = false;
     Machine.OtherInstance = true;
     EXPECT_FALSE(TheStage.Start());
     EXPECT_THAT(Machine.Boxes(), ElementsAre(Box{16, "Dravik Hockey Simulator Client is already running!"}));
     EXPECT_THAT(Machine.FileOperations(), IsEmpty());
     EXPECT_EQ(TheStage.Find("Main"), nullptr);
-    EXPECT_FALSE(MessagesAllowed);
+    EXPECT_FALSE(Machine.MessagesAllowed);
     EXPECT_EQ(TempFile, "");
     EXPECT_EQ(WindowTitle, "");
     EXPECT_EQ(RosterChanges[1].Status, 0);
@@ -82,8 +84,9 @@ TEST_F(frmMainTest, ASecondInstanceEndsBeforeItLoadsAnything)
 TEST_F(frmMainTest, StartSetsTheProgramsVariables)
 {
     ResetClientVariables();
+    Machine.MessagesAllowed = false;
     EXPECT_TRUE(TheStage.Start());
-    EXPECT_TRUE(MessagesAllowed);
+    EXPECT_TRUE(Machine.MessagesAllowed);
     EXPECT_EQ(TempFile, Machine.InFolder("ClientTemp.dvt"));
     EXPECT_EQ(WindowTitle, "Dravik Hockey Simulator Client");
     for (const RosterChange& change : RosterChanges)

@@ -1,6 +1,6 @@
 #include "OnRosterScreen.h"
 
-#include "rules/Function.h"
+#include "session/Routines.h"
 
 namespace dravik {
 namespace {

@@ -1,6 +1,6 @@
 #include "OnRosterScreen.h"
 
-#include "rules/Function.h"
+#include "session/Routines.h"
 
 namespace dravik {
 namespace {
@@ -192,6 +192,7 @@ TEST_F(frmRosterMovesTest, BrokenMovesAreToldUnderTheirNamesAndToProWithoutItsMa
     for (int id = 1; id <= 3; ++id)
         Players[id].Condition = 50;
     FailingBoxes desktop;
+    desktop.MessagesAllowed = true;
     UseMachine(desktop);
     const auto told = [&](int list, QPushButton* command) {
         ClickEntry(list, 0);
@@ -301,6 +302,7 @@ TEST_F(frmRosterMovesTest, BrokenAutomaticRostersAreToldUnderTheirNames)
 {
     Roster();
     FailingBoxes desktop;
+    desktop.MessagesAllowed = true;
     UseMachine(desktop);
     const auto told = [&](QPushButton* command) {
         desktop.FailuresLeft = 2; // the maker's box, and the one that tells of it

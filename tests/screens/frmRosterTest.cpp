@@ -1,7 +1,6 @@
 #include "OnRosterScreen.h"
 
-#include "rules/Function.h"
-#include "rules/SalaryCap.h"
+#include "session/Routines.h"
 #include "support/LeagueImage.h"
 
 #include <algorithm>

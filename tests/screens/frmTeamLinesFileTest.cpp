@@ -1,6 +1,6 @@
 #include "OnTeamScreen.h"
 
-#include "league/OutsideCode.h"
+#include "session/Routines.h"
 #include "support/ClientFileBytes.h"
 #include <filesystem>
 

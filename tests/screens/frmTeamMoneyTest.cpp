@@ -1,7 +1,6 @@
 #include "OnTeamScreen.h"
 
-#include "league/InputCheck.h"
-#include "league/OutsideCode.h"
+#include "session/Routines.h"
 #include <limits>
 
 namespace dravik {

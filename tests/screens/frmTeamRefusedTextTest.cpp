@@ -1,6 +1,7 @@
 #include "AnswerDialog.h"
 #include "OnTeamScreen.h"
 #include "screens/platform/QtPlatform.h"
+#include "session/Routines.h"
 
 #include <QEventLoop>
 #include <QMessageBox>

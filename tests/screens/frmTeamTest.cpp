@@ -1,7 +1,7 @@
 #include "OnTeamScreen.h"
 
-#include "rules/Function.h"
 #include "screens/frmRoster.h"
+#include "session/Routines.h"
 #include <QEventLoop>
 #include <QHelpEvent>
 #include <QScrollArea>

@@ -1,5 +1,6 @@
 #include "screens/frmTicket.h"
 #include "OnTeamScreen.h"
+#include "session/Routines.h"
 #include "support/FailingBoxes.h"
 #include "support/LeagueImage.h"
 

@@ -1,6 +1,6 @@
 #include "Writer.h"
 
-#include "league/ClientVariable.h"
+#include "session/Session.h"
 #include "support/ScriptedPlatform.h"
 
 #include <cstdlib>

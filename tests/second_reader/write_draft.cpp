@@ -1,7 +1,6 @@
 #include "Writer.h"
 
-#include "league/ClientVariable.h"
-#include "league/DraftFile.h"
+#include "session/Routines.h"
 
 #include <iterator>
 #include <random>

@@ -1,7 +1,6 @@
 #include "Writer.h"
 
-#include "league/ClientVariable.h"
-#include "league/OffersFile.h"
+#include "session/Routines.h"
 
 #include <limits>
 #include <memory>

@@ -1,6 +1,6 @@
 #include "support/ClientFileBytes.h"
 
-#include "league/ClientVariable.h"
+#include "session/Session.h"
 
 #include <algorithm>
 #include <cmath>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "league/ClientFile.h"
+#include "session/OpenLeagueClient.h"
 
 #include <map>
 #include <string>

@@ -1,6 +1,7 @@
 #include "support/RandomLeague.h"
 
 #include "rules/LineSlots.h"
+#include "session/Routines.h"
 #include "support/SmallLeague.h"
 
 namespace dravik {

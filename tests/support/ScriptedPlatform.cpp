@@ -198,9 +198,9 @@ int ScriptedPlatform::OpenLocation(const std::string& location, int /*showMode*/
     return 42;
 }
 
-std::string ScriptedPlatform::Currency(double amount) { return Dollars(amount, 2); }
-std::string ScriptedPlatform::CurrencyNoDecimals(double amount) { return Dollars(amount, 0); }
-std::string ScriptedPlatform::Fixed(double value, int decimals)
+std::string ScriptedPlatform::Currency(double amount) const { return Dollars(amount, 2); }
+std::string ScriptedPlatform::CurrencyNoDecimals(double amount) const { return Dollars(amount, 0); }
+std::string ScriptedPlatform::Fixed(double value, int decimals) const
 {
     std::ostringstream text;
     text.imbue(std::locale::classic());
@@ -208,7 +208,7 @@ std::string ScriptedPlatform::Fixed(double value, int decimals)
     return text.str();
 }
 
-std::string ScriptedPlatform::LongDate(double days)
+std::string ScriptedPlatform::LongDate(double days) const
 {
     static constexpr const char* months[] = {"January", "February", "March",     "April",   "May",      "June",
                                              "July",    "August",   "September", "October", "November", "December"};
@@ -217,7 +217,7 @@ std::string ScriptedPlatform::LongDate(double days)
            std::to_string(static_cast<unsigned>(date.day())) + " " + std::to_string(static_cast<int>(date.year()));
 }
 
-std::string ScriptedPlatform::ShortTime(double days)
+std::string ScriptedPlatform::ShortTime(double days) const
 {
     const auto point = PointOf(days);
     const std::chrono::hh_mm_ss time(point - std::chrono::floor<std::chrono::days>(point));

@@ -114,11 +114,11 @@ public:
     void CloseWait() override;
     int OpenLocation(const std::string& location, int showMode) override;
     // A fixed form in place of a locale's: "$1,234.50", "-$5.00", and "$1,235"; "1234.50".
-    std::string Currency(double amount) override;
-    std::string CurrencyNoDecimals(double amount) override;
-    std::string Fixed(double value, int decimals) override;
-    std::string LongDate(double days) override;
-    std::string ShortTime(double days) override;
+    std::string Currency(double amount) const override;
+    std::string CurrencyNoDecimals(double amount) const override;
+    std::string Fixed(double value, int decimals) const override;
+    std::string LongDate(double days) const override;
+    std::string ShortTime(double days) const override;
     std::array<std::uint8_t, 16> Md5(std::string_view bytes) override;
     void LeagueNews(std::string_view text) override { news.push_back({"league", std::string(text)}); }
     void TeamNews(int team, std::string_view text) override;

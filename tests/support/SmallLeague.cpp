@@ -1,6 +1,7 @@
 #include "support/SmallLeague.h"
 
 #include "rules/LineSlots.h"
+#include "session/Routines.h"
 
 #include <algorithm>
 
@@ -156,7 +157,7 @@ SmallLeague::SmallLeague()
 {
     ResetClientVariables();
     UseMachine(Machine);
-    MessagesAllowed = true;
+    Machine.MessagesAllowed = true;
     MarkRosterChangesUntouched();
     TempFile = Machine.InFolder("ClientTemp.dvt");
     WindowTitle = "Dravik Hockey Simulator Client";

@@ -1,7 +1,7 @@
-#include "league/ClientFile.h"
-#include "league/OutsideCode.h"
 #include "sample-league/Command.h"
 #include "SampleFixture.h"
+#include "session/OpenLeagueClient.h"
+#include "session/Routines.h"
 #include "support/OpenedWindow.h"
 
 #include <filesystem>

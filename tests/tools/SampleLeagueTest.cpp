@@ -1,5 +1,5 @@
-#include "league/InputCheck.h"
 #include "SampleFixture.h"
+#include "session/Routines.h"
 
 #include <cstdint>
 #include <set>

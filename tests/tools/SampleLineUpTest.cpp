@@ -1,6 +1,6 @@
-#include "rules/Function.h"
 #include "rules/LineSlots.h"
 #include "SampleFixture.h"
+#include "session/Routines.h"
 
 #include <set>
 

@@ -1,5 +1,5 @@
-#include "rules/Function.h"
 #include "SampleFixture.h"
+#include "session/Routines.h"
 
 #include <map>
 #include <set>

@@ -1,7 +1,7 @@
 #include "sample-league/ClientFileWriter.h"
 
-#include "league/ClientVariable.h"
 #include "league/SlotFile.h"
+#include "session/Routines.h"
 
 namespace dravik::sample {
 

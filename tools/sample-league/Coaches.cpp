@@ -1,6 +1,6 @@
-#include "league/ClientVariable.h"
 #include "Names.h"
 #include "Random.h"
+#include "session/Session.h"
 #include "Subjects.h"
 
 #include <numeric>

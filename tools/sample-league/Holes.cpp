@@ -1,7 +1,6 @@
-#include "league/ClientVariable.h"
 #include "Random.h"
-#include "rules/Function.h"
 #include "rules/LineSlots.h"
+#include "session/Routines.h"
 #include "Subjects.h"
 
 namespace dravik::sample {

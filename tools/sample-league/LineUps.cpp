@@ -1,7 +1,6 @@
-#include "league/ClientVariable.h"
-#include "makers/Makers.h"
 #include "Random.h"
 #include "rules/LineSlots.h"
+#include "session/Routines.h"
 #include "Subjects.h"
 
 #include <utility>

@@ -1,7 +1,7 @@
-#include "league/ClientVariable.h"
 #include "Names.h"
 #include "Random.h"
 #include "Ratings.h"
+#include "session/Session.h"
 #include "Subjects.h"
 
 #include <array>

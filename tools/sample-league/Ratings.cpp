@@ -1,7 +1,6 @@
 #include "Ratings.h"
 
-#include "league/ClientVariable.h"
-#include "rules/Function.h"
+#include "session/Routines.h"
 
 #include <algorithm>
 #include <array>

@@ -1,5 +1,5 @@
-#include "league/ClientVariable.h"
 #include "Random.h"
+#include "session/Session.h"
 #include "Subjects.h"
 
 #include <chrono>

@@ -1,6 +1,5 @@
-#include "league/ClientVariable.h"
 #include "Random.h"
-#include "rules/Function.h"
+#include "session/Routines.h"
 #include "Subjects.h"
 
 namespace dravik::sample {

@@ -1,6 +1,6 @@
 #include "SampleLeague.h"
 
-#include "league/ClientVariable.h"
+#include "session/Routines.h"
 #include "Subjects.h"
 
 namespace dravik {

@@ -1,9 +1,8 @@
 #include "CodePage.h"
-#include "league/ClientVariable.h"
-#include "league/OutsideCode.h"
 #include "Names.h"
 #include "Places.h"
 #include "Random.h"
+#include "session/Routines.h"
 #include "Subjects.h"
 
 #include <array>

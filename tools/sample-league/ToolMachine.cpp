@@ -40,11 +40,11 @@ std::string ToolMachine::Version() { return {}; }
 int ToolMachine::OpenLocation(const std::string& /*location*/, int /*showMode*/) { return 0; }
 
 // Amounts and dates stand in boxes only.
-std::string ToolMachine::Currency(double /*amount*/) { return {}; }
-std::string ToolMachine::CurrencyNoDecimals(double /*amount*/) { return {}; }
-std::string ToolMachine::Fixed(double /*value*/, int /*decimals*/) { return {}; }
-std::string ToolMachine::LongDate(double /*days*/) { return {}; }
-std::string ToolMachine::ShortTime(double /*days*/) { return {}; }
+std::string ToolMachine::Currency(double /*amount*/) const { return {}; }
+std::string ToolMachine::CurrencyNoDecimals(double /*amount*/) const { return {}; }
+std::string ToolMachine::Fixed(double /*value*/, int /*decimals*/) const { return {}; }
+std::string ToolMachine::LongDate(double /*days*/) const { return {}; }
+std::string ToolMachine::ShortTime(double /*days*/) const { return {}; }
 
 std::array<std::uint8_t, 16> ToolMachine::Md5(std::string_view bytes) { return ReferenceMd5(bytes); }
 

@@ -24,11 +24,11 @@ public:
     void ShowWait() override {}
     void CloseWait() override {}
     int OpenLocation(const std::string& location, int showMode) override;
-    std::string Currency(double amount) override;
-    std::string CurrencyNoDecimals(double amount) override;
-    std::string Fixed(double value, int decimals) override;
-    std::string LongDate(double days) override;
-    std::string ShortTime(double days) override;
+    std::string Currency(double amount) const override;
+    std::string CurrencyNoDecimals(double amount) const override;
+    std::string Fixed(double value, int decimals) const override;
+    std::string LongDate(double days) const override;
+    std::string ShortTime(double days) const override;
     std::array<std::uint8_t, 16> Md5(std::string_view bytes) override;
 
 private:

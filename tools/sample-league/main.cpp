@@ -1,4 +1,5 @@
 #include "sample-league/Command.h"
+#include "session/Routines.h"
 
 #include <iostream>
 

@@ -1,13 +1,10 @@
 #include "Evening.h"
-#include "league/ClientVariable.h"
-#include "league/LinesFile.h"
-#include "league/OutsideCode.h"
-#include "rules/Function.h"
 #include "screens/frmEditPlayer.h"
 #include "screens/frmFarmLine.h"
 #include "screens/frmLine.h"
 #include "screens/platform/CodePage.h"
 #include "screens/RosterEntry.h"
+#include "session/Routines.h"
 
 #include <iostream>
 #include <QApplication>

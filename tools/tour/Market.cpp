@@ -1,12 +1,10 @@
 #include "Evening.h"
-#include "league/ClientVariable.h"
-#include "league/DraftFile.h"
-#include "league/OffersFile.h"
 #include "screens/frmAbout.h"
 #include "screens/frmDraft.h"
 #include "screens/frmEditPlayer.h"
 #include "screens/frmTicket.h"
 #include "screens/platform/CodePage.h"
+#include "session/Routines.h"
 
 #include <iostream>
 #include <QApplication>

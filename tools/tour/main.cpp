@@ -1,7 +1,7 @@
 #include "Evening.h"
-#include "league/ClientVariable.h"
 #include "screens/platform/Application.h"
 #include "screens/platform/QtPlatform.h"
+#include "session/Session.h"
 
 #include <iostream>
 #include <QCommandLineParser>

@@ -1,8 +1,8 @@
 #include "screens/panels/NameSearch.h"
 
-#include "league/Message.h"
 #include "league/Platform.h"
 #include "screens/platform/CodePage.h"
+#include "session/Routines.h"
 
 namespace dravik {
 

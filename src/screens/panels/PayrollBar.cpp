@@ -1,12 +1,12 @@
 #include "screens/panels/PayrollBar.h"
 
-#include "league/ClientVariable.h"
 #include "league/Platform.h"
 #include "screens/panels/Accessible.h"
 #include "screens/panels/Labels.h"
 #include "screens/panels/Shades.h"
 #include "screens/platform/CodePage.h"
 #include "screens/platform/Palettes.h"
+#include "session/Session.h"
 
 #include <algorithm>
 #include <QAccessible>

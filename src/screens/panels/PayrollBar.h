@@ -1,6 +1,6 @@
 #pragma once
 
-#include "rules/SalaryCap.h"
+#include "session/Routines.h"
 
 #include <QLabel>
 

@@ -1,9 +1,8 @@
 #include "screens/platform/Application.h"
 
-#include "league/Message.h"
-#include "league/Reporting.h"
 #include "screens/panels/Accessible.h"
 #include "screens/platform/CodePage.h"
+#include "session/Routines.h"
 
 #include <algorithm>
 

@@ -1,12 +1,12 @@
 #include "screens/platform/QtPlatform.h"
 
 #include "league/Failure.h"
-#include "league/Message.h"
 #include "league/SettingsFailure.h"
 #include "screens/frmWait.h"
 #include "screens/platform/CodePage.h"
 #include "screens/platform/Dialogs.h"
 #include "screens/platform/Formats.h"
+#include "session/Routines.h"
 
 #include <QCoreApplication>
 #include <QCryptographicHash>
@@ -231,15 +231,15 @@ int QtPlatform::OpenLocation(const std::string& location, int /*showMode*/)
     return url.isValid() && QDesktopServices::openUrl(url) ? taken : refused;
 }
 
-std::string QtPlatform::Currency(double amount) { return CurrencyText(QLocale(), amount); }
+std::string QtPlatform::Currency(double amount) const { return CurrencyText(QLocale(), amount); }
 
-std::string QtPlatform::CurrencyNoDecimals(double amount) { return CurrencyTextNoDecimals(QLocale(), amount); }
+std::string QtPlatform::CurrencyNoDecimals(double amount) const { return CurrencyTextNoDecimals(QLocale(), amount); }
 
-std::string QtPlatform::Fixed(double value, int decimals) { return FixedText(QLocale(), value, decimals); }
+std::string QtPlatform::Fixed(double value, int decimals) const { return FixedText(QLocale(), value, decimals); }
 
-std::string QtPlatform::LongDate(double days) { return LongDateText(QLocale(), days); }
+std::string QtPlatform::LongDate(double days) const { return LongDateText(QLocale(), days); }
 
-std::string QtPlatform::ShortTime(double days) { return ShortTimeText(QLocale(), days); }
+std::string QtPlatform::ShortTime(double days) const { return ShortTimeText(QLocale(), days); }
 
 std::array<std::uint8_t, 16> QtPlatform::Md5(std::string_view bytes)
 {

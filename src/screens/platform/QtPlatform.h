@@ -51,11 +51,11 @@ public:
     // 42 when the desktop took the location and 0 when it did not. The desktop decides how its window shows, so `showMode`
     // goes unused. A location without a scheme is taken for a file if it is there, else for a web address.
     int OpenLocation(const std::string& location, int showMode) override;
-    std::string Currency(double amount) override;
-    std::string CurrencyNoDecimals(double amount) override;
-    std::string Fixed(double value, int decimals) override;
-    std::string LongDate(double days) override;
-    std::string ShortTime(double days) override;
+    std::string Currency(double amount) const override;
+    std::string CurrencyNoDecimals(double amount) const override;
+    std::string Fixed(double value, int decimals) const override;
+    std::string LongDate(double days) const override;
+    std::string ShortTime(double days) const override;
     std::array<std::uint8_t, 16> Md5(std::string_view bytes) override;
 
 protected:

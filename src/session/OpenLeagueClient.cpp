@@ -1,0 +1,128 @@
+#include "session/OpenLeagueClient.h"
+
+#include "league/ClientFile.h"
+#include "league/Failure.h"
+#include "league/OutsideCode.h"
+#include "league/Reporting.h"
+#include "league/SettingsFailure.h"
+#include "rules/Waivers.h"
+#include "session/Session.h"
+
+#include <cmath>
+
+namespace dravik {
+
+namespace {
+
+void TellCritical(std::string_view text)
+{
+    Machine().CloseWait();
+    Machine().ShowBox(text, box::Critical);
+}
+
+void SetMenus(MainWindow& window)
+{
+    window.SetDraftMenu(false, "&Draft List");
+    if (!LeagueData.OffSeason) {
+        window.SetFreeAgentsMenu(!IsDeadlineInForce(LeagueData));
+        return;
+    }
+    window.SetFreeAgentsMenu(true);
+    if (LeagueData.FantasyDraft)
+        window.SetDraftMenu(true, "Fantasy &Draft List");
+    if (LeagueData.EntryDraft && LeagueData.EntryDraftDone == 0)
+        window.SetDraftMenu(true, "Entry &Draft List");
+}
+
+// The date of the client file, as long as it is one: from 1 January 100 to 31 December 9999, rounded to the second as it
+// is shown.
+double CheckedFileDate()
+{
+    constexpr double first = -657434;
+    constexpr double behindLast = 2958466;
+    constexpr double secondsOfDay = 86400;
+    const double date = LeagueData.FileDate;
+    if (!(date >= first && std::round(date * secondsOfDay) < behindLast * secondsOfDay))
+        Fail(failure::Overflow);
+    return date;
+}
+
+// Stores the path for the next start. The league is open all the same where the settings cannot be written.
+void RememberLeague(const std::string& path, MainWindow& window)
+{
+    const std::string words = " The next start does not open this league by itself.";
+    std::string told;
+    try {
+        Machine().SaveSetting("Settings", "LastLoadLeague", path);
+    } catch (const SettingsFailure& failed) {
+        told = "The settings could not be written to " + failed.File + "." + words;
+    } catch (const std::exception&) {
+        told = "The settings could not be written." + words;
+    }
+    window.Tell(QuietLine::SettingsUnwritten, told);
+}
+
+// Shows the date of the file; when it is none, that of no file.
+void ShowFileDate(MainWindow& window)
+{
+    const std::string caption = "Client File Date : ";
+    try {
+        const double date = CheckedFileDate();
+        window.SetDateLabel(caption + Machine().LongDate(date) + " at " + Machine().ShortTime(date));
+    } catch (...) {
+        window.SetDateLabel(caption);
+        throw;
+    }
+}
+
+// A stream that does not fit its checksum gave something all the same, and nobody can tell which records are wrong.
+void TellOfDamage(bool damaged, MainWindow& window)
+{
+    window.Tell(QuietLine::Damaged,
+                damaged ? "This client file was damaged on its way, and some of it may be wrong. Get it anew." : "");
+}
+
+void ShowLeague(const std::string& path, bool damaged, MainWindow& window)
+{
+    constexpr std::size_t extension = 4; // whether the name has one or not
+    WindowTitle = std::string(ProgramTitle) + " - " + WithoutLastCharacters(GetFileName(path), extension);
+    window.SetWindowCaption(WindowTitle);
+    window.PlaceTeam();
+    window.CentreOnScreen();
+    window.ShowLeagueMenus();
+    Machine().CloseWait();
+    TellOfDamage(damaged, window);
+    RememberLeague(path, window);
+    SetMenus(window);
+    ShowFileDate(window);
+}
+
+} // namespace
+
+void OpenLeagueClient(const std::string& path, MainWindow& window)
+{
+    Reporting(Machine(), " in OpenLeagueClient!", [&] {
+        EmptyLeagueTables(OpenLeague);
+        if (!FileExist(Machine(), path)) {
+            TellCritical("Cannot find last client league file!");
+            return;
+        }
+        DeleteIfExists(Machine(), TempFile);
+        Machine().ShowWait();
+        const ClientFileRead outcome =
+            ReadClientFile(OpenLeague, SlotFilesOf(OpenFiles()), ExistingPath(Machine(), path));
+        if (outcome.File == SlotFileRead::NotDecompressed)
+            return; // told, and the wait screen stays
+        if (!outcome.Whole) {
+            TellCritical("File Integrity is incorrect!");
+            EmptyLeagueTables(OpenLeague);
+            return;
+        }
+        PrepareLeague(OpenLeague);
+        PlayerStatCount = RatingsShownBy(LeagueData).Skater;
+        GoalieStatCount = RatingsShownBy(LeagueData).Goalie;
+        ShowLeague(path, outcome.File == SlotFileRead::Damaged, window);
+    });
+}
+
+} // namespace dravik

@@ -1,0 +1,81 @@
+#include "session/Routines.h"
+
+#include <utility>
+
+namespace dravik {
+
+namespace {
+
+// What was said last.
+std::string RosterText;
+std::string CapText;
+std::string LinesText;
+
+LineVerdict Kept(LineVerdict verdict)
+{
+    LinesText = verdict.Text;
+    return verdict;
+}
+
+void Keep(const Made& made)
+{
+    if (made.RosterRepaired)
+        RosterFixed = *made.RosterRepaired ? 1 : 0;
+}
+
+} // namespace
+
+bool CheckRoster(int team, bool log, bool withSalaryCap, bool showMessage)
+{
+    RosterVerdict verdict = CheckRoster(OpenWork(), team, log, withSalaryCap, showMessage);
+    if (TeamTable::Has(team)) {
+        RosterFixed = verdict.Repaired ? 1 : 0;
+        RosterText = std::move(verdict.Text);
+        if (withSalaryCap)
+            CapText = verdict.Cap ? std::move(verdict.Cap->Text) : std::string();
+    }
+    return verdict.Complete;
+}
+
+const std::string& LastRosterText() { return RosterText; }
+
+bool CheckSalaryCap(int team, bool showMessage)
+{
+    CapVerdict verdict = CheckSalaryCap(OpenWork(), team, showMessage);
+    if (TeamTable::Has(team))
+        CapText = std::move(verdict.Text);
+    return verdict.Within;
+}
+
+const std::string& LastCapText() { return CapText; }
+
+void ForgetCapText() { CapText.clear(); }
+
+LineVerdict VerdictOnLine(int team, bool showMessage, int day, bool log)
+{
+    return Kept(CheckLine(OpenWork(), team, showMessage, day, log));
+}
+
+LineVerdict VerdictOnLineFarm(int team, bool showMessage, int day, bool log)
+{
+    return Kept(CheckLineFarm(OpenWork(), team, showMessage, day, log));
+}
+
+bool CheckLine(int team, bool showMessage, int day, bool log)
+{
+    return VerdictOnLine(team, showMessage, day, log).Complete;
+}
+
+bool CheckLineFarm(int team, bool showMessage, int day, bool log)
+{
+    return VerdictOnLineFarm(team, showMessage, day, log).Complete;
+}
+
+const std::string& LastLinesText() { return LinesText; }
+
+void AutoRoster(int team, bool verbose, bool partial) { Keep(AutoRoster(OpenWork(), team, verbose, partial)); }
+void AutoLines(int team, bool verbose, int day) { Keep(AutoLines(OpenWork(), team, verbose, day)); }
+void AutoLinesPartial(int team, bool verbose, int day) { Keep(AutoLinesPartial(OpenWork(), team, verbose, day)); }
+void AutoLinesFarm(int team, bool verbose, int day) { Keep(AutoLinesFarm(OpenWork(), team, verbose, day)); }
+
+} // namespace dravik

@@ -1,0 +1,58 @@
+#include "session/Session.h"
+
+#include "league/Failure.h"
+
+#include <cstring>
+
+namespace dravik {
+
+Tables OpenLeague;
+
+Int16 CurrentTeam;
+std::string WindowTitle;
+std::string TempFile;
+std::string CallerScreen;
+Int16 PlayerStatCount;
+Int16 GoalieStatCount;
+bool Modified = false;
+Int16 SelectedPlayer;
+bool SelectedIsGoalie = false;
+bool ListEventGuard = false;
+Int16 RosterFixed;
+Int16 ViewerReturnMode;
+
+namespace {
+Platform* TheMachine = nullptr;
+}
+
+void ResetClientVariables()
+{
+    std::memset(static_cast<void*>(&OpenLeague), 0, sizeof OpenLeague);
+    CurrentTeam = 0;
+    WindowTitle.clear();
+    TempFile.clear();
+    CallerScreen.clear();
+    PlayerStatCount = 0;
+    GoalieStatCount = 0;
+    Modified = false;
+    SelectedPlayer = 0;
+    SelectedIsGoalie = false;
+    ListEventGuard = false;
+    RosterFixed = 0;
+    ViewerReturnMode = 0;
+}
+
+Platform& Machine()
+{
+    if (TheMachine == nullptr)
+        Fail(failure::InvalidCall);
+    return *TheMachine;
+}
+
+void UseMachine(Platform& platform) { TheMachine = &platform; }
+
+Work OpenWork() { return {OpenLeague, Machine(), Machine(), Modified}; }
+
+FileAccess OpenFiles() { return {Machine(), Machine(), Machine(), TempFile}; }
+
+} // namespace dravik

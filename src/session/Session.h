@@ -1,0 +1,52 @@
+#pragma once
+
+#include "league/Field.h"
+#include "league/FileAccess.h"
+#include "league/Platform.h"
+#include "league/Positions.h"
+#include "league/RatingNames.h"
+#include "league/Work.h"
+
+#include <string>
+
+// What the windows remember while the program runs: the league that is open, by the names of its tables, the machine that it
+// runs on, and what was chosen. Nothing below knows of it: there a league, a voice, a disk are passed to whoever needs them.
+namespace dravik {
+
+extern Tables OpenLeague;
+inline constexpr League& LeagueData = OpenLeague.LeagueData;
+inline constexpr TeamTable& Teams = OpenLeague.Teams;
+inline constexpr PlayerTable& Players = OpenLeague.Players;
+inline constexpr GoalieTable& Goalies = OpenLeague.Goalies;
+inline constexpr CoachTable& Coaches = OpenLeague.Coaches;
+inline constexpr ProspectTable& Prospects = OpenLeague.Prospects;
+inline constexpr ScheduleTable& GameSchedule = OpenLeague.GameSchedule;
+inline constexpr PlayerChangeTable& RosterChanges = OpenLeague.RosterChanges;
+inline constexpr GoalieChangeTable& RosterChangesGoalie = OpenLeague.RosterChangesGoalie;
+
+extern Int16 CurrentTeam;        // chosen in the main window, 1..100; 0 = none yet
+extern std::string WindowTitle;  // the program's title, " - " and the open file's name behind it
+extern std::string TempFile;     // full path of the work file: what is being written
+extern std::string CallerScreen; // "Main" or "Team": where the roster and lines screens return to
+extern Int16 PlayerStatCount;    // rating captions shown for a skater: 15, or 7 groups
+extern Int16 GoalieStatCount;    // rating captions shown for a goalie: 13, or 7 groups
+extern bool Modified;            // set by whatever edits; nothing reads it
+extern Int16 SelectedPlayer;     // the person chosen on the open screen
+extern bool SelectedIsGoalie;    // and whether he is a goalie
+extern bool ListEventGuard;      // holds back list and box events while a screen fills itself
+extern Int16 RosterFixed;        // 1 after a roster judgement that changed a status
+extern Int16 ViewerReturnMode;   // tells a dependent screen who opened it
+
+// Puts all tables and variables into the state of a program that has just started: zeroed, no league, no team.
+void ResetClientVariables();
+
+// The machine that the program runs on. `UseMachine` is called once at start-up, and by tests; the object must outlive
+// its use. Without one `Machine` fails with 5.
+Platform& Machine();
+void UseMachine(Platform& platform);
+
+// The open league as work at hand, and what its files are read and written with.
+Work OpenWork();
+FileAccess OpenFiles();
+
+} // namespace dravik
