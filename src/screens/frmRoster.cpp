@@ -293,63 +293,20 @@ void frmRoster::Change(int from, int to, int id, int position, bool& done)
 {
     done = false;
     Reporting(" in Change!", [&] {
-        if (position >= position::Center && position <= position::Defense)
-            ChangePerson(Players[id], from, to, id, done);
-        else if (position == position::Goalie)
-            ChangePerson(Goalies[id], from, to, id, done);
-        else
+        if (position < position::Center || position > position::Goalie) {
             ShowBox("Unable to extract position information!", box::Warning);
-    });
-}
-
-template <class Person>
-void frmRoster::ChangePerson(Person& person, int from, int to, int id, bool& done)
-{
-    constexpr bool isGoalie = IsGoalie<Person>;
-    const std::string kind = isGoalie ? "Goalie" : "Player";
-    const int commonId = CommonId(isGoalie, id);
-    if (!IsHealthy(person)) {
-        ShowBox("Cannot Move an Injured " + kind + "!", box::Warning);
-        return;
-    }
-    if (person.Suspension != 0) { // a goalie is a player here
-        ShowBox("Cannot Move an Suspended Player!", box::Warning);
-        return;
-    }
-    if (person.Contract == 0) {
-        ShowBox(kind + " without a contract can not be move!", box::Warning);
-        return;
-    }
-    if (to == status::Farm) {
-        if (LeagueData.FarmMaxSalary > 0 && person.Salary > LeagueData.FarmMaxSalary) {
-            ShowBox(kind + " Salary is too high to be send in the Farm!", box::Warning);
             return;
         }
-        if (WaiverCheck(commonId)) {
-            const std::string question =
-                std::string("Do you want to send this ") + (isGoalie ? "goalie" : "player") + " to waiver?";
-            if (ShowBox(question, box::YesNo) != button::Yes)
-                return;
-            if constexpr (!isGoalie) // a goalie is asked about, and goes down without being placed on waivers
-                MarkWaived(OwnNumber(), id);
-        }
-    }
-    WipePlayerFromTeamLines(OwnNumber(), commonId);
-    person.Status = to;
-    ChangeOf(isGoalie, id).Status = to;
-    StatusCount[from] -= 1;
-    StatusCount[to] += 1;
-    if (to == status::Farm)
-        StatusCount[3] -= 1;
-    if (to == status::Scratch && from == status::Farm)
-        StatusCount[3] += 1;
-    for (QPushButton* move : {cmdToFarm, cmdToPro, cmdToScratchesFromFarm, cmdToScratchesFromPro})
-        move->setEnabled(false);
-    ShowVerdict(CheckRoster(OwnNumber(), false, false, false));
-    ShowReasons(false);
-    HidePlayerDetails();
-    Modified = true;
-    done = true;
+        const PersonId who{.IsGoalie = position == position::Goalie, .Slot = id};
+        if (!MoveOnRoster(OpenWork(), OwnNumber(), who, from, to, StatusCount))
+            return;
+        for (QPushButton* move : {cmdToFarm, cmdToPro, cmdToScratchesFromFarm, cmdToScratchesFromPro})
+            move->setEnabled(false);
+        ShowVerdict(CheckRoster(OwnNumber(), false, false, false));
+        ShowReasons(false);
+        HidePlayerDetails();
+        done = true;
+    });
 }
 
 void frmRoster::lstPlayer_DblClick(int index)

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "desk/RosterMoves.h"
 #include "league/Field.h"
 #include "screens/panels/PayrollBar.h"
 #include "screens/panels/PickList.h"
@@ -10,7 +11,6 @@
 
 #include <QCheckBox>
 #include <QLabel>
-#include <string>
 
 namespace dravik {
 
@@ -58,7 +58,7 @@ public:
     void cmdExit_Click();
 
     // People of the team by `Status`, listed or not; entry 3 counts those off the farm who are fit to dress.
-    Row<Int16, 0, 3> StatusCount;
+    RosterCounts StatusCount;
     // The overall of the person whom ShowStats showed last.
     Int16 PlayerOverall;
 
@@ -97,11 +97,8 @@ private:
     void ShowRatings(const Person& person, int index);
     template <class Person>
     void ShowFlags(const Person& person);
-    template <class Person>
-    void ChangePerson(Person& person, int from, int to, int id, bool& done);
 
     // Moves every chosen entry of a list that `mayMove` lets pass.
-    enum class Permission { Given, Refused, Ended };
     void MoveChosen(int from, int to, Permission (frmRoster::*mayMove)());
     Permission MayMoveFreely() { return Permission::Given; }
     Permission MayGoToFarm();
@@ -109,9 +106,8 @@ private:
     void MoveEntry(int from, int to, int row);
     // The entry at the current index of the first list that has one, or none.
     QListWidgetItem* CurrentEntry();
-    template <class Person>
-    void Release(Person& person);
-    void MakeAssistant(int slot, const std::string& name);
+    // Takes the person chosen from the pro list to the scratches. False when something stands against it.
+    bool ScratchSelected();
 };
 
 } // namespace dravik

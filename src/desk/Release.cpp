@@ -1,0 +1,65 @@
+#include "desk/Release.h"
+
+#include "league/Arithmetic.h"
+#include "league/Message.h"
+#include "rules/WipeLines.h"
+
+#include <algorithm>
+#include <string>
+
+namespace dravik {
+
+namespace {
+
+// How many percent of the rest of his contract a released person is paid, as the general manager says it.
+int AskPercent(Voice& says, bool isGoalie)
+{
+    constexpr int most = 100;
+    const std::string kind = isGoalie ? "goaler" : "player";
+    const std::string answer = says.InputBox("How much % does team paid the " + kind + " for the rest of is contract?",
+                                             std::string(ProgramTitle), "0");
+    return std::clamp(static_cast<int>(RoundToInt16(LeadingNumber(answer))), 0, most);
+}
+
+template <class Person>
+bool Release(const Work& work, int number, PersonId who, Person& person)
+{
+    Voice& says = work.Says;
+    const std::string name = person.Name.Trimmed();
+    if (says.ShowBox("Are you sure you want to release " + name + "?", box::YesNo) != button::Yes)
+        return false;
+    const int percent = AskPercent(says, who.IsGoalie);
+    Team& team = work.League.Teams[number];
+    const auto rest = static_cast<double>(RestOfContract(team, person.Contract, person.Salary));
+    const double buyOut = percent * rest / 100;
+    team.Cash = RoundToInt32(static_cast<double>(team.Cash) - buyOut);
+    WipePlayerFromTeamLines(work.League, says, number, who.CommonId());
+    const std::string news = name + " was released by " + team.Name.Trimmed() + " for " + work.Shown.Currency(buyOut);
+    says.LeagueNews(news);
+    says.TeamNews(number, news);
+    person.Team = 0;
+    person.Contract = 0;
+    person.NoApplyRerate = false;
+    person.Protected = false;
+    person.TradeAvailable = false;
+    person.NoTrade = false;
+    return true;
+}
+
+} // namespace
+
+long long RestOfContract(const Team& team, long long contract, long long salary)
+{
+    if (team.SeasonGames < 1)
+        return Limit32(contract * salary);
+    const auto seasons = static_cast<double>(Limit32((contract - 1) * salary));
+    const auto gamesLeft = static_cast<double>(team.SeasonGames - team.GamesPlayed);
+    return RoundToInt32(seasons + static_cast<double>(salary) * gamesLeft / static_cast<double>(team.SeasonGames));
+}
+
+bool ReleasePerson(const Work& work, int team, PersonId who)
+{
+    return OnPerson(work.League, who, [&](auto& person) { return Release(work, team, who, person); });
+}
+
+} // namespace dravik
