@@ -4,19 +4,28 @@
 
 namespace dravik {
 
+namespace {
+
+void Store(Tables& league, PersonId who, bool available)
+{
+    OnPerson(league, who, [available](auto& person) { person.TradeAvailable = available; });
+    ChangeOf(league, who).TradeAvailable = available;
+}
+
+} // namespace
+
 bool TakeBarredOffMarket(const Work& work, PersonId who)
 {
     if (!OnPerson(work.League, who, [](const auto& person) { return static_cast<bool>(person.NoTrade); }))
         return false;
-    SetTradeAvailable(work, who, false);
+    Store(work.League, who, false);
     work.Says.ShowIntegrityFailure();
     return true;
 }
 
 void SetTradeAvailable(const Work& work, PersonId who, bool available)
 {
-    OnPerson(work.League, who, [available](auto& person) { person.TradeAvailable = available; });
-    ChangeOf(work.League, who).TradeAvailable = available;
+    Store(work.League, who, available);
     work.Modified = true;
 }
 
