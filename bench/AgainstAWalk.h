@@ -1,7 +1,7 @@
 #pragma once
 
 #include "bench/Ratio.h"
-#include "session/Session.h"
+#include "session/Routines.h"
 
 #include <algorithm>
 #include <benchmark/benchmark.h>

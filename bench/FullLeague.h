@@ -1,6 +1,6 @@
 #pragma once
 
-#include "session/Session.h"
+#include "session/Routines.h"
 #include "support/SmallLeague.h"
 
 namespace dravik {
