@@ -16,60 +16,13 @@ namespace dravik {
 
 namespace {
 
-// What names the slot of a field in the message of its being empty.
-enum class Naming { Position, Defense, Caption };
-
-struct EmptyWords {
-    std::string_view Head;
-    Naming Tail;
-    std::string_view Caption = {};
-};
-
-EmptyWords WordsOf(LineField field, const LineRules& rules)
-{
-    switch (field) {
-    case LineField::NormalForward:
-        return {"Normal line # ", Naming::Position};
-    case LineField::NormalDefense:
-        return {"Normal line # ", Naming::Defense};
-    case LineField::PPForward:
-        return {rules.PPForwardHead, Naming::Position};
-    case LineField::PPDefense:
-        return {"PP line ", Naming::Defense};
-    case LineField::PKForward:
-        return {"PK line ", Naming::Position};
-    case LineField::PKDefense:
-        return {"PK line ", Naming::Defense};
-    case LineField::FourVsFourForward:
-        return {"4 vs 4 line ", Naming::Position};
-    case LineField::FourVsFourDefense:
-        return {"4 vs 4 line ", Naming::Defense};
-    case LineField::PK3Forward:
-        return {"PK3 line ", Naming::Caption, rules.PK3ForwardCaption};
-    case LineField::PK3Defense:
-        return {"PK3 line ", Naming::Defense};
-    case LineField::ExtraForward:
-        return {"Extra Forward #", Naming::Caption};
-    case LineField::ExtraDefense:
-        return {"Extra Defense #", Naming::Caption};
-    case LineField::PenaltyShot:
-        return {"Penalty Shot Player #", Naming::Caption};
-    }
-    Fail(failure::OutOfRange);
-}
-
 // The slots of one line or unit that no skater may hold two of, from left to right: each is compared with those on its
-// right. The pair of defensemen at the right end has words of its own.
+// right.
 struct Member {
     LineField Field;
     int Place;
 };
-
-struct Group {
-    std::span<const Member> Members;
-    std::string_view Words;
-    std::string_view PairWords;
-};
+using Group = std::span<const Member>;
 
 constexpr Member NormalMembers[] = {{LineField::NormalForward, 1},
                                     {LineField::NormalForward, 2},
@@ -89,27 +42,13 @@ constexpr Member FourVsFourMembers[] = {{LineField::FourVsFourForward, 1},
                                         {LineField::FourVsFourDefense, 2}};
 constexpr Member PK3Members[] = {{LineField::PK3Forward, 1}, {LineField::PK3Defense, 1}, {LineField::PK3Defense, 2}};
 
-constexpr Group NormalGroup{NormalMembers, " is used twice in Normal line #", " is used twice in Normal line #"};
-constexpr Group UnitGroups[] = {
-    {PPMembers, " is used twice in PP line#", " is used twice PP in line#"},
-    {PKMembers, " is used twice in PK line#", " is used twice PK in line#"},
-    {FourVsFourMembers, " is used twice in 4 vs 4 line#", " is used twice 4 vs 4 in line#"},
-    {PK3Members, " is used twice in PK3 line#", " is used twice PK3 in line#"},
-};
+constexpr Group UnitGroups[] = {PPMembers, PKMembers, FourVsFourMembers, PK3Members};
 
 // The six fields of a unit that are judged in turn for place 1, then for place 2.
 constexpr LineField PairFields[] = {LineField::PPDefense,         LineField::PKForward,         LineField::PKDefense,
                                     LineField::FourVsFourForward, LineField::FourVsFourDefense, LineField::PK3Defense};
 
-struct List {
-    LineField Field;
-    std::string_view Words;
-};
-constexpr List Lists[] = {
-    {LineField::ExtraForward, " is used twice in Extra Forward"},
-    {LineField::ExtraDefense, " is used twice in Extra Defense"},
-    {LineField::PenaltyShot, " is used twice in Extra Penalty Shot"},
-};
+constexpr LineField Lists[] = {LineField::ExtraForward, LineField::ExtraDefense, LineField::PenaltyShot};
 
 constexpr int NormalLineCount = 4;
 constexpr int UnitCount = 2;
@@ -122,9 +61,9 @@ constexpr std::size_t FewestHeads = 18;
 // A slot and its right-hand neighbours, at most five in all.
 class SlotRun {
 public:
-    SlotRun(const Group& group, int number)
+    SlotRun(Group group, int number)
     {
-        for (const Member& member : group.Members)
+        for (const Member& member : group)
             slots[count++] = SlotOf(member.Field, number, member.Place);
     }
     explicit SlotRun(LineField list)
@@ -171,17 +110,19 @@ private:
                 JudgeSlot(LineField::NormalForward, line, position);
             for (int place = 1; place <= 2; ++place)
                 JudgeSlot(LineField::NormalDefense, line, place);
-            CompareWithin(NormalGroup, line);
+            FindDoubles(SlotRun(NormalMembers, line));
         }
     }
 
     void CompareLinesOneAndTwo()
     {
-        const SlotRun second(NormalGroup, 2);
-        for (const LineSlot& slot : SlotRun(NormalGroup, 1))
+        const SlotRun second(NormalMembers, 2);
+        for (const LineSlot& slot : SlotRun(NormalMembers, 1))
             if (StandsIn(Standing(slot), second.begin(), second.end()))
-                Tell(LineFault::LinesShared, Standing(slot), WithAlike(slot, second.begin(), second.end()),
-                     NameIn(slot), " is used twice in lines 1 and 2.");
+                Find({.Fault = LineFault::LinesShared,
+                      .Person = Standing(slot),
+                      .Slots = WithAlike(slot, second.begin(), second.end()),
+                      .At = slot});
     }
 
     void JudgeUnits()
@@ -193,31 +134,28 @@ private:
                 for (const LineField field : PairFields)
                     JudgeSlot(field, unit, place);
             JudgeSlot(LineField::PK3Forward, unit);
-            for (const Group& group : UnitGroups)
-                CompareWithin(group, unit);
+            for (const Group group : UnitGroups)
+                FindDoubles(SlotRun(group, unit));
         }
     }
 
     void JudgeLists()
     {
         for (int number = 1; number <= ListLength; ++number)
-            for (const List& list : Lists)
-                JudgeSlot(list.Field, number);
-        for (const List& list : Lists)
-            TellDoubles(SlotRun(list.Field), [&](const LineSlot& left, const Words& slots, bool) {
-                Tell(LineFault::Double, Standing(left), slots, NameIn(left), list.Words);
-            });
+            for (const LineField list : Lists)
+                JudgeSlot(list, number);
+        for (const LineField list : Lists)
+            FindDoubles(SlotRun(list));
     }
 
     void JudgeGoalies()
     {
         const Words start = Word(StartGoalieWord);
         const Words backup = Word(BackupGoalieWord);
-        JudgeGoalie(lines.StartGoalie, start, "Starting Goaler is empty.");
-        JudgeGoalie(lines.BackupGoalie, backup, "Backup Goaler is empty.");
+        JudgeGoalie(lines.StartGoalie, start);
+        JudgeGoalie(lines.BackupGoalie, backup);
         if (lines.StartGoalie == lines.BackupGoalie && IsCompared(lines.StartGoalie))
-            Tell(LineFault::SameGoalies, lines.StartGoalie, start | backup,
-                 "Starting Goalie and BackUp Goalie are the same");
+            Find({LineFault::SameGoalies, Number(lines.StartGoalie), start | backup});
     }
 
     // Counts the different values of the skater slots, the 0 of the empty ones among them.
@@ -226,103 +164,73 @@ private:
         const long long limit = work.League.LeagueData.ProDressedSkaters;
         if (limit > static_cast<long long>(HeadCountPlaces))
             Fail(failure::OutOfRange);
-        std::array<long long, HeadCountPlaces> heads{};
+        std::array<int, HeadCountPlaces> heads{};
         std::size_t count = 0;
         for (const LineSlot& slot : SkaterSlots) {
-            const long long value = Standing(slot);
+            const int value = Standing(slot);
             const auto end = heads.begin() + static_cast<std::ptrdiff_t>(count);
             if (std::find(heads.begin(), end, value) != end)
                 continue;
             if (static_cast<long long>(count) >= limit) {
-                Tell(LineFault::TooMany, 0, {}, "More that ", limit, " Players Found");
+                Find({.Fault = LineFault::TooMany, .Person = 0, .Limit = limit});
                 return;
             }
             heads[count++] = value;
         }
         if (rules.HeadCount == HeadCount::AtLeastToo && count < FewestHeads)
-            Tell(LineFault::TooFew, 0, {}, "Not Enough Players Found. Minimum is ",
-                 static_cast<long long>(FewestHeads));
+            Find({.Fault = LineFault::TooFew, .Person = 0, .Limit = FewestHeads});
     }
 
     // A refused skater leaves all lines of his team, so later slots of this walk may be found empty.
     void JudgeSlot(LineField field, int number, int place = 1)
     {
         const LineSlot slot = SlotOf(field, number, place);
-        const auto id = static_cast<int>(Standing(slot));
+        const int id = Standing(slot);
         if (id == 0)
-            TellEmpty(slot);
+            FindEmpty({.Fault = LineFault::Empty, .Person = 0, .Slots = Word(slot.Word), .At = slot});
         else if (Refuses(work.League.Players[id], id, [&] { return WordsOfAll(id); }))
             WipePlayerFromTeamLines(work.League, work.Says, team, id);
     }
 
     // A refused goalie leaves this slot only; his other slots and days keep him.
-    void JudgeGoalie(Int16& slot, const Words& word, std::string_view emptyMessage)
+    void JudgeGoalie(Int16& slot, const Words& word)
     {
-        if (slot == 0) {
-            if (rules.JudgesEmptySlots)
-                Tell(LineFault::Empty, 0, word, emptyMessage);
-        } else if (Refuses(work.League.Goalies[slot], slot, [&] { return word; })) {
+        if (slot == 0)
+            FindEmpty({LineFault::Empty, 0, word});
+        else if (Refuses(work.League.Goalies[slot], Number(slot), [&] { return word; }))
             slot = 0;
-        }
     }
 
-    // Tells why somebody may not stand in these lines, if so, and of which slots: `slots()` gives them. The pro judge, too,
-    // speaks of the farm roster.
+    // Finds why somebody may not stand in these lines, if so, and of which slots: `slots()` gives them.
     template <class Person, class SlotsOf>
-    bool Refuses(const Person& person, long long id, SlotsOf slots)
+    bool Refuses(const Person& person, int id, SlotsOf slots)
     {
         if (person.Status != rules.Status || person.Team != team) {
-            Tell(LineFault::Stranger, id, slots(), person.Name.Trimmed(), " is not on farm roster for this team.");
+            Find({LineFault::Stranger, id, slots()});
             return true;
         }
         if (!IsDressable(person)) {
-            Tell(LineFault::Unfit, id, slots(), person.Name.Trimmed(), " is injured or suspended.");
+            Find({LineFault::Unfit, id, slots()});
             return true;
         }
         return false;
     }
 
-    void TellEmpty(const LineSlot& slot)
-    {
-        if (!rules.JudgesEmptySlots)
-            return;
-        const EmptyWords words = WordsOf(slot.Field, rules);
-        const auto tell = [&](const auto&... parts) { Tell(LineFault::Empty, 0, Word(slot.Word), parts...); };
-        switch (words.Tail) {
-        case Naming::Position:
-            tell(words.Head, slot.Number, " ", PositionName[slot.Place], " is empty.");
-            break;
-        case Naming::Defense: // the line or unit once more, not the defenseman
-            tell(words.Head, slot.Number, " Defense #", slot.Number, " is empty.");
-            break;
-        case Naming::Caption:
-            tell(words.Head, slot.Number, words.Caption, " is empty.");
-            break;
-        }
-    }
-
-    void CompareWithin(const Group& group, int number)
-    {
-        TellDoubles(SlotRun(group, number), [&](const LineSlot& left, const Words& slots, bool isPair) {
-            Tell(LineFault::Double, Standing(left), slots, NameIn(left), isPair ? group.PairWords : group.Words,
-                 number);
-        });
-    }
-
-    // Calls `tell` for each slot whose value stands once more on its right, with all slots that hold it from there on, and
-    // whether the two are the last pair.
-    template <class Telling>
-    void TellDoubles(const SlotRun& run, Telling tell)
+    // Finds each slot whose value stands once more on its right, with all slots that hold it from there on.
+    void FindDoubles(const SlotRun& run)
     {
         for (const auto* left = run.begin(); left != run.end(); ++left)
             if (IsCompared(Standing(*left)) && StandsIn(Standing(*left), left + 1, run.end()))
-                tell(*left, WithAlike(*left, left + 1, run.end()), left + 2 == run.end());
+                Find({.Fault = LineFault::Double,
+                      .Person = Standing(*left),
+                      .Slots = WithAlike(*left, left + 1, run.end()),
+                      .At = *left});
     }
 
     // Whether `value` takes part in comparisons: two empty slots are alike where emptiness is judged.
-    [[nodiscard]] bool IsCompared(long long value) const { return rules.JudgesEmptySlots || value != 0; }
+    [[nodiscard]] bool IsCompared(int value) const { return rules.JudgesEmptySlots || value != 0; }
 
-    [[nodiscard]] bool StandsIn(long long value, const LineSlot* first, const LineSlot* last) const
+    [[nodiscard]] bool StandsIn(int value, const LineSlot* first, const LineSlot* last) const
     {
         return std::any_of(first, last, [&](const LineSlot& slot) { return Standing(slot) == value; });
     }
@@ -338,7 +246,7 @@ private:
     }
 
     // All slots of the day that hold a skater.
-    [[nodiscard]] Words WordsOfAll(long long id) const
+    [[nodiscard]] Words WordsOfAll(int id) const
     {
         Words words;
         for (const LineSlot& slot : SkaterSlots)
@@ -349,24 +257,15 @@ private:
 
     static Words Word(int word) { return Words{}.set(static_cast<std::size_t>(word)); }
 
-    [[nodiscard]] long long Standing(const LineSlot& slot) const { return At(lines, slot); }
-    [[nodiscard]] std::string NameIn(const LineSlot& slot) const
-    {
-        return work.League.Players[Standing(slot)].Name.Trimmed();
-    }
+    static int Number(const Int16& slot) { return static_cast<int>(slot); }
+    [[nodiscard]] int Standing(const LineSlot& slot) const { return Number(At(lines, slot)); }
 
-    // Tells one finding, in words and as data.
-    template <class... Parts>
-    void Tell(LineFault fault, long long person, const Words& slots, const Parts&... parts)
+    void Find(const LineFinding& finding) { verdict.Findings.push_back(finding); }
+    void FindEmpty(const LineFinding& finding)
     {
-        const std::size_t begin = verdict.Text.size();
-        (Append(parts), ...);
-        const std::size_t length = verdict.Text.size() - begin;
-        verdict.Text += LineBreak;
-        verdict.Findings.push_back({fault, static_cast<int>(person), slots, begin, length});
+        if (rules.JudgesEmptySlots)
+            Find(finding);
     }
-    void Append(std::string_view text) { verdict.Text += text; }
-    void Append(long long number) { verdict.Text += std::to_string(number); }
 
     const Work& work;
     int team;
@@ -395,14 +294,14 @@ constexpr LineRules ProRules{.Side = Side::Pro,
 void JudgeLines(const Work& work, int team, int day, const LineRules& rules, bool showMessage, bool log,
                 LineVerdict& verdict)
 {
+    verdict.Rules = &rules;
     LineJudge(work, team, day, rules, verdict).Walk();
-    const bool perfect = verdict.Text.empty();
-    verdict.Text += perfect ? "Lines are perfect!" : rules.Closing;
+    verdict.Ended = true;
     if (log)
-        work.Says.WriteLog(LogHead(work.League.Teams[team], rules.Side) + verdict.Text);
+        work.Says.WriteLog(LogHead(work.League.Teams[team], rules.Side) + TextOf(work.League, verdict));
     if (work.Says.MayReport(showMessage))
-        work.Says.ShowBox(verdict.Text, box::Information);
-    verdict.Complete = perfect;
+        work.Says.ShowBox(TextOf(work.League, verdict), box::Information);
+    verdict.Complete = verdict.Findings.empty();
 }
 
 LineVerdict CheckLine(const Work& work, int team, bool showMessage, int day, bool log)

@@ -8,6 +8,8 @@
 #include "rules/People.h"
 #include "rules/WipeLines.h"
 
+#include <algorithm>
+#include <iterator>
 #include <string>
 #include <string_view>
 
@@ -39,24 +41,16 @@ private:
     Row<long long, 1, 5> count;
 };
 
-// The number that names a person where skaters and goalies share one, and his entry in the list of changes.
-int IdOf(const Player& /*player*/, int index) { return index; }
-int IdOf(const Goalie& /*goalie*/, int index) { return index + GoalieOffset; }
-RosterChange& ChangeOf(Tables& league, const Player& /*player*/, int index) { return league.RosterChanges[index]; }
-RosterChange& ChangeOf(Tables& league, const Goalie& /*goalie*/, int index)
-{
-    return league.RosterChangesGoalie[index];
-}
+PersonId IdOf(const Player& /*player*/, int index) { return {.IsGoalie = false, .Slot = index}; }
+PersonId IdOf(const Goalie& /*goalie*/, int index) { return {.IsGoalie = true, .Slot = index}; }
 
 int PositionOf(const Player& player) { return static_cast<int>(player.Position); }
 int PositionOf(const Goalie& /*goalie*/) { return position::Goalie; }
 
 // Where the farm's rule differs: a skater over a limit keeps his status on the farm, and is told again by every
-// judgement; a goalie is moved. Their words differ by a capital letter.
+// judgement; a goalie is moved.
 void LeaveFarm(Player& /*player*/) {}
 void LeaveFarm(Goalie& goalie) { goalie.Status = status::Scratch; }
-std::string_view TooGoodForFarm(const Player& /*player*/) { return " overall is too high to be in farm!"; }
-std::string_view TooGoodForFarm(const Goalie& /*goalie*/) { return " Overall is too high to be in farm!"; }
 
 // One judgement of one team's roster.
 class RosterJudge {
@@ -78,52 +72,31 @@ public:
             ++scratched;
     }
 
-    // Compares the pro counts with the league's requirements; every one that does not hold gets its line and makes the
+    // Compares the pro counts with the league's requirements; every one that does not hold is a finding and makes the
     // roster incomplete.
     void ComparePro()
     {
-        const auto atLeast = [&](long long count, long long least, std::string_view message) {
-            if (count < least)
-                AddLine(message, count, least, " Required.");
-        };
-        atLeast(pro.Of(position::Center), rules.RequiredCenters, "Not enough Centers available in Pro Team! ");
-        atLeast(pro.Of(position::LeftWing), rules.RequiredLeftWings, "Not enough Left Wings available in Pro Team! ");
-        atLeast(pro.Of(position::RightWing), rules.RequiredRightWings,
-                "Not enough Right Wings available in Pro Team! ");
-        atLeast(pro.Of(position::Defense), rules.RequiredDefensemen, "Not enough Defenseman available in Pro Team! ");
-        atLeast(pro.Goalies(), 2, "Not enough Goalie available in Pro Team! ");
-        atLeast(pro.Skaters(), 18, "Not enough players available in Pro Team! ");
-        // The limit shown is 3 whatever the league allows, and players are "Required." where "Maximum." is meant: the
-        // texts as general managers know them.
-        if (pro.Goalies() > rules.MaxDressedGoalies)
-            AddLine("Too many Goalie available in Pro Team! ", pro.Goalies(), 3, " Maximum.");
-        if (pro.Skaters() > rules.ProDressedSkaters)
-            AddLine("Too many players available in Pro Team! ", pro.Skaters(), rules.ProDressedSkaters, " Required.");
-        if (pro.Skaters() + pro.Goalies() + scratched > rules.MaxProPlayers) {
-            verdict.Text += "Maximum Players Limit Reached in Pro Team!";
-            verdict.Text += LineBreak;
-            verdict.Complete = false;
-        }
+        AtLeast(rules.RequiredCenters, pro.Of(position::Center), RosterFault::FewCenters);
+        AtLeast(rules.RequiredLeftWings, pro.Of(position::LeftWing), RosterFault::FewLeftWings);
+        AtLeast(rules.RequiredRightWings, pro.Of(position::RightWing), RosterFault::FewRightWings);
+        AtLeast(rules.RequiredDefensemen, pro.Of(position::Defense), RosterFault::FewDefensemen);
+        AtLeast(2, pro.Goalies(), RosterFault::FewGoalies);
+        AtLeast(18, pro.Skaters(), RosterFault::FewSkaters);
+        AtMost(rules.MaxDressedGoalies, pro.Goalies(), RosterFault::ManyGoalies);
+        AtMost(rules.ProDressedSkaters, pro.Skaters(), RosterFault::ManySkaters);
+        AtMost(rules.MaxProPlayers, pro.Skaters() + pro.Goalies() + scratched, RosterFault::ManyPeople);
     }
 
     // The same for pro and farm together, which need twice as many; scratches do not count.
     void CompareBoth()
     {
-        const auto atLeast = [&](long long count, long long least, std::string_view message) {
-            if (count < least)
-                AddLine(message, count, least, " Required.");
-        };
         const auto both = [&](int position) { return pro.Of(position) + farm.Of(position); };
-        atLeast(both(position::Center), Limit16(2 * rules.RequiredCenters),
-                "Not enough Centers available in Pro and Farm Team! ");
-        atLeast(both(position::LeftWing), Limit16(2 * rules.RequiredLeftWings),
-                "Not enough Left Wings available in Pro and Farm Team! ");
-        atLeast(both(position::RightWing), Limit16(2 * rules.RequiredRightWings),
-                "Not enough Right Wings available in Pro and Farm Team! ");
-        atLeast(both(position::Defense), Limit16(2 * rules.RequiredDefensemen),
-                "Not enough Defenseman available in Pro and Farm Team! ");
-        atLeast(pro.Goalies() + farm.Goalies(), 4, "Not enough Goalie available in Pro and Farm Team! ");
-        atLeast(pro.Skaters() + farm.Skaters(), 36, "Not enough players available in Pro Team and Farm Team! ");
+        AtLeast(Limit16(2 * rules.RequiredCenters), both(position::Center), RosterFault::FewCentersInBoth);
+        AtLeast(Limit16(2 * rules.RequiredLeftWings), both(position::LeftWing), RosterFault::FewLeftWingsInBoth);
+        AtLeast(Limit16(2 * rules.RequiredRightWings), both(position::RightWing), RosterFault::FewRightWingsInBoth);
+        AtLeast(Limit16(2 * rules.RequiredDefensemen), both(position::Defense), RosterFault::FewDefensemenInBoth);
+        AtLeast(4, pro.Goalies() + farm.Goalies(), RosterFault::FewGoaliesInBoth);
+        AtLeast(36, pro.Skaters() + farm.Skaters(), RosterFault::FewSkatersInBoth);
     }
 
 private:
@@ -142,7 +115,7 @@ private:
             pro.Add(work.Says, person);
             return;
         }
-        AddComplaint(person, " is injured, suspended, has no contract or incorrect salaries but he's on Pro Team!");
+        Find(RosterFault::UnfitOnPro, person, index);
         person.Status = status::Scratch;
         TakeOffLines(person, index);
     }
@@ -150,15 +123,15 @@ private:
     template <class Person>
     void ExamineFarm(Person& person, int index)
     {
-        const auto refuse = [&](std::string_view words) {
-            AddComplaint(person, words);
+        const auto refuse = [&](RosterFault fault) {
+            Find(fault, person, index);
             LeaveFarm(person);
             TakeOffLines(person, index);
         };
         if (CalculateOverall(work.League, work.Says, PositionOf(person), index) > rules.FarmMaxOverall)
-            refuse(TooGoodForFarm(person));
+            refuse(RosterFault::TooGoodForFarm);
         if (rules.FarmMaxSalary >= 1 && person.Salary > rules.FarmMaxSalary)
-            refuse(" salary is too high to be in farm!");
+            refuse(RosterFault::TooDearForFarm);
         // He counts for the farm even when he has just left it; a goalie then counts among the scratches too.
         if (IsFit(person))
             farm.Add(work.Says, person);
@@ -167,46 +140,126 @@ private:
     template <class Person>
     void TakeOffLines(const Person& person, int index)
     {
-        ChangeOf(work.League, person, index).Status = status::Scratch;
-        WipePlayerFromTeamLines(work.League, work.Says, team, IdOf(person, index));
+        const PersonId who = IdOf(person, index);
+        ChangeOf(work.League, who).Status = status::Scratch;
+        WipePlayerFromTeamLines(work.League, work.Says, team, who.CommonId());
         verdict.Repaired = true;
     }
 
     template <class Person>
-    void AddComplaint(const Person& person, std::string_view words)
+    void Find(RosterFault fault, const Person& person, int index)
     {
-        verdict.Text += person.Name.Trimmed();
-        verdict.Text += words;
-        verdict.Text += LineBreak;
+        verdict.Findings.push_back({.Fault = fault, .Person = IdOf(person, index)});
     }
 
-    void AddLine(std::string_view message, long long count, long long limit, std::string_view closing)
+    void AtLeast(long long least, long long count, RosterFault fault)
     {
-        verdict.Text += message;
-        verdict.Text += std::to_string(count);
-        verdict.Text += " Dressed. ";
-        verdict.Text += std::to_string(limit);
-        verdict.Text += closing;
-        verdict.Text += LineBreak;
+        if (count < least)
+            Find(fault, count, least);
+    }
+    void AtMost(long long most, long long count, RosterFault fault)
+    {
+        if (count > most)
+            Find(fault, count, most);
+    }
+    void Find(RosterFault fault, long long count, long long limit)
+    {
+        verdict.Findings.push_back({.Fault = fault, .Count = count, .Limit = limit});
         verdict.Complete = false;
     }
 };
 
-// Closes a text that says something and shows it.
-void TellRosterText(const Work& work, std::string& text, const std::string& teamName, bool log, bool showMessage)
+// What is said of a finding: behind the name of a person, or around the numbers that were counted.
+struct FindingWords {
+    RosterFault Fault;
+    std::string_view Words;
+    std::string_view Closing = {};
+};
+constexpr FindingWords Words[] = {
+    {RosterFault::UnfitOnPro, " is injured, suspended, has no contract or incorrect salaries but he's on Pro Team!"},
+    {RosterFault::TooGoodForFarm, " overall is too high to be in farm!"},
+    {RosterFault::TooDearForFarm, " salary is too high to be in farm!"},
+    {RosterFault::FewCenters, "Not enough Centers available in Pro Team! ", " Required."},
+    {RosterFault::FewLeftWings, "Not enough Left Wings available in Pro Team! ", " Required."},
+    {RosterFault::FewRightWings, "Not enough Right Wings available in Pro Team! ", " Required."},
+    {RosterFault::FewDefensemen, "Not enough Defenseman available in Pro Team! ", " Required."},
+    {RosterFault::FewGoalies, "Not enough Goalie available in Pro Team! ", " Required."},
+    {RosterFault::FewSkaters, "Not enough players available in Pro Team! ", " Required."},
+    {RosterFault::ManyGoalies, "Too many Goalie available in Pro Team! ", " Maximum."},
+    // "Required." where "Maximum." is meant: the text as general managers know it.
+    {RosterFault::ManySkaters, "Too many players available in Pro Team! ", " Required."},
+    {RosterFault::ManyPeople, "Maximum Players Limit Reached in Pro Team!"},
+    {RosterFault::FewCentersInBoth, "Not enough Centers available in Pro and Farm Team! ", " Required."},
+    {RosterFault::FewLeftWingsInBoth, "Not enough Left Wings available in Pro and Farm Team! ", " Required."},
+    {RosterFault::FewRightWingsInBoth, "Not enough Right Wings available in Pro and Farm Team! ", " Required."},
+    {RosterFault::FewDefensemenInBoth, "Not enough Defenseman available in Pro and Farm Team! ", " Required."},
+    {RosterFault::FewGoaliesInBoth, "Not enough Goalie available in Pro and Farm Team! ", " Required."},
+    {RosterFault::FewSkatersInBoth, "Not enough players available in Pro Team and Farm Team! ", " Required."},
+};
+
+const FindingWords& EntryOf(RosterFault fault)
 {
-    if (text.empty())
+    return *std::find_if(std::begin(Words), std::end(Words),
+                         [&](const FindingWords& entry) { return entry.Fault == fault; });
+}
+
+// Whether a finding is about a person; otherwise it is about numbers.
+bool IsOfPerson(RosterFault fault) { return fault <= RosterFault::TooDearForFarm; }
+
+// All findings and their close; nothing when there is none.
+std::string FindingsText(const Tables& league, const RosterVerdict& verdict)
+{
+    std::string text;
+    for (const RosterFinding& finding : verdict.Findings) {
+        text += WordsOf(league, finding);
+        text += LineBreak;
+    }
+    if (verdict.Ended && !text.empty()) {
+        text += "Some errors will be automatically fixed.";
+        text += LineBreak;
+    }
+    return text;
+}
+
+// Logs and shows what is wrong, if anything is.
+void Tell(const Work& work, int team, const RosterVerdict& verdict, bool log, bool showMessage)
+{
+    if (verdict.Findings.empty())
         return;
-    text += "Some errors will be automatically fixed.";
-    text += LineBreak;
     if (log)
-        work.Says.WriteLog(teamName + " roster errors : " + text);
-    text = teamName + " Roster Error : " + std::string(LineBreak) + text;
+        work.Says.WriteLog(work.League.Teams[team].Name.Trimmed() +
+                           " roster errors : " + FindingsText(work.League, verdict));
     if (work.Says.MayReport(showMessage))
-        work.Says.ShowBox(text, box::Warning);
+        work.Says.ShowBox(TextOf(work.League, team, verdict), box::Warning);
 }
 
 } // namespace
+
+std::string WordsOf(const Tables& league, const RosterFinding& finding)
+{
+    const FindingWords& entry = EntryOf(finding.Fault);
+    if (IsOfPerson(finding.Fault)) {
+        // The words about a goalie differ by a capital letter.
+        const bool isGoalieTooGood = finding.Fault == RosterFault::TooGoodForFarm && finding.Person.IsGoalie;
+        const std::string name =
+            OnPerson(league, finding.Person, [](const auto& person) { return person.Name.Trimmed(); });
+        return name + std::string(isGoalieTooGood ? " Overall is too high to be in farm!" : entry.Words);
+    }
+    if (entry.Closing.empty())
+        return std::string(entry.Words);
+    // The limit of goalies that is shown is 3 whatever the league allows.
+    const long long shownLimit = finding.Fault == RosterFault::ManyGoalies ? 3 : finding.Limit;
+    return std::string(entry.Words) + std::to_string(finding.Count) + " Dressed. " + std::to_string(shownLimit) +
+           std::string(entry.Closing);
+}
+
+std::string TextOf(const Tables& league, int team, const RosterVerdict& verdict)
+{
+    const std::string findings = FindingsText(league, verdict);
+    if (!verdict.Ended || findings.empty())
+        return findings;
+    return league.Teams[team].Name.Trimmed() + " Roster Error : " + std::string(LineBreak) + findings;
+}
 
 RosterVerdict CheckRoster(const Work& work, int team, bool log, bool withSalaryCap, bool showMessage)
 {
@@ -225,7 +278,8 @@ RosterVerdict CheckRoster(const Work& work, int team, bool log, bool withSalaryC
         judge.ComparePro();
         if (league.LeagueData.FarmEnabled && league.LeagueData.FarmRosterRequired)
             judge.CompareBoth();
-        TellRosterText(work, verdict.Text, league.Teams[team].Name.Trimmed(), log, showMessage);
+        verdict.Ended = true;
+        Tell(work, team, verdict, log, showMessage);
         if (!withSalaryCap)
             return;
         verdict.Cap = CheckSalaryCap(work, team, showMessage);

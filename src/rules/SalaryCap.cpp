@@ -26,13 +26,10 @@ std::optional<long long> CapOf(const League& league, const Team& team)
     }
 }
 
-void Tell(const Work& work, CapVerdict& verdict, const std::string& name, std::string_view words, long long amount,
-          bool showMessage)
+void Find(const Work& work, int team, CapVerdict& verdict, CapFault fault, long long amount, bool showMessage)
 {
-    const std::string text =
-        name + std::string(words) + work.Shown.Currency(static_cast<double>(Limit32(amount))) + "!";
-    verdict.Text += text;
-    verdict.Text += LineBreak;
+    const CapFinding& finding = verdict.Findings.emplace_back(CapFinding{fault, Limit32(amount)});
+    const std::string text = WordsOf(work.League, work.Shown, team, finding);
     if (work.Says.MayReport(showMessage))
         work.Says.ShowBox(text, box::Warning);
     else
@@ -58,6 +55,25 @@ CapStanding StandingAgainstCap(const Tables& league, int team)
     return standing;
 }
 
+std::string WordsOf(const Tables& league, const Formats& shown, int team, const CapFinding& finding)
+{
+    const Team& record = league.Teams[team];
+    const std::string name = finding.Fault == CapFault::FarmOver ? record.Farm.Name.Trimmed() : record.Name.Trimmed();
+    const bool isUnder = finding.Fault == CapFault::Under;
+    return name + (isUnder ? " is under the minimum salary cap by " : " is over the salary cap by ") +
+           shown.Currency(static_cast<double>(finding.Amount)) + "!";
+}
+
+std::string TextOf(const Tables& league, const Formats& shown, int team, const CapVerdict& verdict)
+{
+    std::string text;
+    for (const CapFinding& finding : verdict.Findings) {
+        text += WordsOf(league, shown, team, finding);
+        text += LineBreak;
+    }
+    return text;
+}
+
 CapVerdict CheckSalaryCap(const Work& work, int team, bool showMessage)
 {
     CapVerdict verdict;
@@ -70,23 +86,21 @@ CapVerdict CheckSalaryCap(const Work& work, int team, bool showMessage)
         const League& rules = work.League.LeagueData;
         if (rules.SalaryCapMode == 0)
             return;
-        const Team& record = work.League.Teams[team];
-        const auto tell = [&](const std::string& name, std::string_view words, long long amount) {
-            Tell(work, verdict, name, words, amount, showMessage);
+        const auto find = [&](CapFault fault, long long amount) {
+            Find(work, team, verdict, fault, amount, showMessage);
         };
 
         const auto [pro, farm, total, cap] = StandingAgainstCap(work.League, team);
         if (cap && total > *cap) {
             verdict.Within = false;
-            tell(record.Name.Trimmed(), " is over the salary cap by ", total - *cap);
+            find(CapFault::Over, total - *cap);
         }
         if (rules.FarmSalaryCap > 0 && farm > rules.FarmSalaryCap) {
             verdict.Within = false;
-            tell(record.Farm.Name.Trimmed(), " is over the salary cap by ", farm - rules.FarmSalaryCap);
+            find(CapFault::FarmOver, farm - rules.FarmSalaryCap);
         }
-        // Too small a payroll is told, and allowed.
         if (total < rules.MinSalaryCap)
-            tell(record.Name.Trimmed(), " is under the minimum salary cap by ", rules.MinSalaryCap - total);
+            find(CapFault::Under, rules.MinSalaryCap - total);
     });
     return verdict;
 }

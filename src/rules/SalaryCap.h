@@ -4,6 +4,7 @@
 
 #include <optional>
 #include <string>
+#include <vector>
 
 namespace dravik {
 
@@ -18,14 +19,30 @@ struct CapStanding {
 // Where a team of 1..100 stands. Payrolls or a cap beyond 32 bits fail with 6.
 CapStanding StandingAgainstCap(const Tables& league, int team);
 
-// What the judge of the cap found, as far as he came.
+// What the judge of the cap may find.
+enum class CapFault {
+    Over,     // the team spends more than its cap
+    FarmOver, // its farm does
+    Under     // the team spends too little, which is told and allowed
+};
+
+struct CapFinding {
+    CapFault Fault;
+    long long Amount; // by how much, in whole units of money
+};
+
+// What the judge of the cap found, as far as he came, in the order in which he found it.
 struct CapVerdict {
     bool Within = false;
     std::optional<int> Failed; // the number of the failure that ended the judgement, which was told
-    std::string Text;          // what he had to say, shown or not, with a line break behind each message
+    std::vector<CapFinding> Findings;
 
     explicit operator bool() const { return Within; }
 };
+
+// The words of one finding about `team`, in money as it is shown, and those of all, with a line break behind each.
+std::string WordsOf(const Tables& league, const Formats& shown, int team, const CapFinding& finding);
+std::string TextOf(const Tables& league, const Formats& shown, int team, const CapVerdict& verdict);
 
 // Whether the payroll stands within the cap. With `showMessage` what is wrong is shown in warning boxes, as long as reports
 // are allowed; otherwise it is logged. A team out of 1..100 shows "Integrity Check Failed!" in a critical box and is not

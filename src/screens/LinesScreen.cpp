@@ -215,7 +215,7 @@ void LinesScreen::JudgeShownDay()
 bool LinesScreen::Judge(bool showMessage)
 {
     said = Kind.Judge(OwnNumber(), showMessage, static_cast<int>(Day), false);
-    txtReasons->Tell(said.Complete ? QString() : ToQString(said.Text).replace("\r\n", "\n").trimmed());
+    txtReasons->Tell(said.Complete ? QString() : ToQString(TextOf(OpenLeague, said)).replace("\r\n", "\n").trimmed());
     return said.Complete;
 }
 

@@ -107,7 +107,7 @@ QStringList LinesScreen::FindingsOn(const BoardSlot& slot) const
     QStringList words;
     for (const LineFinding& finding : said.Findings)
         if (finding.Slots[slot.Word()])
-            words << ToQString(said.WordsOf(finding));
+            words << ToQString(WordsOf(OpenLeague, said, finding));
     words.removeDuplicates();
     return words;
 }

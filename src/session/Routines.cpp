@@ -1,7 +1,5 @@
 #include "session/Routines.h"
 
-#include <utility>
-
 namespace dravik {
 
 namespace {
@@ -13,7 +11,7 @@ std::string LinesText;
 
 LineVerdict Kept(LineVerdict verdict)
 {
-    LinesText = verdict.Text;
+    LinesText = TextOf(OpenLeague, verdict);
     return verdict;
 }
 
@@ -27,12 +25,12 @@ void Keep(const Made& made)
 
 bool CheckRoster(int team, bool log, bool withSalaryCap, bool showMessage)
 {
-    RosterVerdict verdict = CheckRoster(OpenWork(), team, log, withSalaryCap, showMessage);
+    const RosterVerdict verdict = CheckRoster(OpenWork(), team, log, withSalaryCap, showMessage);
     if (TeamTable::Has(team)) {
         RosterFixed = verdict.Repaired ? 1 : 0;
-        RosterText = std::move(verdict.Text);
+        RosterText = TextOf(OpenLeague, team, verdict);
         if (withSalaryCap)
-            CapText = verdict.Cap ? std::move(verdict.Cap->Text) : std::string();
+            CapText = verdict.Cap ? TextOf(OpenLeague, Machine(), team, *verdict.Cap) : std::string();
     }
     return verdict.Complete;
 }
@@ -41,9 +39,9 @@ const std::string& LastRosterText() { return RosterText; }
 
 bool CheckSalaryCap(int team, bool showMessage)
 {
-    CapVerdict verdict = CheckSalaryCap(OpenWork(), team, showMessage);
+    const CapVerdict verdict = CheckSalaryCap(OpenWork(), team, showMessage);
     if (TeamTable::Has(team))
-        CapText = std::move(verdict.Text);
+        CapText = TextOf(OpenLeague, Machine(), team, verdict);
     return verdict.Within;
 }
 

@@ -70,10 +70,10 @@ private:
     {
         const Work work{*league, says, shown, modified};
         const auto note = [this](const std::string& text) { found += text + '\n'; };
-        const auto noteLines = [note](const LineVerdict& verdict) {
-            note(verdict.Text + std::to_string(verdict.Findings.size()) + (verdict ? " complete" : ""));
+        const auto noteLines = [note, work](const LineVerdict& verdict) {
+            note(TextOf(work.League, verdict) + std::to_string(verdict.Findings.size()) + (verdict ? " complete" : ""));
         };
-        return {[=](int team) { note(CheckRoster(work, team, true, true, true).Text); },
+        return {[=](int team) { note(TextOf(work.League, team, CheckRoster(work, team, true, true, true))); },
                 [=](int team) { AutoRoster(work, team, true, team == 2); },
                 [=](int team) { noteLines(CheckLine(work, team, true, 1, true)); },
                 [=](int team) { AutoLines(work, team, true, 1); },
@@ -167,13 +167,13 @@ TEST(TwoLeaguesTest, LookingWithAMuteVoiceFindsWhatTellingFinds)
             MuteVoice mute;
             const RosterVerdict tells = CheckRoster({*told, says, shown, modified}, team, true, true, true);
             const RosterVerdict looks = CheckRoster({*looked, mute, shown, modified}, team, false, true, false);
-            EXPECT_EQ(looks.Text, tells.Text);
+            EXPECT_EQ(TextOf(*looked, team, looks), TextOf(*told, team, tells));
             EXPECT_EQ(looks.Complete, tells.Complete);
             EXPECT_EQ(looks.Repaired, tells.Repaired);
             EXPECT_EQ(looks.Failed, tells.Failed);
             const LineVerdict tellsLines = CheckLine({*told, says, shown, modified}, team, true, 1, true);
             const LineVerdict looksLines = CheckLine({*looked, mute, shown, modified}, team, false, 1, false);
-            EXPECT_EQ(looksLines.Text, tellsLines.Text);
+            EXPECT_EQ(TextOf(*looked, looksLines), TextOf(*told, tellsLines));
             EXPECT_EQ(looksLines.Findings.size(), tellsLines.Findings.size());
             EXPECT_EQ(looksLines.Failed, tellsLines.Failed);
             EXPECT_TRUE(AreAlike(*looked, *told));

@@ -45,7 +45,7 @@ std::vector<Finding> FindingsOf(const LineVerdict& verdict)
         for (std::size_t word = 0; word < finding.Slots.size(); ++word)
             if (finding.Slots[word])
                 slots.insert(word);
-        findings.push_back({finding.Fault, finding.Person, slots, std::string(verdict.WordsOf(finding))});
+        findings.push_back({finding.Fault, finding.Person, slots, WordsOf(OpenLeague, verdict, finding)});
     }
     return findings;
 }
@@ -76,7 +76,7 @@ TEST_F(LineVerdictTest, CompleteLinesHaveNoFindings)
     for (const LineVerdict& verdict : {Judged(), FarmJudged()}) {
         EXPECT_TRUE(verdict.Complete);
         EXPECT_THAT(verdict.Findings, IsEmpty());
-        EXPECT_EQ(verdict.Text, "Lines are perfect!");
+        EXPECT_EQ(TextOf(OpenLeague, verdict), "Lines are perfect!");
     }
 }
 
@@ -92,8 +92,8 @@ TEST_F(LineVerdictTest, EveryLineOfTheTextIsTheWordsOfItsFinding)
         EXPECT_GT(verdict.Findings.size(), 100U);
         std::string text;
         for (const LineFinding& finding : verdict.Findings)
-            text += std::string(verdict.WordsOf(finding)) + "\r\n";
-        EXPECT_EQ(text + closing, verdict.Text);
+            text += WordsOf(OpenLeague, verdict, finding) + "\r\n";
+        EXPECT_EQ(text + closing, TextOf(OpenLeague, verdict));
         closing.clear();
     }
 }
@@ -227,7 +227,7 @@ TEST_F(LineVerdictTest, WithoutFarmTeamsNothingIsSaidOfTheFarm)
     const LineVerdict verdict = FarmJudged();
     EXPECT_TRUE(verdict.Complete);
     EXPECT_THAT(verdict.Findings, IsEmpty());
-    EXPECT_EQ(verdict.Text, "");
+    EXPECT_EQ(TextOf(OpenLeague, verdict), "");
 }
 
 TEST_F(LineVerdictTest, ADayOutOfRangeHasNoFindings)
@@ -237,7 +237,7 @@ TEST_F(LineVerdictTest, ADayOutOfRangeHasNoFindings)
     for (const LineVerdict& verdict : {VerdictOnLine(5, true, 11, false), VerdictOnLineFarm(101, true, 1, false)}) {
         EXPECT_FALSE(verdict.Complete);
         EXPECT_THAT(verdict.Findings, IsEmpty());
-        EXPECT_EQ(verdict.Text, "");
+        EXPECT_EQ(TextOf(OpenLeague, verdict), "");
     }
     EXPECT_THAT(Machine.Boxes(), ElementsAre(Box{16, "Integrity Check Failed!"}, Box{16, "Integrity Check Failed!"}));
 }
@@ -251,7 +251,7 @@ TEST_F(LineVerdictTest, AJudgementThatFailsKeepsWhatItFoundByThen)
     EXPECT_THAT(FindingsOf(verdict),
                 ElementsAre(Finding{
                     LineFault::Empty, 0, {WordAt(LineField::NormalForward, 1, 1)}, "Normal line # 1 C is empty."}));
-    EXPECT_EQ(verdict.Text, "Normal line # 1 C is empty.\r\n");
+    EXPECT_EQ(TextOf(OpenLeague, verdict), "Normal line # 1 C is empty.\r\n");
     EXPECT_THAT(Machine.Boxes(), ElementsAre(Box{16, "9 - Subscript out of range in CheckLine!"}));
 }
 
@@ -269,7 +269,7 @@ TEST_F(LineVerdictTest, TheTextIsShownWhenAsked)
 {
     Day().StartGoalie = 0;
     const LineVerdict verdict = VerdictOnLine(5, true, 1, false);
-    EXPECT_THAT(Machine.TakeBoxes(), ElementsAre(Box{64, verdict.Text}));
+    EXPECT_THAT(Machine.TakeBoxes(), ElementsAre(Box{64, TextOf(OpenLeague, verdict)}));
     EXPECT_TRUE(VerdictOnLineFarm(5, true, 1, false).Complete);
     EXPECT_THAT(Machine.Boxes(), ElementsAre(Box{64, "Lines are perfect!"}));
 }
