@@ -1,12 +1,12 @@
 #include "fuzz/DeflateScript.h"
 
 #include "fuzz/Script.h"
+#include "tests/support/BitStream.h"
 
 #include <algorithm>
 #include <array>
 #include <iterator>
 #include <utility>
-#include <zlib.h>
 
 namespace dravik::fuzz {
 
@@ -21,25 +21,6 @@ constexpr unsigned Distances = 30;
 constexpr unsigned LongestCode = 15;
 // A block more than this at most. In small pieces the faster inflater moves its whole reach for each of them.
 constexpr std::size_t MostContent = 1 << 16;
-
-class Bits {
-public:
-    // `count` bits of `value`, the lowest first.
-    void Put(unsigned value, unsigned count)
-    {
-        for (unsigned i = 0; i < count; ++i, ++used) {
-            if (used % 8 == 0)
-                Stream.push_back(0);
-            Stream.back() |= static_cast<std::uint8_t>((value >> i & 1U) << used % 8);
-        }
-    }
-    void ToByte() { used = Stream.size() * 8; }
-
-    ByteVector Stream;
-
-private:
-    std::size_t used = 0;
-};
 
 // A code by the lengths of its symbols. One that is over-subscribed gives some sequences of bits to two symbols.
 class Code {
@@ -56,12 +37,7 @@ public:
                 Symbols.push_back(static_cast<unsigned>(symbol));
     }
 
-    // The highest bit comes first.
-    void Put(Bits& bits, unsigned symbol) const
-    {
-        for (unsigned bit = Lengths[symbol]; bit-- > 0;)
-            bits.Put(codes[symbol] >> bit & 1U, 1);
-    }
+    void Put(BitStream& bits, unsigned symbol) const { bits.PutCode(codes[symbol], Lengths[symbol]); }
 
     ByteVector Lengths;
     std::vector<unsigned> Symbols; // those that have a code
@@ -145,7 +121,7 @@ std::size_t Written(const ByteVector& lengths, std::size_t usual, std::size_t le
 
 // The head of a block with codes of its own. Their lengths are written by a code of lengths in which 16 repeats the length
 // before, 17 and 18 repeat zero; it too can be incomplete.
-void PutCodes(Bits& bits, Script& script, const Code& literals, const Code& distances)
+void PutCodes(BitStream& bits, Script& script, const Code& literals, const Code& distances)
 {
     const std::size_t literalCount = Written(literals.Lengths, Literals, FirstLength);
     const std::size_t distanceCount = Written(distances.Lengths, Distances, 1);
@@ -228,7 +204,7 @@ public:
         return !isLast && Content.size() < MostContent;
     }
 
-    Bits Stream;
+    BitStream Stream;
     ByteVector Content;
 
 private:
@@ -244,7 +220,7 @@ private:
         const int step = script.Byte();
         for (unsigned i = 0; i < length; ++i, byte += step) {
             Content.push_back(static_cast<std::uint8_t>(byte));
-            Stream.Stream.push_back(Content.back());
+            Stream.Bytes.push_back(Content.back());
         }
         Stream.ToByte();
     }
@@ -341,16 +317,7 @@ std::vector<std::uint8_t> WriteDeflate(Input input)
     Writer writer(script);
     while (writer.Block()) {
     }
-    const ByteVector& content = writer.Content;
-    Bits wrapper;
-    wrapper.Put(static_cast<unsigned>(hasOwnLength ? claimed : content.size()), 32);
-    wrapper.Put(head, 16);
-    ByteVector all = wrapper.Stream;
-    all.insert(all.end(), writer.Stream.Stream.begin(), writer.Stream.Stream.end());
-    const uLong sum = adler32(adler32(0, nullptr, 0), content.data(), static_cast<uInt>(content.size()));
-    for (int shift = 24; shift >= 0; shift -= 8)
-        all.push_back(static_cast<std::uint8_t>(sum >> static_cast<unsigned>(shift)));
-    return all;
+    return WrapperAround(writer.Stream.Bytes, hasOwnLength ? claimed : writer.Content.size(), head, writer.Content);
 }
 
 } // namespace dravik::fuzz

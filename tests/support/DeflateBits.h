@@ -1,8 +1,7 @@
 #pragma once
 
+#include "support/BitStream.h"
 #include "support/ClientFileBytes.h"
-
-#include <zlib.h>
 
 namespace dravik {
 
@@ -14,11 +13,7 @@ public:
     // `count` bits of `value`, the lowest first.
     DeflateBits& Put(unsigned value, unsigned count)
     {
-        for (unsigned i = 0; i < count; ++i, ++used) {
-            if (used % 8 == 0)
-                stream.push_back(0);
-            stream.back() |= static_cast<unsigned char>((value >> i & 1U) << used % 8);
-        }
+        bits.Put(value, count);
         return *this;
     }
 
@@ -40,33 +35,23 @@ public:
     // A distance without its further bits.
     DeflateBits& FixedDistance(unsigned symbol) { return Code(symbol, 5); }
 
-    [[nodiscard]] const ByteVector& Stream() const { return stream; }
+    [[nodiscard]] const ByteVector& Stream() const { return bits.Bytes; }
 
     // A wrapper of the stream that claims to hold `content` and ends with its checksum.
     [[nodiscard]] ByteVector WrapperOf(const ByteVector& content) const
     {
-        ByteVector wrapper;
-        for (std::size_t i = 0; i < 4; ++i)
-            wrapper.push_back(static_cast<unsigned char>(content.size() >> (8 * i)));
-        wrapper.insert(wrapper.end(), {0x78, 0xDA});
-        wrapper.insert(wrapper.end(), stream.begin(), stream.end());
-        const auto sum = adler32(adler32(0, nullptr, 0), content.data(), static_cast<uInt>(content.size()));
-        for (unsigned shift = 32; shift > 0; shift -= 8)
-            wrapper.push_back(static_cast<unsigned char>(sum >> (shift - 8)));
-        return wrapper;
+        constexpr unsigned head = 0xDA78;
+        return WrapperAround(bits.Bytes, content.size(), head, content);
     }
 
 private:
-    // Codes are written with their highest bit first.
     DeflateBits& Code(unsigned code, unsigned count)
     {
-        while (count-- > 0)
-            Put(code >> count & 1U, 1);
+        bits.PutCode(code, count);
         return *this;
     }
 
-    ByteVector stream;
-    std::size_t used = 0;
+    BitStream bits;
 };
 
 } // namespace dravik
