@@ -1,5 +1,6 @@
 #pragma once
 
+#include "league/PersonId.h"
 #include "rules/LineSlots.h"
 #include "screens/LineGroups.h"
 #include "screens/panels/SlotLabel.h"
@@ -23,6 +24,8 @@ struct BoardSlot {
     int Shown = 0;                  // the person whom the label's text names, 0 for none
 
     [[nodiscard]] bool IsGoalies() const { return Rule == Takes::Goalie; }
+    // Whom a number in it means.
+    [[nodiscard]] PersonId Whom(long long id) const { return {.IsGoalie = IsGoalies(), .Slot = static_cast<int>(id)}; }
     // Where it stands among the words of a line-up.
     [[nodiscard]] std::size_t Word() const
     {

@@ -143,7 +143,8 @@ void LinesScreen::ShowPicked()
     const int id = static_cast<int>(SelectedPlayer);
     frmStat->HideRows(); // a goalie has fewer rows than a skater
     frmStat->ShowPosition(ToQString(PositionName[SelectedPosition]));
-    WithPerson(SelectedIsGoalie, id, [this](const auto& person) { ShowPickedName(ToQString(person.Name.Trimmed())); });
+    OnPerson(OpenLeague, SelectedPerson(),
+             [this](const auto& person) { ShowPickedName(ToQString(person.Name.Trimmed())); });
     frmStat->ShowRows(SelectedIsGoalie ? GoalieStatRows(id) : SkaterStatRows(id));
     if (!SelectedIsGoalie)
         RefreshPlaying();

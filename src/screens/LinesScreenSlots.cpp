@@ -61,7 +61,7 @@ void LinesScreen::ShowIn(BoardSlot& slot, long long id)
 {
     QString name;
     if (id != 0 || Kind.ShowsPlaceholder)
-        WithPerson(slot.IsGoalies(), id, [&](const auto& person) { name = ToQString(person.Name.Trimmed()); });
+        OnPerson(OpenLeague, slot.Whom(id), [&](const auto& person) { name = ToQString(person.Name.Trimmed()); });
     slot.Label->SetName(name);
     slot.Shown = static_cast<int>(id);
 }
@@ -120,7 +120,7 @@ bool LinesScreen::IsRefused(const BoardSlot& slot, long long id) const
     if (!Has(slot.IsGoalies(), id))
         return true;
     bool isRefused = false;
-    WithPerson(slot.IsGoalies(), id, [&](const auto& person) {
+    OnPerson(OpenLeague, slot.Whom(id), [&](const auto& person) {
         isRefused = person.Status != Kind.Status || person.Team != CurrentTeam || !IsDressable(person);
     });
     return isRefused;

@@ -44,7 +44,7 @@ QString DescriptionOf(bool isGoalie, long long index, const QString& standsIn, c
     QStringList lines;
     const int digit = PositionOf(isGoalie, index);
     if (digit != 0) {
-        WithPerson(isGoalie, index, [&](const auto& person) {
+        OnPerson(OpenLeague, {.IsGoalie = isGoalie, .Slot = static_cast<int>(index)}, [&](const auto& person) {
             lines << ToQString(person.Name.Trimmed()) << "Position: " + ToQString(PositionName[digit]);
             if (LeagueData.ShowOverall)
                 lines << "Overall: " + OverallOf(isGoalie, index);

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "session/Session.h"
+#include "league/PersonId.h"
 
 #include <string>
 
@@ -17,13 +17,13 @@ inline int EntryId(int number) { return number / 10; }
 inline int EntryPosition(int number) { return number < 0 ? -(number % 10) : number % 10; }
 
 // The mark of a captain or an assistant behind his name. A goalie never carries one.
-inline std::string OfficeMark(const Team& team, bool isGoalie, long long id)
+inline std::string OfficeMark(const Team& team, PersonId who)
 {
-    if (isGoalie)
+    if (who.IsGoalie)
         return {};
-    if (team.Captain == id)
+    if (team.Captain == who.Slot)
         return " (C)";
-    return team.Assistant[1] == id || team.Assistant[2] == id ? " (A)" : "";
+    return team.Assistant[1] == who.Slot || team.Assistant[2] == who.Slot ? " (A)" : "";
 }
 
 // Behind a mark the star stands apart, behind a bare name it does not.
@@ -33,23 +33,5 @@ inline std::string EntryText(const std::string& name, const std::string& officeM
         return name + officeMark;
     return name + officeMark + (officeMark.empty() ? "*" : " *");
 }
-
-// Calls `visit(person)` with the record of a skater or goalie.
-template <class Visit>
-void WithPerson(bool isGoalie, long long id, Visit&& visit)
-{
-    if (isGoalie)
-        visit(Goalies[id]);
-    else
-        visit(Players[id]);
-}
-
-inline RosterChange& ChangeOf(bool isGoalie, long long id)
-{
-    return isGoalie ? RosterChangesGoalie[id] : RosterChanges[id];
-}
-
-// The number that names a person where skaters and goalies share one.
-inline int CommonId(bool isGoalie, long long id) { return static_cast<int>(isGoalie ? id + GoalieOffset : id); }
 
 } // namespace dravik

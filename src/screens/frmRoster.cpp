@@ -119,7 +119,8 @@ void frmRoster::ListPerson(Person& person, int index)
         }
     }
     if (chkPosition[position]->isChecked()) {
-        const std::string mark = OfficeMark(OwnTeam(), IsGoalie<Person>, person.Number);
+        const PersonId named{.IsGoalie = IsGoalie<Person>, .Slot = static_cast<int>(person.Number)};
+        const std::string mark = OfficeMark(OwnTeam(), named);
         const std::string text = EntryText(name, mark, static_cast<bool>(person.TradeAvailable));
         lstPlayer[person.Status]->Add(ToQString(text), EntryNumber(person.Number, position), AsideOf(position, index));
     }
@@ -277,7 +278,7 @@ void frmRoster::ShowStats()
             return;
         }
         const int id = static_cast<int>(SelectedPlayer);
-        WithPerson(SelectedIsGoalie, id, [&](const auto& person) {
+        OnPerson(OpenLeague, SelectedPerson(), [&](const auto& person) {
             Stats->SetName(ToQString(person.Name.Trimmed()));
             ShowRatings(person, id);
             ShowFlags(person);

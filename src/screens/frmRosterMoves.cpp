@@ -14,9 +14,6 @@ namespace {
 
 int OwnNumber() { return static_cast<int>(CurrentTeam); }
 
-// The person chosen on the screen.
-PersonId Selected() { return {.IsGoalie = SelectedIsGoalie, .Slot = static_cast<int>(SelectedPlayer)}; }
-
 } // namespace
 
 void frmRoster::MoveEntry(int from, int to, int row)
@@ -75,13 +72,14 @@ void frmRoster::cmdToScratchesFromFarm_Click()
 
 void frmRoster::cmdSendToWaiver_Click()
 {
-    Reporting(" in cmdSendToWaiver!",
-              [this] { SendToWaivers(OpenWork(), OwnNumber(), Selected(), [this] { return ScratchSelected(); }); });
+    Reporting(" in cmdSendToWaiver!", [this] {
+        SendToWaivers(OpenWork(), OwnNumber(), SelectedPerson(), [this] { return ScratchSelected(); });
+    });
 }
 
 bool frmRoster::ScratchSelected()
 {
-    const PersonId who = Selected();
+    const PersonId who = SelectedPerson();
     const int position = who.IsGoalie ? position::Goalie : static_cast<int>(Players[who.Slot].Position);
     bool done = false;
     Change(status::Pro, status::Scratch, who.Slot, position, done);
@@ -96,7 +94,7 @@ bool frmRoster::ScratchSelected()
 void frmRoster::cmdRelease_Click()
 {
     Reporting(" in cmdRelease!", [this] {
-        if (ReleasePerson(OpenWork(), OwnNumber(), Selected()))
+        if (ReleasePerson(OpenWork(), OwnNumber(), SelectedPerson()))
             ShowPlayer(false);
         Modified = true;
     });
@@ -105,7 +103,7 @@ void frmRoster::cmdRelease_Click()
 void frmRoster::cmdCaptain_Click()
 {
     Reporting(" in cmdCaptain!", [this] {
-        if (!MakeCaptain(OpenWork(), OwnNumber(), Selected()))
+        if (!MakeCaptain(OpenWork(), OwnNumber(), SelectedPerson()))
             return;
         ShowPlayer(false);
         Modified = true;
@@ -115,7 +113,7 @@ void frmRoster::cmdCaptain_Click()
 void frmRoster::cmdAssistant_Click()
 {
     Reporting(" in cmdAssistant!", [this] {
-        if (!MakeAssistant(OpenWork(), OwnNumber(), Selected()))
+        if (!MakeAssistant(OpenWork(), OwnNumber(), SelectedPerson()))
             return;
         ShowPlayer(false);
         Modified = true;
@@ -133,7 +131,7 @@ QListWidgetItem* frmRoster::CurrentEntry()
 void frmRoster::cmdTradeAvailable_Click()
 {
     Reporting(" in cmdTradeAvailable!", [this] {
-        const PersonId who = Selected();
+        const PersonId who = SelectedPerson();
         if (TakeBarredOffMarket(OpenWork(), who))
             cmdTradeAvailable->setEnabled(false);
         const bool isAvailable = IsTradeAvailable(OpenLeague, who);
@@ -142,7 +140,7 @@ void frmRoster::cmdTradeAvailable_Click()
             // Here the star follows whatever stands there without a blank; a list made anew sets it apart from a mark.
             const std::string name =
                 OnPerson(OpenLeague, who, [](const auto& person) { return person.Name.Trimmed(); });
-            const std::string mark = OfficeMark(Teams[OwnNumber()], who.IsGoalie, who.Slot);
+            const std::string mark = OfficeMark(Teams[OwnNumber()], who);
             current->setText(isAvailable ? ToQString(name + mark) : current->text() + "*");
         }
         SetTradeAvailable(OpenWork(), who, !isAvailable);
@@ -154,7 +152,7 @@ void frmRoster::chkProtected_Click()
     if (ListEventGuard)
         return;
     Reporting(" in chkProtected!", [this] {
-        SetProtected(OpenWork(), OwnNumber(), Selected(), chkProtected->isChecked());
+        SetProtected(OpenWork(), OwnNumber(), SelectedPerson(), chkProtected->isChecked());
         lblProtectedTotal->setText(" Total Protected Players: " + QString::number(Teams[OwnNumber()].ProtectedCount));
     });
 }
@@ -163,7 +161,7 @@ void frmRoster::chkNoApplyRerate_Click()
 {
     if (ListEventGuard)
         return;
-    SetNoApplyRerate(OpenWork(), Selected(), chkNoApplyRerate->isChecked());
+    SetNoApplyRerate(OpenWork(), SelectedPerson(), chkNoApplyRerate->isChecked());
 }
 
 void frmRoster::chkNoTrade_Click()
@@ -171,9 +169,9 @@ void frmRoster::chkNoTrade_Click()
     if (ListEventGuard)
         return;
     const bool noTrade = chkNoTrade->isChecked();
-    if (noTrade && IsTradeAvailable(OpenLeague, Selected()))
+    if (noTrade && IsTradeAvailable(OpenLeague, SelectedPerson()))
         cmdTradeAvailable_Click();
-    SetNoTrade(OpenWork(), Selected(), noTrade);
+    SetNoTrade(OpenWork(), SelectedPerson(), noTrade);
     cmdTradeAvailable->setEnabled(!noTrade);
 }
 

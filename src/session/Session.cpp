@@ -25,6 +25,8 @@ namespace {
 Platform* TheMachine = nullptr;
 }
 
+PersonId SelectedPerson() { return {.IsGoalie = SelectedIsGoalie, .Slot = static_cast<int>(SelectedPlayer)}; }
+
 void ResetClientVariables()
 {
     std::memset(static_cast<void*>(&OpenLeague), 0, sizeof OpenLeague);

@@ -2,6 +2,7 @@
 
 #include "league/Field.h"
 #include "league/FileAccess.h"
+#include "league/PersonId.h"
 #include "league/Platform.h"
 #include "league/Positions.h"
 #include "league/RatingNames.h"
@@ -36,6 +37,9 @@ extern bool SelectedIsGoalie;    // and whether he is a goalie
 extern bool ListEventGuard;      // holds back list and box events while a screen fills itself
 extern Int16 RosterFixed;        // 1 after a roster judgement that changed a status
 extern Int16 ViewerReturnMode;   // tells a dependent screen who opened it
+
+// That person in one.
+PersonId SelectedPerson();
 
 // Puts all tables and variables into the state of a program that has just started: zeroed, no league, no team.
 void ResetClientVariables();

@@ -329,9 +329,8 @@ TEST_F(WholeEveningTest, WhatIsDecidedInOneEveningIsFoundAgainInTheNext)
             GoToDay(lines, day);
             EXPECT_EQ(lines.lblComplete->text(), "Lines are Complete");
             for (const BoardSlot& slot : lines.TabLine->Slots)
-                WithPerson(slot.IsGoalies(), slot.In(saved->ProLines[day]), [&](const auto& person) {
-                    EXPECT_EQ(slot.Label->text(), ToQString(person.Name.Trimmed()));
-                });
+                OnPerson(OpenLeague, slot.Whom(slot.In(saved->ProLines[day])),
+                         [&](const auto& person) { EXPECT_EQ(slot.Label->text(), ToQString(person.Name.Trimmed())); });
         }
         GoToDay(lines, 1);
         GoToPageOf(lines, lines.hscStats[0]);
