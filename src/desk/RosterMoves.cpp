@@ -50,8 +50,6 @@ bool MayMove(const Work& work, int team, PersonId who, const Person& person, int
 
 } // namespace
 
-bool DeadlineHasPassed(const League& rules) { return rules.TradeDeadlinePassed && rules.TradeDeadlineInForce; }
-
 Permission MayGoToFarm(const Work& work, long long overall)
 {
     const League& rules = work.League.LeagueData;

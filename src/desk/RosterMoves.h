@@ -29,7 +29,4 @@ bool MoveOnRoster(const Work& work, int team, PersonId who, int from, int to, Ro
 // Behind the trade deadline nothing but that is told.
 void SendToWaivers(const Work& work, int team, PersonId who, const std::function<bool()>& scratch);
 
-// Whether the trade deadline is passed and in force.
-bool DeadlineHasPassed(const League& rules);
-
 } // namespace dravik

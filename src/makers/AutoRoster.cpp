@@ -282,7 +282,7 @@ template <class Kind>
 void SendScratchesDown(RosterRun& run)
 {
     const League& rules = run.At.League.LeagueData;
-    if (run.Partial || (rules.TradeDeadlinePassed && IsDeadlineInForce(rules)))
+    if (run.Partial || DeadlineHasPassed(rules))
         return;
     for (int place = 1; place <= RankingCount(run); ++place) {
         const int id = static_cast<int>(run.Ids[place]);

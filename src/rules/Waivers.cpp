@@ -20,6 +20,8 @@ bool NeedsWaivers(const Tables& league, Voice& says, const Person& person, int p
 
 bool IsDeadlineInForce(const League& rules) { return static_cast<bool>(rules.TradeDeadlineInForce); }
 
+bool DeadlineHasPassed(const League& rules) { return rules.TradeDeadlinePassed && IsDeadlineInForce(rules); }
+
 bool WaiverCheck(const Tables& league, Voice& says, int id)
 {
     bool needed = false;

@@ -5,8 +5,9 @@
 
 namespace dravik {
 
-// Whether the trade deadline is in force.
+// Whether the trade deadline is in force, and whether it is passed besides.
 bool IsDeadlineInForce(const League& rules);
+bool DeadlineHasPassed(const League& rules);
 
 // True when sending the person down needs waivers. `id` is a `Player` index, or a `Goalie` index + 10000; one without a
 // record fails with 9, which is told.

@@ -2,6 +2,7 @@
 
 #include "league/Platform.h"
 #include "rules/People.h"
+#include "rules/Waivers.h"
 #include "screens/EventGuard.h"
 #include "screens/PersonWords.h"
 #include "screens/platform/CodePage.h"
@@ -219,7 +220,7 @@ void frmRoster::lstPlayer_Click(int index)
                 command->setEnabled(true);
             if (LeagueData.WaiverAllowed)
                 cmdSendToWaiver->setEnabled(true);
-            if (LeagueData.TradeDeadlinePassed && LeagueData.TradeDeadlineInForce)
+            if (DeadlineHasPassed(LeagueData))
                 cmdSendToWaiver->setEnabled(false);
             for (QCheckBox* flag : {chkProtected, chkNoApplyRerate, chkNoTrade})
                 flag->setEnabled(true);

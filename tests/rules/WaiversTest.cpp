@@ -140,6 +140,17 @@ TEST_F(WaiversTest, RandomPeopleAgreeWithTheFivePlainConditionsAndNothingChanges
     EXPECT_THAT(Machine.Boxes(), ElementsAre());
 }
 
+TEST_F(WaiversTest, TheDeadlineHasPassedForGoodWhereItIsPassedAndInForce)
+{
+    for (const int passed : {0, -1, 1}) {
+        for (const int inForce : {0, -1, 1}) {
+            LeagueData.TradeDeadlinePassed.SetWord(passed);
+            LeagueData.TradeDeadlineInForce.SetWord(inForce);
+            EXPECT_EQ(DeadlineHasPassed(LeagueData), passed == -1 && inForce == -1) << passed << ' ' << inForce;
+        }
+    }
+}
+
 TEST_F(WaiversTest, ADeadlineThatHasPassedAndIsNotInForceStillNeedsWaivers)
 {
     LeagueData.TradeDeadlinePassed = true;
