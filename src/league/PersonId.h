@@ -3,6 +3,8 @@
 #include "league/Positions.h"
 #include "league/Tables.h"
 
+#include <type_traits>
+
 namespace dravik {
 
 // Who somebody is: his kind, and his slot in the table of his kind. That a goalie is stored and told as his slot + 10000
@@ -11,9 +13,26 @@ struct PersonId {
     bool IsGoalie = false;
     int Slot = 0;
 
-    [[nodiscard]] int CommonId() const { return IsGoalie ? Slot + GoalieOffset : Slot; }
+    [[nodiscard]] constexpr int CommonId() const { return IsGoalie ? Slot + GoalieOffset : Slot; }
+    // Whether the table of his kind has that slot.
+    [[nodiscard]] constexpr bool HasSlot() const { return IsGoalie ? GoalieTable::Has(Slot) : PlayerTable::Has(Slot); }
     bool operator==(const PersonId&) const = default;
 };
+
+// Whom a common number means: up to 10000 the skater in that slot, above it the goalie in the slot 10000 below. Any number
+// means somebody; whether there is such a slot is asked by whoever looks into it.
+constexpr PersonId PersonOf(int commonId)
+{
+    const bool isGoalie = commonId > GoalieOffset;
+    return {.IsGoalie = isGoalie, .Slot = isGoalie ? commonId - GoalieOffset : commonId};
+}
+
+// Who stands in a slot of the table of `Person`, a `Player` or a `Goalie`.
+template <class Person>
+constexpr PersonId PersonIn(int slot)
+{
+    return {.IsGoalie = std::is_same_v<std::remove_cv_t<Person>, Goalie>, .Slot = slot};
+}
 
 // What `visit(person)` makes of the record of a person. A slot outside his table fails with 9.
 template <class League, class Visit>
