@@ -2,6 +2,7 @@
 
 #include "league/Arithmetic.h"
 #include "league/Message.h"
+#include "league/PersonId.h"
 #include "league/Positions.h"
 #include "league/Reporting.h"
 #include "rules/Overall.h"
@@ -40,9 +41,6 @@ public:
 private:
     Row<long long, 1, 5> count;
 };
-
-PersonId IdOf(const Player& /*player*/, int index) { return {.IsGoalie = false, .Slot = index}; }
-PersonId IdOf(const Goalie& /*goalie*/, int index) { return {.IsGoalie = true, .Slot = index}; }
 
 int PositionOf(const Player& player) { return static_cast<int>(player.Position); }
 int PositionOf(const Goalie& /*goalie*/) { return position::Goalie; }
@@ -115,18 +113,18 @@ private:
             pro.Add(work.Says, person);
             return;
         }
-        Find(RosterFault::UnfitOnPro, person, index);
+        Find(RosterFault::UnfitOnPro, PersonIn<Person>(index));
         person.Status = status::Scratch;
-        TakeOffLines(person, index);
+        TakeOffLines(PersonIn<Person>(index));
     }
 
     template <class Person>
     void ExamineFarm(Person& person, int index)
     {
         const auto refuse = [&](RosterFault fault) {
-            Find(fault, person, index);
+            Find(fault, PersonIn<Person>(index));
             LeaveFarm(person);
-            TakeOffLines(person, index);
+            TakeOffLines(PersonIn<Person>(index));
         };
         if (CalculateOverall(work.League, work.Says, PositionOf(person), index) > rules.FarmMaxOverall)
             refuse(RosterFault::TooGoodForFarm);
@@ -137,20 +135,14 @@ private:
             farm.Add(work.Says, person);
     }
 
-    template <class Person>
-    void TakeOffLines(const Person& person, int index)
+    void TakeOffLines(PersonId who)
     {
-        const PersonId who = IdOf(person, index);
         ChangeOf(work.League, who).Status = status::Scratch;
         WipePlayerFromTeamLines(work.League, work.Says, team, who.CommonId());
         verdict.Repaired = true;
     }
 
-    template <class Person>
-    void Find(RosterFault fault, const Person& person, int index)
-    {
-        verdict.Findings.push_back({.Fault = fault, .Person = IdOf(person, index)});
-    }
+    void Find(RosterFault fault, PersonId who) { verdict.Findings.push_back({.Fault = fault, .Person = who}); }
 
     void AtLeast(long long least, long long count, RosterFault fault)
     {
