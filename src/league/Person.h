@@ -1,6 +1,7 @@
 #pragma once
 
 #include "league/Field.h"
+#include "league/Positions.h"
 
 namespace dravik {
 
@@ -113,6 +114,10 @@ static_assert(offsetof(Goalie, Suspension) == 112);
 static_assert(offsetof(Goalie, Status) == 113);
 static_assert(offsetof(Goalie, Stats) == 114);
 static_assert(offsetof(Goalie, ProGames) == 140);
+
+// The number of a person's position: what stands in the record of a skater, 5 for a goalie.
+constexpr int PositionOf(const Player& player) { return static_cast<int>(player.Position); }
+constexpr int PositionOf(const Goalie& /*goalie*/) { return position::Goalie; }
 
 // A coach.
 struct Coach {

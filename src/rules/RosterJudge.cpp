@@ -42,9 +42,6 @@ private:
     Row<long long, 1, 5> count;
 };
 
-int PositionOf(const Player& player) { return static_cast<int>(player.Position); }
-int PositionOf(const Goalie& /*goalie*/) { return position::Goalie; }
-
 // Where the farm's rule differs: a skater over a limit keeps his status on the farm, and is told again by every
 // judgement; a goalie is moved.
 void LeaveFarm(Player& /*player*/) {}

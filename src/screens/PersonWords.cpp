@@ -11,7 +11,7 @@ namespace dravik {
 namespace {
 
 // The digit of a person's position; 0 without one, or outside the tables.
-int PositionOf(bool isGoalie, long long index)
+int ShownPosition(bool isGoalie, long long index)
 {
     if (isGoalie)
         return GoalieTable::Has(index) ? position::Goalie : 0;
@@ -33,7 +33,7 @@ QStringList AsideOf(int position, int index)
 
 QString OverallOf(bool isGoalie, long long index)
 {
-    const int digit = PositionOf(isGoalie, index);
+    const int digit = ShownPosition(isGoalie, index);
     if (digit == 0 || !LeagueData.ShowOverall)
         return {};
     return QString::number(CalculateOverall(digit, static_cast<int>(index)));
@@ -42,7 +42,7 @@ QString OverallOf(bool isGoalie, long long index)
 QString DescriptionOf(bool isGoalie, long long index, const QString& standsIn, const QStringList& findings)
 {
     QStringList lines;
-    const int digit = PositionOf(isGoalie, index);
+    const int digit = ShownPosition(isGoalie, index);
     if (digit != 0) {
         OnPerson(OpenLeague, {.IsGoalie = isGoalie, .Slot = static_cast<int>(index)}, [&](const auto& person) {
             lines << ToQString(person.Name.Trimmed()) << "Position: " + ToQString(PositionName[digit]);

@@ -25,9 +25,6 @@ int OwnNumber() { return static_cast<int>(CurrentTeam); }
 template <class Person>
 constexpr bool IsGoalie = std::is_same_v<std::remove_cv_t<Person>, Goalie>;
 
-int PositionOf(const Player& player) { return static_cast<int>(player.Position); }
-int PositionOf(const Goalie& /*goalie*/) { return position::Goalie; }
-
 // Whoever is too good or too dear for the farm becomes a scratch here and now. The list of changes does not hear of it.
 template <class Person>
 void KeepOffFarm(Person& person, int index)
