@@ -3,7 +3,7 @@
 #include "league/Message.h"
 #include "league/OldFile.h"
 #include "league/OutsideCode.h"
-#include "league/Positions.h"
+#include "league/PersonId.h"
 #include "league/SlotFile.h"
 
 #include <utility>
@@ -32,16 +32,12 @@ void EachSaved(const League& rules, Offers& offers, Visit&& visit)
     }
 }
 
-// What `visit` makes of the record of the person whom an offer is for.
-template <class Visit>
-auto OnPerson(const Tables& league, const FreeAgentOffer& offer, Visit&& visit)
-{
-    return offer.Id > GoalieOffset ? visit(league.Goalies[offer.Id - GoalieOffset]) : visit(league.Players[offer.Id]);
-}
+// Whom an offer is for.
+PersonId PersonOf(const FreeAgentOffer& offer) { return dravik::PersonOf(static_cast<int>(offer.Id)); }
 
 bool IsToOthers(const Tables& league, const FreeAgentOffer& offer, int team)
 {
-    return OnPerson(league, offer, [team](const auto& person) { return person.Team != team; });
+    return OnPerson(league, PersonOf(offer), [team](const auto& person) { return person.Team != team; });
 }
 
 std::string Money(const Formats& shown, long long amount)
@@ -51,7 +47,8 @@ std::string Money(const Formats& shown, long long amount)
 
 std::string ReportLine(const Tables& league, const Formats& shown, const FreeAgentOffer& offer)
 {
-    const std::string name = OnPerson(league, offer, [](const auto& person) { return person.Name.Trimmed(); });
+    const std::string name =
+        OnPerson(league, PersonOf(offer), [](const auto& person) { return person.Name.Trimmed(); });
     return name + " was offer " + Money(shown, offer.Salary) + " for " + std::to_string(offer.Duration) +
            " year(s) with " + Money(shown, offer.Bonus) + " in bonus." + std::string(LineBreak);
 }

@@ -32,7 +32,7 @@ void ListFarmSkaters(LinesRun& run, PositionCounts& counts)
         if (!IsFitOnFarm(player))
             return;
         ++counts[player.Position];
-        run.Insert(id);
+        run.Insert(PersonIn<Player>(id));
     };
     run.List.Empty();
     if (BelongsTo(players[0], run.Team))
@@ -100,8 +100,7 @@ void MakeLinesSimply(LinesRun& run, bool verbose, int day)
     EachOfTeam(league.Goalies, run.Team, [&run](const Goalie& goalie, int id) {
         if (!IsFitOnFarm(goalie))
             return;
-        id += GoalieOffset;
-        run.Insert(id);
+        run.Insert(PersonIn<Goalie>(id));
     });
     // Here it is the indices of the two goalies, not their conditions, that decide who starts.
     DealGoalies(run, lines, [](long long id) { return id; });
@@ -128,7 +127,7 @@ bool ListRequiredFarmSkaters(LinesRun& run, PositionCounts& counts)
     run.List.Empty();
     EachOfTeam(players, run.Team, [&run](const Player& player, int id) {
         if (IsUnderContractOnFarm(player))
-            run.Insert(id);
+            run.Insert(PersonIn<Player>(id));
     });
     Row<Int16, 1, TwinRoom> ranking;
     const int ranked = run.List.Count();
@@ -138,9 +137,9 @@ bool ListRequiredFarmSkaters(LinesRun& run, PositionCounts& counts)
 
     UsedPlaces picked(TwinRoom);
     const auto list = [&](int place) {
-        int id = static_cast<int>(ranking[place]);
+        const int id = static_cast<int>(ranking[place]);
         ++counts[players[id].Position];
-        run.Insert(id);
+        run.Insert(PersonIn<Player>(id));
     };
     const long long required[] = {rules.RequiredCenters, rules.RequiredLeftWings, rules.RequiredRightWings,
                                   rules.RequiredDefensemen};
@@ -170,8 +169,7 @@ void ListContractedFarmGoalies(LinesRun& run)
     EachOfTeam(run.At.League.Goalies, run.Team, [&run](const Goalie& goalie, int id) {
         if (!IsUnderContractOnFarm(goalie))
             return;
-        id += GoalieOffset;
-        run.Insert(id);
+        run.Insert(PersonIn<Goalie>(id));
     });
 }
 

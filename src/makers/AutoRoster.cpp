@@ -1,5 +1,6 @@
 #include "league/Arithmetic.h"
 #include "league/Message.h"
+#include "league/PersonId.h"
 #include "league/Positions.h"
 #include "league/Reporting.h"
 #include "makers/Makers.h"
@@ -30,9 +31,8 @@ struct RosterRun {
 
 // What the two kinds of people differ in.
 struct SkaterKind {
+    using Person = Player;
     static PlayerTable& People(Tables& league) { return league.Players; }
-    static PlayerChangeTable& Changes(Tables& league) { return league.RosterChanges; }
-    static constexpr int Offset = 0;
     static constexpr bool WipedGoingDown = true;
 
     static int Rating(const Work& work, int id)
@@ -45,9 +45,8 @@ struct SkaterKind {
 };
 
 struct GoalieKind {
+    using Person = Goalie;
     static GoalieTable& People(Tables& league) { return league.Goalies; }
-    static GoalieChangeTable& Changes(Tables& league) { return league.RosterChangesGoalie; }
-    static constexpr int Offset = GoalieOffset;
     static constexpr bool WipedGoingDown = false;
 
     static int Rating(const Work& work, int id)
@@ -63,16 +62,22 @@ struct GoalieKind {
 };
 
 template <class Kind>
+int CommonId(int id)
+{
+    return PersonIn<typename Kind::Person>(id).CommonId();
+}
+
+template <class Kind>
 void SetStatus(const RosterRun& run, int id, int status)
 {
     Kind::People(run.At.League)[id].Status = status;
-    Kind::Changes(run.At.League)[id].Status = status;
+    ChangeOf(run.At.League, PersonIn<typename Kind::Person>(id)).Status = status;
 }
 
 template <class Kind>
 void Wipe(const RosterRun& run, int id)
 {
-    WipePlayerFromTeamLines(run.At.League, run.At.Says, run.Team, id + Kind::Offset);
+    WipePlayerFromTeamLines(run.At.League, run.At.Says, run.Team, CommonId<Kind>(id));
 }
 
 template <class Kind>
@@ -272,7 +277,7 @@ template <class Kind>
 bool MayGoDown(const RosterRun& run, int id)
 {
     const League& rules = run.At.League.LeagueData;
-    if (Kind::Rating(run.At, id) > rules.FarmMaxOverall || WaiverCheck(run.At.League, run.At.Says, id + Kind::Offset))
+    if (Kind::Rating(run.At, id) > rules.FarmMaxOverall || WaiverCheck(run.At.League, run.At.Says, CommonId<Kind>(id)))
         return false;
     return rules.FarmMaxSalary <= 0 || Kind::People(run.At.League)[id].Salary <= rules.FarmMaxSalary;
 }

@@ -47,7 +47,7 @@ bool ListDressedSkaters(LinesRun& run, PositionCounts* counts)
             return;
         if (counts != nullptr)
             ++(*counts)[player.Position];
-        run.Insert(id);
+        run.Insert(PersonIn<Player>(id));
     });
     if (run.List.Count() >= fewest && run.List.Count() <= most)
         return true;
@@ -61,8 +61,7 @@ void ListDressedGoalies(LinesRun& run)
     EachOfTeam(run.At.League.Goalies, run.Team, [&run](const Goalie& goalie, int id) {
         if (goalie.Status != status::Pro || !IsHealthy(goalie))
             return;
-        id += GoalieOffset;
-        run.Insert(id);
+        run.Insert(PersonIn<Goalie>(id));
     });
 }
 

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "league/PersonId.h"
 #include "league/Positions.h"
 #include "makers/Lineup.h"
 #include "makers/Makers.h"
@@ -26,7 +27,11 @@ struct LinesRun {
     // The skater at a place of the list. A place behind the end is that of record 0.
     [[nodiscard]] const Player& SkaterAt(long long place) const { return At.League.Players[List.Ids[place]]; }
     // Puts a person into the list, as InsertInLineup does.
-    void Insert(int& id) { InsertInLineup(At.League, At.Says, List, id); }
+    void Insert(PersonId who)
+    {
+        int id = who.CommonId();
+        InsertInLineup(At.League, At.Says, List, id);
+    }
 };
 
 // Whether the team's roster is complete. If not, the automatic roster gets one try, in silence; what happens is told in

@@ -1,6 +1,6 @@
 #include "makers/Lineup.h"
 
-#include "league/Positions.h"
+#include "league/PersonId.h"
 #include "makers/RatingList.h"
 #include "rules/Overall.h"
 
@@ -10,13 +10,10 @@ void Lineup::Empty() { EmptyRatingList(Ids, Ratings); }
 
 void InsertInLineup(const Tables& league, Voice& says, Lineup& lineup, int& id)
 {
-    int rating = 0;
-    if (id <= GoalieOffset) {
-        rating = CalculateOverall(league, says, static_cast<int>(league.Players[id].Position), id);
-    } else {
-        id -= GoalieOffset;
-        rating = CalculateOverall(league, says, position::Goalie, id);
-    }
+    const PersonId who = PersonOf(id);
+    id = who.Slot;
+    const int position = who.IsGoalie ? position::Goalie : PositionOf(league.Players[id]);
+    const int rating = CalculateOverall(league, says, position, id);
     InsertByRating(lineup.Ids, lineup.Ratings, id, rating);
 }
 

@@ -1,6 +1,6 @@
 #include "rules/Waivers.h"
 
-#include "league/Positions.h"
+#include "league/PersonId.h"
 #include "league/Reporting.h"
 #include "rules/Overall.h"
 
@@ -9,11 +9,11 @@ namespace dravik {
 namespace {
 
 template <class Person>
-bool NeedsWaivers(const Tables& league, Voice& says, const Person& person, int position, int index)
+bool NeedsWaivers(const Tables& league, Voice& says, const Person& person, int slot)
 {
     const League& rules = league.LeagueData;
     return person.ProGames >= rules.WaiverMinGames && person.Age > rules.WaiverExemptAge &&
-           CalculateOverall(league, says, position, index) <= rules.FarmMaxOverall;
+           CalculateOverall(league, says, PositionOf(person), slot) <= rules.FarmMaxOverall;
 }
 
 } // namespace
@@ -28,13 +28,9 @@ bool WaiverCheck(const Tables& league, Voice& says, int id)
     Reporting(says, " in WaiverCheck!", [&] {
         if (!league.LeagueData.WaiverAllowed || league.LeagueData.TradeDeadlineInForce)
             return;
-        if (id > GoalieOffset) {
-            const int index = id - GoalieOffset;
-            needed = NeedsWaivers(league, says, league.Goalies[index], position::Goalie, index);
-        } else {
-            const Player& player = league.Players[id];
-            needed = NeedsWaivers(league, says, player, static_cast<int>(player.Position), id);
-        }
+        const PersonId who = PersonOf(id);
+        needed =
+            OnPerson(league, who, [&](const auto& person) { return NeedsWaivers(league, says, person, who.Slot); });
     });
     return needed;
 }
@@ -42,14 +38,12 @@ bool WaiverCheck(const Tables& league, Voice& says, int id)
 void MarkWaived(Tables& league, Voice& says, int team, int id)
 {
     constexpr int waived = 99;
-    if (!TeamTable::Has(team) || id < 1 || id > GoalieOffset + GoalieTable::last) {
+    const PersonId who = PersonOf(id);
+    if (!TeamTable::Has(team) || !who.HasSlot() || who.Slot == 0) {
         says.ShowIntegrityFailure();
         return;
     }
-    if (id <= GoalieOffset)
-        league.Players[id].Suspension = waived;
-    else
-        league.Goalies[id - GoalieOffset].Suspension = waived;
+    OnPerson(league, who, [](auto& person) { person.Suspension = waived; });
 }
 
 } // namespace dravik

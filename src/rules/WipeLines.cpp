@@ -1,6 +1,6 @@
 #include "rules/WipeLines.h"
 
-#include "league/Positions.h"
+#include "league/PersonId.h"
 #include "league/Reporting.h"
 #include "rules/LineSlots.h"
 
@@ -32,17 +32,17 @@ bool HasWord(const Lines& lines, std::int16_t number)
     return std::find(words.begin(), words.end(), wanted) != words.end();
 }
 
-void TakeOut(Lines& lines, int id)
+void TakeOut(Lines& lines, PersonId who)
 {
-    if (id > GoalieOffset) {
-        EmptyIfHolding(lines.StartGoalie, id - GoalieOffset);
-        EmptyIfHolding(lines.BackupGoalie, id - GoalieOffset);
+    if (who.IsGoalie) {
+        EmptyIfHolding(lines.StartGoalie, who.Slot);
+        EmptyIfHolding(lines.BackupGoalie, who.Slot);
         return;
     }
-    if (!std::in_range<std::int16_t>(id) || !HasWord(lines, static_cast<std::int16_t>(id)))
+    if (!std::in_range<std::int16_t>(who.Slot) || !HasWord(lines, static_cast<std::int16_t>(who.Slot)))
         return;
     for (const LineSlot& slot : SkaterSlots)
-        EmptyIfHolding(At(lines, slot), id);
+        EmptyIfHolding(At(lines, slot), who.Slot);
 }
 
 } // namespace
@@ -71,16 +71,17 @@ void WipePlayerFromTeamLines(Tables& league, Voice& says, int team, int id)
             says.ShowIntegrityFailure();
             return;
         }
+        const PersonId who = PersonOf(id);
         for (int day = 1; day <= LineDays; ++day) {
-            TakeOut(LinesOf(league, team, day, Side::Pro), id);
-            TakeOut(LinesOf(league, team, day, Side::Farm), id);
+            TakeOut(LinesOf(league, team, day, Side::Pro), who);
+            TakeOut(LinesOf(league, team, day, Side::Farm), who);
         }
-        if (id > GoalieOffset)
+        if (who.IsGoalie)
             return;
         Team& record = league.Teams[team];
-        EmptyIfHolding(record.Captain, id);
+        EmptyIfHolding(record.Captain, who.Slot);
         for (Int16& assistant : record.Assistant)
-            EmptyIfHolding(assistant, id);
+            EmptyIfHolding(assistant, who.Slot);
     });
 }
 
