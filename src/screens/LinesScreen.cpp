@@ -130,8 +130,7 @@ void LinesScreen::lstPlayer_Click()
             return;
         const int number = chosen->data(entry::NumberRole).toInt();
         SelectedPosition = EntryPosition(number);
-        SelectedPlayer = EntryId(number);
-        SelectedIsGoalie = SelectedPosition == position::Goalie;
+        SelectPerson(EntryPerson(number));
         lblPlaying->clear();
         ShowPicked();
     });

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "league/Field.h"
+#include "league/PersonId.h"
 #include "league/ScheduleRow.h"
 #include "rules/LineVerdict.h"
 #include "screens/LineBoard.h"
@@ -155,7 +156,7 @@ private:
     [[nodiscard]] QStringList FindingsOn(const BoardSlot& slot) const;
     void RefreshAverage(const BoardHeading& heading);
     [[nodiscard]] bool IsRefused(const BoardSlot& slot, long long id) const;
-    [[nodiscard]] QString SlotsOf(bool isGoalie, long long id) const;
+    [[nodiscard]] QString SlotsOf(PersonId who) const;
     void TellOfSlot(const BoardSlot& slot);
     void TellOfEntry(const QPoint& point);
     void ShowPull();

@@ -10,12 +10,6 @@
 // The slots and headings of the board: who stands there, what a press does, and what they tell.
 namespace dravik {
 
-namespace {
-
-bool Has(bool isGoalie, long long id) { return isGoalie ? GoalieTable::Has(id) : PlayerTable::Has(id); }
-
-} // namespace
-
 bool LinesScreen::TakesPicked(Takes rule) const
 {
     switch (rule) {
@@ -88,7 +82,7 @@ void LinesScreen::RefreshMark(const BoardSlot& slot, long long id)
                         : id == 0           ? SlotLabel::Mark::Empty
                         : IsUsedTwice(slot) ? SlotLabel::Mark::Twice
                                             : SlotLabel::Mark::Filled);
-    slot.Label->SetAside(id == 0 ? QString() : OverallOf(slot.IsGoalies(), id));
+    slot.Label->SetAside(id == 0 ? QString() : OverallOf(slot.Whom(id)));
     slot.Label->SetPicked(id != 0 && id == SelectedPlayer && slot.IsGoalies() == SelectedIsGoalie);
 }
 
@@ -117,7 +111,7 @@ bool LinesScreen::IsRefused(const BoardSlot& slot, long long id) const
 {
     if (id == 0 || (Kind.Side == Side::Farm && !LeagueData.FarmEnabled))
         return false;
-    if (!Has(slot.IsGoalies(), id))
+    if (!slot.Whom(id).HasSlot())
         return true;
     bool isRefused = false;
     OnPerson(OpenLeague, slot.Whom(id), [&](const auto& person) {
@@ -132,8 +126,10 @@ void LinesScreen::RefreshAverage(const BoardHeading& heading)
     QString words;
     const Lines& lines = ShownLines();
     bool isWhole = static_cast<bool>(LeagueData.ShowOverall);
-    for (const GroupMember& member : heading.Group->Members)
-        isWhole = isWhole && !OverallOf(false, At(lines, SlotOf(member.Field, heading.Number, member.Place))).isEmpty();
+    for (const GroupMember& member : heading.Group->Members) {
+        const long long skater = At(lines, SlotOf(member.Field, heading.Number, member.Place));
+        isWhole = isWhole && !OverallOf(PersonIn<Player>(static_cast<int>(skater))).isEmpty();
+    }
     if (isWhole)
         words = "average " + QString::number(AveragesOf(lines, *heading.Group, heading.Number).Overall);
     if (heading.Average->text() != words)
@@ -156,19 +152,19 @@ void LinesScreen::Heading_Click(int index)
     });
 }
 
-QString LinesScreen::SlotsOf(bool isGoalie, long long id) const
+QString LinesScreen::SlotsOf(PersonId who) const
 {
-    if (isGoalie)
+    if (who.IsGoalie)
         return {};
-    return ToQString(Kind.PlayOnLineString(static_cast<int>(CurrentTeam), static_cast<int>(id), static_cast<int>(Day)));
+    return ToQString(Kind.PlayOnLineString(static_cast<int>(CurrentTeam), who.Slot, static_cast<int>(Day)));
 }
 
 void LinesScreen::TellOfSlot(const BoardSlot& slot)
 {
     const long long standing = slot.In(ShownLines());
     const long long id = standing != 0 ? standing : slot.Shown;
-    slot.Label->setToolTip(
-        id == 0 ? QString() : DescriptionOf(slot.IsGoalies(), id, SlotsOf(slot.IsGoalies(), id), FindingsOn(slot)));
+    const PersonId who = slot.Whom(id);
+    slot.Label->setToolTip(id == 0 ? QString() : DescriptionOf(who, SlotsOf(who), FindingsOn(slot)));
 }
 
 void LinesScreen::TellOfEntry(const QPoint& point)
@@ -176,9 +172,8 @@ void LinesScreen::TellOfEntry(const QPoint& point)
     QListWidgetItem* pointed = lstPlayer->itemAt(point);
     if (pointed == nullptr)
         return;
-    const int number = pointed->data(entry::NumberRole).toInt();
-    const bool isGoalie = EntryPosition(number) == position::Goalie;
-    const QString words = DescriptionOf(isGoalie, EntryId(number), SlotsOf(isGoalie, EntryId(number)));
+    const PersonId who = EntryPerson(pointed->data(entry::NumberRole).toInt());
+    const QString words = DescriptionOf(who, SlotsOf(who));
     if (!words.isEmpty())
         pointed->setToolTip(words);
 }

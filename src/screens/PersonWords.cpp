@@ -11,13 +11,13 @@ namespace dravik {
 namespace {
 
 // The digit of a person's position; 0 without one, or outside the tables.
-int ShownPosition(bool isGoalie, long long index)
+int ShownPosition(PersonId who)
 {
-    if (isGoalie)
-        return GoalieTable::Has(index) ? position::Goalie : 0;
-    if (!PlayerTable::Has(index))
+    if (!who.HasSlot())
         return 0;
-    const auto digit = static_cast<int>(Players[index].Position);
+    if (who.IsGoalie)
+        return position::Goalie;
+    const int digit = PositionOf(Players[who.Slot]);
     return digit <= position::Defense ? digit : 0;
 }
 
@@ -31,23 +31,23 @@ QStringList AsideOf(int position, int index)
     return aside;
 }
 
-QString OverallOf(bool isGoalie, long long index)
+QString OverallOf(PersonId who)
 {
-    const int digit = ShownPosition(isGoalie, index);
+    const int digit = ShownPosition(who);
     if (digit == 0 || !LeagueData.ShowOverall)
         return {};
-    return QString::number(CalculateOverall(digit, static_cast<int>(index)));
+    return QString::number(CalculateOverall(digit, who.Slot));
 }
 
-QString DescriptionOf(bool isGoalie, long long index, const QString& standsIn, const QStringList& findings)
+QString DescriptionOf(PersonId who, const QString& standsIn, const QStringList& findings)
 {
     QStringList lines;
-    const int digit = ShownPosition(isGoalie, index);
+    const int digit = ShownPosition(who);
     if (digit != 0) {
-        OnPerson(OpenLeague, {.IsGoalie = isGoalie, .Slot = static_cast<int>(index)}, [&](const auto& person) {
+        OnPerson(OpenLeague, who, [&](const auto& person) {
             lines << ToQString(person.Name.Trimmed()) << "Position: " + ToQString(PositionName[digit]);
             if (LeagueData.ShowOverall)
-                lines << "Overall: " + OverallOf(isGoalie, index);
+                lines << "Overall: " + OverallOf(who);
             lines << "Condition: " + QString::number(person.Condition);
         });
         if (!standsIn.isEmpty())

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "league/PersonId.h"
+
 #include <QString>
 #include <QStringList>
 
@@ -12,11 +14,11 @@ QStringList AsideOf(int position, int index);
 
 // The overall of a skater or goalie in a league that shows it; nothing for a skater without a position or somebody outside
 // the tables. No box is shown.
-QString OverallOf(bool isGoalie, long long index);
+QString OverallOf(PersonId who);
 
 // The tooltip of a person: name, position, overall where the league shows it, condition, and behind those the slots that
 // he `standsIn`, if any, and what the judge said. Somebody without a position, or outside the tables, has the judge's words
 // alone. Shown as written, whatever characters a name holds.
-QString DescriptionOf(bool isGoalie, long long index, const QString& standsIn, const QStringList& findings = {});
+QString DescriptionOf(PersonId who, const QString& standsIn, const QStringList& findings = {});
 
 } // namespace dravik

@@ -15,6 +15,10 @@ inline int EntryNumber(long long id, long long position)
 }
 inline int EntryId(int number) { return number / 10; }
 inline int EntryPosition(int number) { return number < 0 ? -(number % 10) : number % 10; }
+inline PersonId EntryPerson(int number)
+{
+    return {.IsGoalie = EntryPosition(number) == position::Goalie, .Slot = EntryId(number)};
+}
 
 // The mark of a captain or an assistant behind his name. A goalie never carries one.
 inline std::string OfficeMark(const Team& team, PersonId who)

@@ -25,11 +25,10 @@ std::string NameAndPosition(const std::string& name, long long position)
 // How the ranking names somebody.
 std::string RankedName(long long id)
 {
-    if (id <= GoalieOffset)
-        return NameAndPosition(Players[id].Name.Trimmed(), Players[id].Position);
-    if (id <= ProspectOffset)
-        return NameAndPosition(Goalies[id - GoalieOffset].Name.Trimmed(), position::Goalie);
-    return Prospects[id - ProspectOffset].Name.Trimmed();
+    if (id > ProspectOffset)
+        return Prospects[id - ProspectOffset].Name.Trimmed();
+    return OnPerson(OpenLeague, PersonOf(static_cast<int>(id)),
+                    [](const auto& person) { return NameAndPosition(person.Name.Trimmed(), PositionOf(person)); });
 }
 
 // What is drawn beside a free agent.
@@ -87,7 +86,8 @@ void frmDraft::ListFreeAgents()
         const Goalie& keeper = Goalies[slot];
         if (keeper.InUse && keeper.Team == 0 && chkPosition[position::Goalie]->isChecked())
             lstPlayers->Add(ToQString(NameAndPosition(keeper.Name.Trimmed(), position::Goalie)),
-                            static_cast<int>(keeper.Number + GoalieOffset), AsideOf(position::Goalie, slot));
+                            PersonIn<Goalie>(static_cast<int>(keeper.Number)).CommonId(),
+                            AsideOf(position::Goalie, slot));
     }
 }
 
@@ -210,8 +210,7 @@ void frmDraft::cmdSearch_Click()
 
 void frmDraft::OpenViewer(int id)
 {
-    SelectedIsGoalie = id > GoalieOffset;
-    SelectedPlayer = SelectedIsGoalie ? id - GoalieOffset : id;
+    SelectPerson(PersonOf(id));
     ViewerReturnMode = 4;
     Open("EditPlayer");
 }

@@ -49,8 +49,11 @@ std::string EntryText(const Player& player)
 }
 std::string EntryText(const Goalie& keeper) { return keeper.Name.Trimmed() + " (G)" + (IsYoung(keeper) ? "*" : ""); }
 
-int EntryId(const Player& player) { return static_cast<int>(player.Number); }
-int EntryId(const Goalie& keeper) { return static_cast<int>(keeper.Number) + GoalieOffset; }
+template <class Person>
+int EntryId(const Person& person)
+{
+    return PersonIn<Person>(static_cast<int>(person.Number)).CommonId();
+}
 
 StatRows RowsOf(const Player& /*player*/, int index) { return SkaterStatRows(index); }
 StatRows RowsOf(const Goalie& /*keeper*/, int index) { return GoalieStatRows(index); }
@@ -84,7 +87,7 @@ private:
         if (OfferTable::Has(id) && offers[id].Id != 0 && IsOffer(offers[id]))
             words << ToQString(Money(offers[id].Salary) + " x " + std::to_string(offers[id].Duration));
         if (LeagueData.ShowOverall)
-            words << OverallOf(id > GoalieOffset, id > GoalieOffset ? id - GoalieOffset : id);
+            words << OverallOf(PersonOf(id));
         return words;
     }
     int id;
@@ -197,15 +200,12 @@ void frmFreeAgentClient::lstPlayers_Click()
         if (current == nullptr)
             return;
         OfferIndex = current->data(entry::NumberRole).toInt();
+        const PersonId who = PersonOf(static_cast<int>(OfferIndex));
         // The last slot of the goalies can be listed and not be shown.
-        constexpr int lastShown = GoalieOffset + static_cast<int>(GoalieTable::last) - 1;
-        const int id = static_cast<int>(OfferIndex);
-        if (id > lastShown)
+        if (who.IsGoalie && who.Slot >= GoalieTable::last)
             Tell(ShowIntegrityFailure);
-        else if (id > GoalieOffset)
-            ShowPerson(Goalies[id - GoalieOffset], id - GoalieOffset);
         else
-            ShowPerson(Players[id], id);
+            OnPerson(OpenLeague, who, [&](const auto& person) { ShowPerson(person, who.Slot); });
     });
 }
 
@@ -255,9 +255,7 @@ void frmFreeAgentClient::lstPlayers_DblClick()
         const QListWidgetItem* current = lstPlayers->currentItem();
         if (current == nullptr)
             return;
-        const int id = current->data(entry::NumberRole).toInt();
-        SelectedIsGoalie = id > GoalieOffset;
-        SelectedPlayer = SelectedIsGoalie ? id - GoalieOffset : id;
+        SelectPerson(PersonOf(current->data(entry::NumberRole).toInt()));
         constexpr int fromOffers = 3;
         ViewerReturnMode = fromOffers;
         Open("EditPlayer");

@@ -193,8 +193,7 @@ void frmRoster::lstPlayer_Click(int index)
         const QListWidgetItem* current = list->currentItem();
         if (current != nullptr) {
             const int number = current->data(entry::NumberRole).toInt();
-            SelectedPlayer = EntryId(number);
-            SelectedIsGoalie = EntryPosition(number) == position::Goalie;
+            SelectPerson(EntryPerson(number));
         }
         HidePlayerDetails();
         int chosen = 0;
@@ -315,8 +314,7 @@ void frmRoster::lstPlayer_DblClick(int index)
         if (current == nullptr)
             return;
         const int number = current->data(entry::NumberRole).toInt();
-        SelectedPlayer = EntryId(number);
-        SelectedIsGoalie = EntryPosition(number) == position::Goalie;
+        SelectPerson(EntryPerson(number));
         constexpr int fromRoster = 2;
         ViewerReturnMode = fromRoster;
         Open("EditPlayer");

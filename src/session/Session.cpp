@@ -27,6 +27,12 @@ Platform* TheMachine = nullptr;
 
 PersonId SelectedPerson() { return {.IsGoalie = SelectedIsGoalie, .Slot = static_cast<int>(SelectedPlayer)}; }
 
+void SelectPerson(PersonId who)
+{
+    SelectedIsGoalie = who.IsGoalie;
+    SelectedPlayer = who.Slot;
+}
+
 void ResetClientVariables()
 {
     std::memset(static_cast<void*>(&OpenLeague), 0, sizeof OpenLeague);

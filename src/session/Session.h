@@ -38,8 +38,9 @@ extern bool ListEventGuard;      // holds back list and box events while a scree
 extern Int16 RosterFixed;        // 1 after a roster judgement that changed a status
 extern Int16 ViewerReturnMode;   // tells a dependent screen who opened it
 
-// That person in one.
+// That person in one, and the choice of another one. A slot beyond 16 bits fails with 6.
 PersonId SelectedPerson();
+void SelectPerson(PersonId who);
 
 // Puts all tables and variables into the state of a program that has just started: zeroed, no league, no team.
 void ResetClientVariables();
