@@ -91,7 +91,7 @@ void FillLeague()
 // Written slot by slot, so that writing it leaves no trace in the peak of the memory.
 void WriteClientFile(const std::string& path)
 {
-    WriteSlotFile(path, SlotFileLength(16903, MagicLength(EndMagic)), [](SlotWriter& slots) {
+    WriteSlotFile(SlotFilesOf(OpenFiles()), path, SlotFileLength(16903, MagicLength(EndMagic)), [](SlotWriter& slots) {
         const auto all = [&](const auto& table) {
             for (long long i = 1; i <= std::remove_cvref_t<decltype(table)>::last; ++i)
                 slots.Write(table[i]);

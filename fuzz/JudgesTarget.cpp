@@ -32,13 +32,13 @@ constexpr Routine Routines[] = {
     [](const Call& call) { CheckSalaryCap(call.Team, call.First); },
     [](const Call& call) { CheckLine(call.Team, call.First, call.Day, call.Second); },
     [](const Call& call) { CheckLineFarm(call.Team, call.First, call.Day, call.Second); },
-    [](const Call& call) { CheckLineEmpty(call.Team, call.Day); },
-    [](const Call& call) { WaiverCheck(call.Id); },
+    [](const Call& call) { CheckLineEmpty(OpenLeague, Machine(), call.Team, call.Day); },
+    [](const Call& call) { WaiverCheck(OpenLeague, Machine(), call.Id); },
     [](const Call& call) {
-        RequireMoney(ProPayroll(call.Team));
-        RequireMoney(FarmPayroll(call.Team));
-        RequireMoney(CoachPayroll(call.Team));
-        ExpensePerGame(call.Team);
+        RequireMoney(ProPayroll(OpenLeague, Machine(), call.Team));
+        RequireMoney(FarmPayroll(OpenLeague, Machine(), call.Team));
+        RequireMoney(CoachPayroll(OpenLeague, Machine(), call.Team));
+        ExpensePerGame(OpenLeague, Machine(), call.Team);
     },
     [](const Call& call) { RequireOverall(CalculateOverall(call.Day, call.Id)); },
     [](const Call& call) { WipesLines(call.Team, call.Day, call.First); },

@@ -47,8 +47,6 @@ bool CheckSalaryCap(int team, bool showMessage)
 
 const std::string& LastCapText() { return CapText; }
 
-void ForgetCapText() { CapText.clear(); }
-
 LineVerdict VerdictOnLine(int team, bool showMessage, int day, bool log)
 {
     return Kept(CheckLine(OpenWork(), team, showMessage, day, log));

@@ -30,12 +30,10 @@ namespace dravik {
 
 // Boxes and news.
 inline int ShowBox(std::string_view text, int kind) { return Machine().ShowBox(text, kind); }
-inline bool MayReport(bool requested) { return Machine().MayReport(requested); }
 inline void ShowIntegrityFailure() { Machine().ShowIntegrityFailure(); }
 inline std::string AskText(std::string_view prompt) { return Machine().AskText(prompt); }
 inline void LeagueNews(std::string_view text) { Machine().LeagueNews(text); }
 inline void TeamNews(int team, std::string_view text) { Machine().TeamNews(team, text); }
-inline void WriteLog(std::string_view text) { Machine().WriteLog(text); }
 inline void PlayerErased(int id, int team) { Machine().PlayerErased(id, team); }
 
 inline void ReportFailure(int number, std::string_view ending) { ReportFailure(Machine(), number, ending); }
@@ -61,21 +59,6 @@ bool ReportingUnlessCancelled(std::string_view ending, Body&& body)
 
 // The machine.
 inline bool FileExist(const std::string& path) { return FileExist(Machine(), path); }
-inline std::string ExistingPath(const std::string& path) { return ExistingPath(Machine(), path); }
-inline void DeleteIfExists(const std::string& path) { DeleteIfExists(Machine(), path); }
-inline bool ZlibCompress(const std::string& source, const std::string& target)
-{
-    return ZlibCompress(Machine(), Machine(), source, target);
-}
-inline bool ZlibDecompress(const std::string& source, const std::string& target)
-{
-    return ZlibDecompress(Machine(), Machine(), source, target);
-}
-inline std::string TeamFilePath(std::string_view teamName, std::string_view extension)
-{
-    return TeamFilePath(Machine(), teamName, extension);
-}
-inline bool SkipZIPClient() { return SkipZIPClient(Machine()); }
 inline std::string DigestStrToHexStr(std::string_view text) { return DigestStrToHexStr(Machine(), text); }
 inline int OpenLocation(const std::string& location, int showMode)
 {
@@ -90,17 +73,6 @@ inline bool CheckInput(std::string_view text, InputMode mode, bool required, boo
 inline bool CheckPassword(int team) { return CheckPassword(OpenLeague, Machine(), team); }
 
 // The files.
-inline SlotFileRead ReadSlotFile(
-    const std::string& path, const std::function<void(SlotReader&)>& read, std::size_t slot = SlotLength,
-    const std::function<void()>& takeBack = [] {})
-{
-    return ReadSlotFile(SlotFilesOf(OpenFiles()), path, read, slot, takeBack);
-}
-inline bool WriteSlotFile(const std::string& target, std::int64_t length, const std::function<void(SlotWriter&)>& write,
-                          std::size_t slot = SlotLength, const std::string& work = {})
-{
-    return WriteSlotFile(SlotFilesOf(OpenFiles()), target, length, write, slot, work);
-}
 inline std::string LinesFilePath(int team) { return LinesFilePath(OpenLeague, Machine(), team); }
 inline bool WriteLinesFile(int team, const std::string& target)
 {
@@ -126,17 +98,9 @@ inline void ExportRatings(const std::string& folder) { ExportRatings(OpenLeague,
 
 // The tables.
 inline void MarkRosterChangesUntouched() { MarkRosterChangesUntouched(OpenLeague); }
-inline void EmptyLeagueTables() { EmptyLeagueTables(OpenLeague); }
 
 // The rules.
-inline bool IsDeadlineInForce() { return IsDeadlineInForce(LeagueData); }
-inline void MarkWaived(int team, int id) { MarkWaived(OpenLeague, Machine(), team, id); }
-inline bool WaiverCheck(int id) { return WaiverCheck(OpenLeague, Machine(), id); }
 inline int CalculateOverall(int position, int id) { return CalculateOverall(OpenLeague, Machine(), position, id); }
-inline float ProPayroll(int team) { return ProPayroll(OpenLeague, Machine(), team); }
-inline float FarmPayroll(int team) { return FarmPayroll(OpenLeague, Machine(), team); }
-inline float CoachPayroll(int team) { return CoachPayroll(OpenLeague, Machine(), team); }
-inline int ExpensePerGame(int team) { return ExpensePerGame(OpenLeague, Machine(), team); }
 inline CapStanding StandingAgainstCap(int team) { return StandingAgainstCap(OpenLeague, team); }
 inline void ProjectSeason(int team, SeasonFigures& season) { ProjectSeason(OpenLeague, Machine(), team, season); }
 inline Lines& LinesOf(int team, int day, Side side) { return LinesOf(OpenLeague, team, day, side); }
@@ -155,7 +119,6 @@ inline int PlayOnLineIntegerFarm(int team, int player, int day)
 }
 inline void WipesLines(int team, int day, bool pro) { WipesLines(OpenLeague, Machine(), team, day, pro); }
 inline void WipePlayerFromTeamLines(int team, int id) { WipePlayerFromTeamLines(OpenLeague, Machine(), team, id); }
-inline bool CheckLineEmpty(int team, int day) { return CheckLineEmpty(OpenLeague, Machine(), team, day); }
 inline StatRows SkaterStatRows(int index)
 {
     return SkaterStatRows(OpenLeague, Machine(), index, static_cast<int>(PlayerStatCount));
@@ -185,8 +148,6 @@ const std::string& LastRosterText();
 bool CheckSalaryCap(int team, bool showMessage);
 // Nothing, where the CheckRoster that was to judge the payroll too broke off before it.
 const std::string& LastCapText();
-// Forgets it, so that no team is shown what another one was told.
-void ForgetCapText();
 LineVerdict VerdictOnLine(int team, bool showMessage, int day, bool log);
 LineVerdict VerdictOnLineFarm(int team, bool showMessage, int day, bool log);
 bool CheckLine(int team, bool showMessage, int day, bool log);

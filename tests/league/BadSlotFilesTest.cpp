@@ -43,7 +43,7 @@ TEST_F(BadSlotFilesTest, ThousandsOfFlipsOfASmallSlotFileReadAsByHand)
         slots.Write(Teams[6]);
         slots.WriteMagic("End");
     };
-    ASSERT_TRUE(WriteSlotFile(path, SlotFileLength(5, MagicLength("End")), write));
+    ASSERT_TRUE(WriteSlotFile(SlotFilesOf(OpenFiles()), path, SlotFileLength(5, MagicLength("End")), write));
     const ByteVector wrapper = ReadWhole(path);
     std::mt19937 random(3);
     for (std::size_t round = 0; round < 4000; ++round) {
@@ -61,7 +61,7 @@ TEST_F(BadSlotFilesTest, ThousandsOfFlipsOfASmallSlotFileReadAsByHand)
         Team first;
         Player player;
         Team second;
-        const SlotFileRead read = ReadSlotFile(path, [&](SlotReader& slots) {
+        const SlotFileRead read = ReadSlotFile(SlotFilesOf(OpenFiles()), path, [&](SlotReader& slots) {
             EXPECT_EQ(slots.ReadMagic("Start"), std::memcmp(came.data(), "\5\0Start", 7) == 0);
             slots.Read(first);
             slots.Read(player);
@@ -90,7 +90,7 @@ TEST_F(BadSlotFilesTest, EveryCutOfASmallPlainSlotFileReadsAsByHand)
         slots.Write(Players[2]);
         slots.WriteMagic("End");
     };
-    ASSERT_TRUE(WriteSlotFile(path, SlotFileLength(4, MagicLength("End")), write));
+    ASSERT_TRUE(WriteSlotFile(SlotFilesOf(OpenFiles()), path, SlotFileLength(4, MagicLength("End")), write));
     const ByteVector whole = ReadWhole(path);
     ASSERT_EQ(whole.size(), 3 * SlotLength + 5);
     for (std::size_t length = whole.size();; --length) {
@@ -98,7 +98,7 @@ TEST_F(BadSlotFilesTest, EveryCutOfASmallPlainSlotFileReadsAsByHand)
         ByteVector came = Cut(whole, length);
         came.resize(whole.size());
         std::array<Player, 2> read;
-        ASSERT_EQ(SlotFileRead::Whole, ReadSlotFile(path, [&](SlotReader& slots) {
+        ASSERT_EQ(SlotFileRead::Whole, ReadSlotFile(SlotFilesOf(OpenFiles()), path, [&](SlotReader& slots) {
                       EXPECT_EQ(slots.ReadMagic("Start"), length >= 7);
                       for (std::size_t i = 0; i < read.size(); ++i)
                           EXPECT_EQ(slots.Read(read[i]), length >= (i + 1) * SlotLength + sizeof(Player)) << i;

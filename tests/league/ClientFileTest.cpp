@@ -48,7 +48,7 @@ TEST_F(ClientFileTest, WhatStandsBehindARecordInItsSlotIsIgnored)
     noisy.resize(client_file::SlotCount * client_file::Slot, 0xEE);
     Machine.Settings["SkipZIPClient"] = "YES";
     WriteSparse(Machine.InFolder("League.dvs"), noisy);
-    EmptyLeagueTables();
+    EmptyLeagueTables(OpenLeague);
     Open(Machine.InFolder("League.dvs"));
     EXPECT_THAT(Machine.Boxes(), IsEmpty());
     EXPECT_TRUE(ClientSlots() == slots);

@@ -80,7 +80,7 @@ TEST(ClientVariableTest, AVoiceThatHasJustStartedMayNotReportAndHasNoAnswer)
 TEST(ClientVariableTest, EmptyingForALoadSparesTheLeagueTheCoachesTheRosterWordsAndTheVariables)
 {
     SoilEverything();
-    EmptyLeagueTables();
+    EmptyLeagueTables(OpenLeague);
     EXPECT_TRUE(IsZero(Prospects));
     EXPECT_TRUE(IsZero(Players));
     EXPECT_TRUE(IsZero(Goalies));

@@ -85,8 +85,8 @@ TEST_P(FileFaultTest, CompressingLeavesTheTargetAsItWasOrWhole)
         const char* Ending;
         Work Do;
     } both[] = {
-        {" in Zlib Compress!", [&] { return ZlibCompress(source, target); }},
-        {" in Zlib Decompress!", [&] { return ZlibDecompress(wrapped, target); }},
+        {" in Zlib Compress!", [&] { return ZlibCompress(Machine, Machine, source, target); }},
+        {" in Zlib Decompress!", [&] { return ZlibDecompress(Machine, Machine, wrapped, target); }},
     };
     for (const auto& [ending, work] : both) {
         SetDisk(start);

@@ -40,7 +40,7 @@ TEST_F(OutsideCodeFilesTest, CompressingWritesTheLengthAndTheStreamOfCompress2)
 {
     const ByteVector bytes = Noise(300000);
     WriteWhole(Source, bytes);
-    EXPECT_TRUE(ZlibCompress(Source, Target));
+    EXPECT_TRUE(ZlibCompress(Machine, Machine, Source, Target));
     EXPECT_TRUE(ReadWhole(Target) == Wrapped(bytes));
     EXPECT_THAT(Machine.Boxes(), IsEmpty());
     EXPECT_EQ(FilesLeft(), 2U);
@@ -50,7 +50,7 @@ TEST_F(OutsideCodeFilesTest, DecompressingGivesTheSourceBack)
 {
     const ByteVector bytes = Noise(300000);
     WriteWhole(Source, Wrapped(bytes));
-    EXPECT_TRUE(ZlibDecompress(Source, Target));
+    EXPECT_TRUE(ZlibDecompress(Machine, Machine, Source, Target));
     EXPECT_TRUE(ReadWhole(Target) == bytes);
     EXPECT_THAT(Machine.Boxes(), IsEmpty());
     EXPECT_EQ(FilesLeft(), 2U);
@@ -59,8 +59,8 @@ TEST_F(OutsideCodeFilesTest, DecompressingGivesTheSourceBack)
 TEST_F(OutsideCodeFilesTest, OneByteGoesThereAndBack)
 {
     WriteWhole(Source, {42});
-    EXPECT_TRUE(ZlibCompress(Source, Target));
-    EXPECT_TRUE(ZlibDecompress(Target, Source));
+    EXPECT_TRUE(ZlibCompress(Machine, Machine, Source, Target));
+    EXPECT_TRUE(ZlibDecompress(Machine, Machine, Target, Source));
     EXPECT_TRUE(ReadWhole(Source) == ByteVector{42});
 }
 
@@ -68,22 +68,22 @@ TEST_F(OutsideCodeFilesTest, ALongerFileAtTheTargetKeepsNoTail)
 {
     WriteWhole(Source, {1, 2, 3});
     WriteWhole(Target, Noise(5000));
-    EXPECT_TRUE(ZlibCompress(Source, Target));
+    EXPECT_TRUE(ZlibCompress(Machine, Machine, Source, Target));
     EXPECT_TRUE(ReadWhole(Target) == Wrapped({1, 2, 3}));
 }
 
 TEST_F(OutsideCodeFilesTest, AnEmptySourceFailsToCompress)
 {
     WriteWhole(Source, {});
-    EXPECT_FALSE(ZlibCompress(Source, Target));
+    EXPECT_FALSE(ZlibCompress(Machine, Machine, Source, Target));
     EXPECT_THAT(Machine.Boxes(), ElementsAre(Box{box::Critical, "9 - Subscript out of range in Zlib Compress!"}));
     EXPECT_EQ(FilesLeft(), 1U);
 }
 
 TEST_F(OutsideCodeFilesTest, AMissingSourceFails)
 {
-    EXPECT_FALSE(ZlibCompress(Source, Target));
-    EXPECT_FALSE(ZlibDecompress(Source, Target));
+    EXPECT_FALSE(ZlibCompress(Machine, Machine, Source, Target));
+    EXPECT_FALSE(ZlibDecompress(Machine, Machine, Source, Target));
     EXPECT_THAT(Machine.Boxes(), ElementsAre(Box{box::Critical, "53 - File not found in Zlib Compress!"},
                                              Box{box::Critical, "53 - File not found in Zlib Decompress!"}));
     EXPECT_EQ(FilesLeft(), 0U);
@@ -96,7 +96,7 @@ TEST_F(OutsideCodeFilesTest, ASourceThatIsNoStreamIsReportedOnlyWhenNothingComes
     ByteVector broken = Wrapped(bytes);
     broken.resize(broken.size() / 2);
     WriteWhole(Source, broken);
-    EXPECT_TRUE(ZlibDecompress(Source, Target));
+    EXPECT_TRUE(ZlibDecompress(Machine, Machine, Source, Target));
     EXPECT_THAT(Machine.Boxes(), IsEmpty());
     const ByteVector came = ReadWhole(Target);
     EXPECT_TRUE(came == Unwrapped(broken));
@@ -107,7 +107,7 @@ TEST_F(OutsideCodeFilesTest, ASourceThatIsNoStreamIsReportedOnlyWhenNothingComes
         fs::remove(Target);
         Machine.TakeBoxes();
         WriteWhole(Source, ByteVector(text.begin(), text.end()));
-        EXPECT_FALSE(ZlibDecompress(Source, Target));
+        EXPECT_FALSE(ZlibDecompress(Machine, Machine, Source, Target));
         EXPECT_THAT(Machine.Boxes(), ElementsAre(Box{box::Critical, "9 - Subscript out of range in Zlib Decompress!"}));
         EXPECT_EQ(FilesLeft(), 1U);
     }
@@ -125,7 +125,8 @@ TEST_F(OutsideCodeFilesTest, NoFailureLeavesAHalfWrittenTarget)
             ASSERT_LT(operation, 200U);
             Machine.TakeBoxes();
             Machine.FailFileOperation(operation, failure::DiskFull);
-            if (compress ? ZlibCompress(Source, Target) : ZlibDecompress(Source, Target))
+            if (compress ? ZlibCompress(Machine, Machine, Source, Target)
+                         : ZlibDecompress(Machine, Machine, Source, Target))
                 break;
             EXPECT_THAT(Machine.Boxes(), ElementsAre(Box{box::Critical, message}));
             EXPECT_EQ(FilesLeft(), 1U) << operation;
@@ -145,8 +146,8 @@ TEST_F(OutsideCodeFilesTest, FileExistFindsAnEntryWhateverItsCase)
     EXPECT_FALSE(FileExist(Machine.InFolder("Ne*.dvs")));
     EXPECT_FALSE(FileExist(""));
     EXPECT_FALSE(FileExist(Machine.Folder() + PathSeparator));
-    EXPECT_EQ(ExistingPath(Machine.InFolder("new.dvs")), Machine.InFolder("New.DVS"));
-    EXPECT_EQ(ExistingPath(Machine.InFolder("gone.dvs")), Machine.InFolder("gone.dvs"));
+    EXPECT_EQ(ExistingPath(Machine, Machine.InFolder("new.dvs")), Machine.InFolder("New.DVS"));
+    EXPECT_EQ(ExistingPath(Machine, Machine.InFolder("gone.dvs")), Machine.InFolder("gone.dvs"));
 }
 
 TEST_F(OutsideCodeFilesTest, AFailureOfTheLookCountsAsNoFileAndShowsNothing)
@@ -154,8 +155,8 @@ TEST_F(OutsideCodeFilesTest, AFailureOfTheLookCountsAsNoFileAndShowsNothing)
     WriteWhole(Source, {1});
     Machine.FailAllFrom(1, failure::PermissionDenied);
     EXPECT_FALSE(FileExist(Source));
-    EXPECT_EQ(ExistingPath(Source), Source);
-    DeleteIfExists(Source);
+    EXPECT_EQ(ExistingPath(Machine, Source), Source);
+    DeleteIfExists(Machine, Source);
     Machine.FailNoMore();
     EXPECT_FALSE(FileExist(Machine.InFolder("no folder") + PathSeparator + "file"));
     EXPECT_TRUE(FileExist(Source));
@@ -180,9 +181,9 @@ TEST_F(OutsideCodeFilesTest, GetFileNameIsWhatStandsBehindTheLastSeparator)
 TEST_F(OutsideCodeFilesTest, DeleteIfExistsDeletesTheEntryItFinds)
 {
     WriteWhole(Machine.InFolder("Work.dvt"), {1});
-    DeleteIfExists(Machine.InFolder("Work.dvt"));
+    DeleteIfExists(Machine, Machine.InFolder("Work.dvt"));
     EXPECT_EQ(FilesLeft(), 0U);
-    DeleteIfExists(Machine.InFolder("Work.dvt"));
+    DeleteIfExists(Machine, Machine.InFolder("Work.dvt"));
     EXPECT_THAT(Machine.FileOperations(), ElementsAre("find", "delete", "find"));
 }
 
@@ -193,11 +194,11 @@ TEST_F(OutsideCodeFilesTest, AFileOfAnotherCaseIsDeletedOnlyWhereItIsTheSameFile
     const std::string other = Machine.InFolder("work.DVT");
     WriteWhole(path, {1});
     const bool same = std::filesystem::exists(other);
-    DeleteIfExists(other);
+    DeleteIfExists(Machine, other);
     EXPECT_EQ(std::filesystem::exists(path), !same);
     WriteWhole(path, {1});
     WriteWhole(other, {2});
-    DeleteIfExists(other);
+    DeleteIfExists(Machine, other);
     EXPECT_FALSE(std::filesystem::exists(other));
     EXPECT_EQ(std::filesystem::exists(path), !same);
 }
@@ -216,7 +217,7 @@ TEST_F(OutsideCodeFilesTest, AFileSystemThatKnowsOneCaseDeletesTheFileUnderAnyNa
     OneCase machine;
     UseMachine(machine);
     WriteWhole(machine.InFolder("Work.dvt"), {1});
-    DeleteIfExists(machine.InFolder("work.DVT"));
+    DeleteIfExists(dravik::Machine(), machine.InFolder("work.DVT"));
     EXPECT_FALSE(std::filesystem::exists(machine.InFolder("Work.dvt")));
     UseMachine(Machine);
 }
@@ -225,21 +226,21 @@ TEST_F(OutsideCodeFilesTest, AFileOfAnotherCaseThatCannotBeDeletedIsThrown)
 {
     WriteWhole(Machine.InFolder("Work.dvt"), {1});
     Machine.FailFileOperation(2, failure::PermissionDenied);
-    EXPECT_THROW(DeleteIfExists(Machine.InFolder("work.DVT")), Failure);
+    EXPECT_THROW(DeleteIfExists(Machine, Machine.InFolder("work.DVT")), Failure);
 }
 
 TEST_F(OutsideCodeFilesTest, DeleteIfExistsThrowsWhatCannotBeDeleted)
 {
     WriteWhole(Source, {1});
     Machine.FailFileOperation(2, failure::PermissionDenied);
-    EXPECT_THROW(DeleteIfExists(Source), Failure);
+    EXPECT_THROW(DeleteIfExists(Machine, Source), Failure);
 }
 
 TEST_F(OutsideCodeFilesTest, TeamFilesLieInTheProgramsFolderUnderTheNameWithoutSpaces)
 {
-    EXPECT_EQ(TeamFilePath(" New  York ", ".dvl"), Machine.InFolder("NewYork.dvl"));
-    EXPECT_EQ(TeamFilePath("", ".dvd"), Machine.InFolder(".dvd"));
-    EXPECT_EQ(TeamFilePath("St. John's", ".dvf"), Machine.InFolder("St.John's.dvf"));
+    EXPECT_EQ(TeamFilePath(Machine, " New  York ", ".dvl"), Machine.InFolder("NewYork.dvl"));
+    EXPECT_EQ(TeamFilePath(Machine, "", ".dvd"), Machine.InFolder(".dvd"));
+    EXPECT_EQ(TeamFilePath(Machine, "St. John's", ".dvf"), Machine.InFolder("St.John's.dvf"));
 }
 
 TEST_F(OutsideCodeFilesTest, ATeamNameThatNoFileNameMayHoldFails)
@@ -247,7 +248,7 @@ TEST_F(OutsideCodeFilesTest, ATeamNameThatNoFileNameMayHoldFails)
     for (const char* name : {"A/B", "A\\B", "..\\..\\up", "../../up", "C:up", "A*", "A?", "\"A\"", "<A", "A>", "A|B"}) {
         int number = 0;
         try {
-            (void)TeamFilePath(name, ".dvl");
+            (void)TeamFilePath(Machine, name, ".dvl");
         } catch (const Failure& failed) {
             number = failed.Number;
         }
@@ -258,7 +259,7 @@ TEST_F(OutsideCodeFilesTest, ATeamNameThatNoFileNameMayHoldFails)
 int NumberOfPath(const std::string& name)
 {
     try {
-        (void)TeamFilePath(name, ".dvl");
+        (void)TeamFilePath(dravik::Machine(), name, ".dvl");
     } catch (const Failure& failed) {
         return failed.Number;
     }
@@ -282,12 +283,12 @@ TEST_F(OutsideCodeFilesTest, ATeamNameThatOnlyResemblesADeviceIsAFileName)
 
 TEST_F(OutsideCodeFilesTest, SkipZIPClientIsNoUnlessToldOtherwise)
 {
-    EXPECT_FALSE(SkipZIPClient());
+    EXPECT_FALSE(SkipZIPClient(Machine));
     Machine.Settings["SkipZIPClient"] = " yEs ";
-    EXPECT_TRUE(SkipZIPClient());
+    EXPECT_TRUE(SkipZIPClient(Machine));
     for (const char* no : {"", "   ", "NO", "YE S", "YES.", "1"}) {
         Machine.Settings["SkipZIPClient"] = no;
-        EXPECT_FALSE(SkipZIPClient()) << no;
+        EXPECT_FALSE(SkipZIPClient(Machine)) << no;
     }
 }
 

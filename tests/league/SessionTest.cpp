@@ -16,8 +16,8 @@ TEST_F(SessionTest, ASkaterOnWaiversIsSuspendedFor99Games)
 {
     PutSkater(1, 5, position::Center, status::Pro);
     PutSkater(10000, 5, position::Defense, status::Farm);
-    MarkWaived(5, 1);
-    MarkWaived(5, 10000);
+    MarkWaived(OpenLeague, Machine, 5, 1);
+    MarkWaived(OpenLeague, Machine, 5, 10000);
     EXPECT_EQ(Players[1].Suspension, 99);
     EXPECT_EQ(Players[10000].Suspension, 99);
     EXPECT_THAT(Machine.Boxes(), IsEmpty());
@@ -27,8 +27,8 @@ TEST_F(SessionTest, AGoalieOnWaiversIsKnownByHisIndexAnd10000)
 {
     PutGoalie(1, 5, status::Pro);
     PutGoalie(1000, 5, status::Pro);
-    MarkWaived(100, 10001);
-    MarkWaived(1, 11000);
+    MarkWaived(OpenLeague, Machine, 100, 10001);
+    MarkWaived(OpenLeague, Machine, 1, 11000);
     EXPECT_EQ(Goalies[1].Suspension, 99);
     EXPECT_EQ(Goalies[1000].Suspension, 99);
     EXPECT_EQ(Players[1].Suspension, 0);
@@ -38,7 +38,7 @@ TEST_F(SessionTest, AGoalieOnWaiversIsKnownByHisIndexAnd10000)
 
 TEST_F(SessionTest, ASkatersNumberMarksNoGoalie)
 {
-    MarkWaived(5, 7);
+    MarkWaived(OpenLeague, Machine, 5, 7);
     EXPECT_EQ(Goalies[7].Suspension, 0);
 }
 
@@ -47,14 +47,14 @@ TEST_F(SessionTest, OnlyTheSuspensionOfAWaivedPersonChanges)
     Player& skater = PutSkater(7, 5, position::Center, status::Pro);
     Player expected = skater;
     expected.Suspension = 99;
-    MarkWaived(5, 7);
+    MarkWaived(OpenLeague, Machine, 5, 7);
     EXPECT_EQ(std::memcmp(&skater, &expected, sizeof skater), 0);
 }
 
 TEST_F(SessionTest, TheTeamOfAWaivedPersonIsNotCompared)
 {
     PutSkater(7, 5, position::Center, status::Pro);
-    MarkWaived(6, 7);
+    MarkWaived(OpenLeague, Machine, 6, 7);
     EXPECT_EQ(Players[7].Suspension, 99);
 }
 
@@ -66,7 +66,7 @@ TEST_F(SessionTest, ANumberOutOfRangeFailsTheIntegrityCheckAndMarksNobody)
     };
     const Call calls[] = {{0, 7}, {101, 7}, {-1, 7}, {5, 0}, {5, -1}, {5, 11001}, {0, 0}};
     for (const Call& call : calls) {
-        MarkWaived(call.Team, call.Id);
+        MarkWaived(OpenLeague, Machine, call.Team, call.Id);
         EXPECT_THAT(Machine.TakeBoxes(), ElementsAre(Box{16, "Integrity Check Failed!"}))
             << call.Team << " " << call.Id;
     }
@@ -101,7 +101,7 @@ TEST_F(SessionTest, NewsLogLinesAndAnErasedPlayerReachTheMachineAsTheyAre)
     LeagueNews("Team 5 changed its name.");
     TeamNews(5, " Skater 1 was sent to the farm.\r\n");
     TeamNews(-7, "");
-    WriteLog("Status of Skater 1 was fixed.");
+    dravik::Machine().WriteLog("Status of Skater 1 was fixed.");
     PlayerErased(1, 5);
     PlayerErased(99999, 0);
     EXPECT_THAT(Machine.TakeNews(), ElementsAre(News{"league", "Team 5 changed its name."},
@@ -118,7 +118,7 @@ TEST_F(SessionTest, NewsLogLinesAndAnErasedPlayerHaveNoEffect)
     LeagueNews("Team 5 changed its name.");
     TeamNews(5, "Skater 1 was sent to the farm.");
     TeamNews(-7, "A team that is none.");
-    WriteLog("Status of Skater 1 was fixed.");
+    dravik::Machine().WriteLog("Status of Skater 1 was fixed.");
     PlayerErased(1, 5);
     PlayerErased(99999, 0);
     EXPECT_TRUE(Everything() == before);
@@ -128,14 +128,14 @@ TEST_F(SessionTest, NewsLogLinesAndAnErasedPlayerHaveNoEffect)
 
 TEST_F(SessionTest, TheDeadlineIsInForceOnlyWhenTheWordIsTrue)
 {
-    EXPECT_FALSE(IsDeadlineInForce());
+    EXPECT_FALSE(IsDeadlineInForce(LeagueData));
     LeagueData.TradeDeadlineInForce = true;
-    EXPECT_TRUE(IsDeadlineInForce());
+    EXPECT_TRUE(IsDeadlineInForce(LeagueData));
     LeagueData.TradeDeadlineInForce.SetWord(1);
-    EXPECT_FALSE(IsDeadlineInForce());
+    EXPECT_FALSE(IsDeadlineInForce(LeagueData));
     LeagueData.TradeDeadlineInForce = false;
     LeagueData.TradeDeadlinePassed = true;
-    EXPECT_FALSE(IsDeadlineInForce());
+    EXPECT_FALSE(IsDeadlineInForce(LeagueData));
 }
 
 } // namespace

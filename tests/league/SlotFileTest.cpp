@@ -156,11 +156,11 @@ TEST_F(SlotFileTest, BothFormsHoldTheSameSlots)
     WriteThree(slots);
 
     Machine.Settings["SkipZIPClient"] = "YES";
-    EXPECT_TRUE(WriteSlotFile(Machine.InFolder("plain"), ThreeLength, WriteThree));
+    EXPECT_TRUE(WriteSlotFile(SlotFilesOf(OpenFiles()), Machine.InFolder("plain"), ThreeLength, WriteThree));
     EXPECT_TRUE(ReadWhole(Machine.InFolder("plain")) == plain.All);
 
     Machine.Settings["SkipZIPClient"] = "No";
-    EXPECT_TRUE(WriteSlotFile(Machine.InFolder("wrapped"), ThreeLength, WriteThree));
+    EXPECT_TRUE(WriteSlotFile(SlotFilesOf(OpenFiles()), Machine.InFolder("wrapped"), ThreeLength, WriteThree));
     EXPECT_TRUE(ReadWhole(Machine.InFolder("wrapped")) == Wrapped(plain.All));
     EXPECT_THAT(Machine.Boxes(), IsEmpty());
 }
@@ -178,8 +178,8 @@ TEST_F(SlotFileTest, BothFormsAreRead)
     };
     for (const char* setting : {"YES", "No"}) {
         Machine.Settings["SkipZIPClient"] = setting;
-        ASSERT_TRUE(WriteSlotFile(Machine.InFolder("file"), ThreeLength, WriteThree));
-        EXPECT_EQ(ReadSlotFile(Machine.InFolder("file"), readThree), SlotFileRead::Whole);
+        ASSERT_TRUE(WriteSlotFile(SlotFilesOf(OpenFiles()), Machine.InFolder("file"), ThreeLength, WriteThree));
+        EXPECT_EQ(ReadSlotFile(SlotFilesOf(OpenFiles()), Machine.InFolder("file"), readThree), SlotFileRead::Whole);
     }
     EXPECT_THAT(Machine.Boxes(), IsEmpty());
 }
@@ -197,7 +197,7 @@ TEST_F(SlotFileTest, AFailedWriteTellsItOnceAndLeavesWhatStoodThere)
             bool written = false;
             bool thrown = false;
             try {
-                written = WriteSlotFile(target, ThreeLength, WriteThree);
+                written = WriteSlotFile(SlotFilesOf(OpenFiles()), target, ThreeLength, WriteThree);
             } catch (const Failure& failed) {
                 EXPECT_EQ(failed.Number, failure::DiskFull);
                 thrown = true;
@@ -220,13 +220,13 @@ TEST_F(SlotFileTest, AFailedWriteTellsItOnceAndLeavesWhatStoodThere)
 TEST_F(SlotFileTest, TheFileIsOnTheDiskBeforeItGetsItsName)
 {
     const std::string target = Machine.InFolder("file");
-    EXPECT_TRUE(WriteSlotFile(target, ThreeLength, WriteThree));
+    EXPECT_TRUE(WriteSlotFile(SlotFilesOf(OpenFiles()), target, ThreeLength, WriteThree));
     EXPECT_THAT(Machine.FileOperations(), ElementsAre("create", "write", "flush", "close", "rename"));
 }
 
 TEST_F(SlotFileTest, OtherThanTheToldLengthIsAFailure)
 {
-    EXPECT_FALSE(WriteSlotFile(Machine.InFolder("file"), ThreeLength + 1, WriteThree));
+    EXPECT_FALSE(WriteSlotFile(SlotFilesOf(OpenFiles()), Machine.InFolder("file"), ThreeLength + 1, WriteThree));
     EXPECT_THAT(Machine.Boxes(),
                 ElementsAre(Box{box::Critical, "5 - Invalid procedure call or argument in Zlib Compress!"}));
     EXPECT_FALSE(std::filesystem::exists(Machine.InFolder("file")));

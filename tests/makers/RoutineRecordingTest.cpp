@@ -167,7 +167,7 @@ constexpr Routine Routines[] = {
     {"CheckSalaryCap", [](int team) { return Truth(CheckSalaryCap(team, true)) + LastCapText(); }},
     {"CheckLine", JudgedDays<CheckLine>},
     {"CheckLineFarm", JudgedDays<CheckLineFarm>},
-    {"CheckLineEmpty", [](int team) { return Truth(CheckLineEmpty(team, 1)); }},
+    {"CheckLineEmpty", [](int team) { return Truth(CheckLineEmpty(OpenLeague, Machine(), team, 1)); }},
     {"AutoRoster",
      [](int team) {
          AutoRoster(team, true, false);
@@ -198,7 +198,7 @@ constexpr Routine Routines[] = {
     {"WaiverCheck",
      [](int team) {
          std::string text;
-         EachId(team, [&text](int id) { text += Truth(WaiverCheck(id)); });
+         EachId(team, [&text](int id) { text += Truth(WaiverCheck(OpenLeague, Machine(), id)); });
          return text;
      }},
     {"CalculateOverall",
@@ -213,9 +213,11 @@ constexpr Routine Routines[] = {
      }},
     {"Payrolls",
      [](int team) {
-         return TextOf(ProPayroll(team)) + ' ' + TextOf(FarmPayroll(team)) + ' ' + TextOf(CoachPayroll(team));
+         return TextOf(ProPayroll(OpenLeague, Machine(), team)) + ' ' +
+                TextOf(FarmPayroll(OpenLeague, Machine(), team)) + ' ' +
+                TextOf(CoachPayroll(OpenLeague, Machine(), team));
      }},
-    {"ExpensePerGame", [](int team) { return std::to_string(ExpensePerGame(team)); }},
+    {"ExpensePerGame", [](int team) { return std::to_string(ExpensePerGame(OpenLeague, Machine(), team)); }},
     {"Season", SeasonOf},
     {"PlayOnLine",
      [](int team) {

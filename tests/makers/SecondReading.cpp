@@ -50,11 +50,11 @@ public:
 
     void Go(int skaters, int goalies)
     {
-        payroll = std::rint(ProPayroll(team));
+        payroll = std::rint(ProPayroll(OpenLeague, Machine(), team));
         if (LeagueData.FarmPayrollInCap)
-            payroll = std::rint(payroll + FarmPayroll(team));
+            payroll = std::rint(payroll + FarmPayroll(OpenLeague, Machine(), team));
         if (LeagueData.CoachPayrollInCap)
-            payroll = std::rint(payroll + CoachPayroll(team));
+            payroll = std::rint(payroll + CoachPayroll(OpenLeague, Machine(), team));
         if (Skaters(skaters) && Keepers(goalies))
             Close();
     }
@@ -210,9 +210,10 @@ private:
         for (Person& person : ranked) {
             if (person.Status != 1)
                 continue;
-            const bool stays = person.Overall > LeagueData.FarmMaxOverall ||
-                               WaiverCheck(person.Position == 5 ? person.Id + 10000 : person.Id) ||
-                               (LeagueData.FarmMaxSalary > 0 && person.Salary > LeagueData.FarmMaxSalary);
+            const bool stays =
+                person.Overall > LeagueData.FarmMaxOverall ||
+                WaiverCheck(OpenLeague, Machine(), person.Position == 5 ? person.Id + 10000 : person.Id) ||
+                (LeagueData.FarmMaxSalary > 0 && person.Salary > LeagueData.FarmMaxSalary);
             if (stays) {
                 ++stuck;
                 continue;

@@ -25,11 +25,11 @@ protected:
 
 TEST_F(AllowedReportsTest, AReportNeedsBothTheRequestAndThePermission)
 {
-    EXPECT_FALSE(MayReport(true));
-    EXPECT_FALSE(MayReport(false));
+    EXPECT_FALSE(Machine.MayReport(true));
+    EXPECT_FALSE(Machine.MayReport(false));
     Machine.MessagesAllowed = true;
-    EXPECT_TRUE(MayReport(true));
-    EXPECT_FALSE(MayReport(false));
+    EXPECT_TRUE(Machine.MayReport(true));
+    EXPECT_FALSE(Machine.MayReport(false));
 }
 
 TEST_F(AllowedReportsTest, TheRosterJudgeKeepsItsTextToItself)

@@ -29,36 +29,36 @@ TEST_F(FinanceTest, HealthyPlayerWithContract0CostsNothingInThePayrollButCountsI
 {
     Pro(7).Contract = 0;
     OnFarm(8).Contract = 0;
-    EXPECT_EQ(ProPayroll(5), 0);
-    EXPECT_EQ(FarmPayroll(5), 0);
-    EXPECT_EQ(ExpensePerGame(5), 13415); // 1100000 / 82
+    EXPECT_EQ(ProPayroll(OpenLeague, Machine, 5), 0);
+    EXPECT_EQ(FarmPayroll(OpenLeague, Machine, 5), 0);
+    EXPECT_EQ(ExpensePerGame(OpenLeague, Machine, 5), 13415); // 1100000 / 82
 }
 
 TEST_F(FinanceTest, Condition0CostsNothingAboveAMinimumOf0AndCondition1CostsTheSalary)
 {
     LeagueData.PayrollMinCondition = 0;
     Pro(7).Condition = 0;
-    EXPECT_EQ(ProPayroll(5), 0);
+    EXPECT_EQ(ProPayroll(OpenLeague, Machine, 5), 0);
     Players[7].Condition = 1;
-    EXPECT_EQ(ProPayroll(5), 1000000);
+    EXPECT_EQ(ProPayroll(OpenLeague, Machine, 5), 1000000);
 }
 
 TEST_F(FinanceTest, ConditionEqualToTheMinimumCostsNothing)
 {
     LeagueData.PayrollMinCondition = 80;
     Pro(7).Condition = 80;
-    EXPECT_EQ(ProPayroll(5), 0);
+    EXPECT_EQ(ProPayroll(OpenLeague, Machine, 5), 0);
     Players[7].Condition = 81;
-    EXPECT_EQ(ProPayroll(5), 1000000);
+    EXPECT_EQ(ProPayroll(OpenLeague, Machine, 5), 1000000);
 }
 
 TEST_F(FinanceTest, SuspendedPlayerCancelsOutTo0)
 {
     LeagueData.PayrollSkipsSuspended = true;
     Pro(7).Suspension = 3;
-    EXPECT_EQ(ProPayroll(5), 0);
+    EXPECT_EQ(ProPayroll(OpenLeague, Machine, 5), 0);
     LeagueData.PayrollSkipsSuspended = false;
-    EXPECT_EQ(ProPayroll(5), 1000000);
+    EXPECT_EQ(ProPayroll(OpenLeague, Machine, 5), 1000000);
 }
 
 TEST_F(FinanceTest, SuspendedAndHurtPersonLowersThePayroll)
@@ -67,47 +67,47 @@ TEST_F(FinanceTest, SuspendedAndHurtPersonLowersThePayroll)
     LeagueData.PayrollMinCondition = 50;
     Pro(7).Suspension = 3;
     Players[7].Condition = 50;
-    EXPECT_EQ(ProPayroll(5), -1000000);
+    EXPECT_EQ(ProPayroll(OpenLeague, Machine, 5), -1000000);
     Players[7].Status = status::Farm;
-    EXPECT_EQ(FarmPayroll(5), -100000);
+    EXPECT_EQ(FarmPayroll(OpenLeague, Machine, 5), -100000);
     PutGoalie(7, 5, status::Pro).Suspension = 1;
     Goalies[7].Condition = 10;
-    EXPECT_EQ(ProPayroll(5), -1000000);
+    EXPECT_EQ(ProPayroll(OpenLeague, Machine, 5), -1000000);
 }
 
 TEST_F(FinanceTest, OnlyTheWordMinus1SkipsTheSuspended)
 {
     LeagueData.PayrollSkipsSuspended.SetWord(1);
     Pro(7).Suspension = 3;
-    EXPECT_EQ(ProPayroll(5), 1000000);
+    EXPECT_EQ(ProPayroll(OpenLeague, Machine, 5), 1000000);
 }
 
 TEST_F(FinanceTest, ScratchedPlayerCountsInTheProPayroll)
 {
     PutSkater(7, 5, position::Center, status::Scratch);
     PutGoalie(7, 5, status::Scratch);
-    EXPECT_EQ(ProPayroll(5), 2000000);
-    EXPECT_EQ(FarmPayroll(5), 0);
+    EXPECT_EQ(ProPayroll(OpenLeague, Machine, 5), 2000000);
+    EXPECT_EQ(FarmPayroll(OpenLeague, Machine, 5), 0);
 }
 
 TEST_F(FinanceTest, StatusAbove2CountsInTheProPayrollAndNotInTheExpense)
 {
     PutSkater(7, 5, position::Center, 3);
     PutGoalie(7, 5, 255);
-    EXPECT_EQ(ProPayroll(5), 2000000);
-    EXPECT_EQ(FarmPayroll(5), 0);
-    EXPECT_EQ(ExpensePerGame(5), 0);
+    EXPECT_EQ(ProPayroll(OpenLeague, Machine, 5), 2000000);
+    EXPECT_EQ(FarmPayroll(OpenLeague, Machine, 5), 0);
+    EXPECT_EQ(ExpensePerGame(OpenLeague, Machine, 5), 0);
 }
 
 TEST_F(FinanceTest, BonusIsInTheProPayrollOnlyAndOnlyWhenTheLeagueSaysSo)
 {
     Pro(7);
     Teams[5].PayrollBonus = 250000;
-    EXPECT_EQ(ProPayroll(5), 1000000);
+    EXPECT_EQ(ProPayroll(OpenLeague, Machine, 5), 1000000);
     LeagueData.PayrollIncludesBonus = true;
-    EXPECT_EQ(ProPayroll(5), 1250000);
-    EXPECT_EQ(FarmPayroll(5), 0);
-    EXPECT_EQ(ExpensePerGame(5), 12195); // 1000000 / 82
+    EXPECT_EQ(ProPayroll(OpenLeague, Machine, 5), 1250000);
+    EXPECT_EQ(FarmPayroll(OpenLeague, Machine, 5), 0);
+    EXPECT_EQ(ExpensePerGame(OpenLeague, Machine, 5), 12195); // 1000000 / 82
 }
 
 TEST_F(FinanceTest, OnlyTheWordMinus1IncludesTheBonus)
@@ -115,7 +115,7 @@ TEST_F(FinanceTest, OnlyTheWordMinus1IncludesTheBonus)
     Pro(7);
     Teams[5].PayrollBonus = 250000;
     LeagueData.PayrollIncludesBonus.SetWord(1);
-    EXPECT_EQ(ProPayroll(5), 1000000);
+    EXPECT_EQ(ProPayroll(OpenLeague, Machine, 5), 1000000);
 }
 
 TEST_F(FinanceTest, WithFarmPayMinGames0EveryFarmPlayerCostsThePercentage)
@@ -124,32 +124,32 @@ TEST_F(FinanceTest, WithFarmPayMinGames0EveryFarmPlayerCostsThePercentage)
     OnFarm(7).ProGames = 0;
     OnFarm(8).ProGames = 500;
     PutGoalie(1, 5, status::Farm).ProGames = 500;
-    EXPECT_EQ(FarmPayroll(5), 750000);
-    EXPECT_EQ(ProPayroll(5), 0);
+    EXPECT_EQ(FarmPayroll(OpenLeague, Machine, 5), 750000);
+    EXPECT_EQ(ProPayroll(OpenLeague, Machine, 5), 0);
 }
 
 TEST_F(FinanceTest, FarmPlayerWithGamesEqualToTheMinimumCostsHisFullSalary)
 {
     LeagueData.FarmPayMinGames = 40;
     OnFarm(7).ProGames = 40;
-    EXPECT_EQ(FarmPayroll(5), 1000000);
+    EXPECT_EQ(FarmPayroll(OpenLeague, Machine, 5), 1000000);
     Players[7].ProGames = 39;
-    EXPECT_EQ(FarmPayroll(5), 100000);
+    EXPECT_EQ(FarmPayroll(OpenLeague, Machine, 5), 100000);
 }
 
 TEST_F(FinanceTest, NegativeFarmPayMinGamesMakeEverybodyCostHisFullSalary)
 {
     LeagueData.FarmPayMinGames = -1;
     OnFarm(7);
-    EXPECT_EQ(FarmPayroll(5), 1000000);
+    EXPECT_EQ(FarmPayroll(OpenLeague, Machine, 5), 1000000);
 }
 
 TEST_F(FinanceTest, LeagueWithoutFarmTeamsHasNoFarmPayroll)
 {
     OnFarm(7);
     LeagueData.FarmEnabled = false;
-    EXPECT_EQ(FarmPayroll(5), 0);
-    EXPECT_EQ(ExpensePerGame(5), 0);
+    EXPECT_EQ(FarmPayroll(OpenLeague, Machine, 5), 0);
+    EXPECT_EQ(ExpensePerGame(OpenLeague, Machine, 5), 0);
 }
 
 TEST_F(FinanceTest, FarmPayrollTreatsConditionAndSuspensionAsTheProPayrollDoes)
@@ -159,7 +159,7 @@ TEST_F(FinanceTest, FarmPayrollTreatsConditionAndSuspensionAsTheProPayrollDoes)
     OnFarm(7).Condition = 80;
     OnFarm(8).Suspension = 1;
     OnFarm(9);
-    EXPECT_EQ(FarmPayroll(5), 100000);
+    EXPECT_EQ(FarmPayroll(OpenLeague, Machine, 5), 100000);
 }
 
 TEST_F(FinanceTest, OtherTeamsAndUnusedRecordsCostNothing)
@@ -170,18 +170,18 @@ TEST_F(FinanceTest, OtherTeamsAndUnusedRecordsCostNothing)
     Pro(10).InUse.SetWord(1);
     PutGoalie(7, 6, status::Farm);
     PutCoach(1, 6, 500000);
-    EXPECT_EQ(ProPayroll(5), 0);
-    EXPECT_EQ(FarmPayroll(5), 0);
-    EXPECT_EQ(CoachPayroll(5), 0);
-    EXPECT_EQ(ExpensePerGame(5), 0);
+    EXPECT_EQ(ProPayroll(OpenLeague, Machine, 5), 0);
+    EXPECT_EQ(FarmPayroll(OpenLeague, Machine, 5), 0);
+    EXPECT_EQ(CoachPayroll(OpenLeague, Machine, 5), 0);
+    EXPECT_EQ(ExpensePerGame(OpenLeague, Machine, 5), 0);
 }
 
 TEST_F(FinanceTest, PlaceholderIsNobody)
 {
     PutSkater(0, 5, position::Center, status::Pro);
     PutGoalie(0, 5, status::Pro);
-    EXPECT_EQ(ProPayroll(5), 0);
-    EXPECT_EQ(ExpensePerGame(5), 0);
+    EXPECT_EQ(ProPayroll(OpenLeague, Machine, 5), 0);
+    EXPECT_EQ(ExpensePerGame(OpenLeague, Machine, 5), 0);
 }
 
 TEST_F(FinanceTest, LastRecordsOfTheTablesAreCounted)
@@ -189,8 +189,8 @@ TEST_F(FinanceTest, LastRecordsOfTheTablesAreCounted)
     Pro(10000);
     PutGoalie(1000, 5, status::Pro);
     PutCoach(500, 5, 3);
-    EXPECT_EQ(ProPayroll(5), 2000000);
-    EXPECT_EQ(CoachPayroll(5), 3);
+    EXPECT_EQ(ProPayroll(OpenLeague, Machine, 5), 2000000);
+    EXPECT_EQ(CoachPayroll(OpenLeague, Machine, 5), 3);
 }
 
 TEST_F(FinanceTest, CoachPayrollLooksAtNothingButUseTeamAndSalary)
@@ -200,7 +200,7 @@ TEST_F(FinanceTest, CoachPayrollLooksAtNothingButUseTeamAndSalary)
     PutCoach(3, 5, 100000);
     Coaches[2].Contract = 0;
     Coaches[3].InUse.SetWord(1);
-    EXPECT_EQ(CoachPayroll(5), 500000);
+    EXPECT_EQ(CoachPayroll(OpenLeague, Machine, 5), 500000);
 }
 
 // The next larger 32-bit float after 2^24 is 2 away: a 1 added to it is lost, two of them added first are not.
@@ -209,10 +209,10 @@ TEST_F(FinanceTest, PayrollIsRoundedAfterEachAdditionInIndexOrder)
     Pro(1).Salary = 1;
     Pro(2).Salary = 1;
     Pro(3).Salary = 16777216;
-    EXPECT_EQ(ProPayroll(5), 16777218.0F);
+    EXPECT_EQ(ProPayroll(OpenLeague, Machine, 5), 16777218.0F);
     Players[1].Salary = 16777216;
     Players[3].Salary = 1;
-    EXPECT_EQ(ProPayroll(5), 16777216.0F);
+    EXPECT_EQ(ProPayroll(OpenLeague, Machine, 5), 16777216.0F);
 }
 
 TEST_F(FinanceTest, GoaliesAreAddedBehindAllPlayers)
@@ -220,7 +220,7 @@ TEST_F(FinanceTest, GoaliesAreAddedBehindAllPlayers)
     PutGoalie(1, 5, status::Pro).Salary = 16777216;
     Pro(5000).Salary = 1;
     Pro(9000).Salary = 1;
-    EXPECT_EQ(ProPayroll(5), 16777218.0F);
+    EXPECT_EQ(ProPayroll(OpenLeague, Machine, 5), 16777218.0F);
 }
 
 TEST_F(FinanceTest, CoachesAreAddedOneByOne)
@@ -228,11 +228,11 @@ TEST_F(FinanceTest, CoachesAreAddedOneByOne)
     PutCoach(1, 5, 16777216);
     PutCoach(2, 5, 1);
     PutCoach(3, 5, 1);
-    EXPECT_EQ(CoachPayroll(5), 16777216.0F);
+    EXPECT_EQ(CoachPayroll(OpenLeague, Machine, 5), 16777216.0F);
     Pro(1).Salary = 16777216;
     Coaches[1].Salary = 0;
     Teams[5].SeasonGames = 1;
-    EXPECT_EQ(ExpensePerGame(5), 16777216);
+    EXPECT_EQ(ExpensePerGame(OpenLeague, Machine, 5), 16777216);
 }
 
 TEST_F(FinanceTest, SuspensionIsTakenOffInAStepOfItsOwn)
@@ -241,7 +241,7 @@ TEST_F(FinanceTest, SuspensionIsTakenOffInAStepOfItsOwn)
     Pro(1).Salary = 1;
     Pro(2).Salary = 16777216;
     Players[2].Suspension = 1;
-    EXPECT_EQ(ProPayroll(5), 0); // 1 + 16777216 loses the 1 before 16777216 goes
+    EXPECT_EQ(ProPayroll(OpenLeague, Machine, 5), 0); // 1 + 16777216 loses the 1 before 16777216 goes
 }
 
 TEST_F(FinanceTest, ExpenseLooksAtSuspensionAndNotAtContractOrCondition)
@@ -250,10 +250,10 @@ TEST_F(FinanceTest, ExpenseLooksAtSuspensionAndNotAtContractOrCondition)
     Pro(1).Condition = 0;
     Pro(2).Suspension = 1;
     Pro(3).Contract = 0;
-    EXPECT_EQ(ExpensePerGame(5), 200000);
+    EXPECT_EQ(ExpensePerGame(OpenLeague, Machine, 5), 200000);
     LeagueData.PayrollMinCondition = 100;
     LeagueData.PayrollSkipsSuspended = true;
-    EXPECT_EQ(ExpensePerGame(5), 200000);
+    EXPECT_EQ(ExpensePerGame(OpenLeague, Machine, 5), 200000);
 }
 
 TEST_F(FinanceTest, ExpenseAddsProScratchesFarmAndCoaches)
@@ -265,28 +265,28 @@ TEST_F(FinanceTest, ExpenseAddsProScratchesFarmAndCoaches)
     PutGoalie(1, 5, status::Pro);
     PutGoalie(2, 5, status::Farm);
     PutCoach(1, 5, 500000);
-    EXPECT_EQ(ExpensePerGame(5), 370000);
+    EXPECT_EQ(ExpensePerGame(OpenLeague, Machine, 5), 370000);
 }
 
 TEST_F(FinanceTest, ExpenseFlagMakesAGameFree)
 {
     Pro(1);
     LeagueData.ExpenseFlag = true;
-    EXPECT_EQ(ExpensePerGame(5), 0);
+    EXPECT_EQ(ExpensePerGame(OpenLeague, Machine, 5), 0);
 }
 
 TEST_F(FinanceTest, OnlyTheWordMinus1MakesAGameFree)
 {
     Pro(7);
     LeagueData.ExpenseFlag.SetWord(1);
-    EXPECT_EQ(ExpensePerGame(5), 12195); // 1000000 / 82
+    EXPECT_EQ(ExpensePerGame(OpenLeague, Machine, 5), 12195); // 1000000 / 82
 }
 
 TEST_F(FinanceTest, SeasonWithoutGamesCostsNothing)
 {
     Pro(1);
     Teams[5].SeasonGames = 0;
-    EXPECT_EQ(ExpensePerGame(5), 0);
+    EXPECT_EQ(ExpensePerGame(OpenLeague, Machine, 5), 0);
     EXPECT_THAT(Machine.Boxes(), ElementsAre());
 }
 
@@ -294,16 +294,16 @@ TEST_F(FinanceTest, SeasonOfNegativeLengthIsDividedByAsItStands)
 {
     Pro(1);
     Teams[5].SeasonGames = -4;
-    EXPECT_EQ(ExpensePerGame(5), -250000);
+    EXPECT_EQ(ExpensePerGame(OpenLeague, Machine, 5), -250000);
 }
 
 TEST_F(FinanceTest, ExpenseGoesToTheEvenNumberBetweenTwo)
 {
     Teams[5].SeasonGames = 2;
     Pro(1).Salary = 5;
-    EXPECT_EQ(ExpensePerGame(5), 2);
+    EXPECT_EQ(ExpensePerGame(OpenLeague, Machine, 5), 2);
     Players[1].Salary = 7;
-    EXPECT_EQ(ExpensePerGame(5), 4);
+    EXPECT_EQ(ExpensePerGame(OpenLeague, Machine, 5), 4);
 }
 
 TEST_F(FinanceTest, ExpenseBeyond32BitsIsAnOverflow)
@@ -311,7 +311,7 @@ TEST_F(FinanceTest, ExpenseBeyond32BitsIsAnOverflow)
     Teams[5].SeasonGames = 1;
     Pro(1).Salary = 2000000000;
     Pro(2).Salary = 2000000000;
-    EXPECT_EQ(ExpensePerGame(5), 0);
+    EXPECT_EQ(ExpensePerGame(OpenLeague, Machine, 5), 0);
     EXPECT_THAT(Machine.Boxes(), ElementsAre(Box{box::Critical, "6 - Overflow in ExpensePerGame!"}));
 }
 
@@ -325,10 +325,10 @@ TEST_F(FinanceTest, TeamOutOfRangeFailsTheIntegrityCheck)
     };
     LeagueData.ExpenseFlag = true;
     LeagueData.FarmEnabled = false;
-    isRefused([](int team) { return ProPayroll(team); });
-    isRefused([](int team) { return FarmPayroll(team); });
-    isRefused([](int team) { return CoachPayroll(team); });
-    isRefused([](int team) { return ExpensePerGame(team); });
+    isRefused([](int team) { return ProPayroll(OpenLeague, dravik::Machine(), team); });
+    isRefused([](int team) { return FarmPayroll(OpenLeague, dravik::Machine(), team); });
+    isRefused([](int team) { return CoachPayroll(OpenLeague, dravik::Machine(), team); });
+    isRefused([](int team) { return ExpensePerGame(OpenLeague, dravik::Machine(), team); });
 }
 
 TEST_F(FinanceTest, AFailureIsReportedWithTheNameOfItsRoutine)
@@ -340,10 +340,10 @@ TEST_F(FinanceTest, AFailureIsReportedWithTheNameOfItsRoutine)
         EXPECT_EQ(routine(0), 0);
         EXPECT_THAT(failing.TakeBoxes(), ElementsAre(Box{box::Critical, "6 - Overflow in " + std::string(ending)}));
     };
-    fails([](int team) { return ProPayroll(team); }, "ProPayroll!");
-    fails([](int team) { return FarmPayroll(team); }, "FarmPayroll!");
-    fails([](int team) { return CoachPayroll(team); }, "CoachPayroll!");
-    fails([](int team) { return ExpensePerGame(team); }, "ExpensePerGame!");
+    fails([](int team) { return ProPayroll(OpenLeague, dravik::Machine(), team); }, "ProPayroll!");
+    fails([](int team) { return FarmPayroll(OpenLeague, dravik::Machine(), team); }, "FarmPayroll!");
+    fails([](int team) { return CoachPayroll(OpenLeague, dravik::Machine(), team); }, "CoachPayroll!");
+    fails([](int team) { return ExpensePerGame(OpenLeague, dravik::Machine(), team); }, "ExpensePerGame!");
     UseMachine(Machine);
 }
 
@@ -407,8 +407,8 @@ TEST_F(FinanceTest, RandomLeaguesAgreeWithThePlainReadingAndNothingChanges)
         const auto before = ImageOf(Players);
         const auto people = Everybody();
         for (int team = 1; team <= 3; ++team) {
-            ASSERT_EQ(ProPayroll(team), PlainPayroll(people, team, false)) << "round " << round;
-            ASSERT_EQ(FarmPayroll(team), PlainPayroll(people, team, true)) << "round " << round;
+            ASSERT_EQ(ProPayroll(OpenLeague, Machine, team), PlainPayroll(people, team, false)) << "round " << round;
+            ASSERT_EQ(FarmPayroll(OpenLeague, Machine, team), PlainPayroll(people, team, true)) << "round " << round;
 
             volatile float coaches = 0;
             volatile float expense = 0;
@@ -420,10 +420,11 @@ TEST_F(FinanceTest, RandomLeaguesAgreeWithThePlainReadingAndNothingChanges)
                     PlainAdd(coaches, static_cast<double>(coach.Salary));
                     PlainAdd(expense, static_cast<double>(coach.Salary));
                 }
-            ASSERT_EQ(CoachPayroll(team), coaches);
+            ASSERT_EQ(CoachPayroll(OpenLeague, Machine, team), coaches);
             const auto games = static_cast<double>(Teams[team].SeasonGames);
             const bool free = LeagueData.ExpenseFlag || games == 0;
-            ASSERT_EQ(ExpensePerGame(team), free ? 0 : std::llrint(static_cast<double>(expense) / games))
+            ASSERT_EQ(ExpensePerGame(OpenLeague, Machine, team),
+                      free ? 0 : std::llrint(static_cast<double>(expense) / games))
                 << "round " << round;
         }
         ASSERT_EQ(ImageOf(Players), before);

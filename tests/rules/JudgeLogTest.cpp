@@ -151,10 +151,10 @@ TEST_F(JudgeLogTest, EveryRoutineEndsItsFailureWithItsOwnName)
         const char* Text;
     };
     const Call calls[] = {
-        {[] { (void)ProPayroll(0); }, "6 - Overflow in ProPayroll!"},
-        {[] { (void)FarmPayroll(0); }, "6 - Overflow in FarmPayroll!"},
-        {[] { (void)CoachPayroll(0); }, "6 - Overflow in CoachPayroll!"},
-        {[] { (void)ExpensePerGame(0); }, "6 - Overflow in ExpensePerGame!"},
+        {[] { (void)ProPayroll(OpenLeague, dravik::Machine(), 0); }, "6 - Overflow in ProPayroll!"},
+        {[] { (void)FarmPayroll(OpenLeague, dravik::Machine(), 0); }, "6 - Overflow in FarmPayroll!"},
+        {[] { (void)CoachPayroll(OpenLeague, dravik::Machine(), 0); }, "6 - Overflow in CoachPayroll!"},
+        {[] { (void)ExpensePerGame(OpenLeague, dravik::Machine(), 0); }, "6 - Overflow in ExpensePerGame!"},
         {[] { WipesLines(0, 1, true); }, "6 - Overflow in WipesLines!"},
         {[] { WipePlayerFromTeamLines(0, 1); }, "6 - Overflow in WipePlayerFromTeamLines!"},
         {[] { (void)CheckRoster(0, false, false, false); }, "6 - Overflow in CheckRoster!"},

@@ -493,7 +493,7 @@ TEST_F(LineJudgePropertyTest, ADayIsEmptyWhenAllItsSlotsAreZero)
         bool zero = true;
         for (std::size_t word = 0; word < 71; ++word)
             zero = zero && (word == 46 || word == 47 || words[word] == 0);
-        EXPECT_EQ(CheckLineEmpty(Us, 3), zero);
+        EXPECT_EQ(CheckLineEmpty(OpenLeague, Machine, Us, 3), zero);
         empty += zero ? 1 : 0;
     }
     EXPECT_GT(empty, 1000);

@@ -474,13 +474,13 @@ TEST_F(LineJudgeTest, AGoalieSlotOutsideTheTableFailsWith9)
 
 class LineEmptyTest : public SmallLeague {};
 
-TEST_F(LineEmptyTest, ADayWithoutAnybodyIsEmpty) { EXPECT_TRUE(CheckLineEmpty(5, 1)); }
+TEST_F(LineEmptyTest, ADayWithoutAnybodyIsEmpty) { EXPECT_TRUE(CheckLineEmpty(OpenLeague, Machine, 5, 1)); }
 
 TEST_F(LineEmptyTest, ADayWithOnlyStrategyPointsIsEmpty)
 {
     Teams[5].ProLines[3].Strategy[0] = 2;
     Teams[5].ProLines[3].Strategy[2] = 3;
-    EXPECT_TRUE(CheckLineEmpty(5, 3));
+    EXPECT_TRUE(CheckLineEmpty(OpenLeague, Machine, 5, 3));
 }
 
 TEST_F(LineEmptyTest, ReservedWordsAndGoaliePullPlayNoPart)
@@ -488,7 +488,7 @@ TEST_F(LineEmptyTest, ReservedWordsAndGoaliePullPlayNoPart)
     Teams[5].ProLines[3].PK3Reserved[1] = 2;
     Teams[5].ProLines[3].PullGoalerMinGoal = 4;
     Teams[5].ProLines[3].PullGoalerMinPct = 850;
-    EXPECT_TRUE(CheckLineEmpty(5, 3));
+    EXPECT_TRUE(CheckLineEmpty(OpenLeague, Machine, 5, 3));
 }
 
 TEST_F(LineEmptyTest, AnybodyInAnySlotIsSomebody)
@@ -496,29 +496,29 @@ TEST_F(LineEmptyTest, AnybodyInAnySlotIsSomebody)
     for (const LineSlot& slot : SkaterSlots) {
         Teams[5].ProLines[3] = {};
         At(Teams[5].ProLines[3], slot) = -1; // whatever is not 0
-        EXPECT_FALSE(CheckLineEmpty(5, 3));
+        EXPECT_FALSE(CheckLineEmpty(OpenLeague, Machine, 5, 3));
     }
     Teams[5].ProLines[3] = {};
     Teams[5].ProLines[3].StartGoalie = 1;
-    EXPECT_FALSE(CheckLineEmpty(5, 3));
+    EXPECT_FALSE(CheckLineEmpty(OpenLeague, Machine, 5, 3));
     Teams[5].ProLines[3] = {};
     Teams[5].ProLines[3].BackupGoalie = 1;
-    EXPECT_FALSE(CheckLineEmpty(5, 3));
-    EXPECT_TRUE(CheckLineEmpty(5, 4));
-    EXPECT_TRUE(CheckLineEmpty(4, 3));
+    EXPECT_FALSE(CheckLineEmpty(OpenLeague, Machine, 5, 3));
+    EXPECT_TRUE(CheckLineEmpty(OpenLeague, Machine, 5, 4));
+    EXPECT_TRUE(CheckLineEmpty(OpenLeague, Machine, 4, 3));
 }
 
 TEST_F(LineEmptyTest, TheFarmsDayIsNotLookedAt)
 {
     Teams[5].Farm.FarmLines[1].StartGoalie = 1;
-    EXPECT_TRUE(CheckLineEmpty(5, 1));
+    EXPECT_TRUE(CheckLineEmpty(OpenLeague, Machine, 5, 1));
 }
 
 TEST_F(LineEmptyTest, ATeamOrDayOutOfRangeFailsTheIntegrityCheck)
 {
     const auto before = AllTables();
     for (const auto& [number, day] : {std::pair{0, 1}, {101, 1}, {5, 0}, {5, 11}}) {
-        EXPECT_FALSE(CheckLineEmpty(number, day));
+        EXPECT_FALSE(CheckLineEmpty(OpenLeague, Machine, number, day));
         EXPECT_THAT(Machine.TakeBoxes(), ElementsAre(Box{16, "Integrity Check Failed!"}));
     }
     EXPECT_TRUE(AllTables() == before);

@@ -262,9 +262,10 @@ TEST_F(SalaryCapTest, RandomLeaguesAgreeWithAPlainReadingAndNothingChanges)
         const auto teams = ImageOf(Teams);
         for (int team = 1; team <= 3; ++team) {
             const League& league = LeagueData;
-            const long long farm = std::llrint(FarmPayroll(team));
-            const long long total = std::llrint(ProPayroll(team)) + (league.FarmPayrollInCap ? farm : 0) +
-                                    (league.CoachPayrollInCap ? std::llrint(CoachPayroll(team)) : 0);
+            const long long farm = std::llrint(FarmPayroll(OpenLeague, Machine, team));
+            const long long total =
+                std::llrint(ProPayroll(OpenLeague, Machine, team)) + (league.FarmPayrollInCap ? farm : 0) +
+                (league.CoachPayrollInCap ? std::llrint(CoachPayroll(OpenLeague, Machine, team)) : 0);
             std::vector<Box> expected;
             const auto tell = [&](const std::string& text, long long amount) {
                 expected.push_back({box::Warning, text + Machine.Currency(static_cast<double>(amount)) + "!"});

@@ -360,12 +360,12 @@ TEST_F(SeasonProjectionTest, RandomSeasonsAddUpAndChangeNothing)
             const bool none = games < 2;
             const bool hidden = home <= 0 || LeagueData.HideFinanceAverages;
             ASSERT_EQ(season.Form, none ? SeasonForm::NoSeason : hidden ? SeasonForm::NoAverages : SeasonForm::Full);
-            ASSERT_EQ(season.ProPayroll, std::llrint(static_cast<double>(ProPayroll(number))));
-            ASSERT_EQ(season.FarmPayroll, std::llrint(static_cast<double>(FarmPayroll(number))));
+            ASSERT_EQ(season.ProPayroll, std::llrint(static_cast<double>(ProPayroll(OpenLeague, Machine, number))));
+            ASSERT_EQ(season.FarmPayroll, std::llrint(static_cast<double>(FarmPayroll(OpenLeague, Machine, number))));
             ASSERT_EQ(season.HomeGamesLeft, none ? 0 : games / 2 - home);
             ASSERT_EQ(season.GamesLeft, none ? 0 : record.SeasonGames - record.GamesPlayed);
             const bool full = season.Form == SeasonForm::Full;
-            ASSERT_EQ(season.ExpensePerGame, full ? ExpensePerGame(number) : 0);
+            ASSERT_EQ(season.ExpensePerGame, full ? ExpensePerGame(OpenLeague, Machine, number) : 0);
             ASSERT_EQ(season.SeasonExpense, *season.GamesLeft * *season.ExpensePerGame);
             const double income = full ? static_cast<double>(record.TotalIncome) / home : 0;
             ASSERT_EQ(season.AverageIncome, income);

@@ -28,65 +28,65 @@ protected:
 TEST_F(WaiversTest, ExemptAgeNeedsNoWaiversAndAYearMoreDoes)
 {
     player.Age = 24;
-    EXPECT_FALSE(WaiverCheck(7));
+    EXPECT_FALSE(WaiverCheck(OpenLeague, Machine, 7));
     player.Age = 25;
-    EXPECT_TRUE(WaiverCheck(7));
+    EXPECT_TRUE(WaiverCheck(OpenLeague, Machine, 7));
 }
 
 TEST_F(WaiversTest, GamesEqualToTheMinimumNeedWaiversAndOneLessDoesNot)
 {
-    EXPECT_TRUE(WaiverCheck(7));
+    EXPECT_TRUE(WaiverCheck(OpenLeague, Machine, 7));
     player.ProGames = 39;
-    EXPECT_FALSE(WaiverCheck(7));
+    EXPECT_FALSE(WaiverCheck(OpenLeague, Machine, 7));
 }
 
 TEST_F(WaiversTest, WhoIsTooGoodForTheFarmNeedsNoWaivers)
 {
     LeagueData.FarmMaxOverall = 60;
-    EXPECT_TRUE(WaiverCheck(7));
+    EXPECT_TRUE(WaiverCheck(OpenLeague, Machine, 7));
     LeagueData.FarmMaxOverall = 59;
-    EXPECT_FALSE(WaiverCheck(7));
+    EXPECT_FALSE(WaiverCheck(OpenLeague, Machine, 7));
 }
 
 TEST_F(WaiversTest, LeagueWithoutWaiversNeedsNone)
 {
     LeagueData.WaiverAllowed = false;
-    EXPECT_FALSE(WaiverCheck(7));
+    EXPECT_FALSE(WaiverCheck(OpenLeague, Machine, 7));
     LeagueData.WaiverAllowed.SetWord(1);
-    EXPECT_FALSE(WaiverCheck(7));
+    EXPECT_FALSE(WaiverCheck(OpenLeague, Machine, 7));
 }
 
 TEST_F(WaiversTest, TradeDeadlineInForceNeedsNoWaivers)
 {
     LeagueData.TradeDeadlineInForce = true;
-    EXPECT_FALSE(WaiverCheck(7));
+    EXPECT_FALSE(WaiverCheck(OpenLeague, Machine, 7));
     LeagueData.TradeDeadlineInForce.SetWord(1);
-    EXPECT_TRUE(WaiverCheck(7));
+    EXPECT_TRUE(WaiverCheck(OpenLeague, Machine, 7));
 }
 
 TEST_F(WaiversTest, GoalieIsHisIndexAnd10000)
 {
     player.ProGames = 0;
-    EXPECT_TRUE(WaiverCheck(10007));
-    EXPECT_FALSE(WaiverCheck(7));
+    EXPECT_TRUE(WaiverCheck(OpenLeague, Machine, 10007));
+    EXPECT_FALSE(WaiverCheck(OpenLeague, Machine, 7));
     goalie.ProGames = 39;
-    EXPECT_FALSE(WaiverCheck(10007));
+    EXPECT_FALSE(WaiverCheck(OpenLeague, Machine, 10007));
     goalie.ProGames = 40;
     goalie.Age = 24;
-    EXPECT_FALSE(WaiverCheck(10007));
+    EXPECT_FALSE(WaiverCheck(OpenLeague, Machine, 10007));
     goalie.Age = 25;
     LeagueData.FarmMaxOverall = 59;
-    EXPECT_FALSE(WaiverCheck(10007));
+    EXPECT_FALSE(WaiverCheck(OpenLeague, Machine, 10007));
 }
 
 TEST_F(WaiversTest, Number10000IsAPlayerAnd10001IsTheFirstGoalie)
 {
     Player& last = PutSkater(10000, 5, position::Center, status::Pro);
     last.ProGames = 40;
-    EXPECT_TRUE(WaiverCheck(10000));
-    EXPECT_FALSE(WaiverCheck(10001));
+    EXPECT_TRUE(WaiverCheck(OpenLeague, Machine, 10000));
+    EXPECT_FALSE(WaiverCheck(OpenLeague, Machine, 10001));
     PutGoalie(1, 5, status::Pro).ProGames = 40;
-    EXPECT_TRUE(WaiverCheck(10001));
+    EXPECT_TRUE(WaiverCheck(OpenLeague, Machine, 10001));
 }
 
 TEST_F(WaiversTest, SkaterIsRatedAtHisOwnPosition)
@@ -95,22 +95,22 @@ TEST_F(WaiversTest, SkaterIsRatedAtHisOwnPosition)
         rating = 0;
     player.Stats[skater::DF] = 100; // 10 for a forward, 16 for this defenseman, the league's weights aside
     LeagueData.FarmMaxOverall = 15;
-    EXPECT_FALSE(WaiverCheck(7));
+    EXPECT_FALSE(WaiverCheck(OpenLeague, Machine, 7));
     player.Position = position::Center;
-    EXPECT_TRUE(WaiverCheck(7));
+    EXPECT_TRUE(WaiverCheck(OpenLeague, Machine, 7));
 }
 
 TEST_F(WaiversTest, PersonWithoutAPositionIsToldAndRated0)
 {
     player.Position = 0;
-    EXPECT_TRUE(WaiverCheck(7));
+    EXPECT_TRUE(WaiverCheck(OpenLeague, Machine, 7));
     EXPECT_THAT(Machine.Boxes(), ElementsAre(Box{box::Critical, "Integrity Check Failed!"}));
 }
 
 TEST_F(WaiversTest, NumberOutsideTheTablesIsAFailure)
 {
     for (const int id : {-1, 11001, 32767}) {
-        EXPECT_FALSE(WaiverCheck(id));
+        EXPECT_FALSE(WaiverCheck(OpenLeague, Machine, id));
         EXPECT_THAT(Machine.TakeBoxes(), ElementsAre(Box{box::Critical, "9 - Subscript out of range in WaiverCheck!"}));
     }
 }
@@ -130,10 +130,10 @@ TEST_F(WaiversTest, RandomPeopleAgreeWithTheFivePlainConditionsAndNothingChanges
         };
         for (int index = 1; index <= 40; ++index) {
             const int overall = CalculateOverall(static_cast<int>(Players[index].Position), index);
-            ASSERT_EQ(WaiverCheck(index), expected(Players[index], overall));
+            ASSERT_EQ(WaiverCheck(OpenLeague, Machine, index), expected(Players[index], overall));
         }
         for (int index = 1; index <= 10; ++index)
-            ASSERT_EQ(WaiverCheck(GoalieOffset + index),
+            ASSERT_EQ(WaiverCheck(OpenLeague, Machine, GoalieOffset + index),
                       expected(Goalies[index], CalculateOverall(position::Goalie, index)));
         ASSERT_EQ(ImageOf(Players), before);
     }
@@ -154,12 +154,12 @@ TEST_F(WaiversTest, TheDeadlineHasPassedForGoodWhereItIsPassedAndInForce)
 TEST_F(WaiversTest, ADeadlineThatHasPassedAndIsNotInForceStillNeedsWaivers)
 {
     LeagueData.TradeDeadlinePassed = true;
-    EXPECT_TRUE(WaiverCheck(7));
-    EXPECT_TRUE(WaiverCheck(10007));
+    EXPECT_TRUE(WaiverCheck(OpenLeague, Machine, 7));
+    EXPECT_TRUE(WaiverCheck(OpenLeague, Machine, 10007));
     LeagueData.TradeDeadlinePassed = false;
     LeagueData.TradeDeadlineInForce = true;
-    EXPECT_FALSE(WaiverCheck(7));
-    EXPECT_FALSE(WaiverCheck(10007));
+    EXPECT_FALSE(WaiverCheck(OpenLeague, Machine, 7));
+    EXPECT_FALSE(WaiverCheck(OpenLeague, Machine, 10007));
 }
 
 } // namespace

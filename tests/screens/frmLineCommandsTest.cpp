@@ -76,7 +76,7 @@ TEST_F(LineCommands, WipingAsksAndEmptiesTheShownDay)
     Machine.Answer(button::Yes);
     Click(line.cmdWipeLines);
     EXPECT_EQ(Machine.TakeBoxes().size(), 1U);
-    EXPECT_TRUE(CheckLineEmpty(5, 1));
+    EXPECT_TRUE(CheckLineEmpty(OpenLeague, Machine, 5, 1));
     EXPECT_EQ(Of(SlotOn(line, LineField::NormalForward, 1, 1)), "");
     EXPECT_EQ(Of(line.lblComplete), "Lines are Incomplete");
     EXPECT_TRUE(AreSame(FarmDay(), farm));
@@ -90,9 +90,9 @@ TEST_F(LineCommands, WipingTheSecondDayLeavesTheFirstAlone)
     frmLine& line = Line();
     line.vscDay->setValue(2);
     const Lines first = ProDay(1);
-    ASSERT_FALSE(CheckLineEmpty(5, 2));
+    ASSERT_FALSE(CheckLineEmpty(OpenLeague, Machine, 5, 2));
     Click(line.cmdWipeLines);
-    EXPECT_TRUE(CheckLineEmpty(5, 2));
+    EXPECT_TRUE(CheckLineEmpty(OpenLeague, Machine, 5, 2));
     EXPECT_TRUE(AreSame(ProDay(1), first));
     EXPECT_EQ(Of(SlotOn(line, LineField::NormalForward, 1, 1)), "");
     EXPECT_EQ(Of(line.lblComplete), "Lines are Incomplete");

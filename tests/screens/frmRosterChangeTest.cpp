@@ -190,8 +190,8 @@ TEST_F(frmRosterChangeTest, ASalaryTooHighForTheFarmIsToldBeforeAnythingIsAskedA
     Goalie& keeper = PutGoalie(1, 5, status::Scratch);
     player.Age = 40;
     keeper.Age = 40;
-    ASSERT_TRUE(WaiverCheck(1));
-    ASSERT_TRUE(WaiverCheck(10001));
+    ASSERT_TRUE(WaiverCheck(OpenLeague, Machine, 1));
+    ASSERT_TRUE(WaiverCheck(OpenLeague, Machine, 10001));
     EXPECT_FALSE(Move(1, 0, 1, position::Center));
     EXPECT_FALSE(Move(1, 0, 1, position::Goalie));
     EXPECT_THAT(Machine.Boxes(), ElementsAre(Box{48, "Player Salary is too high to be send in the Farm!"},

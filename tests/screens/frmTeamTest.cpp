@@ -443,8 +443,8 @@ TEST_F(frmTeamTest, ThePayrollsFollowAMoveOnTheRoster)
     bool done = false;
     roster.Change(status::Scratch, status::Farm, 7, position::Center, done);
     ASSERT_TRUE(done);
-    EXPECT_EQ(ProPayroll(5), 0);
-    EXPECT_EQ(FarmPayroll(5), 50000);
+    EXPECT_EQ(ProPayroll(OpenLeague, Machine, 5), 0);
+    EXPECT_EQ(FarmPayroll(OpenLeague, Machine, 5), 50000);
     roster.close();
     Settle();
     EXPECT_EQ(Of(office.lblProPayRoll), "$0");

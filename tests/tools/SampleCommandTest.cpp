@@ -134,7 +134,7 @@ TEST_F(SampleCommandTest, ThePlainFileAndTheWrappedOneHoldTheSame)
 {
     const std::string plain = Made({"--plain"});
     Made({});
-    ASSERT_TRUE(ZlibDecompress(Machine.InFolder("made.dvs"), Machine.InFolder("unwrapped")));
+    ASSERT_TRUE(ZlibDecompress(Machine, Machine, Machine.InFolder("made.dvs"), Machine.InFolder("unwrapped")));
     EXPECT_TRUE(Bytes("unwrapped") == plain);
 }
 

@@ -66,7 +66,8 @@ TEST_F(SampleFinanceTest, CashIsARoundOpeningSumAndIncomeLessExpenses)
 {
     for (const int number : TeamNumbers()) {
         const Team& team = Teams[number];
-        const long long opening = team.Cash - team.TotalIncome + ExpensePerGame(number) * team.GamesPlayed;
+        const long long opening =
+            team.Cash - team.TotalIncome + ExpensePerGame(OpenLeague, Machine, number) * team.GamesPlayed;
         EXPECT_EQ(opening % 100000, 0) << number;
         EXPECT_GE(opening, 8000000) << number;
         EXPECT_LE(opening, 45000000) << number;
@@ -87,13 +88,13 @@ TEST_F(SampleFinanceTest, OnlyTheTeamAboveTheCapIsAboveTheCap)
 {
     EXPECT_EQ(LeagueData.SalaryCapMode, 1);
     for (const int number : TeamNumbers()) {
-        const float payroll = ProPayroll(number);
+        const float payroll = ProPayroll(OpenLeague, Machine, number);
         if (number == TeamWith(Hole::OverCap))
             EXPECT_GT(payroll, static_cast<float>(LeagueData.SalaryCap));
         else
             EXPECT_LE(payroll, static_cast<float>(LeagueData.SalaryCap)) << number;
         EXPECT_GE(payroll, static_cast<float>(LeagueData.MinSalaryCap)) << number;
-        EXPECT_LE(FarmPayroll(number), static_cast<float>(LeagueData.FarmSalaryCap)) << number;
+        EXPECT_LE(FarmPayroll(OpenLeague, Machine, number), static_cast<float>(LeagueData.FarmSalaryCap)) << number;
     }
 }
 

@@ -153,7 +153,7 @@ TEST_F(SampleLineUpTest, TheTeamWithoutLinesHasAGoodRoster)
     const int team = TeamWith(Hole::NoLines);
     EXPECT_TRUE(RosterPasses(team));
     for (int day = 1; day <= 10; ++day) {
-        EXPECT_TRUE(CheckLineEmpty(team, day)) << day;
+        EXPECT_TRUE(CheckLineEmpty(OpenLeague, Machine, team, day)) << day;
         for (const LineSlot& slot : SkaterSlots)
             EXPECT_EQ(At(Teams[team].Farm.FarmLines[day], slot), 0);
     }

@@ -28,17 +28,18 @@ void WriteTable(SlotWriter& slots, const Table& table)
 
 bool WriteClientFile(const std::string& path)
 {
-    return WriteSlotFile(path, SlotFileLength(RecordCount, MagicLength(EndMagic)), [](SlotWriter& slots) {
-        slots.WriteMagic(StartMagic);
-        slots.Write(LeagueData);
-        WriteTable(slots, Prospects);
-        WriteTable(slots, Teams);
-        WriteTable(slots, Players);
-        WriteTable(slots, Goalies);
-        WriteTable(slots, Coaches);
-        WriteTable(slots, GameSchedule);
-        slots.WriteMagic(EndMagic);
-    });
+    return WriteSlotFile(SlotFilesOf(OpenFiles()), path, SlotFileLength(RecordCount, MagicLength(EndMagic)),
+                         [](SlotWriter& slots) {
+                             slots.WriteMagic(StartMagic);
+                             slots.Write(LeagueData);
+                             WriteTable(slots, Prospects);
+                             WriteTable(slots, Teams);
+                             WriteTable(slots, Players);
+                             WriteTable(slots, Goalies);
+                             WriteTable(slots, Coaches);
+                             WriteTable(slots, GameSchedule);
+                             slots.WriteMagic(EndMagic);
+                         });
 }
 
 } // namespace dravik::sample

@@ -56,7 +56,7 @@ void MakeFinances(const SampleOptions& options)
         BuildArena(random, team);
         SellTickets(random, team);
         const long long opening = 100000LL * random.Between(80, 450);
-        team.Cash = opening + team.TotalIncome - ExpensePerGame(number) * team.GamesPlayed;
+        team.Cash = opening + team.TotalIncome - ExpensePerGame(OpenLeague, Machine(), number) * team.GamesPlayed;
     }
 }
 

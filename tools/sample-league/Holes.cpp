@@ -54,7 +54,7 @@ void ExceedCap(int team)
     constexpr long long raise = 250000;
     constexpr long long excess = 1000000;
     const std::vector<int> skaters = SkatersOf(team, status::Pro);
-    while (ProPayroll(team) < static_cast<float>(LeagueData.SalaryCap + excess))
+    while (ProPayroll(OpenLeague, Machine(), team) < static_cast<float>(LeagueData.SalaryCap + excess))
         for (const int index : skaters)
             Players[index].Salary = std::min<long long>(Players[index].Salary + raise, LeagueData.MaxSalary);
 }

@@ -10,7 +10,7 @@ void MakeSampleLeague(const SampleOptions& options)
     if ((options.Divisions != 4 && options.Divisions != 6) || (options.OffSeason && options.Deadline))
         Fail(failure::InvalidCall);
 
-    EmptyLeagueTables();
+    EmptyLeagueTables(OpenLeague);
     LeagueData = {};
     for (Coach& coach : Coaches)
         coach = {};
