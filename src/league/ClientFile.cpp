@@ -109,9 +109,4 @@ void PrepareLeague(Tables& league)
     SetDefaults(league.LeagueData);
 }
 
-ShownRatings RatingsShownBy(const League& rules)
-{
-    return rules.ShowAllRatings ? ShownRatings{.Skater = 15, .Goalie = 13} : ShownRatings{.Skater = 7, .Goalie = 7};
-}
-
 } // namespace dravik

@@ -23,11 +23,4 @@ ClientFileRead ReadClientFile(Tables& league, const SlotFiles& files, const std:
 // know. Nothing of it fails on whatever the file held.
 void PrepareLeague(Tables& league);
 
-// How many ratings the league shows of a skater and of a goalie: the single ones, or their groups.
-struct ShownRatings {
-    int Skater;
-    int Goalie;
-};
-ShownRatings RatingsShownBy(const League& rules);
-
 } // namespace dravik

@@ -84,6 +84,11 @@ void AddOverall(const League& rules, StatRows& rows, int overall, StatRow (*row)
 
 } // namespace
 
+ShownRatings RatingsShownBy(const League& rules)
+{
+    return rules.ShowAllRatings ? ShownRatings{.Skater = 15, .Goalie = 13} : ShownRatings{.Skater = 7, .Goalie = 7};
+}
+
 void TellSkaterRatings(const Tables& league, int index, int count, const TellStatRow& tell)
 {
     TellRatings(league.LeagueData, league.Players[index].Stats, count, SkaterStatName, SkaterGroupName, SkaterGroups,

@@ -10,6 +10,13 @@
 
 namespace dravik {
 
+// How many ratings the league shows of a skater and of a goalie: the single ones, or their groups.
+struct ShownRatings {
+    int Skater;
+    int Goalie;
+};
+ShownRatings RatingsShownBy(const League& rules);
+
 // One line of a person's stat panel: a caption of two letters and a number, usually 0 to 99.
 struct StatRow {
     std::string_view Label;

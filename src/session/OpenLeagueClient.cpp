@@ -5,6 +5,7 @@
 #include "league/OutsideCode.h"
 #include "league/Reporting.h"
 #include "league/SettingsFailure.h"
+#include "rules/StatRows.h"
 #include "rules/Waivers.h"
 #include "session/Session.h"
 
@@ -119,8 +120,9 @@ void OpenLeagueClient(const std::string& path, MainWindow& window)
             return;
         }
         PrepareLeague(OpenLeague);
-        PlayerStatCount = RatingsShownBy(LeagueData).Skater;
-        GoalieStatCount = RatingsShownBy(LeagueData).Goalie;
+        const ShownRatings shown = RatingsShownBy(LeagueData);
+        PlayerStatCount = shown.Skater;
+        GoalieStatCount = shown.Goalie;
         ShowLeague(path, outcome.File == SlotFileRead::Damaged, window);
     });
 }
