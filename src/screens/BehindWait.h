@@ -1,6 +1,6 @@
 #pragma once
 
-#include "session/Routines.h"
+#include "session/Session.h"
 
 #include <utility>
 
@@ -13,14 +13,14 @@ bool BehindWait(Work&& work)
 {
     bool done = false;
     try {
-        ShowWait();
+        Machine().ShowWait();
         done = std::forward<Work>(work)();
     } catch (...) {
-        CloseWait();
+        Machine().CloseWait();
         throw;
     }
     if (done)
-        CloseWait();
+        Machine().CloseWait();
     return done;
 }
 

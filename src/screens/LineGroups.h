@@ -1,7 +1,7 @@
 #pragma once
 
 #include "rules/LineSlots.h"
-#include "session/Routines.h"
+#include "rules/StatRows.h"
 
 #include <array>
 #include <span>

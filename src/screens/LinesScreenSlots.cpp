@@ -3,7 +3,7 @@
 #include "screens/PersonWords.h"
 #include "screens/platform/CodePage.h"
 #include "screens/RosterEntry.h"
-#include "session/Session.h"
+#include "session/Routines.h"
 
 #include <algorithm>
 

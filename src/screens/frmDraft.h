@@ -1,8 +1,8 @@
 #pragma once
 
+#include "league/DraftFile.h"
 #include "screens/panels/RankList.h"
 #include "screens/Screen.h"
-#include "session/Routines.h"
 
 #include <QCheckBox>
 #include <QLabel>

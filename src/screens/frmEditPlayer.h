@@ -1,10 +1,11 @@
 #pragma once
 
+#include "league/InputCheck.h"
 #include "screens/panels/EditBox.h"
 #include "screens/panels/EntryList.h"
 #include "screens/panels/RatingRows.h"
 #include "screens/Screen.h"
-#include "session/Routines.h"
+#include "session/Session.h"
 
 #include <functional>
 #include <optional>

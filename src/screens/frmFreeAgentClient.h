@@ -1,13 +1,13 @@
 #pragma once
 
 #include "league/FreeAgentOffer.h"
+#include "league/InputCheck.h"
 #include "screens/panels/EditArea.h"
 #include "screens/panels/EditBox.h"
 #include "screens/panels/PickList.h"
 #include "screens/panels/StatPanel.h"
 #include "screens/panels/Verdict.h"
 #include "screens/Screen.h"
-#include "session/Routines.h"
 
 #include <functional>
 #include <optional>

@@ -1,9 +1,9 @@
 #pragma once
 
+#include "league/InputCheck.h"
 #include "league/Team.h"
 #include "screens/panels/EditBox.h"
 #include "screens/Screen.h"
-#include "session/Routines.h"
 
 #include <functional>
 #include <QGridLayout>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "session/Routines.h"
+#include "rules/SalaryCap.h"
 
 #include <QLabel>
 

@@ -1,8 +1,8 @@
 #pragma once
 
 #include "league/Field.h"
+#include "rules/StatRows.h"
 #include "screens/panels/RatingRows.h"
-#include "session/Routines.h"
 
 #include <QGroupBox>
 #include <QLabel>
