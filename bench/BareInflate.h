@@ -19,8 +19,8 @@ namespace dravik {
 inline constexpr std::size_t BareWindow = 1 << 16;
 
 // Hands the stream of the file to `inflate` in pieces: `inflate(input, window)` uses some of the input, fills the window as
-// far as it can, and returns how much of the input is left and whether the stream has ended well. Ends the process when the file does
-// not hold a good stream.
+// far as it can, and returns how much of the input is left and whether the stream has ended well. Ends the process when the
+// file does not hold a good stream.
 template <class Inflate>
 void ThrowAway(const std::string& path, const Inflate& inflate)
 {

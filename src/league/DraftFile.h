@@ -17,7 +17,8 @@ std::string DraftFilePath(const Tables& league, Disk& disk, int team);
 
 // Writes `ranking` as the draft file of `team` to `target`, plain or compressed as the settings say. A work file left
 // behind is deleted first; the new file is the work file until it is whole, so both have to be on one disk, and then takes
-// the place of what stands at `target` in one step. After a failure the old one is deleted. False after a failed compression, which is told; any other failure is thrown.
+// the place of what stands at `target` in one step. After a failure the old one is deleted. False after a failed
+// compression, which is told; any other failure is thrown.
 bool WriteDraftFile(const Tables& league, const FileAccess& access, int team, const DraftRanking& ranking,
                     const std::string& target);
 

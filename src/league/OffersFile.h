@@ -41,8 +41,8 @@ struct SavedOffers {
 
 // Saves the offers of `team` (1..100) to `target`, plain or compressed as the settings say. A work file left behind is
 // deleted first; the new file is the work file until it is whole, so both have to be on one disk, and then takes the place of
-// what stands at `target` in one step. Where no new one comes, for whatever reason, the old one is deleted. `Team` of each offer that the file takes becomes `team`. A failure that is not one of the
-// compression is thrown.
+// what stands at `target` in one step. Where no new one comes, for whatever reason, the old one is deleted. `Team` of each
+// offer that the file takes becomes `team`. A failure that is not one of the compression is thrown.
 SavedOffers WriteOffersFile(const Tables& league, const FileAccess& access, const Formats& shown, int team,
                             const std::string& target, OfferTable& offers);
 
