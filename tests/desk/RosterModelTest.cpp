@@ -5,6 +5,7 @@
 #include "rules/Waivers.h"
 #include "rules/WipeLines.h"
 #include "session/Session.h"
+#include "support/PlainFormats.h"
 #include "support/RandomLeague.h"
 
 #include <algorithm>
@@ -57,15 +58,6 @@ private:
 
     Dice dice;
     int untilFailure;
-};
-
-class PlainMoney final : public Formats {
-public:
-    [[nodiscard]] std::string Currency(double amount) const override { return std::to_string(amount); }
-    [[nodiscard]] std::string CurrencyNoDecimals(double amount) const override { return std::to_string(amount); }
-    [[nodiscard]] std::string Fixed(double value, int /*decimals*/) const override { return std::to_string(value); }
-    [[nodiscard]] std::string LongDate(double days) const override { return std::to_string(days); }
-    [[nodiscard]] std::string ShortTime(double days) const override { return std::to_string(days); }
 };
 
 // What a command is given.
@@ -374,7 +366,7 @@ TEST(RosterModelTest, RandomEveningsAreThoseOfTheNaiveTelling)
 {
     constexpr unsigned leagues = 25;
     constexpr int commands = 150;
-    const PlainMoney shown;
+    const PlainFormats shown;
     int failures = 0;
     int boxes = 0;
     for (unsigned seed = 1; seed <= leagues; ++seed) {

@@ -5,6 +5,7 @@
 #include "rules/LineLookups.h"
 #include "rules/RosterJudge.h"
 #include "support/NotingVoice.h"
+#include "support/PlainFormats.h"
 #include "support/RandomLeague.h"
 
 #include <cstring>
@@ -15,19 +16,6 @@
 // other, not even by two threads.
 namespace dravik {
 namespace {
-
-// The locale of nobody, which several threads may ask.
-class PlainFormats final : public Formats {
-public:
-    [[nodiscard]] std::string Currency(double amount) const override { return std::to_string(amount); }
-    [[nodiscard]] std::string CurrencyNoDecimals(double amount) const override { return std::to_string(amount); }
-    [[nodiscard]] std::string Fixed(double value, int decimals) const override
-    {
-        return std::to_string(value) + '/' + std::to_string(decimals);
-    }
-    [[nodiscard]] std::string LongDate(double days) const override { return std::to_string(days); }
-    [[nodiscard]] std::string ShortTime(double days) const override { return std::to_string(days); }
-};
 
 std::unique_ptr<Tables> RolledLeague(unsigned seed)
 {
@@ -101,7 +89,8 @@ void ExpectAsAlone(const Evening& evening, const Evening& alone, unsigned seed)
     EXPECT_EQ(evening.Told(), alone.Told()) << seed;
 }
 
-TEST(TwoLeaguesTest, InTurnEachIsJudgedAndMadeAsAlone)
+// Has `together` bring the evenings of two leagues to their ends, and expects of each what it comes to alone.
+void ExpectBothAsAlone(const std::function<void(Evening& one, Evening& other)>& together)
 {
     for (unsigned seed = 1; seed <= Seeds; ++seed) {
         const auto one = RolledLeague(seed);
@@ -110,37 +99,33 @@ TEST(TwoLeaguesTest, InTurnEachIsJudgedAndMadeAsAlone)
         Evening otherAlone(*other);
         oneAlone.ToItsEnd();
         otherAlone.ToItsEnd();
-
-        Evening oneInTurn(*one);
-        Evening otherInTurn(*other);
-        for (bool left = true; left;) {
-            left = oneInTurn.Step();
-            left = otherInTurn.Step() || left;
-        }
-        ExpectAsAlone(oneInTurn, oneAlone, seed);
-        ExpectAsAlone(otherInTurn, otherAlone, seed);
         EXPECT_FALSE(AreAlike(oneAlone.League(), *one)) << "the evening did nothing with " << seed;
+
+        Evening oneBeside(*one);
+        Evening otherBeside(*other);
+        together(oneBeside, otherBeside);
+        ExpectAsAlone(oneBeside, oneAlone, seed);
+        ExpectAsAlone(otherBeside, otherAlone, seed);
     }
+}
+
+TEST(TwoLeaguesTest, InTurnEachIsJudgedAndMadeAsAlone)
+{
+    ExpectBothAsAlone([](Evening& one, Evening& other) {
+        for (bool left = true; left;) {
+            left = one.Step();
+            left = other.Step() || left;
+        }
+    });
 }
 
 TEST(TwoLeaguesTest, TwoThreadsJudgeAndMakeEachAsAlone)
 {
-    for (unsigned seed = 1; seed <= Seeds; ++seed) {
-        const auto one = RolledLeague(seed);
-        const auto other = RolledLeague(seed + 1000);
-        Evening oneAlone(*one);
-        Evening otherAlone(*other);
-        oneAlone.ToItsEnd();
-        otherAlone.ToItsEnd();
-
-        Evening oneBeside(*one);
-        Evening otherBeside(*other);
-        std::thread beside([&] { otherBeside.ToItsEnd(); });
-        oneBeside.ToItsEnd();
+    ExpectBothAsAlone([](Evening& one, Evening& other) {
+        std::thread beside([&] { other.ToItsEnd(); });
+        one.ToItsEnd();
         beside.join();
-        ExpectAsAlone(oneBeside, oneAlone, seed);
-        ExpectAsAlone(otherBeside, otherAlone, seed);
-    }
+    });
 }
 
 TEST(TwoLeaguesTest, JudgingACopyLeavesTheOriginalAlone)
