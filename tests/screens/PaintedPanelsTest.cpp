@@ -1,5 +1,6 @@
 #include "OnStage.h"
 #include "PaintedContrast.h"
+#include "PartReadAs.h"
 #include "screens/panels/DayStrip.h"
 #include "screens/panels/EditBox.h"
 #include "screens/panels/PayrollBar.h"
@@ -149,10 +150,7 @@ TEST_F(PaintedPanels, ThePayrollsPartsLieBesideEachOtherUpToTheMarkOfTheCap)
     panel.Show({.Pro = 100, .Farm = 0, .Total = 150, .Cap = 200});
     panel.resize(900, 40);
     Settle();
-    QWidget* bar = nullptr;
-    for (auto* child : panel.findChildren<QWidget*>())
-        if (child->accessibleName() == "Payroll")
-            bar = child;
+    QWidget* bar = PartReadAs(panel, "Payroll");
     ASSERT_NE(bar, nullptr);
     const QColor back = bar->palette().color(QPalette::Window);
     const QColor front = bar->palette().color(QPalette::WindowText);

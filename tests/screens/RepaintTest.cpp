@@ -1,4 +1,5 @@
 #include "OnStage.h"
+#include "PartReadAs.h"
 #include "screens/panels/DayStrip.h"
 #include "screens/panels/PayrollBar.h"
 #include "screens/panels/RatingBar.h"
@@ -89,10 +90,7 @@ TEST_F(Repaint, ThePayrollIsPaintedAnewForAnotherStanding)
     PayrollBar& panel = Shown(window, new PayrollBar(&window));
     panel.Show({.Pro = 100, .Farm = 0, .Total = 100, .Cap = 200});
     Settle();
-    QWidget* bar = nullptr;
-    for (auto* child : panel.findChildren<QWidget*>())
-        if (child->accessibleName() == "Payroll")
-            bar = child;
+    QWidget* bar = PartReadAs(panel, "Payroll");
     ASSERT_NE(bar, nullptr);
     EXPECT_TRUE(IsPaintedAnewBy([&] { panel.Show({.Pro = 150, .Farm = 0, .Total = 150, .Cap = 200}); }, *bar));
 }
