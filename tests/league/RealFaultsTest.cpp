@@ -4,10 +4,8 @@
 #include "support/RealFaults.h"
 
 #include "league/Failure.h"
-#include "session/OpenLeagueClient.h"
 #include "session/Routines.h"
 #include "support/FaultyFiles.h"
-#include "support/OpenedWindow.h"
 
 #ifndef _WIN32
 
@@ -19,16 +17,6 @@ using ::testing::IsEmpty;
 
 class RealFaultsTest : public FaultyFiles {
 protected:
-    // A file of these slots that nobody may read.
-    std::string Secret(const std::string& name, bool plain, const ByteVector& slots)
-    {
-        Machine.Settings["SkipZIPClient"] = plain ? "YES" : "No";
-        const std::string path = Machine.InFolder(name);
-        WriteSparse(path, plain ? slots : Wrapped(slots, 1));
-        EXPECT_EQ(chmod(path.c_str(), 0), 0);
-        return path;
-    }
-
     bool Export()
     {
         ExportRatings(Machine.Folder());
@@ -36,48 +24,12 @@ protected:
     }
 };
 
-TEST_F(RealFaultsTest, AClientFileThatMayNotBeReadIsNoLeague)
-{
-    const ByteVector slots = ClientSlots();
-    for (const bool plain : {false, true}) {
-        const std::string path = Secret("League.dvs", plain, slots);
-        OpenedWindow window;
-        const ReadOnly folder(Machine.Folder());
-        OpenLeagueClient(path, window);
-        EXPECT_THAT(Machine.TakeBoxes(),
-                    ElementsAre(Box{box::Critical, plain ? "70 - Permission denied in OpenLeagueClient!"
-                                                         : "70 - Permission denied in Zlib Decompress!"}));
-        EXPECT_TRUE(FiveTablesAreEmpty());
-        EXPECT_THAT(window.Calls, IsEmpty());
-        EXPECT_TRUE(Machine.WaitShown);
-    }
-}
-
-TEST_F(RealFaultsTest, AWriteProtectedClientFileInAWriteProtectedFolderOpens)
-{
-    const ByteVector slots = ClientSlots();
-    for (const bool plain : {false, true}) {
-        const std::string path = Secret("League.dvs", plain, slots);
-        EXPECT_EQ(chmod(path.c_str(), 0444), 0);
-        const ByteVector before = ReadWhole(path);
-        OpenedWindow window;
-        {
-            const ReadOnly folder(Machine.Folder());
-            OpenLeagueClient(path, window);
-        }
-        EXPECT_THAT(Machine.TakeBoxes(), IsEmpty());
-        EXPECT_EQ(LeagueData.Name.Trimmed(), "Small League");
-        EXPECT_EQ(window.Calls.size(), 7U);
-        EXPECT_TRUE(ReadWhole(path) == before);
-    }
-}
-
 TEST_F(RealFaultsTest, ALinesFileThatMayNotBeReadChangesNothing)
 {
     const ByteVector slots = LinesSlots(5);
     const ByteVector before = Tables();
     for (const bool plain : {false, true}) {
-        const std::string path = Secret("Team5.dvl", plain, slots);
+        const std::string path = Secret(Machine, "Team5.dvl", plain, slots);
         const ReadOnly folder(Machine.Folder());
         const Outcome outcome = Run([&] { return ReadLinesFile(path) == LinesFileRead::Loaded; });
         EXPECT_FALSE(outcome.Done);

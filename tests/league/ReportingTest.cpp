@@ -87,6 +87,7 @@ TEST_F(ReportingTest, TheButtonOfTheReportGoesToMsgResult)
     Machine.MsgResult = 0;
     Reporting(" in mnuOpen!", [] { Fail(failure::Overflow); });
     EXPECT_EQ(Machine.MsgResult, 1);
+    EXPECT_THAT(Machine.Boxes(), ElementsAre(Box{16, "6 - Overflow in mnuOpen!"}));
 }
 
 TEST_F(ReportingTest, ACancelledDialogIsToldUnlessItIsDropped)
@@ -135,6 +136,13 @@ TEST_F(ReportingTest, AnInputBoxStandsUnderTheProgramsTitleWithNothingInIt)
     EXPECT_EQ(AskText("Password Required!"), ""); // cancelled
     const Question asked{"Password Required!", "Dravik Hockey Simulator Client", ""};
     EXPECT_THAT(Machine.Questions(), ElementsAre(asked, asked));
+}
+
+TEST_F(ReportingTest, AVoiceThatHasJustStartedMayNotReportAndHasNoAnswer)
+{
+    const MuteVoice voice;
+    EXPECT_FALSE(voice.MessagesAllowed);
+    EXPECT_EQ(voice.MsgResult, 0);
 }
 
 } // namespace

@@ -3,10 +3,13 @@
 #include "support/RandomLeague.h"
 #include "support/SmallLeague.h"
 
+#include <cstring>
+
 namespace dravik {
 namespace {
 
 using ::testing::ElementsAre;
+using ::testing::IsEmpty;
 
 class WaiversTest : public SmallLeague {
 protected:
@@ -160,6 +163,81 @@ TEST_F(WaiversTest, ADeadlineThatHasPassedAndIsNotInForceStillNeedsWaivers)
     LeagueData.TradeDeadlineInForce = true;
     EXPECT_FALSE(WaiverCheck(OpenLeague, Machine, 7));
     EXPECT_FALSE(WaiverCheck(OpenLeague, Machine, 10007));
+}
+
+TEST_F(WaiversTest, ASkaterOnWaiversIsSuspendedFor99Games)
+{
+    PutSkater(1, 5, position::Center, status::Pro);
+    PutSkater(10000, 5, position::Defense, status::Farm);
+    MarkWaived(OpenLeague, Machine, 5, 1);
+    MarkWaived(OpenLeague, Machine, 5, 10000);
+    EXPECT_EQ(Players[1].Suspension, 99);
+    EXPECT_EQ(Players[10000].Suspension, 99);
+    EXPECT_THAT(Machine.Boxes(), IsEmpty());
+}
+
+TEST_F(WaiversTest, AGoalieOnWaiversIsKnownByHisIndexAnd10000)
+{
+    PutGoalie(1, 5, status::Pro);
+    PutGoalie(1000, 5, status::Pro);
+    MarkWaived(OpenLeague, Machine, 100, 10001);
+    MarkWaived(OpenLeague, Machine, 1, 11000);
+    EXPECT_EQ(Goalies[1].Suspension, 99);
+    EXPECT_EQ(Goalies[1000].Suspension, 99);
+    EXPECT_EQ(Players[1].Suspension, 0);
+    EXPECT_EQ(Players[1000].Suspension, 0);
+    EXPECT_THAT(Machine.Boxes(), IsEmpty());
+}
+
+TEST_F(WaiversTest, ASkatersNumberMarksNoGoalie)
+{
+    MarkWaived(OpenLeague, Machine, 5, 7);
+    EXPECT_EQ(Goalies[7].Suspension, 0);
+}
+
+TEST_F(WaiversTest, OnlyTheSuspensionOfAWaivedPersonChanges)
+{
+    Player& skater = PutSkater(7, 5, position::Center, status::Pro);
+    Player expected = skater;
+    expected.Suspension = 99;
+    MarkWaived(OpenLeague, Machine, 5, 7);
+    EXPECT_EQ(std::memcmp(&skater, &expected, sizeof skater), 0);
+}
+
+TEST_F(WaiversTest, TheTeamOfAWaivedPersonIsNotCompared)
+{
+    PutSkater(7, 5, position::Center, status::Pro);
+    MarkWaived(OpenLeague, Machine, 6, 7);
+    EXPECT_EQ(Players[7].Suspension, 99);
+}
+
+TEST_F(WaiversTest, ANumberOutOfRangeFailsTheIntegrityCheckAndMarksNobody)
+{
+    struct Call {
+        int Team;
+        int Id;
+    };
+    const Call calls[] = {{0, 7}, {101, 7}, {-1, 7}, {5, 0}, {5, -1}, {5, 11001}, {0, 0}};
+    for (const Call& call : calls) {
+        MarkWaived(OpenLeague, Machine, call.Team, call.Id);
+        EXPECT_THAT(Machine.TakeBoxes(), ElementsAre(Box{16, "Integrity Check Failed!"}))
+            << call.Team << " " << call.Id;
+    }
+    EXPECT_EQ(Players[7].Suspension, 0);
+    EXPECT_EQ(Players[0].Suspension, 0);
+    EXPECT_EQ(Goalies[0].Suspension, 0);
+}
+
+TEST_F(WaiversTest, TheDeadlineIsInForceOnlyWhenTheWordIsTrue)
+{
+    EXPECT_FALSE(IsDeadlineInForce(LeagueData));
+    LeagueData.TradeDeadlineInForce = true;
+    EXPECT_TRUE(IsDeadlineInForce(LeagueData));
+    LeagueData.TradeDeadlineInForce.SetWord(1);
+    EXPECT_FALSE(IsDeadlineInForce(LeagueData));
+    LeagueData.TradeDeadlineInForce = false;
+    LeagueData.TradeDeadlinePassed = true;
+    EXPECT_FALSE(IsDeadlineInForce(LeagueData));
 }
 
 } // namespace

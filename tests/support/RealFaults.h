@@ -3,6 +3,9 @@
 // Faults that the system itself makes, where the calls of POSIX can ask it to.
 #ifndef _WIN32
 
+#include "support/ClientFileBytes.h"
+#include "support/ScriptedPlatform.h"
+
 #include <csignal>
 #include <gtest/gtest.h>
 #include <string>
@@ -60,6 +63,16 @@ private:
     void (*before)(int) = nullptr;
     rlimit limit{};
 };
+
+// A file of these slots, in the machine's folder, that nobody may read. The settings say whether it is plain.
+inline std::string Secret(ScriptedPlatform& machine, const std::string& name, bool plain, const ByteVector& slots)
+{
+    machine.Settings["SkipZIPClient"] = plain ? "YES" : "No";
+    const std::string path = machine.InFolder(name);
+    WriteSparse(path, plain ? slots : Wrapped(slots, 1));
+    EXPECT_EQ(chmod(path.c_str(), 0), 0);
+    return path;
+}
 
 } // namespace dravik
 

@@ -1,19 +1,17 @@
-// Every way in which a file can be bad: each ends in its words, and leaves no half league and nothing beside the file.
+// Every way in which a client file can be bad: each ends in its words, and leaves no half league and nothing beside the file.
 
 #include "league/Failure.h"
 #include "session/OpenLeagueClient.h"
 #include "session/Routines.h"
+#include "support/BadFiles.h"
 #include "support/LeagueImage.h"
 #include "support/OpenedWindow.h"
-#include "support/SmallLeague.h"
+#include "support/PeakMemory.h"
 
-#include <algorithm>
 #include <cstring>
 #include <filesystem>
 #include <fstream>
-#include <functional>
 #include <random>
-#include <set>
 
 namespace dravik {
 namespace {
@@ -23,27 +21,10 @@ using ::testing::IsEmpty;
 
 namespace fs = std::filesystem;
 
-const Box NotDecompressed{box::Critical, "9 - Subscript out of range in Zlib Decompress!"};
 const Box Integrity{box::Critical, "File Integrity is incorrect!"};
 
-class BadFilesTest : public SmallLeague {
+class BadClientFilesTest : public BadFiles {
 protected:
-    BadFilesTest()
-    {
-        for (const int team : {5, 6}) {
-            TeamMaker maker(team);
-            maker.DressesFullRoster().FarmsFullRoster();
-            FillLines(Teams[team].ProLines[1], maker.Skaters, maker.Skaters, maker.GoalieIds);
-        }
-        Prospects[1].Name = "A Prospect";
-        Coaches[1].Name = "A Coach";
-        LeagueData.FileDate = 45000;
-        GameSchedule[5000].GameDay = 82;
-        CurrentTeam = 5;
-        ClientPath = Machine.InFolder("League.dvs");
-        LinesPath = Machine.InFolder("Team5.dvl");
-    }
-
     void Open()
     {
         Machine.TakeBoxes();
@@ -117,86 +98,14 @@ protected:
         EXPECT_FALSE(Machine.WaitShown) << what;
     }
 
-    [[nodiscard]] std::set<std::string> FilesLeft() const
-    {
-        std::set<std::string> names;
-        for (const auto& entry : fs::directory_iterator(Machine.Folder()))
-            names.insert(entry.path().filename().string());
-        return names;
-    }
-
-    // The number of the failure that `work` ends in; 0 when it ends in none.
-    static int NumberOf(const std::function<void()>& work)
-    {
-        try {
-            work();
-        } catch (const Failure& failed) {
-            return failed.Number;
-        }
-        return 0;
-    }
-
-    static ByteVector WithLength(ByteVector wrapper, std::int32_t length)
-    {
-        for (std::size_t i = 0; i < 4; ++i)
-            wrapper[i] = static_cast<unsigned char>(static_cast<std::uint32_t>(length) >> (8 * i));
-        return wrapper;
-    }
-
-    static ByteVector Cut(const ByteVector& bytes, std::size_t length)
-    {
-        return {bytes.begin(), bytes.begin() + static_cast<std::ptrdiff_t>(length)};
-    }
-
-    // The tables that a lines file can change.
-    static ByteVector LinesTables()
-    {
-        ByteVector all;
-        for (const ByteVector& bytes :
-             {ImageOf(Teams), ImageOf(Players), ImageOf(Goalies), ImageOf(RosterChanges), ImageOf(RosterChangesGoalie)})
-            all.insert(all.end(), bytes.begin(), bytes.end());
-        return all;
-    }
-
-    // Loads the lines file `file`, which gives the bytes `came` of the whole `slots`.
-    void ExpectTakesOverWhatIsInIt(const ByteVector& file, const ByteVector& came, const ByteVector& slots)
-    {
-        SCOPED_TRACE(file.size());
-        const bool nothing = came.empty() && Machine.Settings["SkipZIPClient"] != "YES";
-        Teams[5].Cash = 77;
-        RosterChanges[10000].Protected = true;
-        RosterChangesGoalie[1000].Protected = true;
-        const ByteVector before = LinesTables();
-        Machine.TakeBoxes();
-        WriteSparse(LinesPath, file);
-        const LinesFileRead result = ReadLinesFile(LinesPath);
-        EXPECT_EQ(result == LinesFileRead::NotDecompressed, nothing);
-        EXPECT_EQ(Machine.Boxes(), nothing ? std::vector{NotDecompressed} : std::vector<Box>{});
-        // More can come than is in the file: the zeros behind a cut stream decode to something too.
-        const bool whole = came.size() >= slots.size() &&
-                           std::equal(slots.end() - 39, slots.end(), came.begin() + (slots.end() - slots.begin()) - 39);
-        EXPECT_EQ(result == LinesFileRead::Loaded, whole);
-        const auto has = [&](std::size_t record, std::size_t length) {
-            return came.size() >= client_file::Offset(record) + length;
-        };
-        EXPECT_EQ(Teams[5].Cash, has(4, sizeof(Team)) ? 0 : 77);
-        EXPECT_NE(static_cast<bool>(RosterChanges[10000].Protected), has(10004, sizeof(RosterChange)));
-        EXPECT_NE(static_cast<bool>(RosterChangesGoalie[1000].Protected), has(11004, sizeof(RosterChange)));
-        if (!has(4, sizeof(Team))) {
-            EXPECT_TRUE(LinesTables() == before);
-        }
-    }
-
     OpenedWindow Window;
-    std::string ClientPath;
-    std::string LinesPath;
 
 private:
     ByteVector keptLeague;
     ByteVector keptCoaches;
 };
 
-TEST_F(BadFilesTest, FilesWithoutAStreamEndInTheDecompressionMessage)
+TEST_F(BadClientFilesTest, FilesWithoutAStreamEndInTheDecompressionMessage)
 {
     Keep();
     const std::string files[] = {
@@ -217,7 +126,7 @@ TEST_F(BadFilesTest, FilesWithoutAStreamEndInTheDecompressionMessage)
     }
 }
 
-TEST_F(BadFilesTest, TheLengthFieldCanClaimWhatItWants)
+TEST_F(BadClientFilesTest, TheLengthFieldCanClaimWhatItWants)
 {
     const ByteVector wrapper = Wrapped(ClientSlots(), 1);
     Keep();
@@ -241,7 +150,7 @@ TEST_F(BadFilesTest, TheLengthFieldCanClaimWhatItWants)
     }
 }
 
-TEST_F(BadFilesTest, EveryCutClientFileIsWholeOrEmpty)
+TEST_F(BadClientFilesTest, EveryCutClientFileIsWholeOrEmpty)
 {
     const ByteVector wrapper = Wrapped(ClientSlots(), 1);
     const std::size_t size = wrapper.size();
@@ -255,7 +164,7 @@ TEST_F(BadFilesTest, EveryCutClientFileIsWholeOrEmpty)
         ExpectAsByHand(Cut(wrapper, length), "cut to " + std::to_string(length) + " of " + std::to_string(size));
 }
 
-TEST_F(BadFilesTest, EveryFlippedClientFileIsWholeOrEmpty)
+TEST_F(BadClientFilesTest, EveryFlippedClientFileIsWholeOrEmpty)
 {
     const ByteVector wrapper = Wrapped(ClientSlots(), 1);
     std::mt19937 random(1);
@@ -269,7 +178,7 @@ TEST_F(BadFilesTest, EveryFlippedClientFileIsWholeOrEmpty)
     }
 }
 
-TEST_F(BadFilesTest, APlainClientFileOpensOnlyWithBothMagics)
+TEST_F(BadClientFilesTest, APlainClientFileOpensOnlyWithBothMagics)
 {
     Machine.Settings["SkipZIPClient"] = "YES";
     const ByteVector slots = ClientSlots();
@@ -295,7 +204,7 @@ TEST_F(BadFilesTest, APlainClientFileOpensOnlyWithBothMagics)
     EXPECT_THAT(Machine.Boxes(), IsEmpty());
 }
 
-TEST_F(BadFilesTest, EveryFlippedMagicIsRefused)
+TEST_F(BadClientFilesTest, EveryFlippedMagicIsRefused)
 {
     Machine.Settings["SkipZIPClient"] = "YES";
     const ByteVector slots = ClientSlots();
@@ -320,7 +229,7 @@ TEST_F(BadFilesTest, EveryFlippedMagicIsRefused)
     }
 }
 
-TEST_F(BadFilesTest, ADirectoryIsNoFile)
+TEST_F(BadClientFilesTest, ADirectoryIsNoFile)
 {
     fs::create_directory(ClientPath);
     Keep();
@@ -333,34 +242,7 @@ TEST_F(BadFilesTest, ADirectoryIsNoFile)
     EXPECT_TRUE(Machine.WaitShown);
 }
 
-TEST_F(BadFilesTest, ADirectoryIsNoLinesFile)
-{
-    fs::create_directory(LinesPath);
-    const ByteVector before = LinesTables();
-    EXPECT_EQ(ReadLinesFile(LinesPath), LinesFileRead::NotDecompressed);
-    EXPECT_THAT(Machine.TakeBoxes(),
-                ElementsAre(Box{box::Critical, "75 - Path/File access error in Zlib Decompress!"}));
-    Machine.Settings["SkipZIPClient"] = "YES";
-    EXPECT_EQ(NumberOf([&] { (void)ReadLinesFile(LinesPath); }), failure::PathAccess);
-    EXPECT_THAT(Machine.Boxes(), IsEmpty()) << "the screen tells it";
-    EXPECT_TRUE(LinesTables() == before);
-}
-
-TEST_F(BadFilesTest, ADirectoryAtTheTargetOfASaveStays)
-{
-    fs::create_directory(LinesPath);
-    const Box told{box::Critical, "75 - Path/File access error in Zlib Compress!"};
-    for (const bool plain : {false, true}) {
-        Machine.Settings["SkipZIPClient"] = plain ? "YES" : "No";
-        const int thrown = NumberOf([&] { EXPECT_FALSE(WriteLinesFile(5, LinesPath)); });
-        EXPECT_EQ(thrown, plain ? failure::PathAccess : 0) << "the screen tells it";
-        EXPECT_EQ(Machine.TakeBoxes(), plain ? std::vector<Box>{} : std::vector{told});
-        EXPECT_TRUE(fs::is_directory(LinesPath));
-        EXPECT_THAT(FilesLeft(), ElementsAre("Team5.dvl"));
-    }
-}
-
-TEST_F(BadFilesTest, WithoutPermissionNothingIsRead)
+TEST_F(BadClientFilesTest, WithoutPermissionNothingIsRead)
 {
     WriteWhole(ClientPath, {1});
     Keep();
@@ -375,7 +257,7 @@ TEST_F(BadFilesTest, WithoutPermissionNothingIsRead)
     EXPECT_TRUE(Machine.WaitShown);
 }
 
-TEST_F(BadFilesTest, AWorkFileThatCannotBeDeletedStopsTheOpen)
+TEST_F(BadClientFilesTest, AWorkFileThatCannotBeDeletedStopsTheOpen)
 {
     WriteWhole(ClientPath, Wrapped(ClientSlots(), 1));
     WriteWhole(TempFile, {1});
@@ -387,93 +269,14 @@ TEST_F(BadFilesTest, AWorkFileThatCannotBeDeletedStopsTheOpen)
     EXPECT_FALSE(Machine.WaitShown) << "it was not up yet";
 }
 
-TEST_F(BadFilesTest, EveryCutLinesFileTakesOverWhatIsInIt)
-{
-    const ByteVector slots = LinesSlots(5);
-    const ByteVector wrapper = Wrapped(slots, 1);
-    const std::size_t size = wrapper.size();
-    std::vector<std::size_t> lengths = {0, 3, 4, 5, 6, 7, 20, 50, 70, 100, 150, 1000, 65536, size / 2};
-    for (const std::size_t missing : {300U, 100U, 60U, 20U, 12U, 9U, 7U, 6U, 5U, 4U, 3U, 2U, 1U, 0U})
-        lengths.push_back(size - missing);
-    for (const std::size_t length : lengths)
-        ExpectTakesOverWhatIsInIt(Cut(wrapper, length), Unwrapped(Cut(wrapper, length)), slots);
-}
+#ifdef __linux__
 
-TEST_F(BadFilesTest, EveryCutPlainLinesFileTakesOverWhatIsInIt)
+TEST_F(BadClientFilesTest, MemoryStaysSmallWhateverAFileClaims)
 {
-    Machine.Settings["SkipZIPClient"] = "YES";
-    const ByteVector slots = LinesSlots(5);
-    std::vector<std::size_t> lengths = {0, 1, 2, 40, 41, slots.size() - 1, slots.size()};
-    for (const std::size_t record : {2U, 3U, 4U, 5U, 6U, 10004U, 10005U, 11004U, 11005U})
-        for (const std::size_t more : {0U, 1U, 2U, 4U, 5U})
-            lengths.push_back(client_file::Offset(record) + more);
-    lengths.push_back(client_file::Offset(5) - 1);
-    for (const std::size_t length : lengths)
-        ExpectTakesOverWhatIsInIt(Cut(slots, length), Cut(slots, length), slots);
-}
-
-TEST_F(BadFilesTest, AFlippedLinesFileNeverTouchesPeopleOfOtherTeamsAndNeverSetsAStrangeStatus)
-{
-    const ByteVector wrapper = Wrapped(LinesSlots(5), 1);
-    std::mt19937 random(2);
-    for (int round = 0; round < 80; ++round) {
-        ByteVector flipped = wrapper;
-        const std::size_t reach = round < 30 ? 200 : wrapper.size() - 4;
-        const std::size_t at = 4 + random() % reach;
-        flipped[at] ^= static_cast<unsigned char>(1U << random() % 8);
-        WriteWhole(LinesPath, flipped);
-        const ByteVector skater = ImageOf(Players[50]);
-        ASSERT_EQ(Players[50].Team, 6);
-        const ByteVector team = ImageOf(Teams[6]);
-        const LinesFileRead result = ReadLinesFile(LinesPath);
-        EXPECT_EQ(result == LinesFileRead::NotDecompressed, Unwrapped(flipped).empty()) << at;
-        EXPECT_TRUE(ImageOf(Players[50]) == skater) << at;
-        EXPECT_TRUE(ImageOf(Teams[6]) == team) << at;
-        EXPECT_TRUE(std::all_of(Players.begin(), Players.end(), [](const Player& p) { return p.Status <= 2; })) << at;
-        EXPECT_TRUE(std::all_of(Goalies.begin(), Goalies.end(), [](const Goalie& g) { return g.Status <= 2; })) << at;
-    }
-}
-
-#ifdef __linux__ // where a process can be asked for the peak of its memory, and the peak be set back
-
-// The most memory that `work` takes beyond what is taken already, in KiB.
-long PeakKiBOf(const std::function<void()>& work)
-{
-    const auto peak = [] {
-        std::ifstream status("/proc/self/status");
-        for (std::string word; status >> word;)
-            if (word == "VmHWM:") {
-                long value = 0;
-                status >> value;
-                return value;
-            }
-        return -1L;
-    };
-    // Sets the peak back to what is taken now; where that is forbidden, the peak can only seem too low.
-    std::ofstream("/proc/self/clear_refs") << "5";
-    const long before = peak();
-    work();
-    return peak() - before;
-}
-
-TEST_F(BadFilesTest, MemoryStaysSmallWhateverAFileClaims)
-{
-    {
-        // A stream without an end in sight: the start magic and then zeros, four times as long as any league.
-        ByteVector endless(240000000);
-        const std::string magic("\x26\0DRVK Client Files Version 1.12 - Start", 40);
-        std::copy(magic.begin(), magic.end(), endless.begin());
-        WriteWhole(ClientPath, WithLength(Wrapped(endless, 1), 2147483647));
-    }
+    WriteEndless(ClientPath);
     EXPECT_LT(PeakKiBOf([&] { Open(); }), 8192);
     EXPECT_THAT(Machine.Boxes(), ElementsAre(Integrity));
     EXPECT_TRUE(FiveTablesAreEmpty());
-
-    EXPECT_LT(PeakKiBOf([&] { EXPECT_EQ(ReadLinesFile(ClientPath), LinesFileRead::Refused); }), 8192);
-    EXPECT_LT(PeakKiBOf([&] { EXPECT_TRUE(ZlibDecompress(Machine, Machine, ClientPath, Machine.InFolder("out"))); }),
-              8192);
-    EXPECT_EQ(fs::file_size(Machine.InFolder("out")), 240000000U);
-    EXPECT_LT(PeakKiBOf([&] { EXPECT_TRUE(WriteLinesFile(5, LinesPath)); }), 8192);
 }
 
 #endif

@@ -1,10 +1,10 @@
-// Files that were damaged on their way and open all the same, because what came out of them has all that is asked for.
+// Client files that were damaged on their way and open all the same, because what came out of them has all that is asked for.
 
 #include "session/OpenLeagueClient.h"
 #include "session/Routines.h"
+#include "support/BadFiles.h"
 #include "support/LeagueImage.h"
 #include "support/OpenedWindow.h"
-#include "support/SmallLeague.h"
 
 #include <algorithm>
 #include <cstring>
@@ -17,18 +17,8 @@ using ::testing::IsEmpty;
 
 const char* const DamagedWords = "This client file was damaged on its way, and some of it may be wrong. Get it anew.";
 
-class DamagedFilesTest : public SmallLeague {
+class DamagedFilesTest : public BadFiles {
 protected:
-    DamagedFilesTest()
-    {
-        for (const int team : {5, 6})
-            TeamMaker(team).DressesFullRoster().FarmsFullRoster();
-        LeagueData.FileDate = 45000;
-        CurrentTeam = 5;
-        ClientPath = Machine.InFolder("League.dvs");
-        LinesPath = Machine.InFolder("Team5.dvl");
-    }
-
     void Open(const ByteVector& file)
     {
         WriteWhole(ClientPath, file);
@@ -47,15 +37,7 @@ protected:
         EXPECT_THAT(Window.Quiet, ElementsAre(::testing::Pair(QuietLine::Damaged, DamagedWords)));
     }
 
-    static ByteVector WithWrongChecksum(ByteVector wrapper)
-    {
-        wrapper.back() ^= 1U;
-        return wrapper;
-    }
-
     OpenedWindow Window;
-    std::string ClientPath;
-    std::string LinesPath;
 };
 
 TEST_F(DamagedFilesTest, AGoodFileIsReadOnceAndSaysNothing)
@@ -141,27 +123,6 @@ TEST_F(DamagedFilesTest, AFileThatIsGoneWhenItIsReadOnceMoreLeavesNothing)
     EXPECT_EQ(Machine.FileOperations().back(), "open");
     EXPECT_THAT(Machine.Boxes(), ElementsAre(Box{box::Critical, "53 - File not found in Zlib Decompress!"}));
     EXPECT_FALSE(Opened());
-}
-
-TEST_F(DamagedFilesTest, ADamagedLinesFileLoadsWithoutAWord)
-{
-    const ByteVector slots = LinesSlots(5);
-    const ByteVector wrapper = Wrapped(slots, 1);
-    for (const ByteVector& file : {WithWrongChecksum(wrapper), ByteVector(wrapper.begin(), wrapper.end() - 4)}) {
-        WriteWhole(LinesPath, file);
-        Teams[5].Cash = 77;
-        EXPECT_EQ(ReadLinesFile(LinesPath), LinesFileRead::Loaded);
-        EXPECT_EQ(Teams[5].Cash, 0);
-        EXPECT_THAT(Machine.Boxes(), IsEmpty());
-    }
-}
-
-TEST_F(DamagedFilesTest, AGoodLinesFileIsReadOnce)
-{
-    WriteWhole(LinesPath, Wrapped(LinesSlots(5), 9));
-    EXPECT_EQ(ReadLinesFile(LinesPath), LinesFileRead::Loaded);
-    const auto operations = Machine.FileOperations();
-    EXPECT_EQ(std::count(operations.begin(), operations.end(), "open"), 1);
 }
 
 } // namespace

@@ -1,0 +1,54 @@
+#include "league/RatingNames.h"
+#include "league/Positions.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+#include <string>
+#include <vector>
+
+namespace dravik {
+namespace {
+
+using ::testing::ElementsAre;
+
+template <class Table>
+std::vector<std::string> All(const Table& names)
+{
+    return {names.begin(), names.end()};
+}
+
+TEST(RatingNamesTest, ThePositionsHaveTheirNamesInOrder)
+{
+    EXPECT_THAT(All(PositionName), ElementsAre("C", "LW", "RW", "D", "G"));
+    EXPECT_EQ(PositionName[position::LeftWing], "LW");
+    EXPECT_EQ(PositionName[position::Goalie], "G");
+}
+
+TEST(RatingNamesTest, TheRatingsOfASkaterHaveTheirCaptionsInOrder)
+{
+    EXPECT_THAT(All(SkaterStatName), ElementsAre("CK", "FG", "DI", "SK", "ST", "DU", "PH", "FO", "PA", "SC", "DF", "EX",
+                                                 "LD", "MO", "PO", "OV"));
+    EXPECT_THAT(All(SkaterGroupName), ElementsAre("IT", "PY", "PC", "SC", "DF", "ME", "PO", "OV"));
+}
+
+TEST(RatingNamesTest, TheRatingsOfAGoalieHaveTheirCaptionsInOrder)
+{
+    EXPECT_THAT(All(GoalieStatName),
+                ElementsAre("SK", "DU", "ST", "SZ", "AG", "RB", "SC", "HS", "RT", "EX", "LD", "MO", "PO", "OV"));
+    EXPECT_THAT(All(GoalieGroupName), ElementsAre("PH", "RD", "SC", "HS", "RT", "ME", "PO", "OV"));
+}
+
+TEST(RatingNamesTest, TheNamedRatingsStandWhereTheirCaptionsDo)
+{
+    EXPECT_EQ(SkaterStatName[skater::CK], "CK");
+    EXPECT_EQ(SkaterStatName[skater::DU], "DU");
+    EXPECT_EQ(SkaterStatName[skater::DF], "DF");
+    EXPECT_EQ(SkaterStatName[skater::PO], "PO");
+    EXPECT_EQ(GoalieStatName[goalie::SK], "SK");
+    EXPECT_EQ(GoalieStatName[goalie::DU], "DU");
+    EXPECT_EQ(GoalieStatName[goalie::RT], "RT");
+    EXPECT_EQ(GoalieStatName[goalie::PO], "PO");
+}
+
+} // namespace
+} // namespace dravik
