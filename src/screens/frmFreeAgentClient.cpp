@@ -1,15 +1,18 @@
 #include "screens/frmFreeAgentClient.h"
 
-#include "league/Arithmetic.h"
-#include "league/Platform.h"
+#include "desk/FreeAgents.h"
+#include "league/InputCheck.h"
+#include "league/OffersFile.h"
+#include "league/Reporting.h"
 #include "league/ReportPages.h"
+#include "rules/StatRows.h"
 #include "screens/BehindWait.h"
 #include "screens/EventGuard.h"
 #include "screens/panels/NameSearch.h"
 #include "screens/PersonWords.h"
 #include "screens/platform/CodePage.h"
 #include "screens/Stage.h"
-#include "session/Routines.h"
+#include "session/Session.h"
 
 #include <QApplication>
 #include <QSignalBlocker>
@@ -26,39 +29,17 @@ int OwnNumber() { return static_cast<int>(CurrentTeam); }
 
 std::string Money(long long amount) { return Machine().CurrencyNoDecimals(static_cast<double>(amount)); }
 
-// A person in use whose contract is out, or who belongs to nobody where the league lets those be made offers.
-template <class Person>
-bool CanBeMadeAnOffer(const Person& person)
+StatRows RowsOf(PersonId who)
 {
-    if (!person.InUse)
-        return false;
-    return person.Team != 0 ? person.Contract == 0 : static_cast<bool>(LeagueData.OfferRuleFlag);
+    return who.IsGoalie ? GoalieStatRows(OpenLeague, Machine(), who.Slot, static_cast<int>(GoalieStatCount))
+                        : SkaterStatRows(OpenLeague, Machine(), who.Slot, static_cast<int>(PlayerStatCount));
 }
 
-template <class Person>
-bool IsYoung(const Person& person)
+// Shows in a box the number that is taken in the place of its own.
+TakesInstead Into(EditBox* box)
 {
-    return person.Age < LeagueData.UFAAge;
+    return [box](int number) { box->setText(QString::number(number)); };
 }
-
-// A young skater whom nobody owns goes without a mark; a young goalie has his star either way.
-std::string EntryText(const Player& player)
-{
-    const bool isMarked = IsYoung(player) && player.Team != 0;
-    return player.Name.Trimmed() + " (" + std::string(PositionName[player.Position]) + ")" + (isMarked ? "-RFA" : "");
-}
-std::string EntryText(const Goalie& keeper) { return keeper.Name.Trimmed() + " (G)" + (IsYoung(keeper) ? "*" : ""); }
-
-template <class Person>
-int EntryId(const Person& person)
-{
-    return PersonIn<Person>(static_cast<int>(person.Number)).CommonId();
-}
-
-StatRows RowsOf(const Player& /*player*/, int index) { return SkaterStatRows(index); }
-StatRows RowsOf(const Goalie& /*keeper*/, int index) { return GoalieStatRows(index); }
-
-double NumberIn(const EditBox* box) { return LeadingNumber(FromQString(box->text())); }
 
 } // namespace
 
@@ -83,11 +64,13 @@ public:
 private:
     [[nodiscard]] QStringList Aside() const
     {
+        const PersonId who = PersonOf(id);
         QStringList words;
-        if (OfferTable::Has(id) && offers[id].Id != 0 && IsOffer(offers[id]))
-            words << ToQString(Money(offers[id].Salary) + " x " + std::to_string(offers[id].Duration));
+        const std::string offer = OfferInShort(OpenLeague, Machine(), offers, who);
+        if (!offer.empty())
+            words << ToQString(offer);
         if (LeagueData.ShowOverall)
-            words << OverallOf(PersonOf(id));
+            words << OverallOf(who);
         return words;
     }
     int id;
@@ -99,26 +82,14 @@ void frmFreeAgentClient::FormLoad()
     RunEvent("FormLoad frmFreeAgentClient", [this] {
         CentreOnScreen();
         if (!TeamTable::Has(CurrentTeam)) {
-            ShowIntegrityFailure();
+            Machine().ShowIntegrityFailure();
             chkShowPlayerWithOffer->setEnabled(false); // the list stays empty
             return;
         }
         lblInfo->setText("Don't use a comma, a period or a dollar sign ($) in the salary, duration and bonus text box. "
                          "-- You need to fill the salary and duration textbox for a offer to be save.");
-        League& league = LeagueData;
-        const auto tellLimit = [&](const char* words) {
-            lblMaxOffer->setText("You can make " + QString::number(league.OffersLeft) + words);
-        };
-        if (!league.OffSeason) {
-            constexpr int usual = 100;
-            if (league.MaxOffers == 0)
-                league.MaxOffers = usual;
-            league.OffersLeft = league.MaxOffers - OwnTeam().OffersMade;
-            tellLimit(" offers to players you do not owned.");
-        } else
-            tellLimit(" offers in total.");
-        for (FreeAgentOffer& offer : FreeAgentOffers)
-            offer = {};
+        OpenOffers(OpenWork(), OwnNumber(), FreeAgentOffers);
+        lblMaxOffer->setText(ToQString(OfferLimitWords(LeagueData)));
         ShowTally();
         SetTitle(ToQString(ProgramTitle) + " - Free Agent Client");
         lblTeam->setText("Free Agents Offer For : " + ToQString(OwnTeam().Name.Trimmed()));
@@ -128,29 +99,17 @@ void frmFreeAgentClient::FormLoad()
 
 void frmFreeAgentClient::ShowPlayer()
 {
-    Reporting(" in ShowPlayer!", [this] {
+    Reporting(Machine(), " in ShowPlayer!", [this] {
         lstPlayers->Empty();
-        for (long long index = 1; index <= PlayerTable::last; ++index)
-            ListPerson(Players[index]);
-        for (long long index = 1; index <= GoalieTable::last; ++index)
-            ListPerson(Goalies[index]);
+        EachFreeAgent(OpenLeague, FreeAgentOffers, {.WithOfferOnly = chkShowPlayerWithOffer->isChecked()},
+                      [this](const FreeAgent& agent) {
+                          lstPlayers->addItem(new Entry(ToQString(agent.Text), agent.Id, FreeAgentOffers));
+                      });
         if (lstPlayers->count() > 0)
             Choose(0);
         else
             ShowNobody();
     });
-}
-
-template <class Person>
-void frmFreeAgentClient::ListPerson(const Person& person)
-{
-    if (!CanBeMadeAnOffer(person))
-        return;
-    const std::string text = EntryText(person);
-    const int id = EntryId(person);
-    if (chkShowPlayerWithOffer->isChecked() && !IsOffer(FreeAgentOffers[id]))
-        return;
-    lstPlayers->addItem(new Entry(ToQString(text), id, FreeAgentOffers));
 }
 
 void frmFreeAgentClient::Choose(int row)
@@ -188,59 +147,50 @@ void frmFreeAgentClient::ShowWaitingBox()
 {
     secondPress.stop();
     if (const auto show = std::exchange(waitingBox, nullptr))
-        Reporting(" in LstPlayers Click.", show);
+        Reporting(Machine(), " in LstPlayers Click.", show);
 }
 
 void frmFreeAgentClient::lstPlayers_Click()
 {
     ShowWaitingBox();
-    Reporting(" in LstPlayers Click.", [this] {
+    Reporting(Machine(), " in LstPlayers Click.", [this] {
         Stats->HideRows();
         const QListWidgetItem* current = lstPlayers->currentItem();
         if (current == nullptr)
             return;
         OfferIndex = current->data(entry::NumberRole).toInt();
-        const PersonId who = PersonOf(static_cast<int>(OfferIndex));
-        // The last slot of the goalies can be listed and not be shown.
-        if (who.IsGoalie && who.Slot >= GoalieTable::last)
-            Tell(ShowIntegrityFailure);
+        if (const auto who = FreeAgentOf(OpenLeague, static_cast<int>(OfferIndex)))
+            ShowPerson(*who);
         else
-            OnPerson(OpenLeague, who, [&](const auto& person) { ShowPerson(person, who.Slot); });
+            Tell([] { Machine().ShowIntegrityFailure(); });
     });
 }
 
-template <class Person>
-void frmFreeAgentClient::ShowPerson(const Person& person, int index)
+void frmFreeAgentClient::ShowPerson(PersonId who)
 {
-    if (!person.InUse) {
-        Tell(ShowIntegrityFailure);
-        return;
-    }
-    const std::string name = person.Name.Trimmed();
-    Stats->ShowRows(RowsOf(person, index));
-    Stats->SetName(ToQString(name));
-    txtAge->setText(QString::number(person.Age));
-    txtSalary->setText(QString::number(person.Salary));
-    txtSalary->setToolTip(ToQString(Money(person.Salary)));
-    lblStatus->setText(IsYoung(person) && person.Team != 0 ? "Status : RFA" : "Status : UFA");
-    if (person.Age < LeagueData.RFAAge && person.Team != 0 && person.Team != CurrentTeam) {
+    OnPerson(OpenLeague, who, [&](const auto& person) {
+        Stats->ShowRows(RowsOf(who));
+        Stats->SetName(ToQString(person.Name.Trimmed()));
+        txtAge->setText(QString::number(person.Age));
+        txtSalary->setText(QString::number(person.Salary));
+        txtSalary->setToolTip(ToQString(Money(person.Salary)));
+    });
+    lblStatus->setText(IsRestricted(OpenLeague, who) ? "Status : RFA" : "Status : UFA");
+    const FreeAgentOffer* offer = TakeOffer(OpenLeague, OwnNumber(), FreeAgentOffers, who);
+    if (offer == nullptr) {
         EnableOffer(false);
         for (EditBox* box : {txtOffer, txtDuration, txtBonus})
             box->setText("0");
         txtComment->clear();
-        const std::string words =
-            name + " is not allowed to sign with another team that " + Teams[person.Team].Name.Trimmed() + ".";
-        Tell([words] { ShowBox(words, box::Warning); });
+        Tell([words = BarredWords(OpenLeague, who)] { Machine().ShowBox(words, box::Warning); });
         return;
     }
-    FreeAgentOffer& offer = OfferAtHand();
-    offer.Id = OfferIndex;
     if (!txtOffer->isEnabled())
         EnableOffer(true);
-    txtOffer->setText(QString::number(offer.Salary));
-    txtDuration->setText(QString::number(offer.Duration));
-    txtBonus->setText(QString::number(offer.Bonus));
-    txtComment->setPlainText(ToQString(offer.Comment.Trimmed()));
+    txtOffer->setText(QString::number(offer->Salary));
+    txtDuration->setText(QString::number(offer->Duration));
+    txtBonus->setText(QString::number(offer->Bonus));
+    txtComment->setPlainText(ToQString(offer->Comment.Trimmed()));
 }
 
 void frmFreeAgentClient::EnableOffer(bool enabled)
@@ -276,10 +226,10 @@ void frmFreeAgentClient::chkShowPlayerWithOffer_Click()
     ShowPlayer();
 }
 
-bool frmFreeAgentClient::Accepts(LeavingBox& box, const QString& text, InputMode mode)
+bool frmFreeAgentClient::IsTaken(LeavingBox& box, Entered entered)
 {
-    if (CheckInput(FromQString(text), mode, false))
-        return true;
+    if (entered != Entered::Refused)
+        return entered == Entered::Stored;
     const EventGuard guard;
     box.TakeFocusBack();
     return false;
@@ -287,65 +237,42 @@ bool frmFreeAgentClient::Accepts(LeavingBox& box, const QString& text, InputMode
 
 void frmFreeAgentClient::txtOffer_LostFocus()
 {
-    Reporting(" in txtOffer LostFocus.", [this] {
-        // A 0 leaves the salary of before in the offer.
-        if (!Accepts(*txtOffer, txtOffer->text(), InputMode::Numbers) || NumberIn(txtOffer) == 0)
-            return;
-        const long long most = LeagueData.MaxSalary;
-        const long long least = LeagueData.MinSalary;
-        if (NumberIn(txtOffer) > static_cast<double>(most)) {
-            ShowBox("Maximum Salary is " + Money(most), box::Warning);
-            txtOffer->setText(QString::number(most));
-        }
-        if (NumberIn(txtOffer) < static_cast<double>(least)) {
-            ShowBox("Minimum Salary is " + Money(least), box::Warning);
-            txtOffer->setText(QString::number(least));
-        }
-        OfferAtHand().Salary = RoundToInt32(NumberIn(txtOffer));
-        ShowTally();
+    Reporting(Machine(), " in txtOffer LostFocus.", [this] {
+        if (IsTaken(*txtOffer, OfferSalary(OpenWork(), FreeAgentOffers, PersonAtHand(), FromQString(txtOffer->text()),
+                                           Into(txtOffer))))
+            ShowTally();
     });
 }
 
 void frmFreeAgentClient::txtDuration_LostFocus()
 {
-    Reporting(" in txtDuration LostFocus.", [this] {
-        if (!Accepts(*txtDuration, txtDuration->text(), InputMode::Numbers))
-            return;
-        constexpr int most = 9;
-        if (NumberIn(txtDuration) > most) {
-            ShowBox("Maximum Contract Duration is " + std::to_string(most) + " years.", box::Warning);
-            txtDuration->setText(QString::number(most));
-        }
-        if (NumberIn(txtDuration) < 0)
-            txtDuration->setText("0");
-        OfferAtHand().Duration = RoundToInt16(NumberIn(txtDuration));
-        ShowTally();
+    Reporting(Machine(), " in txtDuration LostFocus.", [this] {
+        if (IsTaken(*txtDuration, OfferDuration(OpenWork(), FreeAgentOffers, PersonAtHand(),
+                                                FromQString(txtDuration->text()), Into(txtDuration))))
+            ShowTally();
     });
 }
 
 void frmFreeAgentClient::txtBonus_LostFocus()
 {
     RunEvent("txtBonus_LostFocus", [this] {
-        if (!Accepts(*txtBonus, txtBonus->text(), InputMode::Numbers))
-            return;
-        OfferAtHand().Bonus = RoundToInt32(NumberIn(txtBonus));
-        ShowTally();
+        if (IsTaken(*txtBonus, OfferBonus(OpenWork(), FreeAgentOffers, PersonAtHand(), FromQString(txtBonus->text()))))
+            ShowTally();
     });
 }
 
 void frmFreeAgentClient::txtComment_LostFocus()
 {
     RunEvent("txtComment_LostFocus", [this] {
-        const QString text = txtComment->toPlainText();
-        if (Accepts(*txtComment, text, InputMode::NumbersAndLetters))
-            OfferAtHand().Comment = FromQString(text);
+        IsTaken(*txtComment,
+                OfferComment(OpenWork(), FreeAgentOffers, PersonAtHand(), FromQString(txtComment->toPlainText())));
     });
 }
 
 void frmFreeAgentClient::cmdSearch_Click()
 {
     ShowWaitingBox();
-    Reporting(" in cmdSearch!", [this] {
+    Reporting(Machine(), " in cmdSearch!", [this] {
         const int row = SearchPlayer(*lstPlayers);
         if (row >= 0)
             Choose(row);
@@ -355,31 +282,16 @@ void frmFreeAgentClient::cmdSearch_Click()
 void frmFreeAgentClient::cmdSaveToFile_Click()
 {
     ShowWaitingBox();
-    Reporting(" in cmdSaveToFile!", [this] {
-        if (!CheckPassword(OwnNumber()))
+    Reporting(Machine(), " in cmdSaveToFile!", [this] {
+        if (!CheckPassword(OpenLeague, Machine(), OwnNumber()))
             return;
-        std::string report;
+        std::optional<std::string> report;
         BehindWait([&] {
-            const std::string target = OffersFilePath(OwnNumber());
-            const SavedOffers saved = WriteOffersFile(OwnNumber(), target, FreeAgentOffers);
-            switch (saved.Outcome) {
-            case OffersFileWrite::NotCompressed:
-                return false;
-            case OffersFileWrite::NoOffer:
-                ShowBox("No Offer to Save!", box::Warning);
-                break;
-            case OffersFileWrite::TooMany:
-                ShowBox("There is more that " + std::to_string(LeagueData.OffersLeft) + " offers!", box::Warning);
-                break;
-            case OffersFileWrite::Saved:
-                report = saved.Report + "Client league file save for " + OwnTeam().Name.Trimmed() + " succesfully at " +
-                         target + std::string(LineBreak);
-                break;
-            }
-            return true;
+            report = SaveOffers(OpenWork(), OpenFiles(), OwnNumber(), FreeAgentOffers);
+            return report.has_value();
         });
-        for (const std::string& page : ReportPages(report))
-            ShowBox(page, box::Information);
+        for (const std::string& page : ReportPages(report.value_or("")))
+            Machine().ShowBox(page, box::Information);
     });
 }
 
@@ -387,7 +299,7 @@ void frmFreeAgentClient::cmdExit_Click() { Unload(); }
 
 void frmFreeAgentClient::ShowTally()
 {
-    const OffersTally tally = TallyOffers(OwnNumber(), FreeAgentOffers);
+    const OffersTally tally = TallyOffers(OpenLeague, OwnNumber(), FreeAgentOffers);
     lblOffersMade->Tell(QString("%1 of %2 offers to others made")
                             .arg(tally.ToOthers)
                             .arg(static_cast<long long>(LeagueData.OffersLeft)),

@@ -1,7 +1,8 @@
 #pragma once
 
+#include "desk/Offers.h"
 #include "league/FreeAgentOffer.h"
-#include "league/InputCheck.h"
+#include "league/PersonId.h"
 #include "screens/panels/EditArea.h"
 #include "screens/panels/EditBox.h"
 #include "screens/panels/PickList.h"
@@ -10,11 +11,9 @@
 #include "screens/Screen.h"
 
 #include <functional>
-#include <optional>
 #include <QCheckBox>
 #include <QLabel>
 #include <QTimer>
-#include <string>
 
 namespace dravik {
 
@@ -45,8 +44,8 @@ public:
     void cmdSaveToFile_Click();
     void cmdExit_Click();
 
-    OfferTable FreeAgentOffers;
-    Int16 OfferIndex; // id of the person shown
+    OfferTable& FreeAgentOffers; // those of the open market
+    Int16 OfferIndex;            // id of the person shown
 
     QLabel *lblTeam = nullptr, *lblInfo = nullptr, *lblMaxOffer = nullptr, *lblPlayer = nullptr, *lblStatus = nullptr;
     PickList* lstPlayers = nullptr;
@@ -77,17 +76,14 @@ private:
     QLayout* MakeLimitRow();
     void SetTabOrder();
 
-    template <class Person>
-    void ListPerson(const Person& person);
     // Makes an entry the current one, which counts as a click.
     void Choose(int row);
     void ShowNobody();
-    template <class Person>
-    void ShowPerson(const Person& person, int index);
+    void ShowPerson(PersonId who);
     void EnableOffer(bool enabled);
-    FreeAgentOffer& OfferAtHand() { return FreeAgentOffers[OfferIndex]; }
-    // Whether the text of a box may be taken; a refused one gets the focus back.
-    bool Accepts(LeavingBox& box, const QString& text, InputMode mode);
+    [[nodiscard]] PersonId PersonAtHand() const { return PersonOf(static_cast<int>(OfferIndex)); }
+    // Whether the text of a box was taken; a refused one gets the focus back.
+    static bool IsTaken(LeavingBox& box, Entered entered);
     // Shows a box about the person who is being chosen. Under the mouse it waits as long as a second press would make a
     // double click of the first: a box that comes up in between swallows it.
     void Tell(std::function<void()> box);

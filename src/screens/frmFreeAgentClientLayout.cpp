@@ -1,6 +1,8 @@
 #include "screens/frmFreeAgentClient.h"
+
 #include "screens/panels/Labels.h"
 #include "screens/panels/Layouts.h"
+#include "session/OpenMarket.h"
 
 #include <algorithm>
 #include <QGroupBox>
@@ -23,7 +25,8 @@ QLabel* PlainLabel(QLabel* label, const char* name)
 
 } // namespace
 
-frmFreeAgentClient::frmFreeAgentClient(Stage& stage) : Screen(stage, "frmFreeAgentClient")
+frmFreeAgentClient::frmFreeAgentClient(Stage& stage) :
+    Screen(stage, "frmFreeAgentClient"), FreeAgentOffers(OpenMarket().Offers)
 {
     MakeControls();
 

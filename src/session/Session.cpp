@@ -1,6 +1,7 @@
 #include "session/Session.h"
 
 #include "league/Failure.h"
+#include "session/OpenMarket.h"
 
 #include <cstring>
 
@@ -48,6 +49,7 @@ void ResetClientVariables()
     ListEventGuard = false;
     RosterFixed = 0;
     ViewerReturnMode = 0;
+    EmptyOpenMarket();
 }
 
 Platform& Machine()
