@@ -1,9 +1,11 @@
 #pragma once
 
+#include "desk/Ranking.h"
 #include "league/DraftFile.h"
 #include "screens/panels/RankList.h"
 #include "screens/Screen.h"
 
+#include <optional>
 #include <QCheckBox>
 #include <QLabel>
 #include <string>
@@ -37,8 +39,8 @@ public:
     void cmdSaveToFile_Click();
     void cmdExit_Click();
 
-    std::string DraftType; // "Fantasy Draft" or "Entry Draft"; empty when there is no draft
-    DraftRanking DraftList;
+    std::string DraftType;   // "Fantasy Draft" or "Entry Draft"; empty when there is no draft
+    DraftRanking& DraftList; // that of the open market
 
     EntryList* lstPlayers = nullptr;
     RankList* lstDraftList = nullptr;
@@ -52,12 +54,9 @@ private:
     QWidget* MakeListColumn(QLabel* heading, EntryList* list);
     void SetTabOrder();
 
-    void ListFreeAgents();
-    void ListProspects();
-    // Moves the chosen entry by one rank, -1 or 1.
-    void MoveChosen(int step, QPushButton* command);
-    // Exchanges an entry with its neighbour, unless nobody stands there. True when it did.
-    bool SwapWithNeighbour(int rank, int step);
+    // The rank that is chosen, if one is.
+    [[nodiscard]] std::optional<int> ChosenRank() const;
+    void MoveChosen(RankStep step, QPushButton* command);
     void OpenViewer(int id);
 };
 

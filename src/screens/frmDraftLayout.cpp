@@ -1,6 +1,8 @@
 #include "screens/frmDraft.h"
+
 #include "screens/panels/Labels.h"
 #include "screens/panels/Layouts.h"
+#include "session/OpenMarket.h"
 
 // What the draft screen is made of and where it stands.
 namespace dravik {
@@ -13,8 +15,9 @@ constexpr const char* FilterCaption[] = {"C", "LW", "RW", "DF", "G"};
 
 } // namespace
 
-frmDraft::frmDraft(Stage& stage) : Screen(stage, "frmDraft")
+frmDraft::frmDraft(Stage& stage) : Screen(stage, "frmDraft"), DraftList(OpenMarket().Ranking)
 {
+    DraftList = {};
     MakeControls();
 
     auto* content = new QWidget(this);

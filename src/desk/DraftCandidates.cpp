@@ -1,0 +1,74 @@
+#include "desk/DraftCandidates.h"
+
+#include "league/OutsideCode.h"
+#include "league/Positions.h"
+#include "rules/Overall.h"
+
+namespace dravik {
+
+namespace {
+
+std::string NameAndPosition(const std::string& name, long long position)
+{
+    return name + " (" + std::string(PositionName[position]) + ")";
+}
+
+template <class Person>
+bool IsFree(const Person& person)
+{
+    return person.InUse && person.Team == 0;
+}
+
+int IdOf(const Player& player) { return static_cast<int>(player.Number); }
+int IdOf(const Goalie& keeper) { return static_cast<int>(keeper.Number + GoalieOffset); }
+
+} // namespace
+
+bool IsEntryDraftAhead(const League& rules) { return rules.EntryDraft && rules.EntryDraftDone == 0; }
+
+std::string DraftTypeOf(const League& rules)
+{
+    if (IsEntryDraftAhead(rules))
+        return "Entry Draft";
+    return rules.FantasyDraft ? "Fantasy Draft" : "";
+}
+
+void EachDraftCandidate(const Tables& league, const PositionFilter& shown,
+                        const std::function<void(const DraftCandidate&)>& tell)
+{
+    const League& rules = league.LeagueData;
+    const auto tellAgent = [&](const auto& person, int position, int slot) {
+        if (shown[position])
+            tell({.Id = IdOf(person),
+                  .Text = NameAndPosition(person.Name.Trimmed(), position),
+                  .Overall = rules.ShowOverall ? OverallAt(league, position, slot) : std::nullopt});
+    };
+    if (rules.FantasyDraft) {
+        for (int slot = 1; slot <= PlayerTable::last; ++slot) {
+            const Player& player = league.Players[slot];
+            const auto position = static_cast<int>(player.Position);
+            if (IsFree(player) && position >= position::Center && position <= position::Defense)
+                tellAgent(player, position, slot);
+        }
+        for (int slot = 1; slot <= GoalieTable::last; ++slot)
+            if (IsFree(league.Goalies[slot]))
+                tellAgent(league.Goalies[slot], position::Goalie, slot);
+    }
+    if (IsEntryDraftAhead(rules))
+        for (int slot = 1; slot <= ProspectTable::last; ++slot) {
+            const Prospect& prospect = league.Prospects[slot];
+            if (!RemoveSpaces(prospect.Name.Raw()).empty())
+                tell({.Id = ProspectOffset + slot, .Text = prospect.Name.Trimmed(), .Overall = std::nullopt});
+        }
+}
+
+std::string RankedName(const Tables& league, int id)
+{
+    if (id <= GoalieOffset)
+        return NameAndPosition(league.Players[id].Name.Trimmed(), league.Players[id].Position);
+    if (id <= ProspectOffset)
+        return NameAndPosition(league.Goalies[id - GoalieOffset].Name.Trimmed(), position::Goalie);
+    return league.Prospects[id - ProspectOffset].Name.Trimmed();
+}
+
+} // namespace dravik
