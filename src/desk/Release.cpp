@@ -2,6 +2,7 @@
 
 #include "league/Arithmetic.h"
 #include "league/Message.h"
+#include "rules/ReleaseCost.h"
 #include "rules/WipeLines.h"
 
 #include <algorithm>
@@ -30,11 +31,10 @@ bool Release(const Work& work, int number, PersonId who, Person& person)
         return false;
     const int percent = AskPercent(says, who.IsGoalie);
     Team& team = work.League.Teams[number];
-    const auto rest = static_cast<double>(RestOfContract(team, person.Contract, person.Salary));
-    const double buyOut = percent * rest / 100;
-    team.Cash = RoundToInt32(static_cast<double>(team.Cash) - buyOut);
+    const double cost = ReleaseCost(percent, RestOfContract(team, person.Contract, person.Salary));
+    team.Cash = RoundToInt32(static_cast<double>(team.Cash) - cost);
     WipePlayerFromTeamLines(work.League, says, number, who.CommonId());
-    const std::string news = name + " was released by " + team.Name.Trimmed() + " for " + work.Shown.Currency(buyOut);
+    const std::string news = name + " was released by " + team.Name.Trimmed() + " for " + work.Shown.Currency(cost);
     says.LeagueNews(news);
     says.TeamNews(number, news);
     person.Team = 0;
@@ -47,15 +47,6 @@ bool Release(const Work& work, int number, PersonId who, Person& person)
 }
 
 } // namespace
-
-long long RestOfContract(const Team& team, long long contract, long long salary)
-{
-    if (team.SeasonGames < 1)
-        return Limit32(contract * salary);
-    const auto seasons = static_cast<double>(Limit32((contract - 1) * salary));
-    const auto gamesLeft = static_cast<double>(team.SeasonGames - team.GamesPlayed);
-    return RoundToInt32(seasons + static_cast<double>(salary) * gamesLeft / static_cast<double>(team.SeasonGames));
-}
 
 bool ReleasePerson(const Work& work, int team, PersonId who)
 {

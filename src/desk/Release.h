@@ -5,10 +5,6 @@
 
 namespace dravik {
 
-// What a contract of so many years at `salary` is still worth to `team`: a season that has begun counts by the games left in
-// it. Fails with 6 beyond 32 bits.
-long long RestOfContract(const Team& team, long long contract, long long salary);
-
 // Releases a person of `team` (1..100), if the general manager says yes: asks how many percent of the rest of his contract he
 // is paid, takes that from the team's cash, takes him off all lines, tells the news, and leaves him without a team, a
 // contract and flags. True when he was released. What fails half way stays as far as it came.

@@ -24,39 +24,6 @@ protected:
     PersonId Keeper{.IsGoalie = true, .Slot = 1};
 };
 
-TEST_F(ReleaseTest, AContractBeforeTheSeasonIsWorthAllItsYears)
-{
-    Five.SeasonGames = 0;
-    EXPECT_EQ(RestOfContract(Five, 3, 1000000), 3000000);
-}
-
-TEST_F(ReleaseTest, AYearThatHasBegunIsWorthTheGamesLeftInIt)
-{
-    Five.SeasonGames = 80;
-    Five.GamesPlayed = 20;
-    EXPECT_EQ(RestOfContract(Five, 3, 1000000), 2750000);
-    EXPECT_EQ(RestOfContract(Five, 1, 1000000), 750000);
-}
-
-TEST_F(ReleaseTest, TheWorthOfAContractIsRoundedToTheNearestEven)
-{
-    Five.SeasonGames = 2;
-    Five.GamesPlayed = 1;
-    EXPECT_EQ(RestOfContract(Five, 1, 5), 2);
-    EXPECT_EQ(RestOfContract(Five, 1, 7), 4);
-}
-
-TEST_F(ReleaseTest, AContractBeyond32BitsFailsWith6)
-{
-    Five.SeasonGames = 0;
-    try {
-        RestOfContract(Five, 3, 1000000000);
-        FAIL() << "three thousand millions fit";
-    } catch (const Failure& failed) {
-        EXPECT_EQ(failed.Number, failure::Overflow);
-    }
-}
-
 TEST_F(ReleaseTest, AReleaseCostsThePercentThatWasSaid)
 {
     Machine.Type("50");
