@@ -1,6 +1,5 @@
 #include "league/InputCheck.h"
 
-#include "league/OutsideCode.h"
 #include "league/Reporting.h"
 
 #include <algorithm>
@@ -97,28 +96,6 @@ bool CheckInput(Voice& says, std::string_view text, InputMode mode, bool require
         }
     });
     return result;
-}
-
-bool CheckPassword(const Tables& league, Platform& machine, int team)
-{
-    constexpr std::size_t digestLength = 32;
-    bool mayGoOn = false;
-    Reporting(machine, " in CheckPassword!", [&] {
-        if (!TeamTable::Has(team)) {
-            machine.ShowIntegrityFailure();
-            return;
-        }
-        // A blank field, and a damaged one just as well, means that there is no password.
-        const std::string password = RemoveSpaces(league.Teams[team].Password.Raw());
-        if (password.size() != digestLength) {
-            mayGoOn = true;
-            return;
-        }
-        mayGoOn = DigestStrToHexStr(machine, machine.AskText("Password Required!")) == password;
-        if (!mayGoOn)
-            machine.ShowBox("Password is incorrect!", box::Warning);
-    });
-    return mayGoOn;
 }
 
 } // namespace dravik

@@ -1,7 +1,7 @@
 #include "screens/frmDraft.h"
 
 #include "desk/DraftCandidates.h"
-#include "league/InputCheck.h"
+#include "desk/Password.h"
 #include "league/PersonId.h"
 #include "league/Reporting.h"
 #include "screens/BehindWait.h"

@@ -1,7 +1,7 @@
 #include "screens/frmFreeAgentClient.h"
 
 #include "desk/FreeAgents.h"
-#include "league/InputCheck.h"
+#include "desk/Password.h"
 #include "league/OffersFile.h"
 #include "league/Reporting.h"
 #include "league/ReportPages.h"

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "desk/Password.h"
 #include "league/DraftFile.h"
 #include "league/InputCheck.h"
 #include "league/LinesFile.h"
