@@ -1,12 +1,14 @@
 #include "screens/frmTicket.h"
 
-#include "league/Arithmetic.h"
+#include "desk/Arena.h"
+#include "desk/TicketPrices.h"
 #include "screens/ElementName.h"
 #include "screens/EventGuard.h"
 #include "screens/panels/ElidedLabel.h"
 #include "screens/panels/Labels.h"
 #include "screens/panels/Layouts.h"
 #include "screens/platform/CodePage.h"
+#include "screens/Shown.h"
 #include "session/Routines.h"
 
 #include <QGroupBox>
@@ -21,16 +23,22 @@ constexpr const char* LevelCaption[] = {"Level 1 :", "Level 2 :", "Level 3 :", "
 
 Team& OwnTeam() { return Teams[CurrentTeam]; }
 
-double ValueOf(const EditBox* box) { return LeadingNumber(FromQString(box->text())); }
+int OwnNumber() { return static_cast<int>(CurrentTeam); }
 
-// Whether the text may be taken. A box whose text may not gets the focus back, without an event of its own.
-bool TextPasses(EditBox* box, InputMode mode, bool required)
+// A box whose text was refused gets the focus back, without an event of its own.
+void Refuse(EditBox* box)
 {
-    if (CheckInput(FromQString(box->text()), mode, required))
-        return true;
     const EventGuard guard;
     box->TakeFocusBack();
-    return false;
+}
+
+// Shows what came of a number.
+void ShowTyped(EditBox* box, const TypedNumber& typed)
+{
+    if (typed.Shown)
+        box->setText(Shown(*typed.Shown));
+    if (!typed.Accepted)
+        Refuse(box);
 }
 
 } // namespace
@@ -135,56 +143,36 @@ void frmTicket::FormLoad()
     Reporting(" in FormLoad FrmTicket!", [this] {
         CentreOnScreen();
         if (!TeamTable::Has(CurrentTeam)) {
-            ShowIntegrityFailure();
+            Machine().ShowIntegrityFailure();
             Unload();
             return;
         }
         const Team& team = OwnTeam();
-        const QString name = ToQString(team.Name.Trimmed());
+        const QString name = Shown(team.Name);
         SetTitle(ToQString(ProgramTitle) + " - " + name + " - Ticket & Arena");
         lblTitle->setText(name);
-        txtArena->setText(ToQString(team.ArenaName.Trimmed()));
+        txtArena->setText(Shown(team.ArenaName));
         for (int level = 1; level <= 5; ++level) {
-            txtArenaCapacity[level]->setText(QString::number(team.ArenaCapacity[level]));
-            txtTicket[level]->setText(QString::number(team.TicketPrice[level]));
+            txtArenaCapacity[level]->setText(Shown(team.ArenaCapacity[level]));
+            txtTicket[level]->setText(Shown(team.TicketPrice[level]));
         }
         txtArena->setEnabled(false);
         for (EditBox* box : txtArenaCapacity)
             box->setEnabled(false);
-        if (LeagueData.TicketRuleFlag)
+        if (!ManagerSetsPrices(LeagueData))
             for (EditBox* box : txtTicket)
                 box->setEnabled(false);
         ShowTotal();
     });
 }
 
-void frmTicket::ShowTotal()
-{
-    long long total = 0;
-    for (const Int32& capacity : OwnTeam().ArenaCapacity)
-        total += capacity;
-    lblArenaCapacityTotal->setText(QString::number(total));
-}
+void frmTicket::ShowTotal() { lblArenaCapacityTotal->setText(Shown(TotalCapacity(OwnTeam()))); }
 
 void frmTicket::txtTicket_LostFocus(int level)
 {
     EditBox* box = txtTicket[level];
-    if (ListEventGuard || !TextPasses(box, InputMode::Numbers, true))
-        return;
-    Int16& price = OwnTeam().TicketPrice[level];
-    constexpr int lowest = 1;
-    constexpr int highest = 999;
-    try {
-        const int value = RoundToInt16(ValueOf(box));
-        if (value > highest)
-            box->setText(QString::number(highest));
-        if (value < lowest)
-            box->setText(QString::number(lowest));
-        price = RoundToInt16(ValueOf(box));
-        Modified = true;
-    } catch (const Failure&) {
-        box->setText(QString::number(price));
-    }
+    if (!ListEventGuard)
+        ShowTyped(box, SetTicketPrice(OpenWork(), OwnNumber(), level, FromQString(box->text())));
 }
 
 void frmTicket::txtArenaCapacity_LostFocus(int level)
@@ -193,24 +181,19 @@ void frmTicket::txtArenaCapacity_LostFocus(int level)
         return;
     Reporting(" in txtArenaCapacity_LostFocus!", [&] {
         EditBox* box = txtArenaCapacity[level];
-        if (TextPasses(box, InputMode::Numbers, true)) {
-            constexpr int most = 99999;
-            if (ValueOf(box) > most)
-                box->setText(QString::number(most));
-            OwnTeam().ArenaCapacity[level] = RoundToInt32(ValueOf(box));
-            Modified = true;
-        }
+        ShowTyped(box, SetArenaCapacity(OpenWork(), OwnNumber(), level, FromQString(box->text())));
         ShowTotal();
     });
 }
 
 void frmTicket::txtArena_LostFocus()
 {
-    if (ListEventGuard || !TextPasses(txtArena, InputMode::NumbersAndLetters, false))
+    if (ListEventGuard)
         return;
-    OwnTeam().ArenaName = FromQString(txtArena->text());
-    txtArena->setText(ToQString(OwnTeam().ArenaName.Trimmed()));
-    Modified = true;
+    if (NameArena(OpenWork(), OwnNumber(), FromQString(txtArena->text())))
+        txtArena->setText(Shown(OwnTeam().ArenaName));
+    else
+        Refuse(txtArena);
 }
 
 void frmTicket::cmdExit_Click() { Unload(); }

@@ -17,10 +17,8 @@ public:
     // Fills the screen for CurrentTeam. A number out of range is told and closes the screen.
     void FormLoad() override;
 
-    // A price is 1 to 999; what lies beyond is brought to the limit. A number that fits no price field stores nothing and is
-    // told nobody: the box shows the price that stands.
+    // A text that is refused brings the focus back to its box; any other is shown as far as the record took it.
     void txtTicket_LostFocus(int level);
-    // At most 99999 seats.
     void txtArenaCapacity_LostFocus(int level);
     void txtArena_LostFocus();
     void cmdExit_Click();
