@@ -1,7 +1,8 @@
 #include "screens/frmTeam.h"
 
-#include "league/Arithmetic.h"
-#include "league/Platform.h"
+#include "desk/Coaches.h"
+#include "desk/Password.h"
+#include "desk/TeamMoney.h"
 #include "screens/platform/CodePage.h"
 #include "screens/Shown.h"
 #include "screens/Stage.h"
@@ -178,89 +179,37 @@ void frmTeam::ShowSeason(const SeasonFigures& season)
 
 void frmTeam::cmdPassword_Click()
 {
-    Reporting(" in cmdPassword!", [] {
-        Team& team = OwnTeam();
-        if (ShowBox("Do you want to change the password for " + team.Name.Trimmed(), box::YesNo) != button::Yes)
-            return;
-        const std::string first = AskText("Enter New Password");
-        const std::string second = AskText("Enter New Password Again to Verify");
-        if (first.empty() && second.empty()) {
-            team.Password = "";
-            ShowBox("Password was erased!", box::Information);
-        } else if (first == second) {
-            team.Password = DigestStrToHexStr(first);
-            ShowBox("New Password was successfully set!", box::Information);
-        } else
-            ShowBox("Password does not match!", box::Warning);
-        Modified = true;
-    });
-}
-
-void frmTeam::ChangeMoney(const std::string& prompt, const std::function<void(int)>& add)
-{
-    const std::string text = AskText(prompt);
-    if (text.empty())
-        return;
-    if (!CheckInput(text.front() == '-' ? text.substr(1) : text, InputMode::Numbers, false))
-        return;
-    add(RoundToInt32(LeadingNumber(text)));
-    UpdateFinance();
-    Modified = true;
+    Reporting(" in cmdPassword!", [] { ChangePassword(OpenWork(), Machine(), OwnNumber()); });
 }
 
 void frmTeam::cmdChangeFinance_Click()
 {
-    ReportingUnlessCancelled(" in cmdChangeFinance!", [this] {
-        ChangeMoney("How much to add/remove?", [](int amount) { OwnTeam().Cash += amount; });
-    });
+    ReportingUnlessCancelled(" in cmdChangeFinance!",
+                             [this] { ChangeCash(OpenWork(), OwnNumber(), [this] { UpdateFinance(); }); });
 }
 
 void frmTeam::cmdPayrollBonus_Click()
 {
-    ReportingUnlessCancelled(" in cmdPayrollBonus!", [this] {
-        Int32& bonus = OwnTeam().PayrollBonus;
-        ChangeMoney("How much to add/remove? Current Payroll Bonus is " +
-                        Machine().Currency(static_cast<double>(bonus)),
-                    [&bonus](int amount) {
-                        bonus += amount;
-                        if (bonus < 0)
-                            bonus = 0;
-                    });
-    });
+    ReportingUnlessCancelled(" in cmdPayrollBonus!",
+                             [this] { ChangePayrollBonus(OpenWork(), OwnNumber(), [this] { UpdateFinance(); }); });
 }
 
-void frmTeam::FireCoach(Int16& coach, const Text<40>& employer, QLabel* label, QPushButton* fire)
+void frmTeam::FireCoach(bool (*fire)(const Work&, int team), QLabel* label, QPushButton* command)
 {
-    if (coach == 0)
+    if (!fire(OpenWork(), OwnNumber()))
         return;
-    Coach& fired = Coaches[coach];
-    const std::string name = fired.Name.Trimmed();
-    if (ShowBox("Are you sure you wants to fire " + name + "?", box::YesNo) != button::Yes)
-        return;
-    const std::string news = employer.Trimmed() + " fired " + name + ".";
-    LeagueNews(news);
-    TeamNews(OwnNumber(), news);
-    fired.Team = 0;
-    coach = 0;
     label->clear();
-    fire->setEnabled(false);
-    Modified = true;
+    command->setEnabled(false);
 }
 
 void frmTeam::cmdFirePro_Click()
 {
-    Reporting(" in cmdFirePro!", [this] {
-        Team& team = OwnTeam();
-        FireCoach(team.ProCoach, team.Name, lblCoach, cmdFirePro);
-    });
+    Reporting(" in cmdFirePro!", [this] { FireCoach(FireProCoach, lblCoach, cmdFirePro); });
 }
 
 void frmTeam::cmdFireFarm_Click()
 {
-    Reporting(" in cmdFireFarm!", [this] {
-        FarmTeam& farm = OwnTeam().Farm;
-        FireCoach(farm.FarmCoach, farm.Name, lblFarmCoach, cmdFireFarm);
-    });
+    Reporting(" in cmdFireFarm!", [this] { FireCoach(FireFarmCoach, lblFarmCoach, cmdFireFarm); });
 }
 
 void frmTeam::OpenFromHere(std::string_view name)

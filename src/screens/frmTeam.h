@@ -1,7 +1,8 @@
 #pragma once
 
-#include "league/InputCheck.h"
+#include "desk/TypedNumber.h"
 #include "league/Team.h"
+#include "league/Work.h"
 #include "screens/panels/EditBox.h"
 #include "screens/Screen.h"
 
@@ -101,14 +102,14 @@ private:
     // Shows the figures that were reached.
     void ShowSeason(const SeasonFigures& season);
 
-    // The pattern of a box: `CheckInput` judges its text; a refused one gets the focus back, an accepted one goes to
-    // `rule`, which says whether it was taken. Behind it a text shows as
-    // the record holds it, and behind a failure every box does.
-    void TakeText(EditBox* box, InputMode mode, bool required, const std::function<bool(const std::string&)>& rule);
-    void TakeAddress(EditBox* box, Text<40>& field, std::string_view news);
+    // What a box does with its text: `take` is a command of the desk. A text that is refused brings the focus back; behind one
+    // that was taken a text shows as the record holds it, and behind a failure every box does.
+    void TakeText(EditBox* box, const std::function<bool(const std::string&)>& take);
+    void TakeText(EditBox* box, bool (*take)(const Work&, int team, const std::string& text));
+    void TakeMorale(EditBox* box, TypedNumber (*take)(const Work&, int team, std::string_view text));
+    void TakeAddress(EditBox* box, const Text<40>& address, void (*take)(const Work&, int team, std::string_view text));
 
-    void ChangeMoney(const std::string& prompt, const std::function<void(int)>& add);
-    void FireCoach(Int16& coach, const Text<40>& employer, QLabel* label, QPushButton* fire);
+    void FireCoach(bool (*fire)(const Work&, int team), QLabel* label, QPushButton* command);
     void OpenFromHere(std::string_view name);
     // Says why the lines file cannot be saved; the judges' own words are behind it.
     void ShowSaveHint(const QStringList& reasons, const QStringList& details);
