@@ -24,11 +24,11 @@ void EachOfTeam(People& people, int team, Visit&& visit)
 }
 
 // Healthy enough to play.
+inline constexpr int HealthyCondition = 95;
 template <class Person>
 bool IsHealthy(const Person& person)
 {
-    constexpr int healthy = 95;
-    return person.Condition >= healthy;
+    return person.Condition >= HealthyCondition;
 }
 
 // Healthy and not suspended: he may be dressed.

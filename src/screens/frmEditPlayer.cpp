@@ -1,6 +1,6 @@
 #include "screens/frmEditPlayer.h"
 
-#include "league/Platform.h"
+#include "desk/PlayerPosition.h"
 #include "screens/EventGuard.h"
 #include "screens/platform/CodePage.h"
 #include "screens/RosterEntry.h"
@@ -15,11 +15,6 @@ namespace dravik {
 namespace {
 
 constexpr int FirstSlot = 1;
-
-bool HasPosition(const Player& player)
-{
-    return player.Position >= position::Center && player.Position <= position::Defense;
-}
 
 std::string NameAndPosition(const std::string& name, int position)
 {
@@ -40,7 +35,7 @@ void frmEditPlayer::FormLoad()
     Reporting(" in FormLoad FrmEditPlayer!", [this] {
         CentreOnScreen();
         SetTitle(Title(" - Edit Player"));
-        RepairPositions();
+        RepairPositions(OpenWork());
         ListPeople();
         if (lstPlayer->count() > 0)
             Choose(0);
@@ -51,17 +46,6 @@ void frmEditPlayer::FormLoad()
         SetTitle(Title(" - Show Player"));
     });
     CloseEditor();
-}
-
-void frmEditPlayer::RepairPositions()
-{
-    for (int slot = FirstSlot; slot <= PlayerTable::last; ++slot) {
-        Player& player = Players[slot];
-        if (!player.InUse || HasPosition(player))
-            continue;
-        ShowBox(player.Name.Trimmed() + " has no position! He's now center.", box::Warning);
-        player.Position = position::Center;
-    }
 }
 
 void frmEditPlayer::ListPeople()
@@ -97,9 +81,8 @@ void frmEditPlayer::RewriteEntry()
     const auto person = ShownPerson();
     if (item == nullptr || !person)
         return;
-    const std::string name = On(*person, [](const auto& record) { return record.Name.Trimmed(); });
-    item->setText(ToQString(NameAndPosition(name, PlayerPosition)));
-    item->setData(entry::NumberRole, EntryNumber(person->Id, PlayerPosition));
+    item->setText(ToQString(NameAndPosition(TextOf(OpenLeague, *person, TextField::Name), PlayerPosition)));
+    item->setData(entry::NumberRole, EntryNumber(person->Slot, PlayerPosition));
 }
 
 void frmEditPlayer::MakeCurrent(int entry)
@@ -119,13 +102,13 @@ bool frmEditPlayer::IsPersonShown() const
     return PlayerPosition >= position::Center && PlayerPosition <= position::Goalie;
 }
 
-std::optional<frmEditPlayer::Person> frmEditPlayer::ShownPerson() const
+std::optional<PersonId> frmEditPlayer::ShownPerson() const
 {
     if (!IsPersonShown()) {
-        ShowIntegrityFailure();
+        Machine().ShowIntegrityFailure();
         return std::nullopt;
     }
-    return Person{PlayerPosition == position::Goalie, static_cast<int>(SelectedPlayer)};
+    return PersonId{PlayerPosition == position::Goalie, static_cast<int>(SelectedPlayer)};
 }
 
 void frmEditPlayer::lstPlayer_Click()
@@ -147,23 +130,19 @@ void frmEditPlayer::lstPlayer_Click()
     });
 }
 
-void frmEditPlayer::ShowRecord(const Person& person)
+void frmEditPlayer::ShowRecord(PersonId person)
 {
     optGoaler->setVisible(person.IsGoalie);
     for (QRadioButton* option : optPosition)
         option->setVisible(!person.IsGoalie);
     ClearPositions();
     ShowFields(person);
-    On(person, [this](const auto& record) {
-        const bool isHired = record.Team != 0 && Teams[record.Team].InUse;
-        txtTeam->setText(isHired ? ToQString(Teams[record.Team].Name.Trimmed()) : QString());
-        constexpr int perfect = 100;
-        const bool isHealthy = record.Condition >= perfect;
-        txtInjury->setEnabled(!isHealthy);
-        txtInjury->setText(isHealthy ? QString() : ToQString(record.Injury.Trimmed()));
-    });
-    TickPosition(person.IsGoalie ? optGoaler : optPosition[Players[person.Id].Position]);
-    On(person, [this](const auto& record) {
+    txtTeam->setText(ToQString(EmployerOf(OpenLeague, person)));
+    const std::optional<std::string> injury = InjuryOf(OpenLeague, person);
+    txtInjury->setEnabled(injury.has_value());
+    txtInjury->setText(ToQString(injury.value_or(std::string())));
+    TickPosition(person.IsGoalie ? optGoaler : optPosition[Players[person.Slot].Position]);
+    OnPerson(OpenLeague, person, [this](const auto& record) {
         chkRookie->setChecked(static_cast<bool>(record.Rookie));
         chkNoTrade->setChecked(static_cast<bool>(record.NoTrade));
         chkNoApplyRerate->setChecked(static_cast<bool>(record.NoApplyRerate));
@@ -188,9 +167,9 @@ void frmEditPlayer::TickPosition(QRadioButton* option)
     PositionEventsOn = true;
 }
 
-void frmEditPlayer::ShowRatings(const Person& person)
+void frmEditPlayer::ShowRatings(PersonId person)
 {
-    const StatRows rows = person.IsGoalie ? GoalieStatRows(person.Id) : SkaterStatRows(person.Id);
+    const StatRows rows = person.IsGoalie ? GoalieStatRows(person.Slot) : SkaterStatRows(person.Slot);
     int row = 0;
     for (const StatRow& rating : rows.Ratings)
         SetRow(++row, rating);
@@ -213,8 +192,8 @@ void frmEditPlayer::ShowRow(int row, std::string_view label, int rating)
 // Shows the overall anew after a rating has changed.
 void frmEditPlayer::ShowOverall()
 {
-    const Person person{PlayerPosition == position::Goalie, static_cast<int>(SelectedPlayer)};
-    const StatRows rows = person.IsGoalie ? GoalieStatRows(person.Id) : SkaterStatRows(person.Id);
+    const PersonId person{PlayerPosition == position::Goalie, static_cast<int>(SelectedPlayer)};
+    const StatRows rows = person.IsGoalie ? GoalieStatRows(person.Slot) : SkaterStatRows(person.Slot);
     if (rows.OverallRow)
         SetRow(static_cast<int>(rows.Ratings.size()) + 1, *rows.OverallRow);
 }

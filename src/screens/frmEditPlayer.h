@@ -1,6 +1,7 @@
 #pragma once
 
-#include "league/InputCheck.h"
+#include "desk/NewPlayer.h"
+#include "desk/PlayerFields.h"
 #include "screens/panels/EditBox.h"
 #include "screens/panels/EntryList.h"
 #include "screens/panels/RatingRows.h"
@@ -81,30 +82,15 @@ public:
     bool PositionEventsOn = true; // false while the screen chooses a position itself
     bool Changed = false;         // something that the opener must rebuild for
 
-    // The record at hand.
-    struct Person {
-        bool IsGoalie;
-        int Id;
-    };
-    struct NumberField; // a box that holds a number of the record
-    struct TextField;   // a box that holds a text of it
-
 protected:
     void changeEvent(QEvent* event) override;
 
 private:
-    // Runs `visit` on a record.
-    template <class Visit>
-    static auto On(const Person& person, Visit&& visit)
-    {
-        return person.IsGoalie ? visit(Goalies[person.Id]) : visit(Players[person.Id]);
-    }
     // The person shown. None, with a critical box, when the position digit is out of range.
-    [[nodiscard]] std::optional<Person> ShownPerson() const;
+    [[nodiscard]] std::optional<PersonId> ShownPerson() const;
     [[nodiscard]] bool IsPersonShown() const;
 
     // The list.
-    void RepairPositions();
     void ListPeople();
     void AddEntry(const std::string& name, int id, int position);
     void RewriteEntry();
@@ -114,34 +100,28 @@ private:
     void FitList();
 
     // The record.
-    void ShowRecord(const Person& person);
+    void ShowRecord(PersonId person);
     void ClearPositions();
     void TickPosition(QRadioButton* option);
-    void ShowRatings(const Person& person);
+    void ShowRatings(PersonId person);
     void ShowRow(int row, std::string_view label, int rating);
     void SetRow(int row, const StatRow& shown);
     void ShowOverall();
 
     // The boxes.
-    void ShowFields(const Person& person);
-    void LeaveBox(EditBox* box, InputMode mode, const std::function<void(const Person&)>& restore,
+    void ShowFields(PersonId person);
+    void LeaveBox(EditBox* box, InputMode mode, const std::function<void(PersonId)>& restore,
                   const std::function<void(const std::string&)>& take);
-    // A rule of one field's own: given the value before and now. `allows` may refuse the new one, which is then not
-    // stored; `follow` runs behind the storing.
-    using Rule = std::function<void(const Person&, long long before, long long now)>;
-    using Allowance = std::function<bool(const Person&, long long now)>;
-    void LeaveNumber(const NumberField& field, const Rule& follow = {}, const Allowance& allows = {});
-    void LeaveText(const TextField& field, const std::function<void()>& follow = {});
-    void ChangeCondition(const Person& person, long long before, long long now);
-    void Suspend(const Person& person, long long before, long long now);
-    void Bench(const Person& person);
-    void CopyFlag(Boolean Player::*ofSkater, Boolean Goalie::*ofGoalie, const QCheckBox* box);
+    void LeaveNumber(EditBox* box, NumberField field);
+    void LeaveText(
+        EditBox* box, TextField field, const std::function<void()>& follow = [] {});
+    void ShowTurn(HealthTurn turn);
+    void CopyFlag(FlagField field, const QCheckBox* box);
 
     // New records.
-    void BeginRecord(const Person& person);
-    void SaveRecord(const Person& person);
-    [[nodiscard]] bool IsNewRecordFilled(int ratings) const;
-    void StoreNewFields(const Person& person);
+    void BeginRecord(PersonId person);
+    void SaveRecord(PersonId person);
+    [[nodiscard]] NewRecord TypedRecord() const;
     void ClearBoxes();
     void LeaveNewPlayerMode();
     void LeaveNewGoalieMode();

@@ -1,33 +1,13 @@
-#include "league/Platform.h"
+#include "desk/Erasure.h"
 #include "screens/frmEditPlayer.h"
 #include "screens/panels/NameSearch.h"
+#include "screens/platform/CodePage.h"
 #include "session/Routines.h"
 
 #include <QSignalBlocker>
 
 // The commands of the record editor: search, new records and erasure.
 namespace dravik {
-
-namespace {
-
-// The first slot that is free. The last one of a table is never looked at, and so never given out. 0 when there is none.
-template <class Table>
-int FreeSlotOf(const Table& people)
-{
-    for (int slot = 1; slot < Table::last; ++slot)
-        if (!people[slot].InUse)
-            return slot;
-    return 0;
-}
-
-void TellFullTable(std::string_view kind)
-{
-    ShowBox("You have reach the maximum number of available " + std::string(kind) + "!" + std::string(LineBreak) +
-                "Please erase some before creating new ones.",
-            box::Warning);
-}
-
-} // namespace
 
 void frmEditPlayer::LeaveNewPlayerMode()
 {
@@ -49,11 +29,9 @@ void frmEditPlayer::cmdNewPlayer_Click()
             return;
         }
         LeaveNewGoalieMode();
-        const int slot = FreeSlotOf(Players);
-        if (slot == 0) {
-            TellFullTable("players");
+        const int slot = FreeSlotFor(OpenWork(), false);
+        if (slot == 0)
             return;
-        }
         FreeSlot = slot;
         NewPlayerMode = true;
         BeginRecord({false, slot});
@@ -69,11 +47,9 @@ void frmEditPlayer::cmdNewGoaler_Click()
             return;
         }
         LeaveNewPlayerMode();
-        const int slot = FreeSlotOf(Goalies);
-        if (slot == 0) {
-            TellFullTable("goalies");
+        const int slot = FreeSlotFor(OpenWork(), true);
+        if (slot == 0)
             return;
-        }
         FreeSlot = slot;
         NewGoalieMode = true;
         BeginRecord({true, slot});
@@ -81,7 +57,7 @@ void frmEditPlayer::cmdNewGoaler_Click()
     });
 }
 
-void frmEditPlayer::BeginRecord(const Person& person)
+void frmEditPlayer::BeginRecord(PersonId person)
 {
     ClearBoxes();
     chkEdit->setChecked(true);
@@ -109,44 +85,53 @@ void frmEditPlayer::BeginRecord(const Person& person)
     TickPosition(person.IsGoalie ? optGoaler : optPosition[position::Center]);
 }
 
-void frmEditPlayer::SaveRecord(const Person& person)
+NewRecord frmEditPlayer::TypedRecord() const
 {
-    constexpr int goalieRatings = static_cast<int>(decltype(Goalie::Stats)::last);
-    constexpr int skaterRatings = static_cast<int>(decltype(Player::Stats)::last);
-    if (!IsNewRecordFilled(person.IsGoalie ? goalieRatings : skaterRatings)) {
-        ShowBox("Missing Field!", box::Warning);
+    const auto typed = [](const EditBox* box) { return FromQString(box->text()); };
+    NewRecord record{.Name = typed(txtName),
+                     .Country = typed(txtCountry),
+                     .Age = typed(txtAge),
+                     .Weight = typed(txtWeight),
+                     .Height = typed(txtHeight),
+                     .Contract = typed(txtContract),
+                     .Salary = typed(txtSalary),
+                     .Condition = typed(txtCondition),
+                     .Rookie = chkRookie->isChecked(),
+                     .NoTrade = chkNoTrade->isChecked(),
+                     .NoApplyRerate = chkNoApplyRerate->isChecked()};
+    for (const EditBox* box : txtStats)
+        record.Ratings.push_back(typed(box));
+    for (int index = position::Center; index <= position::Defense; ++index)
+        if (optPosition[index]->isChecked())
+            record.Position = index;
+    return record;
+}
+
+void frmEditPlayer::SaveRecord(PersonId person)
+{
+    const NewRecord record = TypedRecord();
+    const bool isCreated = CreatePlayer(OpenWork(), person, record, [&] {
+        AddEntry(TextOf(OpenLeague, person, TextField::Name), person.Slot,
+                 person.IsGoalie ? position::Goalie : record.Position);
+        FitList(); // a second entry makes it a list to choose from
+        Choose(lstPlayer->count() - 1);
+        (person.IsGoalie ? NewGoalieMode : NewPlayerMode) = false;
+    });
+    if (!isCreated)
         return;
-    }
-    On(person, [&](auto& record) {
-        record.InUse = true;
-        record.Number = person.Id;
-    });
-    StoreNewFields(person);
-    int place = position::Goalie;
-    if (!person.IsGoalie) {
-        place = position::Center;
-        for (int index = position::Center; index <= position::Defense; ++index)
-            if (optPosition[index]->isChecked())
-                place = index;
-        Players[person.Id].Position = place;
-    }
-    const std::string name = On(person, [this](auto& record) {
-        record.NoApplyRerate = chkNoApplyRerate->isChecked();
-        record.Rookie = chkRookie->isChecked();
-        record.NoTrade = chkNoTrade->isChecked();
-        return record.Name.Trimmed();
-    });
-    LeagueNews(name + " was created.");
-    AddEntry(name, person.Id, place);
-    FitList(); // a second entry makes it a list to choose from
-    Choose(lstPlayer->count() - 1);
-    (person.IsGoalie ? NewGoalieMode : NewPlayerMode) = false;
-    ShowBox(name + " was successfully created!", box::Information);
-    Modified = true;
     if (person.IsGoalie)
         LeaveNewGoalieMode();
     else
         LeaveNewPlayerMode();
+}
+
+void frmEditPlayer::ClearBoxes()
+{
+    for (EditBox* box : {txtName, txtCountry, txtAge, txtWeight, txtHeight, txtContract, txtSalary, txtCondition,
+                         txtSuspension, txtInjury, txtTeam})
+        box->clear();
+    for (EditBox* box : txtStats)
+        box->clear();
 }
 
 void frmEditPlayer::cmdSearch_Click()
@@ -164,31 +149,13 @@ void frmEditPlayer::cmdErase_Click()
         if (lstPlayer->currentItem() == nullptr)
             return;
         const auto person = ShownPerson();
-        if (!person)
+        if (!person || !ErasePerson(OpenWork(), *person, PlayerPosition))
             return;
-        const auto [name, team] = On(*person, [](const auto& record) {
-            return std::pair(record.Name.Trimmed(), static_cast<int>(record.Team));
-        });
-        const auto agreed = [](const std::string& question) { return ShowBox(question, box::YesNo) == button::Yes; };
-        if (!agreed("Are you sure you want to erase " + name + "?"))
-            return;
-        if (team != 0) {
-            const std::string employer = Teams[team].Name.Trimmed();
-            if (!agreed(name + " is hired by " + employer + "! Do you want release the " +
-                        (person->IsGoalie ? "goalie?" : "player?")))
-                return;
-            const bool retires = agreed("Is " + name + " retiring?");
-            const std::string news = name + (retires ? " retired from " : " was released by ") + employer;
-            LeagueNews(news);
-            TeamNews(team, news);
-        }
-        PlayerErased(person->Id, PlayerPosition);
         const QSignalBlocker quiet(lstPlayer);
         delete lstPlayer->takeItem(lstPlayer->currentRow());
         lstPlayer->Unchoose();
         ListPosition = -1; // whoever moved up in the list is not the one on show
         cmdErase->setEnabled(false);
-        Modified = true;
     });
 }
 
