@@ -1,5 +1,7 @@
 #include "desk/RosterMoves.h"
 
+#include "rules/FarmLimits.h"
+#include "rules/Overall.h"
 #include "rules/People.h"
 #include "rules/Waivers.h"
 #include "rules/WipeLines.h"
@@ -33,7 +35,7 @@ bool MayMove(const Work& work, int team, PersonId who, const Person& person, int
     if (to != status::Farm)
         return true;
     const League& rules = work.League.LeagueData;
-    if (rules.FarmMaxSalary > 0 && person.Salary > rules.FarmMaxSalary) {
+    if (IsTooDearForFarm(rules, person.Salary)) {
         says.ShowBox(kind + " Salary is too high to be send in the Farm!", box::Warning);
         return false;
     }
@@ -53,7 +55,7 @@ bool MayMove(const Work& work, int team, PersonId who, const Person& person, int
 Permission MayGoToFarm(const Work& work, long long overall)
 {
     const League& rules = work.League.LeagueData;
-    if (overall > rules.FarmMaxOverall) {
+    if (IsTooGoodForFarm(rules, overall)) {
         work.Says.ShowBox("Player Overall is too high to be sent to farm!", box::Warning);
         return Permission::Refused;
     }
@@ -71,6 +73,17 @@ Permission MayLeaveFarm(const Work& work, const RosterCounts& counts)
         return Permission::Ended;
     }
     return Permission::Given;
+}
+
+void KeepOffFarm(const Work& work, PersonId who)
+{
+    const League& rules = work.League.LeagueData;
+    const int position = who.IsGoalie ? position::Goalie : static_cast<int>(work.League.Players[who.Slot].Position);
+    const int overall = CalculateOverall(work.League, work.Says, position, who.Slot);
+    OnPerson(work.League, who, [&](auto& person) {
+        if (IsTooGoodForFarm(rules, overall) || IsTooDearForFarm(rules, person.Salary))
+            person.Status = status::Scratch;
+    });
 }
 
 bool MoveOnRoster(const Work& work, int team, PersonId who, int from, int to, RosterCounts& counts)

@@ -19,6 +19,10 @@ Permission MayGoToFarm(const Work& work, long long overall);
 // Whether one more may leave the farm. A full pro team is told.
 Permission MayLeaveFarm(const Work& work, const RosterCounts& counts);
 
+// Makes a scratch of somebody on the farm who is too good or too dear for it. The list of changes does not hear of it, nor is
+// the league marked as modified.
+void KeepOffFarm(const Work& work, PersonId who);
+
 // Moves a person of `team` (1..100) from one status to another and counts him there. What stands against it is told in a
 // warning box, in this order: he is hurt, suspended, without a contract, too dear for the farm. Sending him down may ask for
 // waivers first. He leaves all lines. True when he moved.

@@ -5,6 +5,7 @@
 #include "league/Reporting.h"
 #include "makers/Makers.h"
 #include "makers/RatingList.h"
+#include "rules/FarmLimits.h"
 #include "rules/Finance.h"
 #include "rules/Overall.h"
 #include "rules/People.h"
@@ -277,9 +278,9 @@ template <class Kind>
 bool MayGoDown(const RosterRun& run, int id)
 {
     const League& rules = run.At.League.LeagueData;
-    if (Kind::Rating(run.At, id) > rules.FarmMaxOverall || WaiverCheck(run.At.League, run.At.Says, CommonId<Kind>(id)))
-        return false;
-    return rules.FarmMaxSalary <= 0 || Kind::People(run.At.League)[id].Salary <= rules.FarmMaxSalary;
+    return !IsTooGoodForFarm(rules, Kind::Rating(run.At, id)) &&
+           !WaiverCheck(run.At.League, run.At.Says, CommonId<Kind>(id)) &&
+           !IsTooDearForFarm(rules, Kind::People(run.At.League)[id].Salary);
 }
 
 // Sends every ranked scratch down who may go. Partial mode sends nobody, and nobody goes after the trade deadline.

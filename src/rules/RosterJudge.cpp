@@ -5,6 +5,7 @@
 #include "league/PersonId.h"
 #include "league/Positions.h"
 #include "league/Reporting.h"
+#include "rules/FarmLimits.h"
 #include "rules/Overall.h"
 #include "rules/People.h"
 #include "rules/WipeLines.h"
@@ -123,9 +124,9 @@ private:
             LeaveFarm(person);
             TakeOffLines(PersonIn<Person>(index));
         };
-        if (CalculateOverall(work.League, work.Says, PositionOf(person), index) > rules.FarmMaxOverall)
+        if (IsTooGoodForFarm(rules, CalculateOverall(work.League, work.Says, PositionOf(person), index)))
             refuse(RosterFault::TooGoodForFarm);
-        if (rules.FarmMaxSalary >= 1 && person.Salary > rules.FarmMaxSalary)
+        if (IsTooDearForFarm(rules, person.Salary))
             refuse(RosterFault::TooDearForFarm);
         // He counts for the farm even when he has just left it; a goalie then counts among the scratches too.
         if (IsFit(person))

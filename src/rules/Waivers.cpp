@@ -2,6 +2,7 @@
 
 #include "league/PersonId.h"
 #include "league/Reporting.h"
+#include "rules/FarmLimits.h"
 #include "rules/Overall.h"
 
 namespace dravik {
@@ -13,7 +14,7 @@ bool NeedsWaivers(const Tables& league, Voice& says, const Person& person, int s
 {
     const League& rules = league.LeagueData;
     return person.ProGames >= rules.WaiverMinGames && person.Age > rules.WaiverExemptAge &&
-           CalculateOverall(league, says, PositionOf(person), slot) <= rules.FarmMaxOverall;
+           !IsTooGoodForFarm(rules, CalculateOverall(league, says, PositionOf(person), slot));
 }
 
 } // namespace

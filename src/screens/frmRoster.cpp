@@ -25,16 +25,6 @@ int OwnNumber() { return static_cast<int>(CurrentTeam); }
 template <class Person>
 constexpr bool IsGoalie = std::is_same_v<std::remove_cv_t<Person>, Goalie>;
 
-// Whoever is too good or too dear for the farm becomes a scratch here and now. The list of changes does not hear of it.
-template <class Person>
-void KeepOffFarm(Person& person, int index)
-{
-    if (CalculateOverall(PositionOf(person), index) > LeagueData.FarmMaxOverall)
-        person.Status = status::Scratch;
-    if (LeagueData.FarmMaxSalary >= 1 && person.Salary > LeagueData.FarmMaxSalary)
-        person.Status = status::Scratch;
-}
-
 QStringList LinesOf(const std::string& text) { return ToQString(text).split("\r\n", Qt::SkipEmptyParts); }
 
 // The findings of the last roster judgement without the heading and the closing words of its box. A judgement that broke
@@ -105,7 +95,7 @@ void frmRoster::ListPerson(Person& person, int index)
         return;
     }
     if (person.Status == status::Farm)
-        KeepOffFarm(person, index);
+        KeepOffFarm(OpenWork(), {.IsGoalie = IsGoalie<Person>, .Slot = index});
     ++StatusCount[person.Status];
     if (person.Status > status::Farm && IsFit(person))
         ++StatusCount[3];

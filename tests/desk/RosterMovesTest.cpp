@@ -171,5 +171,31 @@ TEST_F(RosterMovesTest, BehindTheDeadlineNobodyGoesToWaivers)
     EXPECT_THAT(Machine.TakeBoxes(), ElementsAre(Box{box::Information, "Trade Deadline is Passed!"}));
 }
 
+TEST_F(RosterMovesTest, WhoIsTooGoodOrTooDearForTheFarmIsKeptOffItInSilence)
+{
+    LeagueData.FarmMaxOverall = 60;
+    LeagueData.FarmMaxSalary = 1000000;
+    const auto keepOff = [this](PersonId who) {
+        OnPerson(OpenLeague, who, [](auto& person) { person.Status = status::Farm; });
+        KeepOffFarm(OpenWork(), who);
+        return OnPerson(OpenLeague, who, [](const auto& person) { return person.Status == status::Scratch; });
+    };
+    for (const PersonId who : {Skater, Keeper}) {
+        EXPECT_FALSE(keepOff(who));
+        LeagueData.FarmMaxOverall = 59;
+        EXPECT_TRUE(keepOff(who));
+        LeagueData.FarmMaxOverall = 60;
+        LeagueData.FarmMaxSalary = 999999;
+        EXPECT_TRUE(keepOff(who));
+        LeagueData.FarmMaxSalary = 0;
+        EXPECT_FALSE(keepOff(who));
+        LeagueData.FarmMaxSalary = 1000000;
+    }
+    EXPECT_EQ(RosterChanges[1].Status, RosterChange::Untouched);
+    EXPECT_EQ(RosterChangesGoalie[1].Status, RosterChange::Untouched);
+    EXPECT_FALSE(Modified);
+    EXPECT_THAT(Machine.Boxes(), IsEmpty());
+}
+
 } // namespace
 } // namespace dravik
