@@ -2,8 +2,8 @@
 #include "league/Reporting.h"
 #include "makers/Dealing.h"
 #include "makers/Makers.h"
+#include "rules/LineEligibility.h"
 #include "rules/LineJudge.h"
-#include "rules/People.h"
 
 #include <algorithm>
 #include <span>
@@ -72,8 +72,7 @@ bool IsLegal(const League& rules, const Lines& lines, const LineSlot& slot)
 
 bool IsUsable(const Tables& league, long long id, int team)
 {
-    const Player& player = league.Players[id];
-    return id != 0 && player.Status == status::Pro && player.Team == team && IsDressable(player);
+    return id != 0 && !FaultInLines(league.Players[id], team, Side::Pro);
 }
 
 // Leaves a usable slot alone and refills any other, from the worst of the list upwards. False when it stays empty.

@@ -4,7 +4,7 @@
 #include "league/Positions.h"
 #include "makers/Lineup.h"
 #include "makers/Makers.h"
-#include "rules/LineSlots.h"
+#include "rules/DaySlots.h"
 
 #include <bitset>
 #include <string_view>
@@ -14,8 +14,6 @@ namespace dravik {
 
 // How many skaters of each position are in the list.
 using PositionCounts = Row<Int16, 1, 5>;
-
-constexpr bool IsForward(long long position) { return position >= position::Center && position <= position::RightWing; }
 
 // A run of a maker of lines: where it works, for which team, its working list, and what it will tell.
 struct LinesRun {

@@ -1,5 +1,5 @@
-#include "league/Positions.h"
 #include "league/Reporting.h"
+#include "rules/LineEligibility.h"
 #include "rules/LineJudge.h"
 #include "rules/LineRules.h"
 
@@ -8,7 +8,6 @@ namespace dravik {
 namespace {
 
 constexpr LineRules StrictRules{.Side = Side::Farm,
-                                .Status = status::Farm,
                                 .JudgesEmptySlots = true,
                                 .ComparesLinesOneAndTwo = true,
                                 .PPForwardHead = "PP line",
@@ -17,7 +16,6 @@ constexpr LineRules StrictRules{.Side = Side::Farm,
                                 .Closing = ""};
 
 constexpr LineRules LenientRules{.Side = Side::Farm,
-                                 .Status = status::Farm,
                                  .JudgesEmptySlots = false,
                                  .ComparesLinesOneAndTwo = false,
                                  .PPForwardHead = "",
@@ -39,7 +37,7 @@ LineVerdict CheckLineFarm(const Work& work, int team, bool showMessage, int day,
     LineVerdict verdict;
     const League& league = work.League.LeagueData;
     const auto failed = FailureOf(work.Says, " in CheckLineFarm!", [&] {
-        if (!league.FarmEnabled)
+        if (!AreLinesJudged(league, Side::Farm))
             verdict.Complete = true;
         else if (!HasLineDay(team, day))
             work.Says.ShowIntegrityFailure();

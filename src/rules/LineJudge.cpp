@@ -3,46 +3,22 @@
 #include "league/Message.h"
 #include "league/Positions.h"
 #include "league/Reporting.h"
+#include "rules/DaySlots.h"
+#include "rules/LineEligibility.h"
+#include "rules/LineGroups.h"
 #include "rules/LineRules.h"
-#include "rules/People.h"
 #include "rules/WipeLines.h"
 
 #include <algorithm>
 #include <array>
-#include <span>
 #include <string>
 
 namespace dravik {
 
 namespace {
 
-// The slots of one line or unit that no skater may hold two of, from left to right: each is compared with those on its
-// right.
-struct Member {
-    LineField Field;
-    int Place;
-};
-using Group = std::span<const Member>;
-
-constexpr Member NormalMembers[] = {{LineField::NormalForward, 1},
-                                    {LineField::NormalForward, 2},
-                                    {LineField::NormalForward, 3},
-                                    {LineField::NormalDefense, 1},
-                                    {LineField::NormalDefense, 2}};
-constexpr Member PPMembers[] = {{LineField::PPForward, 1},
-                                {LineField::PPForward, 2},
-                                {LineField::PPForward, 3},
-                                {LineField::PPDefense, 1},
-                                {LineField::PPDefense, 2}};
-constexpr Member PKMembers[] = {
-    {LineField::PKForward, 1}, {LineField::PKForward, 2}, {LineField::PKDefense, 1}, {LineField::PKDefense, 2}};
-constexpr Member FourVsFourMembers[] = {{LineField::FourVsFourForward, 1},
-                                        {LineField::FourVsFourForward, 2},
-                                        {LineField::FourVsFourDefense, 1},
-                                        {LineField::FourVsFourDefense, 2}};
-constexpr Member PK3Members[] = {{LineField::PK3Forward, 1}, {LineField::PK3Defense, 1}, {LineField::PK3Defense, 2}};
-
-constexpr Group UnitGroups[] = {PPMembers, PKMembers, FourVsFourMembers, PK3Members};
+constexpr const LineGroup* UnitGroups[] = {&PowerPlayUnits, &PenaltyKillUnits, &FourVsFourUnits,
+                                           &PenaltyKillWithThreeUnits};
 
 // The six fields of a unit that are judged in turn for place 1, then for place 2.
 constexpr LineField PairFields[] = {LineField::PPDefense,         LineField::PKForward,         LineField::PKDefense,
@@ -50,8 +26,7 @@ constexpr LineField PairFields[] = {LineField::PPDefense,         LineField::PKF
 
 constexpr LineField Lists[] = {LineField::ExtraForward, LineField::ExtraDefense, LineField::PenaltyShot};
 
-constexpr int NormalLineCount = 4;
-constexpr int UnitCount = 2;
+constexpr int UnitCount = PowerPlayUnits.Count;
 constexpr int ListLength = 5;
 
 // The places of the head count, of which a league uses the first few, and what a complete farm line-up needs.
@@ -61,9 +36,10 @@ constexpr std::size_t FewestHeads = 18;
 // A slot and its right-hand neighbours, at most five in all.
 class SlotRun {
 public:
-    SlotRun(Group group, int number)
+    // A line or unit, whose members are compared from left to right.
+    SlotRun(const LineGroup& group, int number)
     {
-        for (const Member& member : group)
+        for (const GroupMember& member : group.Members)
             slots[count++] = SlotOf(member.Field, number, member.Place);
     }
     explicit SlotRun(LineField list)
@@ -105,19 +81,19 @@ public:
 private:
     void JudgeNormalLines()
     {
-        for (int line = 1; line <= NormalLineCount; ++line) {
+        for (int line = 1; line <= NormalLines.Count; ++line) {
             for (int position = 1; position <= 3; ++position)
                 JudgeSlot(LineField::NormalForward, line, position);
             for (int place = 1; place <= 2; ++place)
                 JudgeSlot(LineField::NormalDefense, line, place);
-            FindDoubles(SlotRun(NormalMembers, line));
+            FindDoubles(SlotRun(NormalLines, line));
         }
     }
 
     void CompareLinesOneAndTwo()
     {
-        const SlotRun second(NormalMembers, 2);
-        for (const LineSlot& slot : SlotRun(NormalMembers, 1))
+        const SlotRun second(NormalLines, 2);
+        for (const LineSlot& slot : SlotRun(NormalLines, 1))
             if (StandsIn(Standing(slot), second.begin(), second.end()))
                 Find({.Fault = LineFault::LinesShared,
                       .Person = Standing(slot),
@@ -134,8 +110,8 @@ private:
                 for (const LineField field : PairFields)
                     JudgeSlot(field, unit, place);
             JudgeSlot(LineField::PK3Forward, unit);
-            for (const Group group : UnitGroups)
-                FindDoubles(SlotRun(group, unit));
+            for (const LineGroup* group : UnitGroups)
+                FindDoubles(SlotRun(*group, unit));
         }
     }
 
@@ -205,15 +181,10 @@ private:
     template <class Person, class SlotsOf>
     bool Refuses(const Person& person, int id, SlotsOf slots)
     {
-        if (person.Status != rules.Status || person.Team != team) {
-            Find({LineFault::Stranger, id, slots()});
-            return true;
-        }
-        if (!IsDressable(person)) {
-            Find({LineFault::Unfit, id, slots()});
-            return true;
-        }
-        return false;
+        const auto fault = FaultInLines(person, team, rules.Side);
+        if (fault)
+            Find({*fault, id, slots()});
+        return fault.has_value();
     }
 
     // Finds each slot whose value stands once more on its right, with all slots that hold it from there on.
@@ -281,7 +252,6 @@ std::string LogHead(const Team& team, Side side)
 }
 
 constexpr LineRules ProRules{.Side = Side::Pro,
-                             .Status = status::Pro,
                              .JudgesEmptySlots = true,
                              .ComparesLinesOneAndTwo = true,
                              .PPForwardHead = "PP line ",
@@ -323,9 +293,7 @@ bool CheckLineEmpty(const Tables& league, Voice& says, int team, int day)
         return false;
     }
     const Lines& lines = LinesOf(league, team, day, Side::Pro);
-    return std::all_of(SkaterSlots.begin(), SkaterSlots.end(),
-                       [&](const LineSlot& slot) { return At(lines, slot) == 0; }) &&
-           lines.StartGoalie == 0 && lines.BackupGoalie == 0;
+    return std::all_of(DaySlots.begin(), DaySlots.end(), [&](const DaySlot& slot) { return At(lines, slot) == 0; });
 }
 
 } // namespace dravik

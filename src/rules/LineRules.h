@@ -14,7 +14,6 @@ enum class HeadCount { None, AtMost, AtLeastToo };
 // In what the three judges of lines differ. Everything else is one walk.
 struct LineRules {
     dravik::Side Side;
-    int Status;                         // of those who may stand in the lines
     bool JudgesEmptySlots;              // an empty slot is wrong, and so is an empty slot like another
     bool ComparesLinesOneAndTwo;        // if the league wants them kept apart
     std::string_view PPForwardHead;     // begins the message of an empty power play forward slot

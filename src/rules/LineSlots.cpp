@@ -1,5 +1,7 @@
 #include "rules/LineSlots.h"
 
+#include "rules/DaySlots.h"
+
 #include <cstddef>
 #include <new>
 
@@ -73,25 +75,56 @@ constexpr std::array<LineSlot, 67> MakeSkaterSlots()
 constexpr std::array<LineSlot, 67> AllSlots = MakeSkaterSlots();
 static_assert(AllSlots.back().Field == LineField::PenaltyShot && AllSlots.back().Number == 5);
 
-// A line-up is nothing but words, but they belong to different arrays: a slot is found among the bytes of the record.
-std::size_t ByteOf(const LineSlot& slot) { return static_cast<std::size_t>(slot.Word) * sizeof(Int16); }
+constexpr Takes RuleOf(LineField field)
+{
+    switch (field) {
+    case LineField::ExtraForward:
+        return Takes::Forward;
+    case LineField::ExtraDefense:
+        return Takes::Defense;
+    default:
+        return Takes::Skater;
+    }
+}
+
+constexpr std::array<DaySlot, 69> MakeDaySlots()
+{
+    std::array<DaySlot, 69> slots{};
+    std::size_t count = 0;
+    for (const LineSlot& slot : AllSlots)
+        slots[count++] = {RuleOf(slot.Field), slot.Word};
+    slots[count++] = {Takes::Goalie, StartGoalieWord};
+    slots[count] = {Takes::Goalie, BackupGoalieWord};
+    return slots;
+}
+
+constexpr std::array<DaySlot, 69> EverySlot = MakeDaySlots();
+
+// A line-up is nothing but words, but they belong to different arrays: a word is found among the bytes of the record.
+std::size_t ByteOf(int word) { return static_cast<std::size_t>(word) * sizeof(Int16); }
+
+Int16& WordAt(Lines& lines, int word)
+{
+    auto* record = reinterpret_cast<unsigned char*>(&lines);
+    return *std::launder(reinterpret_cast<Int16*>(record + ByteOf(word)));
+}
+const Int16& WordAt(const Lines& lines, int word)
+{
+    const auto* record = reinterpret_cast<const unsigned char*>(&lines);
+    return *std::launder(reinterpret_cast<const Int16*>(record + ByteOf(word)));
+}
 
 } // namespace
 
 const std::array<LineSlot, 67> SkaterSlots = AllSlots;
+const std::array<DaySlot, 69> DaySlots = EverySlot;
 
 LineSlot SlotOf(LineField field, int number, int place) { return MakeSlot(field, number, place); }
 
-Int16& At(Lines& lines, const LineSlot& slot)
-{
-    auto* record = reinterpret_cast<unsigned char*>(&lines);
-    return *std::launder(reinterpret_cast<Int16*>(record + ByteOf(slot)));
-}
-const Int16& At(const Lines& lines, const LineSlot& slot)
-{
-    const auto* record = reinterpret_cast<const unsigned char*>(&lines);
-    return *std::launder(reinterpret_cast<const Int16*>(record + ByteOf(slot)));
-}
+Int16& At(Lines& lines, const LineSlot& slot) { return WordAt(lines, slot.Word); }
+const Int16& At(const Lines& lines, const LineSlot& slot) { return WordAt(lines, slot.Word); }
+Int16& At(Lines& lines, const DaySlot& slot) { return WordAt(lines, slot.Word); }
+const Int16& At(const Lines& lines, const DaySlot& slot) { return WordAt(lines, slot.Word); }
 
 bool HasLineDay(int team, int day) { return TeamTable::Has(team) && decltype(Team::ProLines)::Has(day); }
 

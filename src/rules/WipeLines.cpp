@@ -2,7 +2,7 @@
 
 #include "league/PersonId.h"
 #include "league/Reporting.h"
-#include "rules/LineSlots.h"
+#include "rules/DaySlots.h"
 
 #include <algorithm>
 #include <array>
@@ -55,10 +55,8 @@ void WipesLines(Tables& league, Voice& says, int team, int day, bool pro)
             return;
         }
         Lines& lines = LinesOf(league, team, day, pro ? Side::Pro : Side::Farm);
-        for (const LineSlot& slot : SkaterSlots)
+        for (const DaySlot& slot : DaySlots)
             At(lines, slot) = 0;
-        lines.StartGoalie = 0;
-        lines.BackupGoalie = 0;
         for (Int16& points : lines.Strategy)
             points = 0;
     });

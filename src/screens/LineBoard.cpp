@@ -13,34 +13,40 @@ namespace dravik {
 namespace {
 
 constexpr int ListLength = 5;
-constexpr int GoalieSlots = 2;
 constexpr int WidestSlot = 420;
 
 // The labels of a field: their names and what is painted in them, by place.
 struct FieldLabels {
     std::array<const char*, 3> Names;
     std::array<const char*, 3> Tags; // none: the number
-    Takes Rule;
-    const char* Group; // for a screen reader
+    const char* Group;               // for a screen reader
 };
 
 // In the order of LineField.
 constexpr std::array<FieldLabels, 13> Labels{{
-    {{"lblNormalTrioC", "lblNormalTrioLW", "lblNormalTrioRW"}, {"C", "LW", "RW"}, Takes::Skater, "Line"},
-    {{"lblNormalTrioD1", "lblNormalTrioD2"}, {"D", "D"}, Takes::Skater, "Line"},
-    {{"lblPPTrioC", "lblPPTrioLW", "lblPPTrioRW"}, {"C", "LW", "RW"}, Takes::Skater, "PowerPlay unit"},
-    {{"lblPPDuoD1", "lblPPDuoD2"}, {"D", "D"}, Takes::Skater, "PowerPlay unit"},
-    {{"lblPKTrioC", "lblPKTrioW"}, {"C", "W"}, Takes::Skater, "5 vs 4 Penalty Kill unit"},
-    {{"lblPKDuoD1", "lblPKDuoD2"}, {"D", "D"}, Takes::Skater, "5 vs 4 Penalty Kill unit"},
-    {{"lbl44TrioC", "lbl44TrioW"}, {"C", "W"}, Takes::Skater, "4 vs 4 unit"},
-    {{"lbl44DuoD1", "lbl44DuoD2"}, {"D", "D"}, Takes::Skater, "4 vs 4 unit"},
-    {{"lblPK3TrioC"}, {"F"}, Takes::Skater, "* vs 3 Penalty Kill unit"},
-    {{"lblPK3DuoD1", "lblPK3DuoD2"}, {"D", "D"}, Takes::Skater, "* vs 3 Penalty Kill unit"},
-    {{"lblExtraForward"}, {}, Takes::Forward, "Extra Forward"},
-    {{"lblExtraDefense"}, {}, Takes::Defense, "Extra Defenseman"},
-    {{"lblPenaltyShot"}, {}, Takes::Skater, "Penalty Shot"},
+    {{"lblNormalTrioC", "lblNormalTrioLW", "lblNormalTrioRW"}, {"C", "LW", "RW"}, "Line"},
+    {{"lblNormalTrioD1", "lblNormalTrioD2"}, {"D", "D"}, "Line"},
+    {{"lblPPTrioC", "lblPPTrioLW", "lblPPTrioRW"}, {"C", "LW", "RW"}, "PowerPlay unit"},
+    {{"lblPPDuoD1", "lblPPDuoD2"}, {"D", "D"}, "PowerPlay unit"},
+    {{"lblPKTrioC", "lblPKTrioW"}, {"C", "W"}, "5 vs 4 Penalty Kill unit"},
+    {{"lblPKDuoD1", "lblPKDuoD2"}, {"D", "D"}, "5 vs 4 Penalty Kill unit"},
+    {{"lbl44TrioC", "lbl44TrioW"}, {"C", "W"}, "4 vs 4 unit"},
+    {{"lbl44DuoD1", "lbl44DuoD2"}, {"D", "D"}, "4 vs 4 unit"},
+    {{"lblPK3TrioC"}, {"F"}, "* vs 3 Penalty Kill unit"},
+    {{"lblPK3DuoD1", "lblPK3DuoD2"}, {"D", "D"}, "* vs 3 Penalty Kill unit"},
+    {{"lblExtraForward"}, {}, "Extra Forward"},
+    {{"lblExtraDefense"}, {}, "Extra Defenseman"},
+    {{"lblPenaltyShot"}, {}, "Penalty Shot"},
 }};
 static_assert(static_cast<std::size_t>(LineField::PenaltyShot) + 1 == Labels.size());
+
+constexpr std::array<BoardGroup, 5> Groups{{
+    {NormalLines, "&Normal Lines", "lblNormalTrio", "Line", "Normal "},
+    {PowerPlayUnits, "&PowerPlay", "lblPPTrio", "Unit", "PP "},
+    {FourVsFourUnits, "&4 vs 4", "lbl44Trio", "Unit", "4 vs 4 "},
+    {PenaltyKillUnits, "&5 vs 4 Penalty Kill", "lblPKTrio", "Unit", "PK "},
+    {PenaltyKillWithThreeUnits, "* vs &3 Penalty Kill", "lblPK3Trio", "Unit", "PK3 "},
+}};
 
 QString Where(const FieldLabels& labels, const LineSlot& slot)
 {
@@ -75,13 +81,12 @@ LineBoard::LineBoard(QWidget* parent) : QTabWidget(parent)
     setDocumentMode(true);
     for (std::size_t index = 0; index < SkaterSlots.size(); ++index)
         MakeSkaterSlot(index);
-    MakeGoalieSlot(SkaterSlots.size(), "lblStartGoaler", "Starting Goalie", &Lines::StartGoalie);
-    MakeGoalieSlot(SkaterSlots.size() + 1, "lblBackupGoaler", "Backup Goalie", &Lines::BackupGoalie);
-    static_assert(std::tuple_size_v<decltype(Slots)> == std::tuple_size_v<decltype(SkaterSlots)> + GoalieSlots);
+    MakeGoalieSlot(SkaterSlots.size(), "lblStartGoaler", "Starting Goalie");
+    MakeGoalieSlot(SkaterSlots.size() + 1, "lblBackupGoaler", "Backup Goalie");
+    static_assert(std::tuple_size_v<decltype(Slots)> == std::tuple_size_v<decltype(DaySlots)>);
 
-    const char* captions[] = {"&Normal Lines", "&PowerPlay", "&4 vs 4", "&5 vs 4 Penalty Kill", "* vs &3 Penalty Kill"};
-    for (std::size_t index = 0; index < LineGroups.size(); ++index)
-        MakeGroupPage(LineGroups[index], captions[index]);
+    for (const BoardGroup& group : Groups)
+        MakeGroupPage(group);
     MakeExtrasPage();
     MakeGoaliesPage();
 }
@@ -89,8 +94,7 @@ LineBoard::LineBoard(QWidget* parent) : QTabWidget(parent)
 BoardSlot& LineBoard::SlotAt(LineField field, int number, int place)
 {
     const int word = SlotOf(field, number, place).Word;
-    return *std::find_if(Slots.begin(), Slots.end(),
-                         [word](const BoardSlot& slot) { return !slot.IsGoalies() && slot.Skater.Word == word; });
+    return *std::find_if(Slots.begin(), Slots.end(), [word](const BoardSlot& slot) { return slot.Slot.Word == word; });
 }
 
 void LineBoard::MakeSkaterSlot(std::size_t index)
@@ -102,15 +106,15 @@ void LineBoard::MakeSkaterSlot(std::size_t index)
     auto* label =
         new SlotLabel(Where(labels, slot), tag != nullptr ? QString(tag) : QString::number(slot.Number), this);
     label->setObjectName(ElementName(labels.Names[place], slot.Number));
-    Slots[index] = {.Label = label, .Name = labels.Names[place], .Rule = labels.Rule, .Skater = slot};
+    Slots[index] = {.Label = label, .Name = labels.Names[place], .Slot = DaySlots[index]};
     Connect(index);
 }
 
-void LineBoard::MakeGoalieSlot(std::size_t index, const char* name, const QString& caption, Int16 Lines::*goalie)
+void LineBoard::MakeGoalieSlot(std::size_t index, const char* name, const QString& caption)
 {
     auto* label = new SlotLabel(caption, ToQString(PositionName[position::Goalie]), this);
     label->setObjectName(name);
-    Slots[index] = {.Label = label, .Name = name, .Rule = Takes::Goalie, .Skater = {}, .Goalie = goalie};
+    Slots[index] = {.Label = label, .Name = name, .Slot = DaySlots[index]};
     Connect(index);
 }
 
@@ -129,17 +133,17 @@ QWidget* LineBoard::AddPage(const QString& caption)
     return page;
 }
 
-void LineBoard::MakeGroupPage(const LineGroup& group, const QString& caption)
+void LineBoard::MakeGroupPage(const BoardGroup& group)
 {
-    auto* column = new QVBoxLayout(AddPage(caption));
+    auto* column = new QVBoxLayout(AddPage(group.Page));
     column->setContentsMargins(Margin, Gap, Margin, Gap);
     column->setSpacing(Margin);
-    for (int number = 1; number <= group.Count; ++number)
+    for (int number = 1; number <= group.Group.Count; ++number)
         column->addWidget(MakeUnit(group, number));
     column->addStretch(1);
 }
 
-QWidget* LineBoard::MakeUnit(const LineGroup& group, int number)
+QWidget* LineBoard::MakeUnit(const BoardGroup& group, int number)
 {
     auto* panel = new QWidget(this);
     QVBoxLayout* column = MakeColumn(panel, Gap / 2);
@@ -161,7 +165,7 @@ QWidget* LineBoard::MakeUnit(const LineGroup& group, int number)
     top->addWidget(average);
     column->addLayout(top);
     for (const bool isDefense : {false, true}) {
-        const std::vector<GroupMember> members = InARow(group, isDefense);
+        const std::vector<GroupMember> members = InARow(group.Group, isDefense);
         QHBoxLayout* row = MakeRow({});
         // A row of three fills the width; a shorter one stands in its middle, each slot as wide as in a row of three.
         constexpr int wholeWidth = 6;

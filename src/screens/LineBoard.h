@@ -1,45 +1,46 @@
 #pragma once
 
 #include "league/PersonId.h"
-#include "rules/LineSlots.h"
-#include "screens/LineGroups.h"
+#include "rules/DaySlots.h"
+#include "rules/LineGroups.h"
 #include "screens/panels/SlotLabel.h"
 
 #include <array>
 #include <QTabWidget>
+#include <string_view>
 #include <vector>
 
 namespace dravik {
-
-// Who may be put into a slot.
-enum class Takes { Skater, Forward, Defense, Goalie };
 
 // One slot of the board, of a skater or of a goalie, with the label that shows it.
 struct BoardSlot {
     SlotLabel* Label = nullptr;
     const char* Name = nullptr; // of the label's control, without the index
-    Takes Rule = Takes::Skater;
-    LineSlot Skater{};              // where he stands in a line-up, unless this is a goalie's slot
-    Int16 Lines::*Goalie = nullptr; // where a goalie stands
-    int Shown = 0;                  // the person whom the label's text names, 0 for none
+    DaySlot Slot{};
+    int Shown = 0; // the person whom the label's text names, 0 for none
 
-    [[nodiscard]] bool IsGoalies() const { return Rule == Takes::Goalie; }
+    [[nodiscard]] bool IsGoalies() const { return Slot.IsGoalies(); }
     // Whom a number in it means.
     [[nodiscard]] PersonId Whom(long long id) const { return {.IsGoalie = IsGoalies(), .Slot = static_cast<int>(id)}; }
     // Where it stands among the words of a line-up.
-    [[nodiscard]] std::size_t Word() const
-    {
-        const int goalies = Goalie == &Lines::StartGoalie ? StartGoalieWord : BackupGoalieWord;
-        return static_cast<std::size_t>(IsGoalies() ? goalies : Skater.Word);
-    }
-    [[nodiscard]] Int16& In(Lines& lines) const { return IsGoalies() ? lines.*Goalie : At(lines, Skater); }
+    [[nodiscard]] std::size_t Word() const { return static_cast<std::size_t>(Slot.Word); }
+    [[nodiscard]] Int16& In(Lines& lines) const { return At(lines, Slot); }
+};
+
+// A sort of line or unit as the board shows it.
+struct BoardGroup {
+    const LineGroup& Group;
+    const char* Page;        // the caption of its tab
+    const char* Heading;     // name of the label that heads each line or unit
+    const char* Caption;     // what the heading reads, in front of the number
+    std::string_view Prefix; // stands before that where the averages are shown
 };
 
 // The heading of one line or unit.
 struct BoardHeading {
     PressLabel* Label;
     QLabel* Average; // the overall of the line, muted
-    const LineGroup* Group;
+    const BoardGroup* Group;
     int Number;
 };
 
@@ -50,9 +51,9 @@ class LineBoard : public QTabWidget {
 public:
     explicit LineBoard(QWidget* parent = nullptr);
 
-    // The skater slots in the order of SkaterSlots, then the starting goalie and the backup.
+    // In the order of DaySlots.
     std::array<BoardSlot, 69> Slots;
-    // In the order of LineGroups.
+    // From normal lines and power play to 4 vs 4, penalty kill and penalty kill with three.
     std::vector<BoardHeading> Headings;
     // Headings and slots as the tab key walks them: each line from left to right.
     QList<QWidget*> Walk;
@@ -69,10 +70,10 @@ signals:
 
 private:
     void MakeSkaterSlot(std::size_t index);
-    void MakeGoalieSlot(std::size_t index, const char* name, const QString& caption, Int16 Lines::*goalie);
+    void MakeGoalieSlot(std::size_t index, const char* name, const QString& caption);
     void Connect(std::size_t index);
-    void MakeGroupPage(const LineGroup& group, const QString& caption);
-    QWidget* MakeUnit(const LineGroup& group, int number);
+    void MakeGroupPage(const BoardGroup& group);
+    QWidget* MakeUnit(const BoardGroup& group, int number);
     void MakeExtrasPage();
     QWidget* MakeList(const QString& caption, LineField field);
     void MakeGoaliesPage();

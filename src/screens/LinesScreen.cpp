@@ -1,41 +1,42 @@
 #include "screens/LinesScreen.h"
 
-#include "league/Arithmetic.h"
-#include "league/Platform.h"
-#include "rules/People.h"
+#include "desk/CopyLines.h"
+#include "desk/FirstDay.h"
+#include "desk/LineCandidates.h"
+#include "desk/LineMakers.h"
+#include "desk/Strategy.h"
+#include "desk/WipeDay.h"
+#include "league/Reporting.h"
+#include "rules/DayJudge.h"
+#include "rules/NextGames.h"
+#include "rules/PlayingLines.h"
 #include "screens/EventGuard.h"
 #include "screens/PersonWords.h"
 #include "screens/platform/CodePage.h"
 #include "screens/RosterEntry.h"
 #include "screens/Shown.h"
-#include "session/Routines.h"
+#include "session/RosterFixed.h"
+#include "session/Session.h"
 
 #include <QGuiApplication>
-#include <type_traits>
 
 // Opening and closing, the list, the days, strategy, goalie pull and the commands on the lines.
 namespace dravik {
 
-namespace {
+int LinesScreen::OwnNumber() { return static_cast<int>(CurrentTeam); }
 
-constexpr int StrategyPoints = 5;
-
-int OwnNumber() { return static_cast<int>(CurrentTeam); }
-
-} // namespace
-
-Lines& LinesScreen::ShownLines() const { return LinesOf(OwnNumber(), static_cast<int>(Day), Kind.Side); }
+Lines& LinesScreen::ShownLines() const { return LinesOf(OpenLeague, OwnNumber(), ShownDay(), Kind.Side); }
 
 void LinesScreen::FormLoad()
 {
-    Reporting(Kind.OnLoad, [this] {
+    Reporting(Machine(), Kind.OnLoad, [this] {
         CentreOnScreen();
         if (!TeamTable::Has(CurrentTeam)) {
-            ShowIntegrityFailure();
+            Machine().ShowIntegrityFailure();
             Unload();
             return;
         }
-        if (LeagueData.AutoRosterDisabled)
+        if (AreMakersClosed(LeagueData))
             CloseMakers();
         const QString name = ToQString(Kind.NameOf(Teams[CurrentTeam]));
         SetTitle(ToQString(ProgramTitle) + " - " + name + " - Lines");
@@ -49,82 +50,51 @@ void LinesScreen::FormLoad()
     });
 }
 
-void LinesScreen::FormUnload()
-{
-    if (!Kind.Judge(OwnNumber(), false, 1, false).Complete)
-        ShowBox(Kind.ClosingWarning, box::Warning);
-}
+void LinesScreen::FormUnload() { WarnOfFirstDay(OpenWork(), OwnNumber(), Kind.Side); }
 
 void LinesScreen::CloseMakers() { cmdAutoLines->setEnabled(false); }
 
-// The team's next games, in the order of the calendar.
 void LinesScreen::FindGames()
 {
     GameRow = {};
     GameIsAway = {};
-    int games = 0;
-    if (LeagueData.ScheduleShown && LeagueData.ScheduleBlocked == 0) {
-        for (auto row = ScheduleTable::first; row <= ScheduleTable::last && games < LineDays; ++row) {
-            const ScheduleRow& game = GameSchedule[row];
-            const bool isHome = game.*Kind.Home == CurrentTeam;
-            const bool isToCome = game.*Kind.Game && (game.*Kind.Played).Word() == 0;
-            if (!isToCome || !(isHome || game.*Kind.Away == CurrentTeam))
-                continue;
-            ++games;
-            GameRow[games] = row;
-            GameIsAway[games] = !isHome;
-        }
-    }
-    if (games == 0) {
+    const std::vector<NextGame> games = NextGames(OpenLeague, OwnNumber(), Kind.Side);
+    if (games.empty()) {
         vscDay->setEnabled(false);
         cmdCopy->setEnabled(false);
         lblGame->setText("Next Day Information Unavailable");
         return;
     }
-    vscDay->setMaximum(games);
+    vscDay->setMaximum(static_cast<int>(games.size()));
     QStringList words;
-    for (int day = 1; day <= games; ++day) {
-        const ScheduleRow& game = GameSchedule[GameRow[day]];
-        const bool isAway = static_cast<bool>(GameIsAway[day]);
-        const long long opponent = isAway ? game.*Kind.Home : game.*Kind.Away;
-        const std::string abbreviation = TeamTable::Has(opponent) ? Kind.AbbreOf(Teams[opponent]) : "?";
-        words << (isAway ? "at " : "vs ") + ToQString(abbreviation);
+    for (const NextGame& game : games) {
+        words << (game.IsAway ? "at " : "vs ") +
+                     ToQString(TeamTable::Has(game.Opponent) ? Kind.AbbreOf(Teams[game.Opponent]) : "?");
+        GameRow[words.size()] = game.Row;
+        GameIsAway[words.size()] = game.IsAway;
     }
     vscDay->SetGames(words);
 }
 
 void LinesScreen::ShowPlayer()
 {
-    Reporting(" in ShowPlayer!", [this] {
+    Reporting(Machine(), " in ShowPlayer!", [this] {
         lstPlayer->Empty();
         frmStat->HideRows();
-        EachOfTeam(Players, OwnNumber(), [this](const Player& player, int index) {
-            ListPerson(player, index, static_cast<int>(player.Position));
+        EachLineCandidate(OpenWork(), OwnNumber(), Kind.Side, [this](PersonId who, int position) {
+            if (!chkPosition[position]->isChecked())
+                return;
+            const std::string name =
+                OnPerson(OpenLeague, who, [](const auto& person) { return person.Name.Trimmed(); });
+            lstPlayer->Add(ToQString(name), EntryNumber(who.Slot, position), AsideOf(position, who.Slot));
         });
-        EachOfTeam(Goalies, OwnNumber(),
-                   [this](const Goalie& keeper, int index) { ListPerson(keeper, index, position::Goalie); });
         ListMore();
     });
 }
 
-template <class Person>
-void LinesScreen::ListPerson(const Person& person, int index, int position)
-{
-    if (person.Status != Kind.Status || !IsDressable(person))
-        return;
-    const std::string name = person.Name.Trimmed();
-    constexpr bool isSkater = std::is_same_v<Person, Player>;
-    if (isSkater && (position < position::Center || position > position::Defense)) {
-        ShowBox(name + " has no position!", box::Critical);
-        return;
-    }
-    if (chkPosition[position]->isChecked())
-        lstPlayer->Add(ToQString(name), EntryNumber(index, position), AsideOf(position, index));
-}
-
 void LinesScreen::lstPlayer_Click()
 {
-    Reporting(Kind.OnPick, [this] {
+    Reporting(Machine(), Kind.OnPick, [this] {
         const QListWidgetItem* chosen = lstPlayer->Chosen();
         if (chosen == nullptr)
             return;
@@ -144,7 +114,8 @@ void LinesScreen::ShowPicked()
     frmStat->ShowPosition(ToQString(PositionName[SelectedPosition]));
     OnPerson(OpenLeague, SelectedPerson(),
              [this](const auto& person) { ShowPickedName(ToQString(person.Name.Trimmed())); });
-    frmStat->ShowRows(SelectedIsGoalie ? GoalieStatRows(id) : SkaterStatRows(id));
+    frmStat->ShowRows(SelectedIsGoalie ? GoalieStatRows(OpenLeague, Machine(), id, static_cast<int>(GoalieStatCount))
+                                       : SkaterStatRows(OpenLeague, Machine(), id, static_cast<int>(PlayerStatCount)));
     if (!SelectedIsGoalie)
         RefreshPlaying();
 }
@@ -154,7 +125,7 @@ void LinesScreen::chkPosition_Click(int /*position*/) { ShowPlayer(); }
 void LinesScreen::Place()
 {
     said = {};
-    Reporting(" in Place!", [this] {
+    Reporting(Machine(), " in Place!", [this] {
         if (GameRow[1] != 0)
             ShowGame();
         ShowSlots();
@@ -166,10 +137,10 @@ void LinesScreen::Place()
 
 void LinesScreen::ShowGame()
 {
-    const ScheduleRow& game = GameSchedule[GameRow[Day]];
-    const Team& opponent = Teams[GameIsAway[Day] ? game.*Kind.Home : game.*Kind.Away];
+    const bool isAway = static_cast<bool>(GameIsAway[Day]);
+    const NextGame game = GameInRow(OpenLeague, Kind.Side, GameRow[Day], isAway);
     lblGame->setText("Lines " + Shown(Day) + " - For Game " + Shown(game.GameDay) + " vs " +
-                     ToQString(Kind.NameOf(opponent)));
+                     ToQString(Kind.NameOf(Teams[game.Opponent])));
 }
 
 void LinesScreen::ShowStrategy()
@@ -190,17 +161,16 @@ void LinesScreen::ShowStrategy()
 
 void LinesScreen::ShowPull()
 {
-    const Lines& lines = ShownLines();
-    const auto show = [](EditBox* box, long long value, long long otherwise) {
-        box->setText(Shown(value == 0 ? otherwise : value));
+    const auto show = [this](EditBox* box, GoaliePull value) {
+        box->setText(Shown(ShownGoaliePull(OpenLeague, OwnNumber(), ShownDay(), Kind.Side, value)));
     };
-    show(txtPullGoalerMinPct, lines.PullGoalerMinPct, LeagueData.PullGoalerMinPctDefault);
-    show(txtPullGoalerMinGoal, lines.PullGoalerMinGoal, LeagueData.PullGoalerMinGoalDefault);
+    show(txtPullGoalerMinPct, GoaliePull::MinPct);
+    show(txtPullGoalerMinGoal, GoaliePull::MinGoal);
 }
 
 void LinesScreen::Check()
 {
-    Reporting(" in Check!", [this] { CheckInTurn(); });
+    Reporting(Machine(), " in Check!", [this] { CheckInTurn(); });
     RefreshMarks();
 }
 
@@ -214,17 +184,15 @@ void LinesScreen::JudgeShownDay()
 
 bool LinesScreen::Judge(bool showMessage)
 {
-    said = Kind.Judge(OwnNumber(), showMessage, static_cast<int>(Day), false);
+    said = JudgeDay(OpenWork(), OwnNumber(), Kind.Side, ShownDay(), showMessage);
     txtReasons->Tell(said.Complete ? QString() : ToQString(TextOf(OpenLeague, said)).replace("\r\n", "\n").trimmed());
     return said.Complete;
 }
 
 void LinesScreen::RefreshPlaying()
 {
-    const int day = static_cast<int>(Day);
-    const int id = static_cast<int>(SelectedPlayer);
-    const int count = Kind.PlayOnLineInteger(OwnNumber(), id, day);
-    lblPlaying->setText("(" + Shown(count) + ") - " + ToQString(Kind.PlayOnLineString(OwnNumber(), id, day)));
+    lblPlaying->setText(
+        ToQString(PlayingText(OpenLeague, OwnNumber(), static_cast<int>(SelectedPlayer), ShownDay(), Kind.Side)));
 }
 
 void LinesScreen::vscDay_Change()
@@ -239,33 +207,31 @@ void LinesScreen::hscStats_Change(int index)
 {
     if (!StrategyReady)
         return;
-    int sum = 0;
-    for (const QScrollBar* bar : hscStats)
-        sum += bar->value();
-    if (sum > StrategyPoints) {
+    StrategyBars bars;
+    for (int style = 0; style <= 2; ++style)
+        bars[style] = hscStats[style]->value();
+    const auto left = GiveStrategyPoints(OpenWork(), OwnNumber(), ShownDay(), Kind.Side, index, bars);
+    if (!left) {
         hscStats[index]->setValue(lblStatsPoint[index]->text().toInt());
         return;
     }
-    const int points = hscStats[index]->value();
-    lblStatsPoint[index]->setText(Shown(points));
-    ShownLines().Strategy[index] = points;
-    PointsLeft = StrategyPoints - sum;
+    lblStatsPoint[index]->setText(Shown(bars[index]));
+    PointsLeft = *left;
     lblPoint->setText(Shown(PointsLeft));
 }
 
-void LinesScreen::TakePull(EditBox* box, Int16 Lines::*field)
+void LinesScreen::TakePull(EditBox* box, GoaliePull value)
 {
     if (ListEventGuard)
         return;
-    const std::string text = FromQString(box->text());
-    if (!CheckInput(text, InputMode::Numbers, false)) {
+    const auto number = GoaliePullNumber(Machine(), FromQString(box->text()));
+    if (!number) {
         ReturnTo(box);
         return;
     }
     const Qt::MouseButtons buttons = QGuiApplication::mouseButtons();
     const bool isTaken = RunEvent(box->objectName() + "_LostFocus", [&] {
-        ShownLines().*field = RoundToInt16(LeadingNumber(text));
-        Modified = true;
+        SetGoaliePull(OpenWork(), OwnNumber(), ShownDay(), Kind.Side, value, *number);
     });
     if (isTaken)
         return;
@@ -275,24 +241,23 @@ void LinesScreen::TakePull(EditBox* box, Int16 Lines::*field)
         this, [this] { wasLetGo = false; }, Qt::QueuedConnection);
 }
 
-void LinesScreen::txtPullGoalerMinGoal_LostFocus() { TakePull(txtPullGoalerMinGoal, &Lines::PullGoalerMinGoal); }
+void LinesScreen::txtPullGoalerMinGoal_LostFocus() { TakePull(txtPullGoalerMinGoal, GoaliePull::MinGoal); }
 
-void LinesScreen::txtPullGoalerMinPct_LostFocus() { TakePull(txtPullGoalerMinPct, &Lines::PullGoalerMinPct); }
+void LinesScreen::txtPullGoalerMinPct_LostFocus() { TakePull(txtPullGoalerMinPct, GoaliePull::MinPct); }
 
-void LinesScreen::MakeLines(void (*maker)(int team, bool verbose, int day))
+void LinesScreen::ShowMade(const Made& made)
 {
-    maker(OwnNumber(), true, static_cast<int>(Day));
+    KeepRosterFixed(made.RosterRepaired);
     Place();
     Check();
 }
 
-void LinesScreen::cmdAutoLines_Click() { MakeLines(Kind.AutoLines); }
+void LinesScreen::cmdAutoLines_Click() { ShowMade(MakeDay(OpenWork(), OwnNumber(), ShownDay(), Kind.Side)); }
 
 void LinesScreen::cmdWipeLines_Click()
 {
-    if (ShowBox("Are you sure you want to wipe your lines?", box::YesNo) != button::Yes)
+    if (!WipeDay(OpenWork(), OwnNumber(), ShownDay(), Kind.Side))
         return;
-    WipesLines(OwnNumber(), static_cast<int>(Day), Kind.Side == Side::Pro);
     Place();
     Check();
 }
@@ -303,46 +268,11 @@ void LinesScreen::cmdDebug_Click()
     RefreshMarks();
 }
 
-void LinesScreen::cmdCopy_Click()
-{
-    const int target = RoundToInt16(LeadingNumber(AskText("What day do you have to copy your lines?")));
-    const std::string from = std::to_string(Day);
-    const std::string to = std::to_string(target);
-    if (target < 1 || target > vscDay->maximum()) {
-        ShowBox("Please entry a number between 1 and " + std::to_string(vscDay->maximum()) + ".", box::Warning);
-        return;
-    }
-    if (ShowBox("Are you want to you want to copy the lines from day " + from + " to day " + to + "?", box::YesNo) !=
-        button::Yes)
-        return;
-    Copy(target);
-    ShowBox("Lines " + from + " was successfully copy to Lines " + to + ".", box::Information);
-}
+void LinesScreen::cmdCopy_Click() { CopyLinesToDay(OpenWork(), OwnNumber(), Kind.Side, ShownDay(), vscDay->maximum()); }
 
-void LinesScreen::cmdCopyAll_Click()
-{
-    const std::string from = std::to_string(Day);
-    if (ShowBox("Are you want to you want to copy the lines from day " + from + " to day all the others day?",
-                box::YesNo) != button::Yes)
-        return;
-    for (int day = 1; day <= LineDays; ++day)
-        if (day != Day)
-            Copy(day);
-    ShowBox("Lines " + from + " was successfully copy to day all the others day.", box::Information);
-}
+void LinesScreen::cmdCopyAll_Click() { CopyLinesToAllDays(OpenWork(), OwnNumber(), Kind.Side, ShownDay()); }
 
-void LinesScreen::Copy(int targetDay)
-{
-    Reporting(" in Copy!", [&] {
-        Lines& from = ShownLines();
-        Lines& to = LinesOf(OwnNumber(), targetDay, Kind.Side);
-        for (const BoardSlot& slot : TabLine->Slots)
-            slot.In(to) = slot.In(from);
-        to.Strategy = from.Strategy;
-        to.PullGoalerMinGoal = from.PullGoalerMinGoal;
-        to.PullGoalerMinPct = from.PullGoalerMinPct;
-    });
-}
+void LinesScreen::Copy(int targetDay) { CopyLines(OpenWork(), OwnNumber(), Kind.Side, ShownDay(), targetDay); }
 
 void LinesScreen::cmdExit_Click() { Unload(); }
 

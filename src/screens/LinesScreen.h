@@ -1,8 +1,8 @@
 #pragma once
 
-#include "league/Field.h"
+#include "desk/GoaliePull.h"
 #include "league/PersonId.h"
-#include "league/ScheduleRow.h"
+#include "makers/Makers.h"
 #include "rules/LineVerdict.h"
 #include "screens/LineBoard.h"
 #include "screens/panels/DayStrip.h"
@@ -29,22 +29,11 @@ struct Team;
 struct LinesKind {
     const char* Name;
     dravik::Side Side;
-    int Status;                         // of those who may be put into the lines
     std::string (*NameOf)(const Team&); // in titles and in the heading of a game
     std::string (*AbbreOf)(const Team&);
     std::string_view OnLoad; // the endings of failure messages that are spelled differently
     std::string_view OnPick;
-    std::string_view ClosingWarning;
     bool ShowsPlaceholder; // an empty slot reads the placeholder's name
-    LineVerdict (*Judge)(int team, bool showMessage, int day, bool log);
-    std::string (*PlayOnLineString)(int team, int player, int day);
-    int (*PlayOnLineInteger)(int team, int player, int day);
-    void (*AutoLines)(int team, bool verbose, int day);
-    // The columns of the calendar.
-    Boolean ScheduleRow::*Game;
-    Boolean ScheduleRow::*Played;
-    Int16 ScheduleRow::*Home;
-    Int16 ScheduleRow::*Away;
 };
 
 // The lines of the chosen team for the next ten game days, one day at a time: a list of the people who may be dressed, and
@@ -114,16 +103,19 @@ protected:
     virtual void ListMore() {}  // ends the list
     virtual void ShowPicked();  // shows who was picked in the list
     virtual void ShowPickedName(const QString& name) = 0;
-    [[nodiscard]] virtual bool TakesPicked(Takes rule) const; // whether the person picked last may go into such a slot
-    virtual void CheckInTurn() = 0;                           // the steps of Check
+    virtual void CheckInTurn() = 0; // the steps of Check
 
     // Steps that both screens take, in an order of their own.
     void JudgeShownDay();
     // Judges the shown day, in a box when asked, and shows what was found.
     bool Judge(bool showMessage);
     void RefreshPlaying();
-    // Runs a maker's routine, then shows and judges the day.
-    void MakeLines(void (*maker)(int team, bool verbose, int day));
+    // Shows and judges the day behind a run of a maker.
+    void ShowMade(const Made& made);
+
+    // The day at hand, its team, and the person picked last.
+    [[nodiscard]] int ShownDay() const { return static_cast<int>(Day); }
+    static int OwnNumber();
 
     const LinesKind& Kind;
     QHBoxLayout* Commands = nullptr; // the row of commands on the lines
@@ -142,25 +134,22 @@ private:
     void ShowGame();
     void ShowSlots();
     void ShowStrategy();
-    template <class Person>
-    void ListPerson(const Person& person, int index, int position);
-    // Whether the person picked in the list may be let go on a slot.
+    // Whether somebody is picked in the list whom a slot takes.
+    [[nodiscard]] bool TakesPicked(const BoardSlot& slot) const;
     [[nodiscard]] bool MayDropOn(const SlotLabel& label) const;
     // Names a person in a slot.
     void ShowIn(BoardSlot& slot, long long id);
     // Shows of every slot what stands in it now, whatever name it still reads, and the averages of the lines.
     void RefreshMarks();
     void RefreshMark(const BoardSlot& slot, long long id);
-    [[nodiscard]] bool IsUsedTwice(const BoardSlot& slot) const;
     // What the judge said about a slot, each sentence once.
     [[nodiscard]] QStringList FindingsOn(const BoardSlot& slot) const;
     void RefreshAverage(const BoardHeading& heading);
-    [[nodiscard]] bool IsRefused(const BoardSlot& slot, long long id) const;
     [[nodiscard]] QString SlotsOf(PersonId who) const;
     void TellOfSlot(const BoardSlot& slot);
     void TellOfEntry(const QPoint& point);
     void ShowPull();
-    void TakePull(EditBox* box, Int16 Lines::*field);
+    void TakePull(EditBox* box, GoaliePull value);
     bool HoldsBack(QObject* watched, const QEvent* event);
     // Ends a press whose button went up while a failure was read.
     void LetGoOf(QObject* watched, const QEvent* event);

@@ -1,3 +1,4 @@
+#include "desk/Strategy.h"
 #include "screens/ElementName.h"
 #include "screens/EventGuard.h"
 #include "screens/LinesScreen.h"
@@ -20,7 +21,6 @@ namespace {
 constexpr QSize DefaultSize(1240, 780);
 constexpr int PeopleColumnWidth = 310;
 constexpr int LeastReasonsWidth = 300;
-constexpr int MostPoints = 5;
 constexpr int StrategyPageWidth = 460;
 
 QLabel* MakeLabel(const char* name, QWidget* parent)
@@ -147,7 +147,7 @@ void LinesScreen::MakeStrategyPage()
         auto* bar = new QScrollBar(Qt::Horizontal, strategy);
         bar->setObjectName(ElementName("hscStats", style));
         bar->setAccessibleName(QString(styles[style]).remove(" : "));
-        bar->setRange(0, MostPoints);
+        bar->setRange(0, StrategyPoints);
         bar->setPageStep(1);
         bar->setInvertedControls(false); // the right arrow key gives a point
         bar->setFocusPolicy(Qt::StrongFocus);

@@ -1,4 +1,7 @@
-#include "rules/People.h"
+#include "desk/PlaceOnLine.h"
+#include "rules/DayJudge.h"
+#include "rules/LineEligibility.h"
+#include "rules/PlayingLines.h"
 #include "screens/LinesScreen.h"
 #include "screens/PersonWords.h"
 #include "screens/platform/CodePage.h"
@@ -10,28 +13,19 @@
 // The slots and headings of the board: who stands there, what a press does, and what they tell.
 namespace dravik {
 
-bool LinesScreen::TakesPicked(Takes rule) const
+bool LinesScreen::TakesPicked(const BoardSlot& slot) const
 {
-    switch (rule) {
-    case Takes::Skater:
-        return !SelectedIsGoalie;
-    case Takes::Forward:
-        return !SelectedIsGoalie && SelectedPosition >= position::Center && SelectedPosition <= position::RightWing;
-    case Takes::Defense:
-        return !SelectedIsGoalie && SelectedPosition == position::Defense;
-    case Takes::Goalie:
-        return SelectedIsGoalie;
-    }
-    return false;
+    return lstPlayer->Chosen() != nullptr &&
+           TakesSomebody(slot.Slot, Kind.Side, SelectedPerson(), static_cast<int>(SelectedPosition));
 }
 
 void LinesScreen::Slot_Click(int index)
 {
     BoardSlot& slot = TabLine->Slots[static_cast<std::size_t>(index)];
     RunEvent(slot.Name, [&] {
-        if (lstPlayer->Chosen() == nullptr || !TakesPicked(slot.Rule))
+        if (lstPlayer->Chosen() == nullptr || !PlaceOnLine(OpenWork(), OwnNumber(), ShownDay(), Kind.Side, slot.Slot,
+                                                           SelectedPerson(), static_cast<int>(SelectedPosition)))
             return;
-        slot.In(ShownLines()) = SelectedPlayer;
         ShowIn(slot, SelectedPlayer);
         Check();
     });
@@ -41,7 +35,7 @@ bool LinesScreen::MayDropOn(const SlotLabel& label) const
 {
     const auto slot = std::find_if(TabLine->Slots.begin(), TabLine->Slots.end(),
                                    [&label](const BoardSlot& other) { return other.Label == &label; });
-    return slot != TabLine->Slots.end() && lstPlayer->Chosen() != nullptr && TakesPicked(slot->Rule);
+    return slot != TabLine->Slots.end() && TakesPicked(*slot);
 }
 
 void LinesScreen::ShowSlots()
@@ -63,7 +57,7 @@ void LinesScreen::ShowIn(BoardSlot& slot, long long id)
 void LinesScreen::RefreshMarks()
 {
     RunEvent("RefreshMarks", [this] {
-        if (!HasLineDay(static_cast<int>(CurrentTeam), static_cast<int>(Day)))
+        if (!HasLineDay(OwnNumber(), ShownDay()))
             return;
         Lines& lines = ShownLines();
         for (const BoardSlot& slot : TabLine->Slots)
@@ -77,23 +71,14 @@ void LinesScreen::RefreshMark(const BoardSlot& slot, long long id)
 {
     // Whoever was taken out by the judge still stands there by name.
     const bool isWiped = id == 0 && slot.Shown != 0;
-    const bool isRefused = isWiped || IsRefused(slot, id);
-    slot.Label->SetMark(isRefused           ? SlotLabel::Mark::Refused
-                        : id == 0           ? SlotLabel::Mark::Empty
-                        : IsUsedTwice(slot) ? SlotLabel::Mark::Twice
-                                            : SlotLabel::Mark::Filled);
-    slot.Label->SetAside(id == 0 ? QString() : OverallOf(slot.Whom(id)));
-    slot.Label->SetPicked(id != 0 && id == SelectedPlayer && slot.IsGoalies() == SelectedIsGoalie);
-}
-
-// Whether the judge found whoever stands there a second time where he may stand but once.
-bool LinesScreen::IsUsedTwice(const BoardSlot& slot) const
-{
-    return std::any_of(said.Findings.begin(), said.Findings.end(), [&](const LineFinding& finding) {
-        const bool isDouble = finding.Fault == LineFault::Double || finding.Fault == LineFault::LinesShared ||
-                              finding.Fault == LineFault::SameGoalies;
-        return isDouble && finding.Slots[slot.Word()];
-    });
+    const PersonId who = slot.Whom(id);
+    const bool isRefused = isWiped || IsRefusedInLines(OpenLeague, OwnNumber(), Kind.Side, who);
+    slot.Label->SetMark(isRefused                       ? SlotLabel::Mark::Refused
+                        : id == 0                       ? SlotLabel::Mark::Empty
+                        : FindsTwice(said, slot.Word()) ? SlotLabel::Mark::Twice
+                                                        : SlotLabel::Mark::Filled);
+    slot.Label->SetAside(id == 0 ? QString() : OverallOf(who));
+    slot.Label->SetPicked(id != 0 && who == SelectedPerson());
 }
 
 QStringList LinesScreen::FindingsOn(const BoardSlot& slot) const
@@ -106,32 +91,19 @@ QStringList LinesScreen::FindingsOn(const BoardSlot& slot) const
     return words;
 }
 
-// Whether the judge of these lines would take the person out. In a league without farm teams nobody judges their lines.
-bool LinesScreen::IsRefused(const BoardSlot& slot, long long id) const
-{
-    if (id == 0 || (Kind.Side == Side::Farm && !LeagueData.FarmEnabled))
-        return false;
-    if (!slot.Whom(id).HasSlot())
-        return true;
-    bool isRefused = false;
-    OnPerson(OpenLeague, slot.Whom(id), [&](const auto& person) {
-        isRefused = person.Status != Kind.Status || person.Team != CurrentTeam || !IsDressable(person);
-    });
-    return isRefused;
-}
-
 // The overall of a line beside its heading. A line with somebody in it who has none is left without.
 void LinesScreen::RefreshAverage(const BoardHeading& heading)
 {
     QString words;
     const Lines& lines = ShownLines();
     bool isWhole = static_cast<bool>(LeagueData.ShowOverall);
-    for (const GroupMember& member : heading.Group->Members) {
+    for (const GroupMember& member : heading.Group->Group.Members) {
         const long long skater = At(lines, SlotOf(member.Field, heading.Number, member.Place));
         isWhole = isWhole && !OverallOf(PersonIn<Player>(static_cast<int>(skater))).isEmpty();
     }
     if (isWhole)
-        words = "average " + QString::number(AveragesOf(lines, *heading.Group, heading.Number).Overall);
+        words = "average " +
+                QString::number(AveragesOf(OpenLeague, Machine(), lines, heading.Group->Group, heading.Number).Overall);
     if (heading.Average->text() != words)
         heading.Average->setText(words);
     const QString spoken = heading.Label->text() + (words.isEmpty() ? QString() : ", " + words);
@@ -143,12 +115,14 @@ void LinesScreen::Heading_Click(int index)
 {
     const BoardHeading& heading = TabLine->Headings[static_cast<std::size_t>(index)];
     RunEvent(heading.Group->Heading, [&] {
-        const GroupAverages averages = AveragesOf(ShownLines(), *heading.Group, heading.Number);
+        const GroupAverages averages =
+            AveragesOf(OpenLeague, Machine(), ShownLines(), heading.Group->Group, heading.Number);
         lblPlaying->clear(); // the panel speaks of a line now
         frmStat->SetName({});
         frmStat->ShowPosition("T");
         frmStat->setTitle(ToQString(heading.Group->Prefix) + heading.Label->text());
-        frmStat->ShowRows(SkaterStatRows(averages.Ratings, averages.Overall));
+        frmStat->ShowRows(
+            SkaterStatRows(LeagueData, averages.Ratings, static_cast<int>(PlayerStatCount), averages.Overall));
     });
 }
 
@@ -156,7 +130,7 @@ QString LinesScreen::SlotsOf(PersonId who) const
 {
     if (who.IsGoalie)
         return {};
-    return ToQString(Kind.PlayOnLineString(static_cast<int>(CurrentTeam), who.Slot, static_cast<int>(Day)));
+    return ToQString(PlayingLines(OpenLeague, OwnNumber(), who.Slot, ShownDay(), Kind.Side));
 }
 
 void LinesScreen::TellOfSlot(const BoardSlot& slot)

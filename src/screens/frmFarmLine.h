@@ -13,7 +13,6 @@ protected:
     void ListMore() override;
     void ShowPicked() override;
     void ShowPickedName(const QString& name) override;
-    [[nodiscard]] bool TakesPicked(Takes rule) const override;
     void CheckInTurn() override;
 };
 

@@ -1,7 +1,9 @@
 #include "screens/frmLine.h"
 
+#include "desk/LineMakers.h"
+#include "rules/LineJudge.h"
 #include "screens/Stage.h"
-#include "session/Routines.h"
+#include "session/Session.h"
 
 namespace dravik {
 
@@ -10,21 +12,11 @@ namespace {
 constexpr LinesKind Pro{
     .Name = "frmLine",
     .Side = Side::Pro,
-    .Status = status::Pro,
     .NameOf = [](const Team& team) { return team.Name.Trimmed(); },
     .AbbreOf = [](const Team& team) { return team.Abbre.Trimmed(); },
     .OnLoad = " in FormLoad FrmLine!",
     .OnPick = " in lstPlayer_Click!",
-    .ClosingWarning = "Lines for Day #1 are Incomplete!",
     .ShowsPlaceholder = false,
-    .Judge = VerdictOnLine,
-    .PlayOnLineString = PlayOnLineString,
-    .PlayOnLineInteger = PlayOnLineInteger,
-    .AutoLines = AutoLines,
-    .Game = &ScheduleRow::ProGame,
-    .Played = &ScheduleRow::ProPlayed,
-    .Home = &ScheduleRow::ProHome,
-    .Away = &ScheduleRow::ProAway,
 };
 
 } // namespace
@@ -52,11 +44,11 @@ void frmLine::CheckInTurn()
     JudgeShownDay();
     if (SelectedPlayer != 0 && !SelectedIsGoalie)
         RefreshPlaying();
-    if (CheckLine(static_cast<int>(CurrentTeam), false, 1, false))
+    if (CheckLine(OpenWork(), OwnNumber(), false, 1, false))
         Owner.EnableSaveToFile();
     Modified = true;
 }
 
-void frmLine::cmdPartialLine_Click() { MakeLines(AutoLinesPartial); }
+void frmLine::cmdPartialLine_Click() { ShowMade(MakeRestOfDay(OpenWork(), OwnNumber(), ShownDay())); }
 
 } // namespace dravik

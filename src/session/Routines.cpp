@@ -1,5 +1,7 @@
 #include "session/Routines.h"
 
+#include "session/RosterFixed.h"
+
 namespace dravik {
 
 namespace {
@@ -13,12 +15,6 @@ LineVerdict Kept(LineVerdict verdict)
 {
     LinesText = TextOf(OpenLeague, verdict);
     return verdict;
-}
-
-void Keep(const Made& made)
-{
-    if (made.RosterRepaired)
-        RosterFixed = *made.RosterRepaired ? 1 : 0;
 }
 
 } // namespace
@@ -69,9 +65,21 @@ bool CheckLineFarm(int team, bool showMessage, int day, bool log)
 
 const std::string& LastLinesText() { return LinesText; }
 
-void AutoRoster(int team, bool verbose, bool partial) { Keep(AutoRoster(OpenWork(), team, verbose, partial)); }
-void AutoLines(int team, bool verbose, int day) { Keep(AutoLines(OpenWork(), team, verbose, day)); }
-void AutoLinesPartial(int team, bool verbose, int day) { Keep(AutoLinesPartial(OpenWork(), team, verbose, day)); }
-void AutoLinesFarm(int team, bool verbose, int day) { Keep(AutoLinesFarm(OpenWork(), team, verbose, day)); }
+void AutoRoster(int team, bool verbose, bool partial)
+{
+    KeepRosterFixed(AutoRoster(OpenWork(), team, verbose, partial).RosterRepaired);
+}
+void AutoLines(int team, bool verbose, int day)
+{
+    KeepRosterFixed(AutoLines(OpenWork(), team, verbose, day).RosterRepaired);
+}
+void AutoLinesPartial(int team, bool verbose, int day)
+{
+    KeepRosterFixed(AutoLinesPartial(OpenWork(), team, verbose, day).RosterRepaired);
+}
+void AutoLinesFarm(int team, bool verbose, int day)
+{
+    KeepRosterFixed(AutoLinesFarm(OpenWork(), team, verbose, day).RosterRepaired);
+}
 
 } // namespace dravik

@@ -166,7 +166,7 @@ void Evening::MakeLinesOn(QPushButton& command, std::string_view name, const QSt
         screen.vscDay->setValue(day);
         screen.cmdAutoLines->click();
         Require(screen.lblComplete->text() == "Lines are Complete",
-                "the lines are complete: " + ToQString(LastLinesText()));
+                "the lines are complete: " + screen.txtReasons->toPlainText());
     }
     screen.cmdCopyAll->click();
     answers.ConfirmAll(false);

@@ -1,0 +1,19 @@
+#pragma once
+
+#include "league/PersonId.h"
+#include "league/Work.h"
+#include "rules/DaySlots.h"
+
+namespace dravik {
+
+// Whether a slot of the lines of a side takes somebody of that position (1..4, a goalie 5). Extra forwards want a forward,
+// extra defensemen a defenseman, all other slots take any skater, and goalies' slots any goalie. The placeholder of slot 0
+// goes by a center's position, and may play defense among the farm's extras all the same.
+bool TakesSomebody(const DaySlot& slot, Side side, PersonId who, int position);
+
+// Puts somebody into a slot of a day (1..10) of `team` (1..100), which takes him by the rule above: false, with nothing done,
+// where it does not. Nobody asks here whether he may play, plays his position or stands twice: the judge of the lines does.
+// Whoever judges them marks the league as modified. A team or day out of range fails with 9.
+bool PlaceOnLine(const Work& work, int team, int day, Side side, const DaySlot& slot, PersonId who, int position);
+
+} // namespace dravik
