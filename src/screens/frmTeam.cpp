@@ -1,6 +1,8 @@
 #include "screens/frmTeam.h"
 
 #include "desk/Coaches.h"
+#include "desk/FirstDay.h"
+#include "desk/LinesFiles.h"
 #include "desk/Password.h"
 #include "desk/TeamMoney.h"
 #include "screens/platform/CodePage.h"
@@ -9,6 +11,7 @@
 #include "session/Routines.h"
 
 #include <cmath>
+#include <functional>
 #include <QTextDocument>
 
 namespace dravik {
@@ -104,21 +107,19 @@ void frmTeam::CloseWhatTheLeagueKeeps()
 // Both judges run whatever the first one says: they repair as they judge.
 void frmTeam::FormActivate()
 {
-    const bool farmComplete = CheckLineFarm(OwnNumber(), false, 1, false);
-    const QString farmText = ToQString(LastLinesText());
-    const bool proComplete = CheckLine(OwnNumber(), false, 1, false);
-    const QString proText = ToQString(LastLinesText());
-    cmdSaveToFile->setEnabled(farmComplete && proComplete);
+    const LineVerdict farm = VerdictOnLineFarm(OwnNumber(), false, 1, false);
+    const LineVerdict pro = VerdictOnLine(OwnNumber(), false, 1, false);
+    cmdSaveToFile->setEnabled(farm.Complete && pro.Complete);
     QStringList reasons;
     QStringList details;
-    if (!proComplete) {
-        reasons << "Lines for Day #1 are Incomplete!";
-        details << proText;
-    }
-    if (!farmComplete) {
-        reasons << "Farm Lines for Day #1 are Incomplete!";
-        details << farmText;
-    }
+    const auto tell = [&](const LineVerdict& verdict, Side side) {
+        if (verdict.Complete)
+            return;
+        reasons << ToQString(FirstDayWarning(side));
+        details << ToQString(TextOf(OpenLeague, verdict));
+    };
+    tell(pro, Side::Pro);
+    tell(farm, Side::Farm);
     ShowSaveHint(reasons, details);
 }
 
@@ -254,29 +255,8 @@ void frmTeam::cmdFarmChangeCoach_Click()
 void frmTeam::cmdSaveToFile_Click()
 {
     WaitEnd endWait;
-    Reporting(" in cmdSaveToFile!", [&] {
-        if (!CheckLine(OwnNumber(), false, 1, false)) {
-            ShowBox("Lines #1 are incomplete!" + std::string(LineBreak) +
-                        "You will not be able to save league files unless lines for the next day are complete!",
-                    box::Warning);
-            return;
-        }
-        if (!CheckPassword(OwnNumber()))
-            return;
-        try {
-            ShowWait();
-            const std::string target = LinesFilePath(OwnNumber());
-            if (!WriteLinesFile(OwnNumber(), target))
-                return; // told, and the wait screen stays
-            endWait();
-            ShowBox("Lines file for " + OwnTeam().Name.Trimmed() + " successfully save at" + std::string(LineBreak) +
-                        target,
-                    box::Information);
-        } catch (...) {
-            endWait();
-            throw;
-        }
-    });
+    Reporting(" in cmdSaveToFile!",
+              [&] { SaveLines(OpenWork(), OpenFiles(), Machine(), OwnNumber(), std::ref(endWait)); });
     if (endWait.Came())
         FormActivate();
 }
@@ -287,23 +267,7 @@ void frmTeam::cmdLoadFile_Click()
     ReportingUnlessCancelled(" in cmdLoadFile!", [&] {
         const std::string path = Machine().OpenFileDialog(Machine().ProgramFolder(),
                                                           "DRVK Client File (*.dvl) |*.dvl|All Files (*.*) | *.*");
-        try {
-            ShowWait();
-            const LinesFileRead outcome = ReadLinesFile(path);
-            if (outcome == LinesFileRead::NotDecompressed)
-                return; // told, and the wait screen stays
-            endWait();
-            const bool loaded = outcome == LinesFileRead::Loaded;
-            if (loaded)
-                FormLoad();
-            ShowBox((loaded ? "Lines file for " : "File for ") + OwnTeam().Name.Trimmed() +
-                        (loaded ? " successfully load from" : " unsuccessfully load from") + std::string(LineBreak) +
-                        path,
-                    loaded ? box::Information : box::Critical);
-        } catch (...) {
-            endWait();
-            throw;
-        }
+        LoadLines(OpenWork(), OpenFiles(), Machine(), OwnNumber(), path, std::ref(endWait), [this] { FormLoad(); });
     });
     if (endWait.Came())
         FormActivate();

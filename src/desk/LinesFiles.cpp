@@ -1,0 +1,67 @@
+#include "desk/LinesFiles.h"
+
+#include "desk/Password.h"
+#include "league/LinesFile.h"
+#include "league/Message.h"
+#include "rules/DayJudge.h"
+
+namespace dravik {
+
+namespace {
+
+// Runs `body` behind the wait screen; a failure takes that away.
+template <class Body>
+void BehindWait(Platform& machine, const std::function<void()>& endWait, Body&& body)
+{
+    try {
+        machine.ShowWait();
+        body();
+    } catch (...) {
+        endWait();
+        throw;
+    }
+}
+
+} // namespace
+
+void SaveLines(const Work& work, const FileAccess& files, Platform& machine, int team,
+               const std::function<void()>& endWait)
+{
+    if (!JudgeDay(work, team, Side::Pro, 1, false)) {
+        work.Says.ShowBox("Lines #1 are incomplete!" + std::string(LineBreak) +
+                              "You will not be able to save league files unless lines for the next day are complete!",
+                          box::Warning);
+        return;
+    }
+    if (!CheckPassword(work.League, machine, team))
+        return;
+    BehindWait(machine, endWait, [&] {
+        const std::string target = LinesFilePath(work.League, files.Disk, team);
+        if (!WriteLinesFile(work.League, files, team, target))
+            return; // told, and the wait screen stays
+        endWait();
+        work.Says.ShowBox("Lines file for " + work.League.Teams[team].Name.Trimmed() + " successfully save at" +
+                              std::string(LineBreak) + target,
+                          box::Information);
+    });
+}
+
+void LoadLines(const Work& work, const FileAccess& files, Platform& machine, int team, const std::string& path,
+               const std::function<void()>& endWait, const std::function<void()>& showAnew)
+{
+    BehindWait(machine, endWait, [&] {
+        const LinesFileRead outcome = ReadLinesFile(work.League, files, team, path);
+        if (outcome == LinesFileRead::NotDecompressed)
+            return; // told, and the wait screen stays
+        endWait();
+        const bool loaded = outcome == LinesFileRead::Loaded;
+        if (loaded)
+            showAnew();
+        work.Says.ShowBox((loaded ? "Lines file for " : "File for ") + work.League.Teams[team].Name.Trimmed() +
+                              (loaded ? " successfully load from" : " unsuccessfully load from") +
+                              std::string(LineBreak) + path,
+                          loaded ? box::Information : box::Critical);
+    });
+}
+
+} // namespace dravik

@@ -1,0 +1,25 @@
+#pragma once
+
+#include "league/FileAccess.h"
+#include "league/Platform.h"
+#include "league/Work.h"
+
+#include <functional>
+#include <string>
+
+// Saving the lines file of a team and loading it again, as a general manager asks for it.
+namespace dravik {
+
+// Saves the lines file of `team` (1..100) where LinesFilePath says, and tells so. Lines of day 1 that are not complete are told
+// in a warning box and end it; so does a password that is not proven. The wait screen is up while the file is written, and
+// `endWait` takes it away; behind a compression that failed, which is told, it stays. Whatever else fails is thrown, with the
+// wait screen taken away.
+void SaveLines(const Work& work, const FileAccess& files, Platform& machine, int team,
+               const std::function<void()>& endWait);
+
+// Loads the lines file `path` over `team` (1..100), as ReadLinesFile does, shows the team anew by `showAnew` where it was taken
+// over, and tells what became of it. The wait screen goes as above.
+void LoadLines(const Work& work, const FileAccess& files, Platform& machine, int team, const std::string& path,
+               const std::function<void()>& endWait, const std::function<void()>& showAnew);
+
+} // namespace dravik
