@@ -9,6 +9,7 @@
 #include "rules/LineJudge.h"
 #include "support/RandomLeague.h"
 #include "support/ScriptedPlatform.h"
+#include "support/TroubledVoice.h"
 
 #include <array>
 #include <cmath>
@@ -27,63 +28,8 @@ namespace dravik {
 namespace {
 
 constexpr int Own = 1;
-constexpr const char* Typed[] = {"", "0", "1", "3", " 10", "2.5", "3.5", "11", "7th", "x", "-3", "40000"};
+const std::vector<std::string> Typed = {"", "0", "1", "3", " 10", "2.5", "3.5", "11", "7th", "x", "-3", "40000"};
 constexpr const char* PullTexts[] = {"", "5", "-7", "0", "32767", "32768", "-40000", "12a", "a1", "3-", "1-2", "1.5"};
-
-// What was said over a command, line by line.
-using Said = std::vector<std::string>;
-
-// Answers by its seed, types one of those texts, and fails at one of its boxes or questions: the `failAt`-th,
-// from 1. Whatever it is told it writes down.
-class TroubledVoice final : public Voice {
-public:
-    TroubledVoice(unsigned seed, int failAt) : dice(seed), untilFailure(failAt) { MessagesAllowed = true; }
-
-    int MessageBox(const std::string& text, int kind, const std::string& /*title*/) override
-    {
-        Hear("box " + std::to_string(kind) + ' ' + text);
-        if (kind == box::YesNo)
-            return dice.Chance(70) ? button::Yes : button::No;
-        constexpr long long answers[] = {button::Yes, button::No, button::Cancel};
-        return kind == box::YesNoCancel ? static_cast<int>(dice.Pick(answers)) : button::Ok;
-    }
-    std::string InputBox(const std::string& prompt, const std::string& title, const std::string& text) override
-    {
-        Hear("question " + prompt + ' ' + title + ' ' + text);
-        return Typed[dice.Roll(0, std::ssize(Typed) - 1)];
-    }
-    void LeagueNews(std::string_view text) override { Heard.push_back("league " + std::string(text)); }
-    void TeamNews(int team, std::string_view text) override
-    {
-        Heard.push_back("team " + std::to_string(team) + ' ' + std::string(text));
-    }
-
-    Said Heard;
-
-private:
-    void Hear(const std::string& what)
-    {
-        Heard.push_back(what);
-        if (--untilFailure == 0)
-            Fail(failure::OutOfMemory);
-    }
-
-    Dice dice;
-    int untilFailure;
-};
-
-// What came of a command: what was said, and the number of its failure behind it.
-template <class Does>
-Said SaidOver(unsigned seed, int failAt, Does&& does)
-{
-    TroubledVoice says(seed, failAt);
-    try {
-        does(says);
-    } catch (const Failure& failed) {
-        says.Heard.push_back("failed " + std::to_string(failed.Number));
-    }
-    return says.Heard;
-}
 
 // What a command is given.
 struct Command {
@@ -472,8 +418,10 @@ TEST(LinesModelTest, RandomEveningsAreThoseOfTheNaiveTelling)
             naive.Result.clear();
             const auto answers = static_cast<unsigned>(dice.Roll(1, 1000000));
             const int failAt = dice.Chance(30) ? static_cast<int>(dice.Roll(1, 3)) : 0;
-            const Said byDesk = SaidOver(answers, failAt, [&](Voice& says) { AtTheDesk(desk, says, shown, command); });
-            const Said byNaive = SaidOver(answers, failAt, [&](Voice& says) { Naively(naive, says, shown, command); });
+            const Said byDesk =
+                SaidOver(answers, failAt, Typed, [&](Voice& says) { AtTheDesk(desk, says, shown, command); });
+            const Said byNaive =
+                SaidOver(answers, failAt, Typed, [&](Voice& says) { Naively(naive, says, shown, command); });
             const bool failed = !byDesk.empty() && byDesk.back().starts_with("failed");
             const auto where = [&] {
                 return "league " + std::to_string(seed) + ", turn " + std::to_string(turn) + ", command " +

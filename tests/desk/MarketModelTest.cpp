@@ -697,7 +697,7 @@ TEST(MarketModelTest, RandomEveningsAreThoseOfTheNaiveTelling)
 {
     constexpr unsigned leagues = 16;
     constexpr int commands = 200;
-    const PlainMoney shown;
+    const PlainFormats shown;
     ScriptedPlatform machine;
     std::map<std::string, int> seen;
     for (unsigned seed = 1; seed <= leagues; ++seed) {

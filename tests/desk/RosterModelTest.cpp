@@ -313,7 +313,7 @@ TEST(RosterModelTest, RandomEveningsAreThoseOfTheNaiveTelling)
 {
     constexpr unsigned leagues = 25;
     constexpr int commands = 150;
-    const PlainMoney shown;
+    const PlainFormats shown;
     int failures = 0;
     int boxes = 0;
     for (unsigned seed = 1; seed <= leagues; ++seed) {
