@@ -1,7 +1,7 @@
 #include "desk/DraftCandidates.h"
 
-#include "league/OutsideCode.h"
 #include "league/Positions.h"
+#include "league/Trimming.h"
 #include "rules/Overall.h"
 
 namespace dravik {

@@ -1,7 +1,8 @@
 #include "desk/Password.h"
 
-#include "league/OutsideCode.h"
+#include "league/Digest.h"
 #include "league/Reporting.h"
+#include "league/Trimming.h"
 
 #include <string>
 

@@ -19,8 +19,4 @@ struct ClientFileRead {
 // told; failures on a plain file are thrown.
 ClientFileRead ReadClientFile(Tables& league, const SlotFiles& files, const std::string& path);
 
-// Makes a league ready that was just read: placeholders, the copied flags, the defaults of rules that older files do not
-// know. Nothing of it fails on whatever the file held.
-void PrepareLeague(Tables& league);
-
 } // namespace dravik

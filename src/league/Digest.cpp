@@ -1,6 +1,5 @@
 #include "league/Digest.h"
 
-#include "league/OutsideCode.h"
 #include "league/Reporting.h"
 
 #include <algorithm>

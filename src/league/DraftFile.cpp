@@ -1,8 +1,9 @@
 #include "league/DraftFile.h"
 
 #include "league/OldFile.h"
-#include "league/OutsideCode.h"
+#include "league/Paths.h"
 #include "league/SlotFile.h"
+#include "league/TeamFilePath.h"
 
 namespace dravik {
 

@@ -19,4 +19,7 @@ struct FileAccess {
 // How slot files are to be read and written at this moment.
 SlotFiles SlotFilesOf(const FileAccess& access);
 
+// Whether the user has set `SkipZIPClient` to "YES": all files of the system are then plain slot files.
+bool SkipZIPClient(Settings& settings);
+
 } // namespace dravik

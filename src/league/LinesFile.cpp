@@ -1,8 +1,9 @@
 #include "league/LinesFile.h"
 
 #include "league/OldFile.h"
-#include "league/OutsideCode.h"
+#include "league/Paths.h"
 #include "league/SlotFile.h"
+#include "league/TeamFilePath.h"
 
 #include <memory>
 

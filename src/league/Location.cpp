@@ -1,4 +1,5 @@
-#include "league/OutsideCode.h"
+#include "league/Location.h"
+
 #include "league/Reporting.h"
 
 namespace dravik {

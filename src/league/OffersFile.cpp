@@ -2,9 +2,10 @@
 
 #include "league/Message.h"
 #include "league/OldFile.h"
-#include "league/OutsideCode.h"
+#include "league/Paths.h"
 #include "league/PersonId.h"
 #include "league/SlotFile.h"
+#include "league/TeamFilePath.h"
 
 #include <utility>
 

@@ -1,6 +1,6 @@
 #include "league/OldFile.h"
 
-#include "league/OutsideCode.h"
+#include "league/Paths.h"
 
 #include <exception>
 

@@ -2,6 +2,7 @@
 
 #include "league/Platform.h"
 #include "league/SettingsFailure.h"
+#include "league/Trimming.h"
 #include "screens/ElementName.h"
 #include "screens/panels/ElidedLabel.h"
 #include "screens/panels/Labels.h"

@@ -1,10 +1,12 @@
 #include "session/OpenLeagueClient.h"
 
+#include "desk/PrepareLeague.h"
 #include "league/ClientFile.h"
 #include "league/Failure.h"
-#include "league/OutsideCode.h"
+#include "league/Paths.h"
 #include "league/Reporting.h"
 #include "league/SettingsFailure.h"
+#include "league/Trimming.h"
 #include "rules/StatRows.h"
 #include "rules/Waivers.h"
 #include "session/Session.h"

@@ -1,11 +1,13 @@
 #pragma once
 
 #include "desk/Password.h"
+#include "league/Digest.h"
 #include "league/DraftFile.h"
 #include "league/InputCheck.h"
 #include "league/LinesFile.h"
+#include "league/Location.h"
 #include "league/OffersFile.h"
-#include "league/OutsideCode.h"
+#include "league/Paths.h"
 #include "league/RatingsExport.h"
 #include "league/Reporting.h"
 #include "makers/Makers.h"

@@ -1,6 +1,7 @@
 // Every way in which a lines file can be bad: what came of it is taken over, and nobody else is touched.
 
 #include "league/Failure.h"
+#include "league/WrapFile.h"
 #include "session/Routines.h"
 #include "support/BadFiles.h"
 #include "support/LeagueImage.h"

@@ -2,6 +2,7 @@
 // killed at every one of them. Saves, opens and loads have tests of their own beside this one.
 
 #include "league/Failure.h"
+#include "league/WrapFile.h"
 #include "session/Routines.h"
 #include "support/FaultyFiles.h"
 

@@ -1,6 +1,6 @@
 #include "screens/platform/CodePage.h"
 
-#include "session/Routines.h"
+#include "league/Trimming.h"
 
 #include <QList>
 #include <QStringList>

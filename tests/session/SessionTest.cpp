@@ -142,5 +142,13 @@ TEST_F(SessionTest, NewsLogLinesAndAnErasedPlayerHaveNoEffect)
     EXPECT_THAT(Machine.FileOperations(), IsEmpty());
 }
 
+TEST_F(SessionTest, TheWaitScreenIsTheMachines)
+{
+    ShowWait();
+    EXPECT_TRUE(Machine.WaitShown);
+    CloseWait();
+    EXPECT_FALSE(Machine.WaitShown);
+}
+
 } // namespace
 } // namespace dravik

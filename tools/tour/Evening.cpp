@@ -1,4 +1,5 @@
 #include "Evening.h"
+#include "league/Trimming.h"
 #include "screens/frmEditPlayer.h"
 #include "screens/frmFarmLine.h"
 #include "screens/frmLine.h"

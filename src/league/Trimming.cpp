@@ -1,4 +1,4 @@
-#include "league/OutsideCode.h"
+#include "league/Trimming.h"
 
 #include <algorithm>
 #include <vector>

@@ -1,3 +1,4 @@
+#include "league/Trimming.h"
 #include "session/Routines.h"
 
 #include <gtest/gtest.h>
@@ -6,12 +7,12 @@
 namespace dravik {
 namespace {
 
-TEST(TextHelpersTest, BlanksAtBothEndsAndInTheMiddleGoAndTheLettersCloseUp)
+TEST(TrimmingTest, BlanksAtBothEndsAndInTheMiddleGoAndTheLettersCloseUp)
 {
     EXPECT_EQ(RemoveSpaces("  New York "), "NewYork");
 }
 
-TEST(TextHelpersTest, OfAll256CharactersThoseFrom33OnStay)
+TEST(TrimmingTest, OfAll256CharactersThoseFrom33OnStay)
 {
     std::string all;
     std::string from33;
@@ -23,13 +24,13 @@ TEST(TextHelpersTest, OfAll256CharactersThoseFrom33OnStay)
     EXPECT_EQ(RemoveSpaces(all), from33);
 }
 
-TEST(TextHelpersTest, ControlCharactersGoWhereverTheyStand)
+TEST(TrimmingTest, ControlCharactersGoWhereverTheyStand)
 {
     using namespace std::string_literals;
     EXPECT_EQ(RemoveSpaces("\tA\r\nB\0C\x1F"s), "ABC");
 }
 
-TEST(TextHelpersTest, AccentedLettersAndTheHardSpaceOf160Stay)
+TEST(TrimmingTest, AccentedLettersAndTheHardSpaceOf160Stay)
 {
     EXPECT_EQ(RemoveSpaces("Montr\xE9"
                            "al\xA0X"),
@@ -37,7 +38,7 @@ TEST(TextHelpersTest, AccentedLettersAndTheHardSpaceOf160Stay)
               "al\xA0X");
 }
 
-TEST(TextHelpersTest, OuterBlanksGoAndNothingElse)
+TEST(TrimmingTest, OuterBlanksGoAndNothingElse)
 {
     EXPECT_EQ(WithoutOuterBlanks("  /home/New York  "), "/home/New York");
     EXPECT_EQ(WithoutOuterBlanks("\tX\n"), "\tX\n");
@@ -45,13 +46,13 @@ TEST(TextHelpersTest, OuterBlanksGoAndNothingElse)
     EXPECT_EQ(WithoutOuterBlanks(""), "");
 }
 
-TEST(TextHelpersTest, NothingButBlanksLeavesTheEmptyText)
+TEST(TrimmingTest, NothingButBlanksLeavesTheEmptyText)
 {
     EXPECT_EQ(RemoveSpaces("   "), "");
     EXPECT_EQ(RemoveSpaces(""), "");
 }
 
-TEST(TextHelpersTest, LastCharactersAreCutAsLongAsThereAreAny)
+TEST(TrimmingTest, LastCharactersAreCutAsLongAsThereAreAny)
 {
     EXPECT_EQ(WithoutLastCharacters("League.dvs", 4), "League");
     EXPECT_EQ(WithoutLastCharacters("abcde", 4), "a");
@@ -62,7 +63,7 @@ TEST(TextHelpersTest, LastCharactersAreCutAsLongAsThereAreAny)
     EXPECT_EQ(WithoutLastCharacters("\xE9\xE8\xE7", 1), "\xE9\xE8");
 }
 
-TEST(TextHelpersTest, AnEscapedCharacterIsCutAsOne)
+TEST(TrimmingTest, AnEscapedCharacterIsCutAsOne)
 {
     EXPECT_EQ(WithoutLastCharacters("A\x1A{43B}bcd", 4), "A");
     EXPECT_EQ(WithoutLastCharacters("A\x1A{43B}bcd", 3), "A\x1A{43B}");
@@ -72,7 +73,7 @@ TEST(TextHelpersTest, AnEscapedCharacterIsCutAsOne)
     EXPECT_EQ(WithoutLastCharacters("\x1A{41B}\x1A{438}\x1A{433}", 4), "");
 }
 
-TEST(TextHelpersTest, WhatOnlyLooksLikeAnEscapedCharacterIsCutByteByByte)
+TEST(TrimmingTest, WhatOnlyLooksLikeAnEscapedCharacterIsCutByteByByte)
 {
     for (const std::string text :
          {"\x1A{}", "\x1A{43b}", "\x1A{1234567}", "\x1A{43B", "\x1A{4 }", "\x1A(43B)", "{43B}"}) {
