@@ -1,6 +1,6 @@
 #pragma once
 
-#include "league/Platform.h"
+#include "machine/Platform.h"
 #include "session/Session.h"
 
 #include <benchmark/benchmark.h>

@@ -7,7 +7,7 @@
 #include "bench/AgainstAWalk.h"
 #include "bench/FullLeague.h"
 #include "bench/ScreenBench.h"
-#include "screens/frmDraft.h"
+#include "screens/market/frmDraft.h"
 
 #include <benchmark/benchmark.h>
 

@@ -7,7 +7,7 @@
 
 #include "bench/BareInflate.h"
 #include "bench/Ratio.h"
-#include "league/SlotFile.h"
+#include "files/SlotFile.h"
 #include "session/OpenLeagueClient.h"
 #include "session/Routines.h"
 #include "support/ClientFileBytes.h"

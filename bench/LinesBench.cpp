@@ -8,7 +8,7 @@
 #include "bench/AgainstAWalk.h"
 #include "bench/FullLeague.h"
 #include "bench/ScreenBench.h"
-#include "screens/frmLine.h"
+#include "screens/lines/frmLine.h"
 #include "screens/RosterEntry.h"
 #include "support/LineFindings.h"
 #include "tests/screens/Dragging.h"

@@ -7,7 +7,7 @@
 #include "bench/AgainstAWalk.h"
 #include "bench/FullLeague.h"
 #include "bench/ScreenBench.h"
-#include "screens/frmFreeAgentClient.h"
+#include "screens/market/frmFreeAgentClient.h"
 
 #include <benchmark/benchmark.h>
 #include <QTest>

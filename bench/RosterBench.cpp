@@ -7,7 +7,7 @@
 #include "bench/AgainstAWalk.h"
 #include "bench/FullLeague.h"
 #include "bench/ScreenBench.h"
-#include "screens/frmRoster.h"
+#include "screens/roster/frmRoster.h"
 
 #include <benchmark/benchmark.h>
 #include <QTest>

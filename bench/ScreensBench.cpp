@@ -12,7 +12,7 @@
 #include "bench/ScreenBench.h"
 #include "sample-league/ClientFileWriter.h"
 #include "sample-league/SampleLeague.h"
-#include "screens/frmMain.h"
+#include "screens/main/frmMain.h"
 #include "session/Session.h"
 
 #include <benchmark/benchmark.h>

@@ -3,11 +3,13 @@
 cmake_minimum_required(VERSION 3.25)
 
 set(league_MAY_INCLUDE league)
-set(rules_MAY_INCLUDE league rules)
-set(makers_MAY_INCLUDE league rules makers)
-set(desk_MAY_INCLUDE league rules makers desk)
-set(session_MAY_INCLUDE league rules makers desk session)
-set(screens_MAY_INCLUDE league rules makers desk session screens)
+set(machine_MAY_INCLUDE league machine)
+set(files_MAY_INCLUDE league machine files)
+set(rules_MAY_INCLUDE league machine rules)
+set(makers_MAY_INCLUDE league machine rules makers)
+set(desk_MAY_INCLUDE league machine files rules makers desk)
+set(session_MAY_INCLUDE league machine files rules makers desk session)
+set(screens_MAY_INCLUDE league machine files rules makers desk session screens)
 set(WITH_TOOLKIT screens)
 
 set(wrong "")

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "league/Platform.h"
+#include "machine/Platform.h"
 
 #include <cstddef>
 #include <cstdint>

@@ -1,6 +1,6 @@
 #include "fuzz/SlotPieces.h"
 
-#include "league/SlotFile.h"
+#include "files/SlotFile.h"
 
 #include <algorithm>
 #include <cstring>

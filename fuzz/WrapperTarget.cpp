@@ -2,11 +2,11 @@
 // any length: what comes out is what the one-call functions of zlib make of it, by zlib's reader and by the one that tries the
 // faster inflater first.
 
+#include "files/ZlibWrapper.h"
 #include "fuzz/DeflateScript.h"
 #include "fuzz/Target.h"
 #include "league/Arithmetic.h"
 #include "league/Failure.h"
-#include "league/ZlibWrapper.h"
 
 #include <algorithm>
 #include <cstring>

@@ -1,4 +1,4 @@
-#include "league/Platform.h"
+#include "machine/Platform.h"
 #include "screens/platform/Application.h"
 #include "screens/platform/DesktopLook.h"
 #include "screens/platform/QtPlatform.h"

@@ -1,7 +1,7 @@
 #include "desk/Arena.h"
 
 #include "league/Arithmetic.h"
-#include "league/InputCheck.h"
+#include "machine/InputCheck.h"
 
 #include <numeric>
 

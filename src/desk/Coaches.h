@@ -1,6 +1,6 @@
 #pragma once
 
-#include "league/Work.h"
+#include "machine/Work.h"
 
 namespace dravik {
 

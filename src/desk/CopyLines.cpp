@@ -1,7 +1,7 @@
 #include "desk/CopyLines.h"
 
 #include "league/Arithmetic.h"
-#include "league/Reporting.h"
+#include "machine/Reporting.h"
 #include "rules/DaySlots.h"
 
 #include <string>

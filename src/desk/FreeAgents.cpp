@@ -1,6 +1,6 @@
 #include "desk/FreeAgents.h"
 
-#include "league/OffersFile.h"
+#include "files/OffersFile.h"
 
 namespace dravik {
 

@@ -1,7 +1,7 @@
 #include "desk/GoaliePull.h"
 
 #include "league/Arithmetic.h"
-#include "league/InputCheck.h"
+#include "machine/InputCheck.h"
 
 namespace dravik {
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "league/Work.h"
+#include "machine/Work.h"
 #include "rules/LineSlots.h"
 
 #include <optional>

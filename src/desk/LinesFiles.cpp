@@ -1,8 +1,8 @@
 #include "desk/LinesFiles.h"
 
 #include "desk/Password.h"
-#include "league/LinesFile.h"
-#include "league/Message.h"
+#include "files/LinesFile.h"
+#include "machine/Message.h"
 #include "rules/DayJudge.h"
 
 namespace dravik {

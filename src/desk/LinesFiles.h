@@ -1,8 +1,8 @@
 #pragma once
 
-#include "league/FileAccess.h"
-#include "league/Platform.h"
-#include "league/Work.h"
+#include "files/FileAccess.h"
+#include "machine/Platform.h"
+#include "machine/Work.h"
 
 #include <functional>
 #include <string>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "league/DraftFile.h"
+#include "files/DraftFile.h"
 #include "league/FreeAgentOffer.h"
 
 #include <memory>

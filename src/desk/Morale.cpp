@@ -1,7 +1,7 @@
 #include "desk/Morale.h"
 
 #include "league/Arithmetic.h"
-#include "league/InputCheck.h"
+#include "machine/InputCheck.h"
 
 #include <cmath>
 

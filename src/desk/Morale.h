@@ -1,7 +1,7 @@
 #pragma once
 
 #include "desk/TypedNumber.h"
-#include "league/Work.h"
+#include "machine/Work.h"
 
 #include <string_view>
 

@@ -1,7 +1,7 @@
 #include "desk/NewPlayer.h"
 
 #include "league/Arithmetic.h"
-#include "league/Message.h"
+#include "machine/Message.h"
 
 #include <algorithm>
 #include <iterator>

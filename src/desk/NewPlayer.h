@@ -2,7 +2,7 @@
 
 #include "league/PersonId.h"
 #include "league/Positions.h"
-#include "league/Work.h"
+#include "machine/Work.h"
 
 #include <functional>
 #include <string>

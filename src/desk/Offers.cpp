@@ -1,10 +1,10 @@
 #include "desk/Offers.h"
 
 #include "desk/FreeAgents.h"
+#include "files/OffersFile.h"
 #include "league/Arithmetic.h"
-#include "league/InputCheck.h"
-#include "league/Message.h"
-#include "league/OffersFile.h"
+#include "machine/InputCheck.h"
+#include "machine/Message.h"
 
 namespace dravik {
 

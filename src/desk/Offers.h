@@ -1,9 +1,9 @@
 #pragma once
 
-#include "league/FileAccess.h"
+#include "files/FileAccess.h"
 #include "league/FreeAgentOffer.h"
 #include "league/PersonId.h"
-#include "league/Work.h"
+#include "machine/Work.h"
 
 #include <functional>
 #include <optional>

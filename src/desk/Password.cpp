@@ -1,8 +1,8 @@
 #include "desk/Password.h"
 
-#include "league/Digest.h"
-#include "league/Reporting.h"
 #include "league/Trimming.h"
+#include "machine/Digest.h"
+#include "machine/Reporting.h"
 
 #include <string>
 

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "league/Platform.h"
-#include "league/Work.h"
+#include "machine/Platform.h"
+#include "machine/Work.h"
 
 namespace dravik {
 

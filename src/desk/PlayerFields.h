@@ -1,9 +1,9 @@
 #pragma once
 
 #include "desk/PlayerHealth.h"
-#include "league/InputCheck.h"
 #include "league/PersonId.h"
-#include "league/Work.h"
+#include "machine/InputCheck.h"
+#include "machine/Work.h"
 
 #include <string>
 #include <string_view>

@@ -1,7 +1,7 @@
 #include "desk/Ranking.h"
 
 #include "desk/DraftCandidates.h"
-#include "league/Message.h"
+#include "machine/Message.h"
 
 #include <algorithm>
 #include <utility>

@@ -1,8 +1,8 @@
 #pragma once
 
-#include "league/DraftFile.h"
-#include "league/FileAccess.h"
-#include "league/Work.h"
+#include "files/DraftFile.h"
+#include "files/FileAccess.h"
+#include "machine/Work.h"
 
 #include <functional>
 #include <optional>

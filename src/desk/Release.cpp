@@ -1,7 +1,7 @@
 #include "desk/Release.h"
 
 #include "league/Arithmetic.h"
-#include "league/Message.h"
+#include "machine/Message.h"
 #include "rules/ReleaseCost.h"
 #include "rules/WipeLines.h"
 

@@ -1,7 +1,7 @@
 #include "desk/TeamMoney.h"
 
 #include "league/Arithmetic.h"
-#include "league/InputCheck.h"
+#include "machine/InputCheck.h"
 
 #include <optional>
 #include <string>

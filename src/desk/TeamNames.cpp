@@ -1,7 +1,7 @@
 #include "desk/TeamNames.h"
 
-#include "league/InputCheck.h"
 #include "league/Trimming.h"
+#include "machine/InputCheck.h"
 
 #include <string_view>
 

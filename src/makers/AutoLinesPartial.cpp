@@ -1,5 +1,5 @@
-#include "league/Message.h"
-#include "league/Reporting.h"
+#include "machine/Message.h"
+#include "machine/Reporting.h"
 #include "makers/Dealing.h"
 #include "makers/Makers.h"
 #include "rules/LineEligibility.h"

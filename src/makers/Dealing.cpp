@@ -1,7 +1,7 @@
 #include "makers/Dealing.h"
 
-#include "league/Message.h"
-#include "league/Reporting.h"
+#include "machine/Message.h"
+#include "machine/Reporting.h"
 #include "makers/Makers.h"
 #include "rules/People.h"
 #include "rules/RosterJudge.h"

@@ -1,4 +1,4 @@
-#include "league/Reporting.h"
+#include "machine/Reporting.h"
 #include "rules/LineEligibility.h"
 #include "rules/LineJudge.h"
 #include "rules/LineRules.h"

@@ -2,7 +2,7 @@
 
 #include "league/Arithmetic.h"
 #include "league/Positions.h"
-#include "league/Reporting.h"
+#include "machine/Reporting.h"
 #include "rules/People.h"
 
 #include <string_view>

@@ -1,8 +1,8 @@
 #include "rules/LineJudge.h"
 
-#include "league/Message.h"
 #include "league/Positions.h"
-#include "league/Reporting.h"
+#include "machine/Message.h"
+#include "machine/Reporting.h"
 #include "rules/DaySlots.h"
 #include "rules/LineEligibility.h"
 #include "rules/LineGroups.h"

@@ -1,7 +1,7 @@
 #include "rules/LineVerdict.h"
 
-#include "league/Message.h"
 #include "league/Positions.h"
+#include "machine/Message.h"
 #include "rules/LineRules.h"
 
 #include <algorithm>

@@ -1,10 +1,10 @@
 #include "rules/RosterJudge.h"
 
 #include "league/Arithmetic.h"
-#include "league/Message.h"
 #include "league/PersonId.h"
 #include "league/Positions.h"
-#include "league/Reporting.h"
+#include "machine/Message.h"
+#include "machine/Reporting.h"
 #include "rules/FarmLimits.h"
 #include "rules/Overall.h"
 #include "rules/People.h"

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "league/PersonId.h"
-#include "league/Work.h"
+#include "machine/Work.h"
 #include "rules/SalaryCap.h"
 
 #include <optional>

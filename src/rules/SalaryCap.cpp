@@ -1,8 +1,8 @@
 #include "rules/SalaryCap.h"
 
 #include "league/Arithmetic.h"
-#include "league/Message.h"
-#include "league/Reporting.h"
+#include "machine/Message.h"
+#include "machine/Reporting.h"
 #include "rules/Finance.h"
 
 #include <optional>

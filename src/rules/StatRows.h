@@ -1,7 +1,7 @@
 #pragma once
 
 #include "league/Tables.h"
-#include "league/Voice.h"
+#include "machine/Voice.h"
 
 #include <functional>
 #include <optional>

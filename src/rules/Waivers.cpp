@@ -1,7 +1,7 @@
 #include "rules/Waivers.h"
 
 #include "league/PersonId.h"
-#include "league/Reporting.h"
+#include "machine/Reporting.h"
 #include "rules/FarmLimits.h"
 #include "rules/Overall.h"
 

@@ -1,7 +1,7 @@
 #include "rules/WipeLines.h"
 
 #include "league/PersonId.h"
-#include "league/Reporting.h"
+#include "machine/Reporting.h"
 #include "rules/DaySlots.h"
 
 #include <algorithm>

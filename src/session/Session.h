@@ -1,12 +1,12 @@
 #pragma once
 
+#include "files/FileAccess.h"
 #include "league/Field.h"
-#include "league/FileAccess.h"
 #include "league/PersonId.h"
-#include "league/Platform.h"
 #include "league/Positions.h"
 #include "league/RatingNames.h"
-#include "league/Work.h"
+#include "machine/Platform.h"
+#include "machine/Work.h"
 
 #include <string>
 

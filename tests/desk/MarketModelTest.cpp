@@ -3,7 +3,7 @@
 #include "desk/Market.h"
 #include "desk/Offers.h"
 #include "desk/Ranking.h"
-#include "league/OffersFile.h"
+#include "files/OffersFile.h"
 #include "rules/Overall.h"
 #include "session/Session.h"
 #include "support/RandomLeague.h"

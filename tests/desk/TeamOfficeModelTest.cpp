@@ -5,7 +5,7 @@
 #include "desk/TeamMoney.h"
 #include "desk/TeamNames.h"
 #include "desk/TicketPrices.h"
-#include "league/InputCheck.h"
+#include "machine/InputCheck.h"
 #include "support/ScriptedPlatform.h"
 #include "support/TroubledVoice.h"
 

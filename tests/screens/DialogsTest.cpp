@@ -1,7 +1,7 @@
 #include "screens/platform/Dialogs.h"
 #include "AnswerDialog.h"
 #include "league/Failure.h"
-#include "screens/frmWait.h"
+#include "screens/main/frmWait.h"
 #include "screens/platform/BoxIcon.h"
 #include "screens/platform/CodePage.h"
 #include "screens/platform/FusionLook.h"

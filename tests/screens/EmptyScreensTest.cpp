@@ -1,6 +1,6 @@
 #include "OnTeamScreen.h"
-#include "screens/frmCoach.h"
-#include "screens/frmProspect.h"
+#include "screens/player/frmCoach.h"
+#include "screens/player/frmProspect.h"
 
 namespace dravik {
 namespace {

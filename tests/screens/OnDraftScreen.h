@@ -1,7 +1,7 @@
 #pragma once
 
 #include "OnStage.h"
-#include "screens/frmDraft.h"
+#include "screens/market/frmDraft.h"
 #include "support/FailingBoxes.h"
 
 namespace dravik {

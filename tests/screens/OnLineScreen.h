@@ -1,8 +1,8 @@
 #pragma once
 
 #include "OnStage.h"
-#include "screens/frmFarmLine.h"
-#include "screens/frmLine.h"
+#include "screens/lines/frmFarmLine.h"
+#include "screens/lines/frmLine.h"
 #include "screens/RosterEntry.h"
 #include "session/Routines.h"
 

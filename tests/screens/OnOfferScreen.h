@@ -1,7 +1,7 @@
 #pragma once
 
 #include "OnStage.h"
-#include "screens/frmFreeAgentClient.h"
+#include "screens/market/frmFreeAgentClient.h"
 #include "support/FailingBoxes.h"
 
 namespace dravik {

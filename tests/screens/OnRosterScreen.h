@@ -1,7 +1,7 @@
 #pragma once
 
 #include "OnStage.h"
-#include "screens/frmRoster.h"
+#include "screens/roster/frmRoster.h"
 #include "screens/RosterEntry.h"
 #include "support/FailingBoxes.h"
 

@@ -1,9 +1,9 @@
 #pragma once
 
-#include "screens/frmMain.h"
-#include "screens/frmTeam.h"
+#include "screens/main/frmMain.h"
 #include "screens/platform/QtPlatform.h"
 #include "screens/Stage.h"
+#include "screens/team/frmTeam.h"
 #include "session/Routines.h"
 #include "support/LineFindings.h"
 #include "support/SmallLeague.h"

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "OnStage.h"
-#include "screens/frmEditPlayer.h"
+#include "screens/player/frmEditPlayer.h"
 #include "session/Routines.h"
 
 namespace dravik {

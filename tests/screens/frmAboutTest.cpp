@@ -1,4 +1,4 @@
-#include "screens/frmAbout.h"
+#include "screens/main/frmAbout.h"
 #include "OnStage.h"
 #include "session/Routines.h"
 

@@ -1,5 +1,5 @@
 #include "OnOfferScreen.h"
-#include "screens/frmEditPlayer.h"
+#include "screens/player/frmEditPlayer.h"
 
 namespace dravik {
 namespace {

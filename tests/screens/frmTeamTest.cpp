@@ -1,6 +1,6 @@
 #include "OnTeamScreen.h"
 
-#include "screens/frmRoster.h"
+#include "screens/roster/frmRoster.h"
 #include "session/Routines.h"
 #include <QEventLoop>
 #include <QHelpEvent>

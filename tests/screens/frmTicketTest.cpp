@@ -1,4 +1,4 @@
-#include "screens/frmTicket.h"
+#include "screens/team/frmTicket.h"
 #include "OnTeamScreen.h"
 #include "session/Routines.h"
 #include "support/FailingBoxes.h"

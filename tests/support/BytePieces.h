@@ -1,6 +1,6 @@
 #pragma once
 
-#include "league/ByteStream.h"
+#include "files/ByteStream.h"
 #include "support/ClientFileBytes.h"
 
 #include <algorithm>

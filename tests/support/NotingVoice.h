@@ -1,6 +1,6 @@
 #pragma once
 
-#include "league/Voice.h"
+#include "machine/Voice.h"
 
 #include <string>
 

@@ -1,7 +1,7 @@
 #include "support/ScriptedPlatform.h"
 
 #include "league/Failure.h"
-#include "league/SettingsFailure.h"
+#include "machine/SettingsFailure.h"
 #include "support/ReferenceMd5.h"
 
 #include <chrono>

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "league/Failure.h"
-#include "league/Voice.h"
+#include "machine/Voice.h"
 #include "support/RandomLeague.h"
 
 #include <string>

@@ -1,4 +1,4 @@
-#include "league/WrapFile.h"
+#include "files/WrapFile.h"
 #include "sample-league/Command.h"
 #include "SampleFixture.h"
 #include "session/OpenLeagueClient.h"

@@ -1,6 +1,6 @@
 #include "sample-league/ClientFileWriter.h"
 
-#include "league/SlotFile.h"
+#include "files/SlotFile.h"
 #include "session/Routines.h"
 
 namespace dravik::sample {

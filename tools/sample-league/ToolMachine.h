@@ -1,6 +1,6 @@
 #pragma once
 
-#include "league/DiskFiles.h"
+#include "machine/DiskFiles.h"
 
 namespace dravik::sample {
 

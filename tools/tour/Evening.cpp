@@ -1,9 +1,9 @@
 #include "Evening.h"
 #include "league/Trimming.h"
-#include "screens/frmEditPlayer.h"
-#include "screens/frmFarmLine.h"
-#include "screens/frmLine.h"
+#include "screens/lines/frmFarmLine.h"
+#include "screens/lines/frmLine.h"
 #include "screens/platform/CodePage.h"
+#include "screens/player/frmEditPlayer.h"
 #include "screens/RosterEntry.h"
 #include "session/Routines.h"
 

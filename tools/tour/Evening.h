@@ -2,12 +2,12 @@
 
 #include "Answers.h"
 #include "Camera.h"
-#include "screens/frmFreeAgentClient.h"
-#include "screens/frmMain.h"
-#include "screens/frmRoster.h"
-#include "screens/frmTeam.h"
-#include "screens/LinesScreen.h"
+#include "screens/lines/LinesScreen.h"
+#include "screens/main/frmMain.h"
+#include "screens/market/frmFreeAgentClient.h"
+#include "screens/roster/frmRoster.h"
 #include "screens/Stage.h"
+#include "screens/team/frmTeam.h"
 
 #include <stdexcept>
 

@@ -1,9 +1,9 @@
 #include "Evening.h"
-#include "screens/frmAbout.h"
-#include "screens/frmDraft.h"
-#include "screens/frmEditPlayer.h"
-#include "screens/frmTicket.h"
+#include "screens/main/frmAbout.h"
+#include "screens/market/frmDraft.h"
 #include "screens/platform/CodePage.h"
+#include "screens/player/frmEditPlayer.h"
+#include "screens/team/frmTicket.h"
 #include "session/Routines.h"
 
 #include <iostream>

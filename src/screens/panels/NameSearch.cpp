@@ -1,6 +1,6 @@
 #include "screens/panels/NameSearch.h"
 
-#include "league/Platform.h"
+#include "machine/Platform.h"
 #include "screens/platform/CodePage.h"
 #include "session/Routines.h"
 

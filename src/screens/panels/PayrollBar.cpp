@@ -1,6 +1,6 @@
 #include "screens/panels/PayrollBar.h"
 
-#include "league/Platform.h"
+#include "machine/Platform.h"
 #include "screens/panels/Accessible.h"
 #include "screens/panels/Labels.h"
 #include "screens/panels/Shades.h"

@@ -1,8 +1,8 @@
 #include "screens/platform/Dialogs.h"
 
 #include "league/Failure.h"
-#include "league/Platform.h"
-#include "screens/frmWait.h"
+#include "machine/Platform.h"
+#include "screens/main/frmWait.h"
 #include "screens/platform/BoxIcon.h"
 
 #include <QApplication>

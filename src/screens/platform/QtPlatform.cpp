@@ -1,8 +1,8 @@
 #include "screens/platform/QtPlatform.h"
 
 #include "league/Failure.h"
-#include "league/SettingsFailure.h"
-#include "screens/frmWait.h"
+#include "machine/SettingsFailure.h"
+#include "screens/main/frmWait.h"
 #include "screens/platform/CodePage.h"
 #include "screens/platform/Dialogs.h"
 #include "screens/platform/Formats.h"

@@ -1,0 +1,46 @@
+#include "files/DraftFile.h"
+
+#include "files/OldFile.h"
+#include "files/SlotFile.h"
+#include "files/TeamFilePath.h"
+#include "machine/Paths.h"
+
+namespace dravik {
+
+namespace {
+
+constexpr std::string_view StartMagic = "DRVKFDFV1S";
+constexpr std::string_view EndMagic = "DRVKFDFV1E";
+constexpr std::size_t DraftSlot = MagicLength(StartMagic); // the longest record fills its slot
+constexpr std::int64_t RecordCount = 3 + (DraftRanking::last + 1) + 1;
+constexpr std::int64_t FileLength = SlotFileLength(RecordCount, MagicLength(EndMagic), DraftSlot);
+
+static_assert(DraftSlot == 12 && RecordCount == 1005 && FileLength == 12060);
+
+} // namespace
+
+std::string DraftFilePath(const Tables& league, Disk& disk, int team)
+{
+    return TeamFilePath(disk, league.Teams[team].Name.Trimmed(), ".dvd");
+}
+
+bool WriteDraftFile(const Tables& league, const FileAccess& access, int team, const DraftRanking& ranking,
+                    const std::string& target)
+{
+    DeleteIfExists(access.Disk, access.WorkFile);
+    OldFile old(access.Disk, target);
+    const auto write = [&](SlotWriter& slots) {
+        slots.WriteMagic(StartMagic);
+        slots.Write(league.LeagueData.LeagueCode);
+        slots.Write(Int16(team));
+        for (const Int16& id : ranking)
+            slots.Write(id);
+        slots.WriteMagic(EndMagic);
+    };
+    if (!WriteSlotFile(SlotFilesOf(access), target, FileLength, write, DraftSlot, access.WorkFile))
+        return false;
+    old.Replaced();
+    return true;
+}
+
+} // namespace dravik

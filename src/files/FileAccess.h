@@ -1,0 +1,25 @@
+#pragma once
+
+#include "files/SlotFile.h"
+#include "machine/Settings.h"
+
+#include <string>
+
+namespace dravik {
+
+// What the files of the system are read and written with: the disk, who tells of a wrapper that cannot be, the settings,
+// which say whether files are wrapped, and the path of the work file, which a file is called until it is whole.
+struct FileAccess {
+    dravik::Disk& Disk;
+    Voice& Says;
+    dravik::Settings& Settings;
+    std::string WorkFile;
+};
+
+// How slot files are to be read and written at this moment.
+SlotFiles SlotFilesOf(const FileAccess& access);
+
+// Whether the user has set `SkipZIPClient` to "YES": all files of the system are then plain slot files.
+bool SkipZIPClient(Settings& settings);
+
+} // namespace dravik

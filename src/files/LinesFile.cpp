@@ -1,0 +1,134 @@
+#include "files/LinesFile.h"
+
+#include "files/OldFile.h"
+#include "files/SlotFile.h"
+#include "files/TeamFilePath.h"
+#include "machine/Paths.h"
+
+#include <memory>
+
+namespace dravik {
+
+namespace {
+
+constexpr std::string_view StartMagic = "DRVK Lineups Files Version 1.01 - Start";
+constexpr std::string_view EndMagic = "DRVK Lineups Files Version 1.01 - End";
+constexpr std::int64_t RecordCount = 4 + PlayerChangeTable::last + GoalieChangeTable::last + 1;
+constexpr std::int64_t FileLength = SlotFileLength(RecordCount, MagicLength(EndMagic));
+
+// The records of a file that are in it whole. It is read to its end before anything is taken over, so that a file that
+// cannot be read changes nothing.
+struct Content {
+    bool HeadFits = false; // a lines file of this league and of CurrentTeam
+    bool HasTeam = false;
+    dravik::Team Team;
+    long long PlayerCount = 0;
+    PlayerChangeTable Players;
+    long long GoalieCount = 0;
+    GoalieChangeTable Goalies;
+    bool EndFits = false;
+};
+
+template <class Changes>
+long long ReadChanges(SlotReader& slots, Changes& changes)
+{
+    for (long long i = 1; i <= Changes::last; ++i)
+        if (!slots.Read(changes[i]))
+            return i - 1;
+    return Changes::last;
+}
+
+bool ReadHead(SlotReader& slots, const Tables& league, int team)
+{
+    if (!slots.ReadMagic(StartMagic))
+        return false;
+    decltype(League::LeagueCode) code;
+    Int16 number;
+    return slots.Read(code) && code.Raw() == league.LeagueData.LeagueCode.Raw() && slots.Read(number) && number == team;
+}
+
+void ReadContent(SlotReader& slots, Content& content, const Tables& league, int team)
+{
+    content.HeadFits = ReadHead(slots, league, team);
+    if (!content.HeadFits)
+        return;
+    content.HasTeam = slots.Read(content.Team);
+    content.PlayerCount = ReadChanges(slots, content.Players);
+    content.GoalieCount = ReadChanges(slots, content.Goalies);
+    content.EndFits = slots.ReadMagic(EndMagic);
+}
+
+template <class Changes, class People>
+void TakeOver(const Changes& read, long long count, int team, Changes& changes, People& people)
+{
+    for (long long i = 1; i <= count; ++i) {
+        changes[i] = read[i];
+        auto& person = people[i];
+        if (person.Team != team)
+            continue;
+        if (read[i].Status != person.Status && read[i].Status < 3)
+            person.Status = read[i].Status;
+        person.TradeAvailable = read[i].TradeAvailable;
+        person.Protected = read[i].Protected;
+    }
+}
+
+template <class Changes, class People>
+void RefreshStatus(Changes& changes, const People& people)
+{
+    for (long long i = 1; i <= Changes::last; ++i)
+        changes[i].Status = people[i].Status;
+}
+
+} // namespace
+
+std::string LinesFilePath(const Tables& league, Disk& disk, int team)
+{
+    return TeamFilePath(disk, league.Teams[team].Name.Trimmed(), ".dvl");
+}
+
+bool WriteLinesFile(Tables& league, const FileAccess& access, int team, const std::string& target)
+{
+    const Team& record = league.Teams[team];
+    DeleteIfExists(access.Disk, access.WorkFile);
+    OldFile old(access.Disk, target);
+    RefreshStatus(league.RosterChanges, league.Players);
+    RefreshStatus(league.RosterChangesGoalie, league.Goalies);
+    const auto write = [&](SlotWriter& slots) {
+        slots.WriteMagic(StartMagic);
+        slots.Write(league.LeagueData.LeagueCode);
+        slots.Write(Int16(team));
+        slots.Write(record);
+        for (const RosterChange& change : league.RosterChanges)
+            slots.Write(change);
+        for (const RosterChange& change : league.RosterChangesGoalie)
+            slots.Write(change);
+        slots.WriteMagic(EndMagic);
+    };
+    if (!WriteSlotFile(SlotFilesOf(access), target, FileLength, write, SlotLength, access.WorkFile))
+        return false;
+    old.Replaced();
+    return true;
+}
+
+LinesFileRead ReadLinesFile(Tables& league, const FileAccess& access, int team, const std::string& path)
+{
+    DeleteIfExists(access.Disk, access.WorkFile);
+    if (!FileExist(access.Disk, path))
+        return LinesFileRead::Refused;
+    const auto content = std::make_unique<Content>();
+    const auto read = [&](SlotReader& slots) { ReadContent(slots, *content, league, team); };
+    const auto takeBack = [&] { *content = {}; };
+    if (ReadSlotFile(SlotFilesOf(access), ExistingPath(access.Disk, path), read, SlotLength, takeBack) ==
+        SlotFileRead::NotDecompressed)
+        return LinesFileRead::NotDecompressed;
+    if (!content->HeadFits)
+        return LinesFileRead::Refused;
+    if (content->HasTeam)
+        league.Teams[team] = content->Team;
+    TakeOver(content->Players, content->PlayerCount, team, league.RosterChanges, league.Players);
+    TakeOver(content->Goalies, content->GoalieCount, team, league.RosterChangesGoalie, league.Goalies);
+    return content->EndFits ? LinesFileRead::Loaded : LinesFileRead::Refused;
+}
+
+} // namespace dravik

@@ -1,0 +1,31 @@
+#pragma once
+
+#include "files/FileAccess.h"
+#include "league/Tables.h"
+
+#include <string>
+
+namespace dravik {
+
+// Where the lines file of `team` (1..100) is saved: the program's folder, the team's name without spaces, ".dvl".
+// Fails with 75 when the name holds a character that no file name may hold.
+std::string LinesFilePath(const Tables& league, Disk& disk, int team);
+
+// Writes the lines file of `team` to `target`, plain or compressed as the settings say. `RosterChange.Status` of every
+// person takes his `Status` first. A work file left behind is deleted first; the new file is the work file until it is
+// whole, so both have to be on one disk, and then takes the place of what stands at `target` in one step. After a failure the
+// old one is deleted. False after a failed compression, which is told; any other failure is thrown.
+bool WriteLinesFile(Tables& league, const FileAccess& access, int team, const std::string& target);
+
+enum class LinesFileRead {
+    Loaded,         // everything taken over
+    Refused,        // not a lines file of this league and this team, or its end is wrong
+    NotDecompressed // told already
+};
+
+// Reads the lines file `path`, found whatever the case of its name, over the record of `team` (1..100) and over its people.
+// A wrong head leaves the tables untouched; after a wrong end, what is in the file stays taken over. A work file left
+// behind is deleted first. Failures are thrown.
+LinesFileRead ReadLinesFile(Tables& league, const FileAccess& access, int team, const std::string& path);
+
+} // namespace dravik

@@ -1,0 +1,19 @@
+#include "files/OldFile.h"
+
+#include "machine/Paths.h"
+
+#include <exception>
+
+namespace dravik {
+
+OldFile::~OldFile()
+{
+    if (replaced)
+        return;
+    try {
+        DeleteIfExists(disk, path);
+    } catch (const std::exception&) { // NOLINT: the failure that brought us here is the one to tell
+    }
+}
+
+} // namespace dravik

@@ -1,0 +1,29 @@
+#pragma once
+
+#include "machine/Disk.h"
+
+#include <string>
+#include <utility>
+
+namespace dravik {
+
+// What stands where a new file is being saved. It stays until the new one takes its place in one step, so that a program
+// that is killed meanwhile leaves the old file or the new one. Where no new one comes, it is deleted at the end: it says what
+// holds no more.
+class OldFile {
+public:
+    OldFile(Disk& on, std::string target) : disk(on), path(std::move(target)) {}
+    OldFile(const OldFile&) = delete;
+    OldFile& operator=(const OldFile&) = delete;
+    ~OldFile();
+
+    // The new file has taken its place.
+    void Replaced() { replaced = true; }
+
+private:
+    Disk& disk;
+    std::string path;
+    bool replaced = false;
+};
+
+} // namespace dravik

@@ -1,0 +1,12 @@
+#pragma once
+
+#include "machine/Platform.h"
+
+#include <string>
+
+namespace dravik {
+
+// Hands `location` to the desktop to open it; returns its answer, 0 after a failure, which is told.
+int OpenLocation(Platform& machine, const std::string& location, int showMode);
+
+} // namespace dravik

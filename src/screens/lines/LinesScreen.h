@@ -1,0 +1,164 @@
+#pragma once
+
+#include "desk/GoaliePull.h"
+#include "league/PersonId.h"
+#include "makers/Makers.h"
+#include "rules/LineVerdict.h"
+#include "screens/lines/LineBoard.h"
+#include "screens/panels/DayStrip.h"
+#include "screens/panels/EditBox.h"
+#include "screens/panels/PickList.h"
+#include "screens/panels/ReasonsBox.h"
+#include "screens/panels/StatPanel.h"
+#include "screens/panels/Verdict.h"
+#include "screens/Screen.h"
+
+#include <QBoxLayout>
+#include <QCheckBox>
+#include <QLabel>
+#include <QScrollBar>
+#include <string>
+#include <string_view>
+
+namespace dravik {
+
+struct Team;
+
+// In what the lines screens of the pro team and of the farm differ by name alone. What they do differently is in the
+// screens themselves.
+struct LinesKind {
+    const char* Name;
+    dravik::Side Side;
+    std::string (*NameOf)(const Team&); // in titles and in the heading of a game
+    std::string (*AbbreOf)(const Team&);
+    std::string_view OnLoad; // the endings of failure messages that are spelled differently
+    std::string_view OnPick;
+    bool ShowsPlaceholder; // an empty slot reads the placeholder's name
+};
+
+// The lines of the chosen team for the next ten game days, one day at a time: a list of the people who may be dressed, and
+// the slots of the day. A pick in the list and a press on a slot put a person there; so does a drag from the list. The
+// judge of the lines runs after every change.
+class LinesScreen : public Screen {
+public:
+    // Fills the screen for CurrentTeam. A number out of range is told and closes the screen.
+    void FormLoad() override;
+    // Warns of a first day that is incomplete.
+    void FormUnload() override;
+
+    // Lists anew who may be dressed. A skater without a position is told in a critical box and left out.
+    void ShowPlayer();
+    // Shows the day: slots, game, strategy and goalie pull.
+    void Place();
+    // Judges the day, which may empty slots, and shows the verdict with its reasons. A slot emptied that way keeps its
+    // caption until the next Place, with the mark of a refused person.
+    void Check();
+    // Copies the shown day to `targetDay` (1..10).
+    void Copy(int targetDay);
+
+    void lstPlayer_Click();
+    void chkPosition_Click(int position);
+    void vscDay_Change();
+    void hscStats_Change(int index);
+    void txtPullGoalerMinGoal_LostFocus();
+    void txtPullGoalerMinPct_LostFocus();
+    // A press on one of the board's slots or headings.
+    void Slot_Click(int index);
+    void Heading_Click(int index);
+    void cmdAutoLines_Click();
+    void cmdWipeLines_Click();
+    void cmdCopy_Click();
+    void cmdCopyAll_Click();
+    void cmdDebug_Click();
+    void cmdExit_Click();
+
+    Int16 Day = 1;          // 1..10
+    Int16 SelectedPosition; // of the person picked last, 1..5
+    Int16 PointsLeft;       // strategy points not given out
+    bool StrategyReady = false;
+    Row<Int16, 1, 10> GameRow; // rows of the calendar with the team's next games, 0 behind the last
+    Row<Boolean, 1, 10> GameIsAway;
+
+    LineBoard* TabLine = nullptr;
+    DayStrip* vscDay = nullptr;
+    PickList* lstPlayer = nullptr;
+    Row<QCheckBox*, 1, 5> chkPosition;
+    StatPanel* frmStat = nullptr;
+    QLabel *lblTeamName = nullptr, *lblGame = nullptr, *lblPlaying = nullptr, *lblPoint = nullptr;
+    VerdictLabel* lblComplete = nullptr;
+    ReasonsBox* txtReasons = nullptr; // what the last judgement of the day found, in its own words
+    Row<QScrollBar*, 0, 2> hscStats;
+    Row<QLabel*, 0, 2> lblStatsPoint;
+    EditBox *txtPullGoalerMinGoal = nullptr, *txtPullGoalerMinPct = nullptr;
+    QPushButton *cmdAutoLines = nullptr, *cmdWipeLines = nullptr, *cmdCopy = nullptr;
+    QPushButton *cmdCopyAll = nullptr, *cmdDebug = nullptr, *cmdExit = nullptr;
+
+protected:
+    LinesScreen(Stage& stage, const LinesKind& kind);
+
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
+    // A screen's own steps.
+    virtual void CloseMakers(); // in a league that does without automatic makers
+    virtual void ListMore() {}  // ends the list
+    virtual void ShowPicked();  // shows who was picked in the list
+    virtual void ShowPickedName(const QString& name) = 0;
+    virtual void CheckInTurn() = 0; // the steps of Check
+
+    // Steps that both screens take, in an order of their own.
+    void JudgeShownDay();
+    // Judges the shown day, in a box when asked, and shows what was found.
+    bool Judge(bool showMessage);
+    void RefreshPlaying();
+    // Shows and judges the day behind a run of a maker.
+    void ShowMade(const Made& made);
+
+    // The day at hand, its team, and the person picked last.
+    [[nodiscard]] int ShownDay() const { return static_cast<int>(Day); }
+    static int OwnNumber();
+
+    const LinesKind& Kind;
+    QHBoxLayout* Commands = nullptr; // the row of commands on the lines
+
+private:
+    void MakeControls();
+    void MakeCommands();
+    void MakeStrategyPage();
+    QWidget* MakeHeader();
+    QWidget* MakePeopleColumn();
+    QWidget* MakeLinesColumn();
+    void SetTabOrder();
+
+    [[nodiscard]] Lines& ShownLines() const;
+    void FindGames();
+    void ShowGame();
+    void ShowSlots();
+    void ShowStrategy();
+    // Whether somebody is picked in the list whom a slot takes.
+    [[nodiscard]] bool TakesPicked(const BoardSlot& slot) const;
+    [[nodiscard]] bool MayDropOn(const SlotLabel& label) const;
+    // Names a person in a slot.
+    void ShowIn(BoardSlot& slot, long long id);
+    // Shows of every slot what stands in it now, whatever name it still reads, and the averages of the lines.
+    void RefreshMarks();
+    void RefreshMark(const BoardSlot& slot, long long id);
+    // What the judge said about a slot, each sentence once.
+    [[nodiscard]] QStringList FindingsOn(const BoardSlot& slot) const;
+    void RefreshAverage(const BoardHeading& heading);
+    [[nodiscard]] QString SlotsOf(PersonId who) const;
+    void TellOfSlot(const BoardSlot& slot);
+    void TellOfEntry(const QPoint& point);
+    void ShowPull();
+    void TakePull(EditBox* box, GoaliePull value);
+    bool HoldsBack(QObject* watched, const QEvent* event);
+    // Ends a press whose button went up while a failure was read.
+    void LetGoOf(QObject* watched, const QEvent* event);
+    // Goes back to a box whose text was refused, on whatever page it is.
+    void ReturnTo(EditBox* box);
+
+    LineVerdict said;                  // by the judge about the day as it is shown
+    const QObject* heldBack = nullptr; // what was pressed while a text box kept the focus
+    bool wasLetGo = false;             // the press that is under way has lost its release to a failure's box
+};
+
+} // namespace dravik

@@ -1,0 +1,168 @@
+#include "screens/market/frmDraft.h"
+
+#include "desk/DraftCandidates.h"
+#include "desk/Password.h"
+#include "league/PersonId.h"
+#include "machine/Reporting.h"
+#include "screens/BehindWait.h"
+#include "screens/panels/NameSearch.h"
+#include "screens/platform/CodePage.h"
+#include "session/Session.h"
+
+namespace dravik {
+
+namespace {
+
+int OwnNumber() { return static_cast<int>(CurrentTeam); }
+
+} // namespace
+
+void frmDraft::FormLoad()
+{
+    Reporting(Machine(), " in FormLoad frmFantasyEntryDraftClient!", [this] {
+        CentreOnScreen();
+        if (!TeamTable::Has(CurrentTeam)) {
+            Machine().ShowIntegrityFailure();
+            return;
+        }
+        DraftType = DraftTypeOf(LeagueData);
+        SetTitle(ToQString(std::string(ProgramTitle) + " - " + DraftType + " Client"));
+        lblTeam->setText("Draft List For : " + ToQString(Teams[CurrentTeam].Name.Trimmed()));
+        ShowPlayer();
+    });
+}
+
+void frmDraft::ShowPlayer()
+{
+    Reporting(Machine(), " in Show Player!", [this] {
+        lstPlayers->clear();
+        PositionFilter shown;
+        for (int position = 1; position <= PositionFilter::last; ++position)
+            shown[position] = chkPosition[position]->isChecked();
+        EachDraftCandidate(OpenLeague, shown, [this](const DraftCandidate& candidate) {
+            const auto& overall = candidate.Overall;
+            lstPlayers->Add(ToQString(candidate.Text), candidate.Id,
+                            overall ? QStringList{QString::number(*overall)} : QStringList{});
+        });
+        if (IsEntryDraftAhead(LeagueData))
+            for (QCheckBox* filter : chkPosition)
+                filter->setEnabled(false);
+        cmdChoose->setEnabled(lstPlayers->count() > 0);
+    });
+}
+
+void frmDraft::PlaceOffer()
+{
+    Reporting(Machine(), " in PlaceOffer!", [this] {
+        lstDraftList->clear();
+        EachRanked(OpenLeague, DraftList, [this](int id, const std::string& name) {
+            lstDraftList->Add(ToQString(name), id, {QString::number(lstDraftList->count() + 1)});
+        });
+        lblTotal->setText(QString::number(lstDraftList->count()) + " Players List");
+        for (QPushButton* command : {cmdSaveToFile, cmdUp, cmdDown, cmdRemove})
+            command->setEnabled(lstDraftList->count() >= 1);
+    });
+}
+
+void frmDraft::chkPosition_Click(int /*position*/) { ShowPlayer(); }
+
+void frmDraft::cmdChoose_Click()
+{
+    Reporting(Machine(), " in cmdChoose!", [this] {
+        std::optional<int> id;
+        if (const QListWidgetItem* chosen = lstPlayers->Chosen())
+            id = chosen->data(entry::NumberRole).toInt();
+        if (RankLast(OpenWork(), DraftList, id))
+            PlaceOffer();
+    });
+}
+
+std::optional<int> frmDraft::ChosenRank() const
+{
+    const QListWidgetItem* chosen = lstDraftList->Chosen();
+    if (chosen == nullptr)
+        return std::nullopt;
+    return lstDraftList->row(chosen);
+}
+
+void frmDraft::cmdRemove_Click()
+{
+    Reporting(Machine(), " in cmdRemove!", [this] {
+        if (Unrank(OpenWork(), DraftList, ChosenRank()))
+            PlaceOffer();
+    });
+}
+
+void frmDraft::MoveChosen(RankStep step, QPushButton* command)
+{
+    const auto rank = MoveRank(OpenWork(), DraftList, ChosenRank(), step, lstDraftList->count());
+    if (!rank)
+        return;
+    PlaceOffer();
+    lstDraftList->setCurrentRow(*rank);
+    command->setFocus();
+}
+
+void frmDraft::cmdUp_Click()
+{
+    Reporting(Machine(), " in cmdUp!", [this] { MoveChosen(RankStep::Up, cmdUp); });
+}
+
+void frmDraft::cmdDown_Click()
+{
+    Reporting(Machine(), " in cmdDown!", [this] { MoveChosen(RankStep::Down, cmdDown); });
+}
+
+void frmDraft::lstDraftList_Dropped(int from, int to)
+{
+    const int rank = MoveRankTo(DraftList, from, to);
+    PlaceOffer();
+    lstDraftList->setCurrentRow(rank);
+}
+
+void frmDraft::cmdSearch_Click()
+{
+    Reporting(Machine(), " in cmdSearch!", [this] {
+        const int found = SearchPlayer(*lstPlayers);
+        if (found >= 0)
+            lstPlayers->setCurrentRow(found);
+    });
+}
+
+void frmDraft::OpenViewer(int id)
+{
+    SelectPerson(PersonOf(id));
+    ViewerReturnMode = 4;
+    Open("EditPlayer");
+}
+
+void frmDraft::lstPlayers_DblClick()
+{
+    if (const QListWidgetItem* chosen = lstPlayers->Chosen())
+        OpenViewer(chosen->data(entry::NumberRole).toInt());
+}
+
+void frmDraft::lstDraftList_DblClick()
+{
+    if (const QListWidgetItem* chosen = lstDraftList->Chosen())
+        OpenViewer(static_cast<int>(DraftList[lstDraftList->row(chosen)]));
+}
+
+void frmDraft::cmdSaveToFile_Click()
+{
+    Reporting(Machine(), " in cmdSaveToFile!", [this] {
+        if (!MaySaveRanking(OpenWork(), lstDraftList->count()) || !CheckPassword(OpenLeague, Machine(), OwnNumber()))
+            return;
+        std::optional<std::string> saved;
+        BehindWait([&] {
+            saved = SaveRanking(OpenLeague, OpenFiles(), OwnNumber(), DraftList, DraftType);
+            return saved.has_value();
+        });
+        if (saved)
+            Machine().ShowBox(*saved, box::Information);
+    });
+}
+
+void frmDraft::cmdExit_Click() { Unload(); }
+
+} // namespace dravik

@@ -1,0 +1,331 @@
+#include "screens/market/frmFreeAgentClient.h"
+
+#include "desk/FreeAgents.h"
+#include "desk/Password.h"
+#include "files/OffersFile.h"
+#include "machine/Reporting.h"
+#include "machine/ReportPages.h"
+#include "rules/StatRows.h"
+#include "screens/BehindWait.h"
+#include "screens/EventGuard.h"
+#include "screens/panels/NameSearch.h"
+#include "screens/PersonWords.h"
+#include "screens/platform/CodePage.h"
+#include "screens/Stage.h"
+#include "session/Session.h"
+
+#include <QApplication>
+#include <QSignalBlocker>
+#include <utility>
+
+// The list, the person chosen in it, the four boxes of his offer, and the offer file.
+namespace dravik {
+
+namespace {
+
+Team& OwnTeam() { return Teams[CurrentTeam]; }
+
+int OwnNumber() { return static_cast<int>(CurrentTeam); }
+
+std::string Money(long long amount) { return Machine().CurrencyNoDecimals(static_cast<double>(amount)); }
+
+StatRows RowsOf(PersonId who)
+{
+    return who.IsGoalie ? GoalieStatRows(OpenLeague, Machine(), who.Slot, static_cast<int>(GoalieStatCount))
+                        : SkaterStatRows(OpenLeague, Machine(), who.Slot, static_cast<int>(PlayerStatCount));
+}
+
+// Shows in a box the number that is taken in the place of its own.
+TakesInstead Into(EditBox* box)
+{
+    return [box](int number) { box->setText(QString::number(number)); };
+}
+
+} // namespace
+
+// An entry of the list. What is drawn beside the name is made up when it is drawn: the offer, and the overall where the
+// league shows it.
+class frmFreeAgentClient::Entry : public EntryItem {
+public:
+    Entry(const QString& text, int number, const OfferTable& all) : EntryItem(text), id(number), offers(all) {}
+
+    [[nodiscard]] QVariant data(int role) const override
+    {
+        switch (role) {
+        case entry::NumberRole:
+            return id;
+        case entry::AsideRole:
+            return Aside();
+        default:
+            return EntryItem::data(role);
+        }
+    }
+
+private:
+    [[nodiscard]] QStringList Aside() const
+    {
+        const PersonId who = PersonOf(id);
+        QStringList words;
+        const std::string offer = OfferInShort(OpenLeague, Machine(), offers, who);
+        if (!offer.empty())
+            words << ToQString(offer);
+        if (LeagueData.ShowOverall)
+            words << OverallOf(who);
+        return words;
+    }
+    int id;
+    const OfferTable& offers;
+};
+
+void frmFreeAgentClient::FormLoad()
+{
+    RunEvent("FormLoad frmFreeAgentClient", [this] {
+        CentreOnScreen();
+        if (!TeamTable::Has(CurrentTeam)) {
+            Machine().ShowIntegrityFailure();
+            chkShowPlayerWithOffer->setEnabled(false); // the list stays empty
+            return;
+        }
+        lblInfo->setText("Don't use a comma, a period or a dollar sign ($) in the salary, duration and bonus text box. "
+                         "-- You need to fill the salary and duration textbox for a offer to be save.");
+        OpenOffers(OpenWork(), OwnNumber(), FreeAgentOffers);
+        lblMaxOffer->setText(ToQString(OfferLimitWords(LeagueData)));
+        ShowTally();
+        SetTitle(ToQString(ProgramTitle) + " - Free Agent Client");
+        lblTeam->setText("Free Agents Offer For : " + ToQString(OwnTeam().Name.Trimmed()));
+        ShowPlayer();
+    });
+}
+
+void frmFreeAgentClient::ShowPlayer()
+{
+    Reporting(Machine(), " in ShowPlayer!", [this] {
+        lstPlayers->Empty();
+        EachFreeAgent(OpenLeague, FreeAgentOffers, {.WithOfferOnly = chkShowPlayerWithOffer->isChecked()},
+                      [this](const FreeAgent& agent) {
+                          lstPlayers->addItem(new Entry(ToQString(agent.Text), agent.Id, FreeAgentOffers));
+                      });
+        if (lstPlayers->count() > 0)
+            Choose(0);
+        else
+            ShowNobody();
+    });
+}
+
+void frmFreeAgentClient::Choose(int row)
+{
+    {
+        const QSignalBlocker quiet(lstPlayers);
+        lstPlayers->setCurrentRow(row, QItemSelectionModel::ClearAndSelect);
+    }
+    lstPlayers_Click();
+}
+
+void frmFreeAgentClient::ShowNobody()
+{
+    Stats->ClearNumbers();
+    for (EditBox* box : {txtSalary, txtAge, txtOffer, txtDuration, txtBonus})
+        box->clear();
+    txtSalary->setToolTip({});
+    txtComment->clear();
+    lblStatus->setText(NoStatus);
+    EnableOffer(false);
+}
+
+void frmFreeAgentClient::FormUnload() { ShowWaitingBox(); }
+
+void frmFreeAgentClient::Tell(std::function<void()> box)
+{
+    waitingBox = std::move(box);
+    if (isPressed)
+        secondPress.start(QApplication::doubleClickInterval());
+    else
+        ShowWaitingBox();
+}
+
+void frmFreeAgentClient::ShowWaitingBox()
+{
+    secondPress.stop();
+    if (const auto show = std::exchange(waitingBox, nullptr))
+        Reporting(Machine(), " in LstPlayers Click.", show);
+}
+
+void frmFreeAgentClient::lstPlayers_Click()
+{
+    ShowWaitingBox();
+    Reporting(Machine(), " in LstPlayers Click.", [this] {
+        Stats->HideRows();
+        const QListWidgetItem* current = lstPlayers->currentItem();
+        if (current == nullptr)
+            return;
+        OfferIndex = current->data(entry::NumberRole).toInt();
+        if (const auto who = FreeAgentOf(OpenLeague, static_cast<int>(OfferIndex)))
+            ShowPerson(*who);
+        else
+            Tell([] { Machine().ShowIntegrityFailure(); });
+    });
+}
+
+void frmFreeAgentClient::ShowPerson(PersonId who)
+{
+    OnPerson(OpenLeague, who, [&](const auto& person) {
+        Stats->ShowRows(RowsOf(who));
+        Stats->SetName(ToQString(person.Name.Trimmed()));
+        txtAge->setText(QString::number(person.Age));
+        txtSalary->setText(QString::number(person.Salary));
+        txtSalary->setToolTip(ToQString(Money(person.Salary)));
+    });
+    lblStatus->setText(IsRestricted(OpenLeague, who) ? "Status : RFA" : "Status : UFA");
+    const FreeAgentOffer* offer = TakeOffer(OpenLeague, OwnNumber(), FreeAgentOffers, who);
+    if (offer == nullptr) {
+        EnableOffer(false);
+        for (EditBox* box : {txtOffer, txtDuration, txtBonus})
+            box->setText("0");
+        txtComment->clear();
+        Tell([words = BarredWords(OpenLeague, who)] { Machine().ShowBox(words, box::Warning); });
+        return;
+    }
+    if (!txtOffer->isEnabled())
+        EnableOffer(true);
+    txtOffer->setText(QString::number(offer->Salary));
+    txtDuration->setText(QString::number(offer->Duration));
+    txtBonus->setText(QString::number(offer->Bonus));
+    txtComment->setPlainText(ToQString(offer->Comment.Trimmed()));
+}
+
+void frmFreeAgentClient::EnableOffer(bool enabled)
+{
+    for (QWidget* box : std::initializer_list<QWidget*>{txtOffer, txtDuration, txtBonus, txtComment})
+        box->setEnabled(enabled);
+}
+
+void frmFreeAgentClient::lstPlayers_DblClick()
+{
+    RunEvent("lstPlayers_DblClick", [this] {
+        const QListWidgetItem* current = lstPlayers->currentItem();
+        if (current == nullptr)
+            return;
+        SelectPerson(PersonOf(current->data(entry::NumberRole).toInt()));
+        constexpr int fromOffers = 3;
+        ViewerReturnMode = fromOffers;
+        Open("EditPlayer");
+        ShowWaitingBox(); // in front of the record
+    });
+}
+
+void frmFreeAgentClient::chkShowPlayerWithOffer_Click()
+{
+    // Its key asks for it a moment before it is ticked. A box that refused its text has the focus back by then and keeps
+    // its person shown.
+    if (dynamic_cast<LeavingBox*>(focusWidget()) != nullptr) {
+        const QSignalBlocker silent(chkShowPlayerWithOffer);
+        chkShowPlayerWithOffer->toggle();
+        return;
+    }
+    ShowWaitingBox();
+    ShowPlayer();
+}
+
+bool frmFreeAgentClient::IsTaken(LeavingBox& box, Entered entered)
+{
+    if (entered != Entered::Refused)
+        return entered == Entered::Stored;
+    const EventGuard guard;
+    box.TakeFocusBack();
+    return false;
+}
+
+void frmFreeAgentClient::txtOffer_LostFocus()
+{
+    Reporting(Machine(), " in txtOffer LostFocus.", [this] {
+        if (IsTaken(*txtOffer, OfferSalary(OpenWork(), FreeAgentOffers, PersonAtHand(), FromQString(txtOffer->text()),
+                                           Into(txtOffer))))
+            ShowTally();
+    });
+}
+
+void frmFreeAgentClient::txtDuration_LostFocus()
+{
+    Reporting(Machine(), " in txtDuration LostFocus.", [this] {
+        if (IsTaken(*txtDuration, OfferDuration(OpenWork(), FreeAgentOffers, PersonAtHand(),
+                                                FromQString(txtDuration->text()), Into(txtDuration))))
+            ShowTally();
+    });
+}
+
+void frmFreeAgentClient::txtBonus_LostFocus()
+{
+    RunEvent("txtBonus_LostFocus", [this] {
+        if (IsTaken(*txtBonus, OfferBonus(OpenWork(), FreeAgentOffers, PersonAtHand(), FromQString(txtBonus->text()))))
+            ShowTally();
+    });
+}
+
+void frmFreeAgentClient::txtComment_LostFocus()
+{
+    RunEvent("txtComment_LostFocus", [this] {
+        IsTaken(*txtComment,
+                OfferComment(OpenWork(), FreeAgentOffers, PersonAtHand(), FromQString(txtComment->toPlainText())));
+    });
+}
+
+void frmFreeAgentClient::cmdSearch_Click()
+{
+    ShowWaitingBox();
+    Reporting(Machine(), " in cmdSearch!", [this] {
+        const int row = SearchPlayer(*lstPlayers);
+        if (row >= 0)
+            Choose(row);
+    });
+}
+
+void frmFreeAgentClient::cmdSaveToFile_Click()
+{
+    ShowWaitingBox();
+    Reporting(Machine(), " in cmdSaveToFile!", [this] {
+        if (!CheckPassword(OpenLeague, Machine(), OwnNumber()))
+            return;
+        std::optional<std::string> report;
+        BehindWait([&] {
+            report = SaveOffers(OpenWork(), OpenFiles(), OwnNumber(), FreeAgentOffers);
+            return report.has_value();
+        });
+        for (const std::string& page : ReportPages(report.value_or("")))
+            Machine().ShowBox(page, box::Information);
+    });
+}
+
+void frmFreeAgentClient::cmdExit_Click() { Unload(); }
+
+void frmFreeAgentClient::ShowTally()
+{
+    const OffersTally tally = TallyOffers(OpenLeague, OwnNumber(), FreeAgentOffers);
+    lblOffersMade->Tell(QString("%1 of %2 offers to others made")
+                            .arg(tally.ToOthers)
+                            .arg(static_cast<long long>(LeagueData.OffersLeft)),
+                        tally.ToOthers <= LeagueData.OffersLeft);
+    lblOffersCost->setText(QString("%1 in all: %2 a season, %3 in bonus")
+                               .arg(tally.Count)
+                               .arg(ToQString(Money(tally.Salaries)), ToQString(Money(tally.Bonuses))));
+    lstPlayers->viewport()->update();
+}
+
+bool frmFreeAgentClient::eventFilter(QObject* watched, QEvent* event)
+{
+    // The mouse takes the focus to the list before it presses there. A box that refused its text has it back by now; nobody
+    // else is shown before that text is mended.
+    if (watched == lstPlayers->viewport()) {
+        const bool isPress = event->type() == QEvent::MouseButtonPress;
+        if ((isPress || event->type() == QEvent::MouseButtonDblClick) &&
+            dynamic_cast<LeavingBox*>(focusWidget()) != nullptr)
+            return true;
+        if (isPress) {
+            isPressed = true;
+            QMetaObject::invokeMethod(
+                this, [this] { isPressed = false; }, Qt::QueuedConnection);
+        }
+    }
+    return Screen::eventFilter(watched, event);
+}
+
+} // namespace dravik

@@ -1,0 +1,205 @@
+#include "screens/player/frmEditPlayer.h"
+
+#include "desk/PlayerPosition.h"
+#include "screens/EventGuard.h"
+#include "screens/platform/CodePage.h"
+#include "screens/RosterEntry.h"
+#include "screens/Stage.h"
+#include "session/Routines.h"
+
+#include <QSignalBlocker>
+
+// What the player viewer shows: its list, the record and the ratings.
+namespace dravik {
+
+namespace {
+
+constexpr int FirstSlot = 1;
+
+std::string NameAndPosition(const std::string& name, int position)
+{
+    return name + " (" + std::string(PositionName[position]) + ")";
+}
+
+QString Title(std::string_view ending) { return ToQString(std::string(ProgramTitle) + std::string(ending)); }
+
+bool IsChosen(long long number, bool isGoalie)
+{
+    return SelectedPlayer == 0 || (number == SelectedPlayer && isGoalie == SelectedIsGoalie);
+}
+
+} // namespace
+
+void frmEditPlayer::FormLoad()
+{
+    Reporting(" in FormLoad FrmEditPlayer!", [this] {
+        CentreOnScreen();
+        SetTitle(Title(" - Edit Player"));
+        RepairPositions(OpenWork());
+        ListPeople();
+        if (lstPlayer->count() > 0)
+            Choose(0);
+        if (lstPlayer->count() > 1)
+            chkEdit->setChecked(true);
+        else
+            cmdSearch->setEnabled(false);
+        SetTitle(Title(" - Show Player"));
+    });
+    CloseEditor();
+}
+
+void frmEditPlayer::ListPeople()
+{
+    const bool isEverybody = SelectedPlayer == 0;
+    const auto add = [this, isEverybody](const auto& person, int position) {
+        AddEntry(person.Name.Trimmed(), static_cast<int>(person.Number), position);
+        if (isEverybody)
+            return;
+        MakeCurrent(lstPlayer->count() - 1);
+        PlayerPosition = position;
+        for (QPushButton* command : {cmdNewPlayer, cmdNewGoaler, cmdErase})
+            command->hide();
+    };
+    for (int slot = FirstSlot; slot <= PlayerTable::last; ++slot)
+        if (Players[slot].InUse && IsChosen(Players[slot].Number, false))
+            add(Players[slot], static_cast<int>(Players[slot].Position));
+    for (int slot = FirstSlot; slot <= GoalieTable::last; ++slot)
+        if (Goalies[slot].InUse && IsChosen(Goalies[slot].Number, true))
+            add(Goalies[slot], position::Goalie);
+    FitList();
+}
+
+void frmEditPlayer::AddEntry(const std::string& name, int id, int position)
+{
+    const QSignalBlocker quiet(lstPlayer);
+    lstPlayer->Add(ToQString(NameAndPosition(name, position)), EntryNumber(id, position));
+}
+
+void frmEditPlayer::RewriteEntry()
+{
+    QListWidgetItem* item = lstPlayer->item(ListPosition);
+    const auto person = ShownPerson();
+    if (item == nullptr || !person)
+        return;
+    item->setText(ToQString(NameAndPosition(TextOf(OpenLeague, *person, TextField::Name), PlayerPosition)));
+    item->setData(entry::NumberRole, EntryNumber(person->Slot, PlayerPosition));
+}
+
+void frmEditPlayer::MakeCurrent(int entry)
+{
+    const QSignalBlocker quiet(lstPlayer);
+    lstPlayer->setCurrentRow(entry);
+}
+
+void frmEditPlayer::Choose(int entry)
+{
+    MakeCurrent(entry);
+    lstPlayer_Click();
+}
+
+bool frmEditPlayer::IsPersonShown() const
+{
+    return PlayerPosition >= position::Center && PlayerPosition <= position::Goalie;
+}
+
+std::optional<PersonId> frmEditPlayer::ShownPerson() const
+{
+    if (!IsPersonShown()) {
+        Machine().ShowIntegrityFailure();
+        return std::nullopt;
+    }
+    return PersonId{PlayerPosition == position::Goalie, static_cast<int>(SelectedPlayer)};
+}
+
+void frmEditPlayer::lstPlayer_Click()
+{
+    Reporting(" in LstPlayer_Click", [this] {
+        const EventGuard guard;
+        const QListWidgetItem* current = lstPlayer->currentItem();
+        if (current != nullptr) {
+            const int number = current->data(entry::NumberRole).toInt();
+            SelectedPlayer = EntryId(number);
+            PlayerPosition = EntryPosition(number);
+            ListPosition = lstPlayer->currentRow();
+        }
+        ratings->Hide();
+        if (current == nullptr)
+            return;
+        if (const auto person = ShownPerson())
+            ShowRecord(*person);
+    });
+}
+
+void frmEditPlayer::ShowRecord(PersonId person)
+{
+    optGoaler->setVisible(person.IsGoalie);
+    for (QRadioButton* option : optPosition)
+        option->setVisible(!person.IsGoalie);
+    ClearPositions();
+    ShowFields(person);
+    txtTeam->setText(ToQString(EmployerOf(OpenLeague, person)));
+    const std::optional<std::string> injury = InjuryOf(OpenLeague, person);
+    txtInjury->setEnabled(injury.has_value());
+    txtInjury->setText(ToQString(injury.value_or(std::string())));
+    TickPosition(person.IsGoalie ? optGoaler : optPosition[Players[person.Slot].Position]);
+    OnPerson(OpenLeague, person, [this](const auto& record) {
+        chkRookie->setChecked(static_cast<bool>(record.Rookie));
+        chkNoTrade->setChecked(static_cast<bool>(record.NoTrade));
+        chkNoApplyRerate->setChecked(static_cast<bool>(record.NoApplyRerate));
+    });
+    ShowRatings(person);
+}
+
+void frmEditPlayer::ClearPositions()
+{
+    PositionEventsOn = false;
+    positions->setExclusive(false);
+    for (QAbstractButton* option : positions->buttons())
+        option->setChecked(false);
+    positions->setExclusive(true);
+    PositionEventsOn = true;
+}
+
+void frmEditPlayer::TickPosition(QRadioButton* option)
+{
+    PositionEventsOn = false;
+    option->setChecked(true);
+    PositionEventsOn = true;
+}
+
+void frmEditPlayer::ShowRatings(PersonId person)
+{
+    const StatRows rows = person.IsGoalie ? GoalieStatRows(person.Slot) : SkaterStatRows(person.Slot);
+    int row = 0;
+    for (const StatRow& rating : rows.Ratings)
+        SetRow(++row, rating);
+    if (rows.OverallRow)
+        SetRow(++row, *rows.OverallRow);
+}
+
+void frmEditPlayer::SetRow(int row, const StatRow& shown)
+{
+    txtStats[row]->setText(QString::number(shown.Value));
+    ShowRow(row, shown.Label, shown.Value);
+}
+
+void frmEditPlayer::ShowRow(int row, std::string_view label, int rating)
+{
+    txtStats[row]->setAccessibleName(ToQString(label));
+    ratings->Show(row, ToQString(label), rating);
+}
+
+// Shows the overall anew after a rating has changed.
+void frmEditPlayer::ShowOverall()
+{
+    const PersonId person{PlayerPosition == position::Goalie, static_cast<int>(SelectedPlayer)};
+    const StatRows rows = person.IsGoalie ? GoalieStatRows(person.Slot) : SkaterStatRows(person.Slot);
+    if (rows.OverallRow)
+        SetRow(static_cast<int>(rows.Ratings.size()) + 1, *rows.OverallRow);
+}
+
+void frmEditPlayer::FormUnload() { Owner.ViewerClosed(Changed); }
+
+void frmEditPlayer::cmdExit_Click() { Unload(); }
+
+} // namespace dravik

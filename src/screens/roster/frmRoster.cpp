@@ -1,0 +1,318 @@
+#include "screens/roster/frmRoster.h"
+
+#include "machine/Platform.h"
+#include "rules/People.h"
+#include "rules/Waivers.h"
+#include "screens/EventGuard.h"
+#include "screens/PersonWords.h"
+#include "screens/platform/CodePage.h"
+#include "screens/RosterEntry.h"
+#include "screens/Stage.h"
+#include "session/Routines.h"
+
+#include <algorithm>
+#include <type_traits>
+
+// Opening, the three lists, the person chosen in them, and the one way in which a person changes lists.
+namespace dravik {
+
+namespace {
+
+Team& OwnTeam() { return Teams[CurrentTeam]; }
+
+int OwnNumber() { return static_cast<int>(CurrentTeam); }
+
+template <class Person>
+constexpr bool IsGoalie = std::is_same_v<std::remove_cv_t<Person>, Goalie>;
+
+QStringList LinesOf(const std::string& text) { return ToQString(text).split("\r\n", Qt::SkipEmptyParts); }
+
+// The findings of the last roster judgement without the heading and the closing words of its box. A judgement that broke
+// off got neither.
+QStringList Findings(const std::string& text)
+{
+    QStringList lines = LinesOf(text);
+    if (lines.size() < 2 || lines.back() != "Some errors will be automatically fixed.")
+        return lines;
+    return lines.mid(1, lines.size() - 2);
+}
+
+} // namespace
+
+void frmRoster::FormLoad()
+{
+    RunEvent("FormLoad FrmRoster", [this] {
+        CentreOnScreen();
+        if (!TeamTable::Has(CurrentTeam)) {
+            ShowIntegrityFailure();
+            Unload();
+            return;
+        }
+        const QString name = ToQString(OwnTeam().Name.Trimmed());
+        SetTitle(ToQString(ProgramTitle) + " - " + name + " - Roster");
+        lblTeamName->setText("Roster for " + name);
+        if (LeagueData.OffSeason) {
+            chkProtected->show();
+            lblProtectedTotal->show();
+        }
+        ShowPlayer(false);
+        for (QWidget* closed :
+             std::initializer_list<QWidget*>{cmdRelease, cmdSendToWaiver, chkNoApplyRerate, chkNoTrade})
+            closed->hide();
+        if (LeagueData.AutoRosterDisabled) {
+            cmdAutoRoster->setEnabled(false);
+            cmdAutoRosterPartial->setEnabled(false);
+        }
+        CheckRoster(OwnNumber(), false, true, true);
+        ShowReasons(true);
+    });
+}
+
+void frmRoster::FormUnload() { CheckRoster(OwnNumber(), false, true, true); }
+
+void frmRoster::ShowPlayer(bool noCheck)
+{
+    Reporting(" in ShowPlayer!", [&] {
+        for (PickList* list : lstPlayer)
+            list->Empty();
+        StatusCount = {};
+        OwnTeam().ProtectedCount = 0;
+        EachOfTeam(Players, OwnNumber(), [this](Player& player, int index) { ListPerson(player, index); });
+        EachOfTeam(Goalies, OwnNumber(), [this](Goalie& keeper, int index) { ListPerson(keeper, index); });
+        ShowListTotals();
+        HidePlayerDetails();
+        if (!noCheck)
+            JudgeLists();
+    });
+}
+
+template <class Person>
+void frmRoster::ListPerson(Person& person, int index)
+{
+    const std::string name = person.Name.Trimmed();
+    if (person.Status > status::Pro) {
+        ShowBox(name + " has no status!", box::Warning);
+        return;
+    }
+    if (person.Status == status::Farm)
+        KeepOffFarm(OpenWork(), {.IsGoalie = IsGoalie<Person>, .Slot = index});
+    ++StatusCount[person.Status];
+    if (person.Status > status::Farm && IsFit(person))
+        ++StatusCount[3];
+    const int position = PositionOf(person);
+    if constexpr (!IsGoalie<Person>) {
+        if (position < position::Center || position > position::Defense) {
+            ShowBox(name + " has no position!", box::Warning);
+            return;
+        }
+    }
+    if (chkPosition[position]->isChecked()) {
+        const PersonId named{.IsGoalie = IsGoalie<Person>, .Slot = static_cast<int>(person.Number)};
+        const std::string mark = OfficeMark(OwnTeam(), named);
+        const std::string text = EntryText(name, mark, static_cast<bool>(person.TradeAvailable));
+        lstPlayer[person.Status]->Add(ToQString(text), EntryNumber(person.Number, position), AsideOf(position, index));
+    }
+    if (person.Protected)
+        ++OwnTeam().ProtectedCount;
+}
+
+void frmRoster::JudgeLists()
+{
+    RosterFixed = 0;
+    const bool complete = CheckRoster(OwnNumber(), false, true, false);
+    if (!complete && RosterFixed == 1)
+        ShowPlayer(true);
+    ShowVerdict(complete);
+    ShowReasons(true);
+    const Team& team = OwnTeam();
+    lblProtectedTotal->setText(" Total Protected Players: " + QString::number(team.ProtectedCount));
+    if (team.ProtectedCount > LeagueData.MaxProtected)
+        ShowBox("Too Many Protected Players!", box::Information);
+}
+
+void frmRoster::ShowVerdict(bool complete)
+{
+    lblComplete->Tell(complete ? "Roster Is Complete" : "Roster Is Incomplete", complete);
+}
+
+void frmRoster::ShowReasons(bool withSalaryCap)
+{
+    QStringList lines = Findings(LastRosterText());
+    if (withSalaryCap && LeagueData.SalaryCapMode != 0)
+        lines << LinesOf(LastCapText());
+    txtReasons->Tell(lines.join('\n'));
+    ShowPayroll();
+}
+
+// There is no bar for a payroll or a cap beyond 32 bits. Judging the payroll tells of it; a move, which does not judge
+// it, goes on without a word.
+void frmRoster::ShowPayroll()
+{
+    try {
+        Payroll->Show(StandingAgainstCap(OwnNumber()));
+    } catch (const Failure&) {
+        Payroll->hide();
+    }
+}
+
+void frmRoster::ShowListTotals()
+{
+    const auto total = [this](int index, const char* words) {
+        lblPlayer[index]->setText(words + QString::number(lstPlayer[index]->count()));
+    };
+    total(status::Pro, "Pro Player = ");
+    total(status::Scratch, "Scratches Player = ");
+    total(status::Farm, "Farm Player = ");
+}
+
+void frmRoster::HidePlayerDetails()
+{
+    for (QWidget* command : std::initializer_list<QWidget*>{
+             cmdToFarm, cmdToPro, cmdToScratchesFromFarm, cmdToScratchesFromPro, cmdTradeAvailable, cmdCaptain,
+             cmdAssistant, cmdRelease, cmdSendToWaiver, chkProtected, chkNoApplyRerate, chkNoTrade})
+        command->setEnabled(false);
+    Stats->HideRows();
+}
+
+void frmRoster::lstPlayer_Click(int index)
+{
+    Reporting(" in LstPlayer_Click!", [&] {
+        if (ListEventGuard)
+            return;
+        const PickList* list = lstPlayer[index];
+        const QListWidgetItem* current = list->currentItem();
+        if (current != nullptr) {
+            const int number = current->data(entry::NumberRole).toInt();
+            SelectPerson(EntryPerson(number));
+        }
+        HidePlayerDetails();
+        int chosen = 0;
+        {
+            const EventGuard guard;
+            for (PickList* other : lstPlayer) {
+                if (other == list)
+                    continue;
+                other->SetCurrentToNone();
+                // The first entry keeps its choice.
+                for (int row = 1; row < other->count(); ++row)
+                    other->item(row)->setSelected(false);
+            }
+            chosen = list->ChosenCount();
+        }
+        if (chosen == 1) {
+            if (current == nullptr)
+                return;
+            for (QPushButton* command : {cmdTradeAvailable, cmdCaptain, cmdAssistant, cmdRelease})
+                command->setEnabled(true);
+            if (LeagueData.WaiverAllowed)
+                cmdSendToWaiver->setEnabled(true);
+            if (DeadlineHasPassed(LeagueData))
+                cmdSendToWaiver->setEnabled(false);
+            for (QCheckBox* flag : {chkProtected, chkNoApplyRerate, chkNoTrade})
+                flag->setEnabled(true);
+            Stats->ShowPosition(ToQString(PositionName[EntryPosition(current->data(entry::NumberRole).toInt())]));
+            ShowStats();
+        }
+        switch (index) {
+        case status::Farm:
+            cmdToScratchesFromFarm->setEnabled(true);
+            break;
+        case status::Scratch:
+            cmdToFarm->setEnabled(true);
+            cmdToPro->setEnabled(true);
+            break;
+        default:
+            cmdToScratchesFromPro->setEnabled(true);
+            break;
+        }
+    });
+}
+
+// Row by row, so that what breaks leaves the rows before it, and the overall's own box comes up over the ratings.
+template <class Person>
+void frmRoster::ShowRatings(const Person& person, int index)
+{
+    constexpr bool isGoalie = IsGoalie<Person>;
+    const auto show = [this](int row, const StatRow& shown) { Stats->ShowRow(row, shown); };
+    if constexpr (isGoalie)
+        TellGoalieRatings(index, show);
+    else
+        TellSkaterRatings(index, show);
+    const int overall = CalculateOverall(PositionOf(person), index);
+    PlayerOverall = overall;
+    if (LeagueData.ShowOverall) {
+        const auto behind = static_cast<int>((isGoalie ? GoalieStatCount : PlayerStatCount) + 1);
+        Stats->ShowRow(behind, isGoalie ? GoalieOverallRow(overall) : SkaterOverallRow(overall));
+    }
+}
+
+template <class Person>
+void frmRoster::ShowFlags(const Person& person)
+{
+    const EventGuard guard;
+    chkProtected->setChecked(static_cast<bool>(person.Protected));
+    chkNoTrade->setChecked(static_cast<bool>(person.NoTrade));
+    chkNoApplyRerate->setChecked(static_cast<bool>(person.NoApplyRerate));
+    if (person.NoTrade)
+        cmdTradeAvailable->setEnabled(false);
+}
+
+void frmRoster::ShowStats()
+{
+    Reporting(" in ShowStats!", [this] {
+        if (SelectedIsGoalie && !GoalieTable::Has(SelectedPlayer)) {
+            ShowIntegrityFailure();
+            return;
+        }
+        const int id = static_cast<int>(SelectedPlayer);
+        OnPerson(OpenLeague, SelectedPerson(), [&](const auto& person) {
+            Stats->SetName(ToQString(person.Name.Trimmed()));
+            ShowRatings(person, id);
+            ShowFlags(person);
+            if (SelectedIsGoalie || person.Status == status::Farm) {
+                cmdCaptain->setEnabled(false);
+                cmdAssistant->setEnabled(false);
+            }
+        });
+    });
+}
+
+void frmRoster::Change(int from, int to, int id, int position, bool& done)
+{
+    done = false;
+    Reporting(" in Change!", [&] {
+        if (position < position::Center || position > position::Goalie) {
+            ShowBox("Unable to extract position information!", box::Warning);
+            return;
+        }
+        const PersonId who{.IsGoalie = position == position::Goalie, .Slot = id};
+        if (!MoveOnRoster(OpenWork(), OwnNumber(), who, from, to, StatusCount))
+            return;
+        for (QPushButton* move : {cmdToFarm, cmdToPro, cmdToScratchesFromFarm, cmdToScratchesFromPro})
+            move->setEnabled(false);
+        ShowVerdict(CheckRoster(OwnNumber(), false, false, false));
+        ShowReasons(false);
+        HidePlayerDetails();
+        done = true;
+    });
+}
+
+void frmRoster::lstPlayer_DblClick(int index)
+{
+    Reporting(" in lstPlayer_DblClick!", [&] {
+        const QListWidgetItem* current = lstPlayer[index]->currentItem();
+        if (current == nullptr)
+            return;
+        const int number = current->data(entry::NumberRole).toInt();
+        SelectPerson(EntryPerson(number));
+        constexpr int fromRoster = 2;
+        ViewerReturnMode = fromRoster;
+        Open("EditPlayer");
+    });
+}
+
+void frmRoster::chkPosition_Click(int /*position*/) { ShowPlayer(false); }
+
+void frmRoster::cmdExit_Click() { Unload(); }
+
+} // namespace dravik

@@ -1,0 +1,194 @@
+#include "desk/Captaincy.h"
+#include "desk/PlayerFlags.h"
+#include "desk/Release.h"
+#include "desk/RosterMoves.h"
+#include "screens/platform/CodePage.h"
+#include "screens/roster/frmRoster.h"
+#include "screens/RosterEntry.h"
+#include "session/Routines.h"
+
+// The commands of the roster screen: the moves between the lists, waivers, release, captaincy, flags and automatic rosters.
+namespace dravik {
+
+namespace {
+
+int OwnNumber() { return static_cast<int>(CurrentTeam); }
+
+} // namespace
+
+void frmRoster::MoveEntry(int from, int to, int row)
+{
+    lstPlayer[to]->TakeFrom(*lstPlayer[from], row);
+    ShowListTotals();
+}
+
+void frmRoster::MoveChosen(int from, int to, Permission (frmRoster::*mayMove)())
+{
+    PickList* list = lstPlayer[from];
+    for (int row = 0; row < list->count(); ++row) {
+        if (!list->IsChosen(row))
+            continue;
+        const Permission permission = (this->*mayMove)();
+        if (permission == Permission::Ended)
+            break;
+        if (permission == Permission::Refused)
+            continue;
+        const int number = list->item(row)->data(entry::NumberRole).toInt();
+        bool done = false;
+        Change(from, to, EntryId(number), EntryPosition(number), done);
+        if (done)
+            MoveEntry(from, to, row--); // the next entry stands here now
+    }
+    list->setFocus(); // where the next choice is made, since the command may have closed
+}
+
+// The overall of the person shown last decides for everybody chosen.
+Permission frmRoster::MayGoToFarm() { return dravik::MayGoToFarm(OpenWork(), PlayerOverall); }
+
+Permission frmRoster::MayLeaveFarm() { return dravik::MayLeaveFarm(OpenWork(), StatusCount); }
+
+void frmRoster::cmdToFarm_Click()
+{
+    Reporting(" in cmdToFarm!", [this] { MoveChosen(status::Scratch, status::Farm, &frmRoster::MayGoToFarm); });
+}
+
+void frmRoster::cmdToPro_Click()
+{
+    // Without "!": the ending by which general managers know this command's failures.
+    Reporting(" in cmdToPro", [this] { MoveChosen(status::Scratch, status::Pro, &frmRoster::MayMoveFreely); });
+}
+
+void frmRoster::cmdToScratchesFromPro_Click()
+{
+    Reporting(" in cmdToScratchesFromPro!",
+              [this] { MoveChosen(status::Pro, status::Scratch, &frmRoster::MayMoveFreely); });
+}
+
+void frmRoster::cmdToScratchesFromFarm_Click()
+{
+    Reporting(" in cmdToScratchesFromFarm!",
+              [this] { MoveChosen(status::Farm, status::Scratch, &frmRoster::MayLeaveFarm); });
+}
+
+void frmRoster::cmdSendToWaiver_Click()
+{
+    Reporting(" in cmdSendToWaiver!", [this] {
+        SendToWaivers(OpenWork(), OwnNumber(), SelectedPerson(), [this] { return ScratchSelected(); });
+    });
+}
+
+bool frmRoster::ScratchSelected()
+{
+    const PersonId who = SelectedPerson();
+    const int position = who.IsGoalie ? position::Goalie : static_cast<int>(Players[who.Slot].Position);
+    bool done = false;
+    Change(status::Pro, status::Scratch, who.Slot, position, done);
+    if (!done)
+        return false;
+    const int row = lstPlayer[status::Pro]->RowOf(EntryNumber(who.Slot, position));
+    if (row >= 0)
+        MoveEntry(status::Pro, status::Scratch, row);
+    return true;
+}
+
+void frmRoster::cmdRelease_Click()
+{
+    Reporting(" in cmdRelease!", [this] {
+        if (ReleasePerson(OpenWork(), OwnNumber(), SelectedPerson()))
+            ShowPlayer(false);
+        Modified = true;
+    });
+}
+
+void frmRoster::cmdCaptain_Click()
+{
+    Reporting(" in cmdCaptain!", [this] {
+        if (!MakeCaptain(OpenWork(), OwnNumber(), SelectedPerson()))
+            return;
+        ShowPlayer(false);
+        Modified = true;
+    });
+}
+
+void frmRoster::cmdAssistant_Click()
+{
+    Reporting(" in cmdAssistant!", [this] {
+        if (!MakeAssistant(OpenWork(), OwnNumber(), SelectedPerson()))
+            return;
+        ShowPlayer(false);
+        Modified = true;
+    });
+}
+
+QListWidgetItem* frmRoster::CurrentEntry()
+{
+    for (const PickList* list : lstPlayer)
+        if (list->currentItem() != nullptr)
+            return list->currentItem();
+    return nullptr;
+}
+
+void frmRoster::cmdTradeAvailable_Click()
+{
+    Reporting(" in cmdTradeAvailable!", [this] {
+        const PersonId who = SelectedPerson();
+        if (TakeBarredOffMarket(OpenWork(), who))
+            cmdTradeAvailable->setEnabled(false);
+        const bool isAvailable = IsTradeAvailable(OpenLeague, who);
+        QListWidgetItem* current = CurrentEntry();
+        if (current != nullptr) {
+            // Here the star follows whatever stands there without a blank; a list made anew sets it apart from a mark.
+            const std::string name =
+                OnPerson(OpenLeague, who, [](const auto& person) { return person.Name.Trimmed(); });
+            const std::string mark = OfficeMark(Teams[OwnNumber()], who);
+            current->setText(isAvailable ? ToQString(name + mark) : current->text() + "*");
+        }
+        SetTradeAvailable(OpenWork(), who, !isAvailable);
+    });
+}
+
+void frmRoster::chkProtected_Click()
+{
+    if (ListEventGuard)
+        return;
+    Reporting(" in chkProtected!", [this] {
+        SetProtected(OpenWork(), OwnNumber(), SelectedPerson(), chkProtected->isChecked());
+        lblProtectedTotal->setText(" Total Protected Players: " + QString::number(Teams[OwnNumber()].ProtectedCount));
+    });
+}
+
+void frmRoster::chkNoApplyRerate_Click()
+{
+    if (ListEventGuard)
+        return;
+    SetNoApplyRerate(OpenWork(), SelectedPerson(), chkNoApplyRerate->isChecked());
+}
+
+void frmRoster::chkNoTrade_Click()
+{
+    if (ListEventGuard)
+        return;
+    const bool noTrade = chkNoTrade->isChecked();
+    if (noTrade && IsTradeAvailable(OpenLeague, SelectedPerson()))
+        cmdTradeAvailable_Click();
+    SetNoTrade(OpenWork(), SelectedPerson(), noTrade);
+    cmdTradeAvailable->setEnabled(!noTrade);
+}
+
+void frmRoster::cmdAutoRoster_Click()
+{
+    Reporting(" in cmdAutoRoster!", [this] {
+        AutoRoster(OwnNumber(), true, false);
+        ShowPlayer(false);
+    });
+}
+
+void frmRoster::cmdAutoRosterPartial_Click()
+{
+    Reporting(" in cmdAutoRosterPartial!", [this] {
+        AutoRoster(OwnNumber(), true, true);
+        ShowPlayer(false);
+    });
+}
+
+} // namespace dravik

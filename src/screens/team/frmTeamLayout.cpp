@@ -1,0 +1,263 @@
+#include "screens/panels/ElidedLabel.h"
+#include "screens/panels/Labels.h"
+#include "screens/panels/Layouts.h"
+#include "screens/team/frmTeam.h"
+
+#include <QGroupBox>
+
+// What the team screen is made of and where it stands.
+namespace dravik {
+
+namespace {
+
+constexpr QSize DefaultSize(1080, 700);
+constexpr const char* LongestCaption = "General Manager";
+
+QGroupBox* MakeGroup(const char* name, const QString& caption, QWidget* parent)
+{
+    auto* group = new QGroupBox(caption, parent);
+    group->setObjectName(name);
+    return group;
+}
+
+QFrame* MakeRule(QWidget* parent)
+{
+    auto* rule = new QFrame(parent);
+    rule->setFrameStyle(QFrame::HLine | QFrame::Sunken);
+    return rule;
+}
+
+void Embolden(QLabel* label) { label->setFont(HeadingFont(label->font())); }
+
+} // namespace
+
+frmTeam::frmTeam(Stage& stage) : Screen(stage, "frmTeam")
+{
+    MakeControls();
+
+    auto* content = new QWidget(this);
+    QVBoxLayout* column = MakePage(content, Margin);
+
+    QHBoxLayout* header = MakeRow({lblTitle, lblDivision, lblConference}, Margin);
+    header->addStretch(1);
+    column->addLayout(header);
+
+    QVBoxLayout* identity = MakeColumn({MakeProGroup(), MakeFarmGroup(), MakeContactGroup()}, Margin);
+    identity->addStretch(1);
+    QVBoxLayout* money = MakeColumn({MakeFinanceGroup(), MakeProjectionGroup()}, Margin);
+    money->addStretch(1);
+    auto* grid = new QGridLayout;
+    grid->setSpacing(Margin);
+    grid->addWidget(MakeCommandGroup(), 0, 0);
+    grid->addWidget(MakeFileGroup(), 0, 1);
+    grid->addLayout(identity, 1, 0);
+    grid->addLayout(money, 1, 1);
+    grid->setColumnStretch(0, 1);
+    grid->setColumnStretch(1, 1);
+    grid->setRowStretch(1, 1);
+    column->addLayout(grid, 1);
+
+    SetPage(content, MakeFooter({cmdPassword, cmdProspect}, {cmdExit}));
+
+    CloseWhatTheLeagueKeeps();
+    SetTabOrder();
+    ShowSaveHint({}, {});
+    resize(DefaultSize.expandedTo(content->minimumSizeHint()));
+}
+
+void frmTeam::MakeControls()
+{
+    lblTitle = new ElidedLabel(this);
+    lblTitle->setFont(TitleFont(lblTitle->font()));
+    lblTitle->setObjectName("lblTitle");
+    lblDivision = new ElidedLabel(this, ElidedLabel::Words::Muted);
+    lblDivision->setObjectName("lblDivision");
+    lblConference = new ElidedLabel(this, ElidedLabel::Words::Muted);
+    lblConference->setObjectName("lblConference");
+    lblSaveHint = new MutedLabel(this);
+    lblSaveHint->setObjectName("lblSaveHint");
+    lblSaveHint->setTextFormat(Qt::PlainText);
+    signSaveHint = new WarningSign(this);
+    signSaveHint->setObjectName("signSaveHint");
+    // The screen keeps its shape when the hint goes.
+    QSizePolicy keepsPlace = lblSaveHint->sizePolicy();
+    keepsPlace.setRetainSizeWhenHidden(true);
+    lblSaveHint->setSizePolicy(keepsPlace);
+    lblSaveHint->setMinimumHeight(lblSaveHint->fontMetrics().height());
+
+    txtTeamName = MakeBox("txtTeamName", [this] { txtTeamName_LostFocus(); });
+    txtAbbre = MakeBox("txtAbbre", [this] { txtAbbre_LostFocus(); });
+    txtCity = MakeBox("txtCity", [this] { txtCity_LostFocus(); });
+    txtGm = MakeBox("txtGm", [this] { txtGm_LostFocus(); });
+    txtProMorale = MakeBox("txtProMorale", [this] { txtProMorale_LostFocus(); });
+    txtFarmTeamName = MakeBox("txtFarmTeamName", [this] { txtFarmTeamName_LostFocus(); });
+    txtFarmAbbre = MakeBox("txtFarmAbbre", [this] { txtFarmAbbre_LostFocus(); });
+    txtFarmMorale = MakeBox("txtFarmMorale", [this] { txtFarmMorale_LostFocus(); });
+    txtMessenger = MakeBox("txtMessenger", [this] { txtMessenger_LostFocus(); });
+    txtEmail = MakeBox("txtEmail", [this] { txtEmail_LostFocus(); });
+
+    lblCoach = MakeFigure("lblCoach", false);
+    lblFarmCoach = MakeFigure("lblFarmCoach", false);
+    lblLoadLine = MakeFigure("lblLoadLine", false);
+    lblFinance = MakeFigure("lblFinance");
+    lblProPayRoll = MakeFigure("lblProPayRoll");
+    lblFarmPayRoll = MakeFigure("lblFarmPayRoll");
+    lblGameLeft = MakeFigure("lblGameLeft");
+    lblHGLeft = MakeFigure("lblHGLeft");
+    lblAverageAttendance = MakeFigure("lblAverageAttendance");
+    lblAverageIncome = MakeFigure("lblAverageIncome");
+    lblEstimatedRevenue = MakeFigure("lblEstimatedRevenue");
+    lblExpensesPerGame = MakeFigure("lblExpensesPerGame");
+    lblEstimatedSeasonExpense = MakeFigure("lblEstimatedSeasonExpense");
+    lblEstimatedBankAccount = MakeFigure("lblEstimatedBankAccount");
+
+    CmdRoster = MakeCommand("CmdRoster", "&Roster", [this] { CmdRoster_Click(); });
+    cmdLines = MakeCommand("cmdLines", "&Lines", [this] { cmdLines_Click(); });
+    cmdFarmLines = MakeCommand("cmdFarmLines", "&Farm Lines", [this] { cmdFarmLines_Click(); });
+    cmdTicketArena = MakeCommand("cmdTicketArena", "&Tickets && Arena", [this] { cmdTicketArena_Click(); });
+    cmdSaveToFile = MakeCommand("cmdSaveToFile", "&Save Lines", [this] { cmdSaveToFile_Click(); });
+    cmdLoadFile = MakeCommand("cmdLoadFile", "L&oad Lines ...", [this] { cmdLoadFile_Click(); });
+    cmdExit = MakeCommand("cmdExit", "E&xit", [this] { cmdExit_Click(); });
+    cmdChangeFinance =
+        MakeCommand("cmdChangeFinance", "Change &Bank Account ...", [this] { cmdChangeFinance_Click(); });
+    cmdPayrollBonus = MakeCommand("cmdPayrollBonus", "Payroll Bo&nus ...", [this] { cmdPayrollBonus_Click(); });
+    cmdPassword = MakeCommand("cmdPassword", "Change &Password ...", [this] { cmdPassword_Click(); });
+    cmdChangeCoach = MakeCommand("cmdChangeCoach", "Change Coach", [this] { cmdChangeCoach_Click(); });
+    cmdFarmChangeCoach = MakeCommand("cmdFarmChangeCoach", "Change Coach", [this] { cmdFarmChangeCoach_Click(); });
+    cmdFirePro = MakeCommand("cmdFirePro", "Fire Coach", [this] { cmdFirePro_Click(); });
+    cmdFireFarm = MakeCommand("cmdFireFarm", "Fire Coach", [this] { cmdFireFarm_Click(); });
+    cmdProspect = MakeCommand("cmdProspect", "Prospects", [this] { cmdProspect_Click(); });
+    for (QPushButton* command : {cmdFarmChangeCoach, cmdFireFarm})
+        command->setAccessibleName("Farm: " + command->text());
+}
+
+QLabel* frmTeam::MakeFigure(const char* name, bool isNumber)
+{
+    auto* label = new ElidedLabel(this);
+    label->setObjectName(name);
+    label->setTextInteractionFlags(Qt::TextSelectableByMouse);
+    if (isNumber)
+        label->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+    return label;
+}
+
+void frmTeam::AddRow(QGridLayout* grid, const QString& caption, QWidget* field, int span)
+{
+    const int row = grid->rowCount();
+    auto* label = new MutedLabel(caption, this);
+    label->setObjectName(field->objectName() + "Caption");
+    label->setBuddy(field);
+    // A label is read by its own text; the name of a figure would hide it.
+    if (qobject_cast<EditBox*>(field) != nullptr)
+        field->setAccessibleName(QString(caption).remove('&'));
+    grid->addWidget(label, row, CaptionColumn);
+    grid->addWidget(field, row, FieldColumn, 1, span);
+}
+
+QWidget* frmTeam::MakeCommandGroup()
+{
+    auto* group = MakeGroup("grpTeam", "Team", this);
+    auto* commands = new QHBoxLayout(group);
+    SetGroupMargins(commands);
+    commands->setSpacing(Gap);
+    // The way of every evening: as large as the room allows.
+    for (QPushButton* command : {CmdRoster, cmdLines, cmdFarmLines, cmdTicketArena}) {
+        command->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::MinimumExpanding);
+        commands->addWidget(command, 1);
+    }
+    return group;
+}
+
+QWidget* frmTeam::MakeFileGroup()
+{
+    auto* group = MakeGroup("grpLinesFile", "Lines File", this);
+    QVBoxLayout* column = MakeColumn(group);
+    SetGroupMargins(column);
+    auto* loads = new MutedLabel("Times Loaded", group);
+    loads->setObjectName("lblLoadLineCaption");
+    loads->setBuddy(lblLoadLine);
+    column->addLayout(MakeFooter({cmdSaveToFile, cmdLoadFile}, {loads, lblLoadLine}));
+    QHBoxLayout* hint = MakeRow({signSaveHint, lblSaveHint});
+    hint->setStretch(1, 1);
+    column->addLayout(hint);
+    column->addStretch(1);
+    return group;
+}
+
+QWidget* frmTeam::MakeProGroup()
+{
+    auto* group = MakeGroup("grpPro", "Pro Team", this);
+    QGridLayout* grid = MakeFieldGrid(group, LongestCaption);
+    AddRow(grid, "Name", txtTeamName);
+    AddRow(grid, "City", txtCity);
+    AddRow(grid, "Abbreviation", txtAbbre);
+    AddRow(grid, "General Manager", txtGm);
+    AddRow(grid, "Morale", txtProMorale);
+    AddRow(grid, "Coach", lblCoach);
+    grid->addLayout(MakeRow({cmdChangeCoach, cmdFirePro}), grid->rowCount(), FieldColumn, Qt::AlignLeft);
+    return group;
+}
+
+QWidget* frmTeam::MakeFarmGroup()
+{
+    auto* group = MakeGroup("grpFarm", "Farm Team", this);
+    QGridLayout* grid = MakeFieldGrid(group, LongestCaption);
+    AddRow(grid, "Name", txtFarmTeamName);
+    AddRow(grid, "Abbreviation", txtFarmAbbre);
+    AddRow(grid, "Morale", txtFarmMorale);
+    AddRow(grid, "Coach", lblFarmCoach);
+    for (EditBox* box : {txtFarmTeamName, txtFarmAbbre, txtFarmMorale})
+        box->setAccessibleName("Farm: " + box->accessibleName());
+    grid->addLayout(MakeRow({cmdFarmChangeCoach, cmdFireFarm}), grid->rowCount(), FieldColumn, Qt::AlignLeft);
+    return group;
+}
+
+QWidget* frmTeam::MakeContactGroup()
+{
+    auto* group = MakeGroup("grpContact", "Contact", this);
+    QGridLayout* grid = MakeFieldGrid(group, LongestCaption);
+    AddRow(grid, "&Messenger", txtMessenger);
+    AddRow(grid, "&E-mail", txtEmail);
+    return group;
+}
+
+QWidget* frmTeam::MakeFinanceGroup()
+{
+    auto* group = MakeGroup("grpFinance", "Finances", this);
+    QGridLayout* grid = MakeFieldGrid(group, LongestCaption);
+    AddRow(grid, "Bank Account", lblFinance);
+    AddRow(grid, "Pro Payroll", lblProPayRoll);
+    AddRow(grid, "Farm Payroll", lblFarmPayRoll);
+    grid->addLayout(MakeRow({cmdChangeFinance, cmdPayrollBonus}), grid->rowCount(), FieldColumn, Qt::AlignRight);
+    return group;
+}
+
+QWidget* frmTeam::MakeProjectionGroup()
+{
+    auto* group = MakeGroup("grpProjection", "Season Projection", this);
+    QGridLayout* grid = MakeFieldGrid(group, LongestCaption);
+    AddRow(grid, "Home Games Left", lblHGLeft);
+    AddRow(grid, "Average Attendance", lblAverageAttendance);
+    AddRow(grid, "Average Income", lblAverageIncome);
+    AddRow(grid, "Estimated Revenue", lblEstimatedRevenue);
+    grid->addWidget(MakeRule(group), grid->rowCount(), CaptionColumn, 1, 2);
+    AddRow(grid, "Games Left", lblGameLeft);
+    AddRow(grid, "Expenses per Game", lblExpensesPerGame);
+    AddRow(grid, "Estimated Expenses", lblEstimatedSeasonExpense);
+    grid->addWidget(MakeRule(group), grid->rowCount(), CaptionColumn, 1, 2);
+    AddRow(grid, "Estimated Bank Account", lblEstimatedBankAccount);
+    Embolden(lblEstimatedBankAccount);
+    return group;
+}
+
+void frmTeam::SetTabOrder()
+{
+    const QList<QWidget*> order{CmdRoster,        cmdLines,           cmdFarmLines, cmdTicketArena,  cmdSaveToFile,
+                                cmdLoadFile,      txtTeamName,        txtCity,      txtAbbre,        txtGm,
+                                txtProMorale,     cmdChangeCoach,     cmdFirePro,   txtFarmTeamName, txtFarmAbbre,
+                                txtFarmMorale,    cmdFarmChangeCoach, cmdFireFarm,  txtMessenger,    txtEmail,
+                                cmdChangeFinance, cmdPayrollBonus,    cmdPassword,  cmdProspect,     cmdExit};
+    ChainTabs(order);
+}
+
+} // namespace dravik
