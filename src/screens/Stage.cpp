@@ -71,11 +71,11 @@ const Role* RoleOf(std::string_view name)
 std::string_view ViewerOpener()
 {
     switch (static_cast<int>(ViewerReturnMode)) {
-    case 2:
+    case return_mode::Roster:
         return RosterName;
-    case 3:
+    case return_mode::Offers:
         return "FreeAgent";
-    case 4:
+    case return_mode::Draft:
         return "Draft";
     default:
         return MainName;
@@ -183,9 +183,9 @@ void Stage::Closed(Screen& screen)
     ShowBehind(name);
 }
 
-frmMain* Stage::Main() const { return static_cast<frmMain*>(Find(MainName)); }
+frmMain* Stage::Main() const { return dynamic_cast<frmMain*>(Find(MainName)); }
 
-frmTeam* Stage::Team() const { return static_cast<frmTeam*>(Find(TeamName)); }
+frmTeam* Stage::Team() const { return dynamic_cast<frmTeam*>(Find(TeamName)); }
 
 void Stage::Load(Screen& screen)
 {

@@ -36,7 +36,16 @@ extern Int16 SelectedPlayer;     // the person chosen on the open screen
 extern bool SelectedIsGoalie;    // and whether he is a goalie
 extern bool ListEventGuard;      // holds back list and box events while a screen fills itself
 extern Int16 RosterFixed;        // 1 after a roster judgement that changed a status
-extern Int16 ViewerReturnMode;   // tells a dependent screen who opened it
+extern Int16 ViewerReturnMode;   // tells a dependent screen who opened it: one of the numbers below
+
+// Whom the record of a player returns to, and whose coach is looked for.
+namespace return_mode {
+inline constexpr int Roster = 2;
+inline constexpr int Offers = 3;
+inline constexpr int Draft = 4;
+inline constexpr int ProTeam = 2;
+inline constexpr int FarmTeam = 3;
+} // namespace return_mode
 
 // That person in one, and the choice of another one. A slot beyond 16 bits fails with 6.
 PersonId SelectedPerson();

@@ -132,7 +132,7 @@ void frmDraft::cmdSearch_Click()
 void frmDraft::OpenViewer(int id)
 {
     SelectPerson(PersonOf(id));
-    ViewerReturnMode = 4;
+    ViewerReturnMode = return_mode::Draft;
     Open("EditPlayer");
 }
 

@@ -206,8 +206,7 @@ void frmFreeAgentClient::lstPlayers_DblClick()
         if (current == nullptr)
             return;
         SelectPerson(PersonOf(current->data(entry::NumberRole).toInt()));
-        constexpr int fromOffers = 3;
-        ViewerReturnMode = fromOffers;
+        ViewerReturnMode = return_mode::Offers;
         Open("EditPlayer");
         ShowWaitingBox(); // in front of the record
     });

@@ -305,8 +305,7 @@ void frmRoster::lstPlayer_DblClick(int index)
             return;
         const int number = current->data(entry::NumberRole).toInt();
         SelectPerson(EntryPerson(number));
-        constexpr int fromRoster = 2;
-        ViewerReturnMode = fromRoster;
+        ViewerReturnMode = return_mode::Roster;
         Open("EditPlayer");
     });
 }

@@ -240,15 +240,13 @@ void frmTeam::cmdProspect_Click() { OpenFromHere("Prospect"); }
 
 void frmTeam::cmdChangeCoach_Click()
 {
-    constexpr int proTeam = 2;
-    ViewerReturnMode = proTeam;
+    ViewerReturnMode = return_mode::ProTeam;
     OpenFromHere("Coach");
 }
 
 void frmTeam::cmdFarmChangeCoach_Click()
 {
-    constexpr int farmTeam = 3;
-    ViewerReturnMode = farmTeam;
+    ViewerReturnMode = return_mode::FarmTeam;
     OpenFromHere("Coach");
 }
 
