@@ -87,68 +87,99 @@ std::string NameIn(const Tables& league, const LineFinding& finding)
                                 : league.Players[finding.Person].Name.Trimmed();
 }
 
-std::string WordsOfEmpty(const LineRules& rules, const LineFinding& finding)
+void AppendEmpty(std::string& text, const LineRules& rules, const LineFinding& finding)
 {
-    if (finding.Slots[StartGoalieWord])
-        return "Starting Goaler is empty.";
-    if (finding.Slots[BackupGoalieWord])
-        return "Backup Goaler is empty.";
+    if (finding.Slots[StartGoalieWord]) {
+        text += "Starting Goaler is empty.";
+        return;
+    }
+    if (finding.Slots[BackupGoalieWord]) {
+        text += "Backup Goaler is empty.";
+        return;
+    }
     const EmptyWords words = EmptyWordsOf(finding.At.Field, rules);
-    const std::string number = std::to_string(finding.At.Number);
-    std::string text = std::string(words.Head) + number;
+    text += words.Head;
+    text += std::to_string(finding.At.Number);
     switch (words.Tail) {
     case Naming::Position:
-        text += " ";
+        text += ' ';
         text += PositionName[finding.At.Place];
         break;
     case Naming::Defense: // the line or unit once more, not the defenseman
-        text += " Defense #" + number;
+        text += " Defense #";
+        text += std::to_string(finding.At.Number);
         break;
     case Naming::Caption:
         text += words.Caption;
         break;
     }
-    return text + " is empty.";
+    text += " is empty.";
 }
 
-std::string WordsOfDouble(const LineFinding& finding)
+void AppendDouble(std::string& text, const LineFinding& finding)
 {
     const auto* words = std::find_if(std::begin(Doubles), std::end(Doubles),
                                      [&](const DoubleWords& entry) { return entry.Field == finding.At.Field; });
-    return std::string(words->Words) + (words->IsNumbered ? std::to_string(finding.At.Number) : "");
+    text += words->Words;
+    if (words->IsNumbered)
+        text += std::to_string(finding.At.Number);
 }
 
-} // namespace
-
 // The pro judge, too, speaks of the farm roster.
-std::string WordsOf(const Tables& league, const LineVerdict& verdict, const LineFinding& finding)
+void Append(std::string& text, const Tables& league, const LineRules& rules, const LineFinding& finding)
 {
     switch (finding.Fault) {
     case LineFault::Stranger:
-        return NameIn(league, finding) + " is not on farm roster for this team.";
+        text += NameIn(league, finding);
+        text += " is not on farm roster for this team.";
+        return;
     case LineFault::Unfit:
-        return NameIn(league, finding) + " is injured or suspended.";
+        text += NameIn(league, finding);
+        text += " is injured or suspended.";
+        return;
     case LineFault::Empty:
-        return WordsOfEmpty(*verdict.Rules, finding);
+        AppendEmpty(text, rules, finding);
+        return;
     case LineFault::Double:
-        return NameIn(league, finding) + WordsOfDouble(finding);
+        text += NameIn(league, finding);
+        AppendDouble(text, finding);
+        return;
     case LineFault::LinesShared:
-        return NameIn(league, finding) + " is used twice in lines 1 and 2.";
+        text += NameIn(league, finding);
+        text += " is used twice in lines 1 and 2.";
+        return;
     case LineFault::SameGoalies:
-        return "Starting Goalie and BackUp Goalie are the same";
+        text += "Starting Goalie and BackUp Goalie are the same";
+        return;
     case LineFault::TooMany:
-        return "More that " + std::to_string(finding.Limit) + " Players Found";
+        text += "More that ";
+        text += std::to_string(finding.Limit);
+        text += " Players Found";
+        return;
     case LineFault::TooFew:
-        return "Not Enough Players Found. Minimum is " + std::to_string(finding.Limit);
+        text += "Not Enough Players Found. Minimum is ";
+        text += std::to_string(finding.Limit);
+        return;
     }
     Fail(failure::OutOfRange);
 }
 
-std::string TextOf(const Tables& league, const LineVerdict& verdict)
+} // namespace
+
+std::string WordsOf(const Tables& league, const LineVerdict& verdict, const LineFinding& finding)
 {
     std::string text;
+    Append(text, league, *verdict.Rules, finding);
+    return text;
+}
+
+std::string TextOf(const Tables& league, const LineVerdict& verdict)
+{
+    constexpr std::size_t usualLength = 64;
+    std::string text;
+    text.reserve(verdict.Findings.size() * usualLength + usualLength);
     for (const LineFinding& finding : verdict.Findings) {
-        text += WordsOf(league, verdict, finding);
+        Append(text, league, *verdict.Rules, finding);
         text += LineBreak;
     }
     if (verdict.Ended)
