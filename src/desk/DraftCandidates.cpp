@@ -1,6 +1,6 @@
 #include "desk/DraftCandidates.h"
 
-#include "league/Positions.h"
+#include "league/PersonId.h"
 #include "league/Trimming.h"
 #include "rules/Overall.h"
 
@@ -19,9 +19,6 @@ bool IsFree(const Person& person)
     return person.InUse && person.Team == 0;
 }
 
-int IdOf(const Player& player) { return static_cast<int>(player.Number); }
-int IdOf(const Goalie& keeper) { return static_cast<int>(keeper.Number + GoalieOffset); }
-
 } // namespace
 
 bool IsEntryDraftAhead(const League& rules) { return rules.EntryDraft && rules.EntryDraftDone == 0; }
@@ -39,7 +36,7 @@ void EachDraftCandidate(const Tables& league, const PositionFilter& shown,
     const League& rules = league.LeagueData;
     const auto tellAgent = [&](const auto& person, int position, int slot) {
         if (shown[position])
-            tell({.Id = IdOf(person),
+            tell({.Id = CommonNumberOf(person),
                   .Text = NameAndPosition(person.Name.Trimmed(), position),
                   .Overall = rules.ShowOverall ? OverallAt(league, position, slot) : std::nullopt});
     };
@@ -64,11 +61,10 @@ void EachDraftCandidate(const Tables& league, const PositionFilter& shown,
 
 std::string RankedName(const Tables& league, int id)
 {
-    if (id <= GoalieOffset)
-        return NameAndPosition(league.Players[id].Name.Trimmed(), league.Players[id].Position);
-    if (id <= ProspectOffset)
-        return NameAndPosition(league.Goalies[id - GoalieOffset].Name.Trimmed(), position::Goalie);
-    return league.Prospects[id - ProspectOffset].Name.Trimmed();
+    if (id > ProspectOffset)
+        return league.Prospects[id - ProspectOffset].Name.Trimmed();
+    return OnPerson(league, PersonOf(id),
+                    [](const auto& person) { return NameAndPosition(person.Name.Trimmed(), PositionOf(person)); });
 }
 
 } // namespace dravik

@@ -28,7 +28,7 @@ bool IsYoungOfATeam(const League& rules, const Person& person)
 
 FreeAgent ListedAs(const League& rules, const Player& player)
 {
-    return {.Id = static_cast<int>(player.Number),
+    return {.Id = CommonNumberOf(player),
             .Text = player.Name.Trimmed() + " (" + std::string(PositionName[player.Position]) + ")" +
                     (IsYoungOfATeam(rules, player) ? "-RFA" : "")};
 }
@@ -36,8 +36,7 @@ FreeAgent ListedAs(const League& rules, const Player& player)
 // A young skater whom nobody owns goes without a mark; a young goalie has his star either way.
 FreeAgent ListedAs(const League& rules, const Goalie& keeper)
 {
-    return {.Id = static_cast<int>(keeper.Number) + GoalieOffset,
-            .Text = keeper.Name.Trimmed() + " (G)" + (IsYoung(rules, keeper) ? "*" : "")};
+    return {.Id = CommonNumberOf(keeper), .Text = keeper.Name.Trimmed() + " (G)" + (IsYoung(rules, keeper) ? "*" : "")};
 }
 
 } // namespace
@@ -61,10 +60,9 @@ void EachFreeAgent(const Tables& league, const OfferTable& offers, const FreeAge
 
 std::optional<PersonId> FreeAgentOf(const Tables& league, int id)
 {
-    constexpr int lastShown = GoalieOffset + static_cast<int>(GoalieTable::last) - 1;
-    if (id > lastShown)
-        return std::nullopt;
     const PersonId who = PersonOf(id);
+    if (who.IsGoalie && who.Slot >= GoalieTable::last)
+        return std::nullopt;
     if (!OnPerson(league, who, [](const auto& person) { return static_cast<bool>(person.InUse); }))
         return std::nullopt;
     return who;

@@ -78,9 +78,8 @@ Permission MayLeaveFarm(const Work& work, const RosterCounts& counts)
 void KeepOffFarm(const Work& work, PersonId who)
 {
     const League& rules = work.League.LeagueData;
-    const int position = who.IsGoalie ? position::Goalie : static_cast<int>(work.League.Players[who.Slot].Position);
-    const int overall = CalculateOverall(work.League, work.Says, position, who.Slot);
     OnPerson(work.League, who, [&](auto& person) {
+        const int overall = CalculateOverall(work.League, work.Says, PositionOf(person), who.Slot);
         if (IsTooGoodForFarm(rules, overall) || IsTooDearForFarm(rules, person.Salary))
             person.Status = status::Scratch;
     });

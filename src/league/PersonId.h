@@ -34,6 +34,13 @@ constexpr PersonId PersonIn(int slot)
     return {.IsGoalie = std::is_same_v<std::remove_cv_t<Person>, Goalie>, .Slot = slot};
 }
 
+// The common number that stands in somebody's own record; it is that of his slot unless the file is damaged.
+template <class Person>
+int CommonNumberOf(const Person& person)
+{
+    return PersonIn<Person>(static_cast<int>(person.Number)).CommonId();
+}
+
 // What `visit(person)` makes of the record of a person. A slot outside his table fails with 9.
 template <class League, class Visit>
 decltype(auto) OnPerson(League& league, PersonId who, Visit&& visit)

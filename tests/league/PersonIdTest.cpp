@@ -54,6 +54,14 @@ TEST_F(PersonIdTest, TheKindOfARecordTellsWhoStandsInASlot)
     EXPECT_EQ(PersonIn<const Goalie>(7), Keeper(7));
 }
 
+TEST_F(PersonIdTest, ARecordNamesItsPersonByTheNumberThatStandsInIt)
+{
+    Players[7].Number = 8;
+    Goalies[7].Number = 9;
+    EXPECT_EQ(CommonNumberOf(Players[7]), 8);
+    EXPECT_EQ(CommonNumberOf(Goalies[7]), 10009);
+}
+
 TEST_F(PersonIdTest, EachKindIsLookedUpInItsOwnTables)
 {
     Players[7].Age = 19;

@@ -95,7 +95,7 @@ void frmRoster::ListPerson(Person& person, int index)
         return;
     }
     if (person.Status == status::Farm)
-        KeepOffFarm(OpenWork(), {.IsGoalie = IsGoalie<Person>, .Slot = index});
+        KeepOffFarm(OpenWork(), PersonIn<Person>(index));
     ++StatusCount[person.Status];
     if (person.Status > status::Farm && IsFit(person))
         ++StatusCount[3];
@@ -107,8 +107,7 @@ void frmRoster::ListPerson(Person& person, int index)
         }
     }
     if (chkPosition[position]->isChecked()) {
-        const PersonId named{.IsGoalie = IsGoalie<Person>, .Slot = static_cast<int>(person.Number)};
-        const std::string mark = OfficeMark(OwnTeam(), named);
+        const std::string mark = OfficeMark(OwnTeam(), PersonIn<Person>(static_cast<int>(person.Number)));
         const std::string text = EntryText(name, mark, static_cast<bool>(person.TradeAvailable));
         lstPlayer[person.Status]->Add(ToQString(text), EntryNumber(person.Number, position), AsideOf(position, index));
     }

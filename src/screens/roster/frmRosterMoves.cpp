@@ -80,7 +80,7 @@ void frmRoster::cmdSendToWaiver_Click()
 bool frmRoster::ScratchSelected()
 {
     const PersonId who = SelectedPerson();
-    const int position = who.IsGoalie ? position::Goalie : static_cast<int>(Players[who.Slot].Position);
+    const int position = OnPerson(OpenLeague, who, [](const auto& person) { return PositionOf(person); });
     bool done = false;
     Change(status::Pro, status::Scratch, who.Slot, position, done);
     if (!done)
