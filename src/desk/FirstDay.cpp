@@ -1,6 +1,6 @@
 #include "desk/FirstDay.h"
 
-#include "rules/DayJudge.h"
+#include "rules/LineJudge.h"
 
 namespace dravik {
 

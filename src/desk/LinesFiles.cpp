@@ -3,7 +3,7 @@
 #include "desk/Password.h"
 #include "files/LinesFile.h"
 #include "machine/Message.h"
-#include "rules/DayJudge.h"
+#include "rules/LineJudge.h"
 
 namespace dravik {
 

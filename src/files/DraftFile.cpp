@@ -1,6 +1,6 @@
 #include "files/DraftFile.h"
 
-#include "files/OldFile.h"
+#include "files/ReplacedFile.h"
 #include "files/SlotFile.h"
 #include "files/TeamFilePath.h"
 #include "machine/Paths.h"
@@ -28,7 +28,7 @@ bool WriteDraftFile(const Tables& league, const FileAccess& access, int team, co
                     const std::string& target)
 {
     DeleteIfExists(access.Disk, access.WorkFile);
-    OldFile old(access.Disk, target);
+    ReplacedFile old(access.Disk, target);
     const auto write = [&](SlotWriter& slots) {
         slots.WriteMagic(StartMagic);
         slots.Write(league.LeagueData.LeagueCode);

@@ -1,6 +1,6 @@
 #include "files/LinesFile.h"
 
-#include "files/OldFile.h"
+#include "files/ReplacedFile.h"
 #include "files/SlotFile.h"
 #include "files/TeamFilePath.h"
 #include "machine/Paths.h"
@@ -91,7 +91,7 @@ bool WriteLinesFile(Tables& league, const FileAccess& access, int team, const st
 {
     const Team& record = league.Teams[team];
     DeleteIfExists(access.Disk, access.WorkFile);
-    OldFile old(access.Disk, target);
+    ReplacedFile old(access.Disk, target);
     RefreshStatus(league.RosterChanges, league.Players);
     RefreshStatus(league.RosterChangesGoalie, league.Goalies);
     const auto write = [&](SlotWriter& slots) {

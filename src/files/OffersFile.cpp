@@ -1,6 +1,6 @@
 #include "files/OffersFile.h"
 
-#include "files/OldFile.h"
+#include "files/ReplacedFile.h"
 #include "files/SlotFile.h"
 #include "files/TeamFilePath.h"
 #include "league/PersonId.h"
@@ -82,7 +82,7 @@ SavedOffers WriteOffersFile(const Tables& league, const FileAccess& access, cons
                             const std::string& target, OfferTable& offers)
 {
     DeleteIfExists(access.Disk, access.WorkFile);
-    OldFile old(access.Disk, target);
+    ReplacedFile old(access.Disk, target);
     SavedOffers saved;
     EachSaved(league.LeagueData, offers, [&](FreeAgentOffer& offer) {
         offer.Team = team;

@@ -286,6 +286,11 @@ LineVerdict CheckLine(const Work& work, int team, bool showMessage, int day, boo
     return verdict;
 }
 
+LineVerdict JudgeDay(const Work& work, int team, Side side, int day, bool showMessage)
+{
+    return (side == Side::Pro ? CheckLine : CheckLineFarm)(work, team, showMessage, day, false);
+}
+
 bool CheckLineEmpty(const Tables& league, Voice& says, int team, int day)
 {
     if (!HasLineDay(team, day)) {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "machine/Work.h"
+#include "rules/LineSlots.h"
 #include "rules/LineVerdict.h"
 
 namespace dravik {
@@ -14,6 +15,9 @@ LineVerdict CheckLine(const Work& work, int team, bool showMessage, int day, boo
 // The same for the farm's lines: strict when the league requires farm rosters, otherwise judging only what stands in
 // them; complete at once, without a text, in a league without farm teams.
 LineVerdict CheckLineFarm(const Work& work, int team, bool showMessage, int day, bool log);
+
+// What one of these two says of a day of a side; nothing is logged.
+LineVerdict JudgeDay(const Work& work, int team, Side side, int day, bool showMessage);
 
 // True when every slot of the pro day is 0, goalies included. A team or day out of range is told like that.
 bool CheckLineEmpty(const Tables& league, Voice& says, int team, int day);

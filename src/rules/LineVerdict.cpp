@@ -166,6 +166,15 @@ void Append(std::string& text, const Tables& league, const LineRules& rules, con
 
 } // namespace
 
+bool FindsTwice(const LineVerdict& verdict, std::size_t word)
+{
+    return std::any_of(verdict.Findings.begin(), verdict.Findings.end(), [word](const LineFinding& finding) {
+        const bool isDouble = finding.Fault == LineFault::Double || finding.Fault == LineFault::LinesShared ||
+                              finding.Fault == LineFault::SameGoalies;
+        return isDouble && finding.Slots[word];
+    });
+}
+
 std::string WordsOf(const Tables& league, const LineVerdict& verdict, const LineFinding& finding)
 {
     std::string text;

@@ -3,6 +3,7 @@
 #include "rules/LineSlots.h"
 
 #include <bitset>
+#include <cstddef>
 #include <optional>
 #include <string>
 #include <vector>
@@ -44,6 +45,9 @@ struct LineVerdict {
 
     explicit operator bool() const { return Complete; }
 };
+
+// Whether whoever stands in a slot, named by its word of the record, was found a second time where he may stand but once.
+bool FindsTwice(const LineVerdict& verdict, std::size_t word);
 
 // The words of one finding of a verdict, without a line break. Names are those that `league` holds: the league that was judged,
 // or a copy of it.

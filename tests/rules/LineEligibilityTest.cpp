@@ -1,6 +1,6 @@
 #include "rules/LineEligibility.h"
 
-#include "rules/DayJudge.h"
+#include "rules/LineJudge.h"
 #include "support/RandomLeague.h"
 #include "support/SmallLeague.h"
 

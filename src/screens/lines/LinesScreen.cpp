@@ -7,7 +7,7 @@
 #include "desk/Strategy.h"
 #include "desk/WipeDay.h"
 #include "machine/Reporting.h"
-#include "rules/DayJudge.h"
+#include "rules/LineJudge.h"
 #include "rules/NextGames.h"
 #include "rules/PlayingLines.h"
 #include "screens/EventGuard.h"

@@ -1,6 +1,6 @@
 #include "desk/PlaceOnLine.h"
-#include "rules/DayJudge.h"
 #include "rules/LineEligibility.h"
+#include "rules/LineJudge.h"
 #include "rules/PlayingLines.h"
 #include "screens/lines/LinesScreen.h"
 #include "screens/PersonWords.h"

@@ -10,12 +10,12 @@ namespace dravik {
 // What stands where a new file is being saved. It stays until the new one takes its place in one step, so that a program
 // that is killed meanwhile leaves the old file or the new one. Where no new one comes, it is deleted at the end: it says what
 // holds no more.
-class OldFile {
+class ReplacedFile {
 public:
-    OldFile(Disk& on, std::string target) : disk(on), path(std::move(target)) {}
-    OldFile(const OldFile&) = delete;
-    OldFile& operator=(const OldFile&) = delete;
-    ~OldFile();
+    ReplacedFile(Disk& on, std::string target) : disk(on), path(std::move(target)) {}
+    ReplacedFile(const ReplacedFile&) = delete;
+    ReplacedFile& operator=(const ReplacedFile&) = delete;
+    ~ReplacedFile();
 
     // The new file has taken its place.
     void Replaced() { replaced = true; }

@@ -1,4 +1,4 @@
-#include "files/OldFile.h"
+#include "files/ReplacedFile.h"
 
 #include "machine/Paths.h"
 
@@ -6,7 +6,7 @@
 
 namespace dravik {
 
-OldFile::~OldFile()
+ReplacedFile::~ReplacedFile()
 {
     if (replaced)
         return;
