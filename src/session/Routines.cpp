@@ -2,68 +2,80 @@
 
 #include "session/RosterFixed.h"
 
+#include <optional>
+#include <utility>
+
 namespace dravik {
 
 namespace {
 
-// What was said last.
-std::string RosterText;
-std::string CapText;
-std::string LinesText;
+// A judgement and whom it was about.
+template <class Verdict>
+struct Judged {
+    int Team = 0;
+    Verdict Found = {};
+};
 
-LineVerdict Kept(LineVerdict verdict)
-{
-    LinesText = TextOf(OpenLeague, verdict);
-    return verdict;
-}
+// What was found last. The words are made when somebody asks for them.
+Judged<RosterVerdict> LastRoster;
+Judged<std::optional<CapVerdict>> LastCap;
+LineVerdict LastLines;
 
 } // namespace
 
 bool CheckRoster(int team, bool log, bool withSalaryCap, bool showMessage)
 {
-    const RosterVerdict verdict = CheckRoster(OpenWork(), team, log, withSalaryCap, showMessage);
+    RosterVerdict verdict = CheckRoster(OpenWork(), team, log, withSalaryCap, showMessage);
+    const bool complete = verdict.Complete;
     if (TeamTable::Has(team)) {
         RosterFixed = verdict.Repaired ? 1 : 0;
-        RosterText = TextOf(OpenLeague, team, verdict);
         if (withSalaryCap)
-            CapText = verdict.Cap ? TextOf(OpenLeague, Machine(), team, *verdict.Cap) : std::string();
+            LastCap = {team, verdict.Cap};
+        LastRoster = {team, std::move(verdict)};
     }
-    return verdict.Complete;
+    return complete;
 }
 
-const std::string& LastRosterText() { return RosterText; }
+std::string LastRosterText() { return TextOf(OpenLeague, LastRoster.Team, LastRoster.Found); }
 
 bool CheckSalaryCap(int team, bool showMessage)
 {
     const CapVerdict verdict = CheckSalaryCap(OpenWork(), team, showMessage);
     if (TeamTable::Has(team))
-        CapText = TextOf(OpenLeague, Machine(), team, verdict);
+        LastCap = {team, verdict};
     return verdict.Within;
 }
 
-const std::string& LastCapText() { return CapText; }
-
-LineVerdict VerdictOnLine(int team, bool showMessage, int day, bool log)
+std::string LastCapText()
 {
-    return Kept(CheckLine(OpenWork(), team, showMessage, day, log));
-}
-
-LineVerdict VerdictOnLineFarm(int team, bool showMessage, int day, bool log)
-{
-    return Kept(CheckLineFarm(OpenWork(), team, showMessage, day, log));
+    return LastCap.Found ? TextOf(OpenLeague, Machine(), LastCap.Team, *LastCap.Found) : std::string();
 }
 
 bool CheckLine(int team, bool showMessage, int day, bool log)
 {
-    return VerdictOnLine(team, showMessage, day, log).Complete;
+    LastLines = CheckLine(OpenWork(), team, showMessage, day, log);
+    return LastLines.Complete;
 }
 
 bool CheckLineFarm(int team, bool showMessage, int day, bool log)
 {
-    return VerdictOnLineFarm(team, showMessage, day, log).Complete;
+    LastLines = CheckLineFarm(OpenWork(), team, showMessage, day, log);
+    return LastLines.Complete;
 }
 
-const std::string& LastLinesText() { return LinesText; }
+LineVerdict VerdictOnLine(int team, bool showMessage, int day, bool log)
+{
+    CheckLine(team, showMessage, day, log);
+    return LastLines;
+}
+
+LineVerdict VerdictOnLineFarm(int team, bool showMessage, int day, bool log)
+{
+    CheckLineFarm(team, showMessage, day, log);
+    return LastLines;
+}
+
+std::string LastLinesText() { return TextOf(OpenLeague, LastLines); }
 
 void AutoRoster(int team, bool verbose, bool partial)
 {

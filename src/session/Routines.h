@@ -145,17 +145,17 @@ inline void TellGoalieRatings(int index, const TellStatRow& tell)
 inline StatRow SkaterOverallRow(int overall) { return SkaterOverallRow(LeagueData, overall); }
 inline StatRow GoalieOverallRow(int overall) { return GoalieOverallRow(LeagueData, overall); }
 
-// The judges. What the one that ran last had to say is kept, shown or not.
+// The judges. What the one that ran last found is kept, and its words are made when they are asked for.
 bool CheckRoster(int team, bool log, bool withSalaryCap, bool showMessage);
-const std::string& LastRosterText();
+std::string LastRosterText();
 bool CheckSalaryCap(int team, bool showMessage);
 // Nothing, where the CheckRoster that was to judge the payroll too broke off before it.
-const std::string& LastCapText();
+std::string LastCapText();
 LineVerdict VerdictOnLine(int team, bool showMessage, int day, bool log);
 LineVerdict VerdictOnLineFarm(int team, bool showMessage, int day, bool log);
 bool CheckLine(int team, bool showMessage, int day, bool log);
 bool CheckLineFarm(int team, bool showMessage, int day, bool log);
-const std::string& LastLinesText();
+std::string LastLinesText();
 
 // The makers.
 void AutoRoster(int team, bool verbose, bool partial);

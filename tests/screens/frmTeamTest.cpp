@@ -207,14 +207,10 @@ TEST_F(frmTeamTest, TheFarmIsJudgedFirst)
 {
     CompleteTeam(5);
     LeagueData.FarmRosterRequired = true;
-    Own().ProLines[1].NormalForward(1, 1) = 0;
-    Own().Farm.FarmLines[1].StartGoalie = 0;
-    Office();
-    const std::string last = LastLinesText();
-    CheckLineFarm(5, false, 1, false);
-    EXPECT_NE(last, LastLinesText());
-    CheckLine(5, false, 1, false);
-    EXPECT_EQ(last, LastLinesText());
+    // Whom the farm's judge takes out leaves the pro lines too, which are complete until then.
+    Own().Farm.FarmLines[1].NormalForward(1, 1) = Own().ProLines[1].NormalForward(1, 1);
+    EXPECT_EQ(Of(Office().lblSaveHint), "Lines for Day #1 are Incomplete!\nFarm Lines for Day #1 are Incomplete!");
+    EXPECT_EQ(Own().ProLines[1].NormalForward(1, 1), 0);
 }
 
 TEST_F(frmTeamTest, SaveComesUpWhenTheLinesScreenReturnsWithCompleteLines)

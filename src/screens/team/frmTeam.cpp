@@ -107,8 +107,8 @@ void frmTeam::CloseWhatTheLeagueKeeps()
 // Both judges run whatever the first one says: they repair as they judge.
 void frmTeam::FormActivate()
 {
-    const LineVerdict farm = VerdictOnLineFarm(OwnNumber(), false, 1, false);
-    const LineVerdict pro = VerdictOnLine(OwnNumber(), false, 1, false);
+    const LineVerdict farm = JudgeDay(OpenWork(), OwnNumber(), Side::Farm, 1, false);
+    const LineVerdict pro = JudgeDay(OpenWork(), OwnNumber(), Side::Pro, 1, false);
     cmdSaveToFile->setEnabled(farm.Complete && pro.Complete);
     QStringList reasons;
     QStringList details;
