@@ -1,7 +1,7 @@
 #pragma once
 
 #include "bench/Ratio.h"
-#include "session/Routines.h"
+#include "session/Session.h"
 
 #include <algorithm>
 #include <benchmark/benchmark.h>

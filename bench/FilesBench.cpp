@@ -7,9 +7,10 @@
 
 #include "bench/BareInflate.h"
 #include "bench/Ratio.h"
+#include "files/LinesFile.h"
 #include "files/SlotFile.h"
 #include "session/OpenLeagueClient.h"
-#include "session/Routines.h"
+#include "session/Session.h"
 #include "support/ClientFileBytes.h"
 #include "support/OpenedWindow.h"
 #include "support/ScriptedPlatform.h"
@@ -125,7 +126,7 @@ struct Bench {
         OpenLeagueClient(ClientPath, window);
         Demand(!window.Calls.empty());
     }
-    void Save() const { Demand(WriteLinesFile(1, LinesPath)); }
+    void Save() const { Demand(WriteLinesFile(OpenLeague, OpenFiles(), 1, LinesPath)); }
 
     ScriptedPlatform Machine;
     std::string ClientPath;
@@ -211,7 +212,7 @@ int TellMemory()
     OpenedWindow window;
     OpenLeagueClient(path, window);
     const long opened = PeakKiB();
-    if (window.Calls.empty() || !WriteLinesFile(1, machine.InFolder("Lines.dvl")))
+    if (window.Calls.empty() || !WriteLinesFile(OpenLeague, OpenFiles(), 1, machine.InFolder("Lines.dvl")))
         return 1;
     const long saved = PeakKiB();
     std::cout << "peak beyond the tables: opening " << opened - before << " KiB, saving after it " << saved - before

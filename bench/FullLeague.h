@@ -1,6 +1,6 @@
 #pragma once
 
-#include "session/Routines.h"
+#include "session/Session.h"
 #include "support/SmallLeague.h"
 
 namespace dravik {
@@ -11,7 +11,7 @@ inline void FillLeague(int skaters = PlayerTable::last, int goalies = GoalieTabl
 {
     ResetClientVariables();
     Machine().MessagesAllowed = true;
-    MarkRosterChangesUntouched();
+    MarkRosterChangesUntouched(OpenLeague);
     SetOrdinaryRules();
     LeagueData.MaxProPlayers = 60;
     LeagueData.FarmMaxOverall = 99;

@@ -6,8 +6,14 @@
 
 #include "bench/FullLeague.h"
 #include "bench/Ratio.h"
+#include "makers/Makers.h"
+#include "rules/Finance.h"
+#include "rules/LineJudge.h"
 #include "rules/People.h"
-#include "session/Routines.h"
+#include "rules/RosterJudge.h"
+#include "rules/SalaryCap.h"
+#include "rules/WipeLines.h"
+#include "session/Session.h"
 
 #include <array>
 #include <cstring>
@@ -30,6 +36,10 @@ void SetCap()
     league.FarmSalaryCap = 500000000;
 }
 
+bool LinesAreComplete() { return CheckLine(OpenWork(), Own, false, 1, true).Complete; }
+bool FarmLinesAreComplete() { return CheckLineFarm(OpenWork(), Own, false, 1, true).Complete; }
+bool RosterIsComplete() { return CheckRoster(OpenWork(), Own, true, false, false).Complete; }
+
 // The people of the team at hand, spread over the tables. Its pro roster, the farm's and all lines are complete.
 void PutTeam()
 {
@@ -47,11 +57,11 @@ void PutTeam()
         PutGoalie(1 + place * 160, Own, status, 70 + place);
     }
     for (int day = 1; day <= 10; ++day) {
-        AutoLines(Own, false, day);
-        AutoLinesFarm(Own, false, day);
+        AutoLines(OpenWork(), Own, false, day);
+        AutoLinesFarm(OpenWork(), Own, false, day);
     }
-    Demand(CheckRoster(Own, false, true, false));
-    Demand(CheckLine(Own, false, 1, false) && CheckLineFarm(Own, false, 1, false));
+    Demand(CheckRoster(OpenWork(), Own, false, true, false).Complete);
+    Demand(LinesAreComplete() && FarmLinesAreComplete());
 }
 
 // Looks at every record of both tables once and counts the team's people, with the program's own walk: what is measured
@@ -90,10 +100,10 @@ void UseFullLeague()
 }
 
 void Nothing() {}
-void EmptyDay() { WipesLines(Own, 1, true); }
-void EmptyFarmDay() { WipesLines(Own, 1, false); }
-void RefillFarmDay() { AutoLinesFarm(Own, false, 1); }
-void RefillDay() { AutoLines(Own, false, 1); }
+void EmptyDay() { WipesLines(OpenLeague, Machine(), Own, 1, true); }
+void EmptyFarmDay() { WipesLines(OpenLeague, Machine(), Own, 1, false); }
+void RefillFarmDay() { AutoLinesFarm(OpenWork(), Own, false, 1); }
+void RefillDay() { AutoLines(OpenWork(), Own, false, 1); }
 void ScratchEverybody()
 {
     for (int place = 0; place < Skaters; ++place)
@@ -115,10 +125,6 @@ struct Case {
     bool (*Holds)() = [] { return true; }; // what must be true after the last round
 };
 
-bool LinesAreComplete() { return CheckLine(Own, false, 1, true); }
-bool FarmLinesAreComplete() { return CheckLineFarm(Own, false, 1, true); }
-bool RosterIsComplete() { return CheckRoster(Own, true, false, false); }
-
 // In partial mode nobody is sent down, so the farm stays empty here.
 bool TeamIsDressed()
 {
@@ -132,20 +138,25 @@ bool TeamIsDressed()
 constexpr std::array Cases{
     Case{"WalkWrittenOut", 0, Nothing, [] { benchmark::DoNotOptimize(WalkWrittenOut()); }},
     Case{"JudgeRoster", JudgeLimit, Nothing, [] { Demand(RosterIsComplete()); }},
-    Case{"JudgeRosterAndCap", RosterAndCapLimit, Nothing, [] { Demand(CheckRoster(Own, true, true, false)); }},
-    Case{"JudgeCap", JudgeLimit, Nothing, [] { Demand(CheckSalaryCap(Own, false)); }},
+    Case{"JudgeRosterAndCap", RosterAndCapLimit, Nothing,
+         [] { Demand(CheckRoster(OpenWork(), Own, true, true, false).Complete); }},
+    Case{"JudgeCap", JudgeLimit, Nothing, [] { Demand(CheckSalaryCap(OpenWork(), Own, false).Within); }},
     Case{"JudgeLines", JudgeLimit, RefillDay, [] { Demand(LinesAreComplete()); }},
     Case{"JudgeEmptyLines", JudgeLimit, EmptyDay, [] { Demand(!LinesAreComplete()); }},
     Case{"JudgeFarmLines", JudgeLimit, RefillFarmDay, [] { Demand(FarmLinesAreComplete()); }},
     Case{"JudgeEmptyFarmLines", JudgeLimit, EmptyFarmDay, [] { Demand(!FarmLinesAreComplete()); }},
     Case{"PayPro", JudgeLimit, Nothing, [] { Demand(ProPayroll(OpenLeague, Machine(), Own) > 0); }},
     Case{"PayFarm", JudgeLimit, Nothing, [] { Demand(FarmPayroll(OpenLeague, Machine(), Own) > 0); }},
-    Case{"MakeLines", MakerLimit, EmptyDay, [] { AutoLines(Own, false, 1); }, LinesAreComplete},
-    Case{"MakeLinesPartly", MakerLimit, EmptyDay, [] { AutoLinesPartial(Own, false, 1); }, LinesAreComplete},
-    Case{"MakeFarmLines", MakerLimit, EmptyFarmDay, [] { AutoLinesFarm(Own, false, 1); }, FarmLinesAreComplete},
+    Case{"MakeLines", MakerLimit, EmptyDay, [] { AutoLines(OpenWork(), Own, false, 1); }, LinesAreComplete},
+    Case{"MakeLinesPartly", MakerLimit, EmptyDay, [] { AutoLinesPartial(OpenWork(), Own, false, 1); },
+         LinesAreComplete},
+    Case{"MakeFarmLines", MakerLimit, EmptyFarmDay, [] { AutoLinesFarm(OpenWork(), Own, false, 1); },
+         FarmLinesAreComplete},
     // These two come last: who is dressed afterwards is their own choice.
-    Case{"MakeRoster", MakerLimit, ScratchEverybody, [] { AutoRoster(Own, false, false); }, RosterIsComplete},
-    Case{"MakeRosterPartly", MakerLimit, ScratchEverybody, [] { AutoRoster(Own, false, true); }, TeamIsDressed},
+    Case{"MakeRoster", MakerLimit, ScratchEverybody, [] { AutoRoster(OpenWork(), Own, false, false); },
+         RosterIsComplete},
+    Case{"MakeRosterPartly", MakerLimit, ScratchEverybody, [] { AutoRoster(OpenWork(), Own, false, true); },
+         TeamIsDressed},
 };
 
 void AgainstAWalk(benchmark::State& state, const Case& row)

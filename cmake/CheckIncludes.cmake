@@ -8,7 +8,7 @@ set(files_MAY_INCLUDE league machine files)
 set(rules_MAY_INCLUDE league machine rules)
 set(makers_MAY_INCLUDE league machine rules makers)
 set(desk_MAY_INCLUDE league machine files rules makers desk)
-set(session_MAY_INCLUDE league machine files rules makers desk session)
+set(session_MAY_INCLUDE league machine files rules desk session)
 set(screens_MAY_INCLUDE league machine files rules makers desk session screens)
 set(WITH_TOOLKIT screens)
 

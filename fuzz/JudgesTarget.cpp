@@ -2,7 +2,17 @@
 
 #include "fuzz/TableScript.h"
 #include "league/Failure.h"
-#include "session/Routines.h"
+#include "rules/Finance.h"
+#include "rules/LineJudge.h"
+#include "rules/LineLookups.h"
+#include "rules/Overall.h"
+#include "rules/RosterJudge.h"
+#include "rules/SalaryCap.h"
+#include "rules/SeasonProjection.h"
+#include "rules/StatRows.h"
+#include "rules/Waivers.h"
+#include "rules/WipeLines.h"
+#include "session/Session.h"
 
 #include <array>
 #include <cmath>
@@ -28,10 +38,10 @@ void RequireMoney(float sum) { Require(std::isfinite(sum)); }
 void RequireOverall(int overall) { Require(overall <= 99 && overall >= std::numeric_limits<std::int16_t>::min()); }
 
 constexpr Routine Routines[] = {
-    [](const Call& call) { CheckRoster(call.Team, call.First, call.Second, call.Third); },
-    [](const Call& call) { CheckSalaryCap(call.Team, call.First); },
-    [](const Call& call) { CheckLine(call.Team, call.First, call.Day, call.Second); },
-    [](const Call& call) { CheckLineFarm(call.Team, call.First, call.Day, call.Second); },
+    [](const Call& call) { CheckRoster(OpenWork(), call.Team, call.First, call.Second, call.Third); },
+    [](const Call& call) { CheckSalaryCap(OpenWork(), call.Team, call.First); },
+    [](const Call& call) { CheckLine(OpenWork(), call.Team, call.First, call.Day, call.Second); },
+    [](const Call& call) { CheckLineFarm(OpenWork(), call.Team, call.First, call.Day, call.Second); },
     [](const Call& call) { CheckLineEmpty(OpenLeague, Machine(), call.Team, call.Day); },
     [](const Call& call) { WaiverCheck(OpenLeague, Machine(), call.Id); },
     [](const Call& call) {
@@ -40,29 +50,29 @@ constexpr Routine Routines[] = {
         RequireMoney(CoachPayroll(OpenLeague, Machine(), call.Team));
         ExpensePerGame(OpenLeague, Machine(), call.Team);
     },
-    [](const Call& call) { RequireOverall(CalculateOverall(call.Day, call.Id)); },
-    [](const Call& call) { WipesLines(call.Team, call.Day, call.First); },
-    [](const Call& call) { WipePlayerFromTeamLines(call.Team, call.Id); },
+    [](const Call& call) { RequireOverall(CalculateOverall(OpenLeague, Machine(), call.Day, call.Id)); },
+    [](const Call& call) { WipesLines(OpenLeague, Machine(), call.Team, call.Day, call.First); },
+    [](const Call& call) { WipePlayerFromTeamLines(OpenLeague, Machine(), call.Team, call.Id); },
     [](const Call& call) {
         MayFail([&] {
-            PlayOnLineString(call.Team, call.Id, call.Day);
-            PlayOnLineStringFarm(call.Team, call.Id, call.Day);
-            Require(PlayOnLineInteger(call.Team, call.Id, call.Day) <= 67);
-            Require(PlayOnLineIntegerFarm(call.Team, call.Id, call.Day) <= 67);
+            PlayOnLineString(OpenLeague, call.Team, call.Id, call.Day);
+            PlayOnLineStringFarm(OpenLeague, call.Team, call.Id, call.Day);
+            Require(PlayOnLineInteger(OpenLeague, call.Team, call.Id, call.Day) <= 67);
+            Require(PlayOnLineIntegerFarm(OpenLeague, call.Team, call.Id, call.Day) <= 67);
         });
     },
-    [](const Call& call) { MayFail([&] { StandingAgainstCap(call.Team); }); },
+    [](const Call& call) { MayFail([&] { StandingAgainstCap(OpenLeague, call.Team); }); },
     [](const Call& call) {
         MayFail([&] {
             SeasonFigures figures;
-            ProjectSeason(call.Team, figures);
+            ProjectSeason(OpenLeague, Machine(), call.Team, figures);
         });
     },
     [](const Call& call) {
         PlayerStatCount = call.First ? 15 : 7;
         GoalieStatCount = call.First ? 13 : 7;
-        MayFail([&] { SkaterStatRows(call.Id); });
-        MayFail([&] { GoalieStatRows(call.Id); });
+        MayFail([&] { SkaterStatRows(OpenLeague, Machine(), call.Id, static_cast<int>(PlayerStatCount)); });
+        MayFail([&] { GoalieStatRows(OpenLeague, Machine(), call.Id, static_cast<int>(GoalieStatCount)); });
     },
 };
 

@@ -1,10 +1,12 @@
 // Reads a lines file of any bytes over a small league: nobody gets a status that does not exist, a refused head changes nothing,
 // and nothing is left behind on the disk.
 
+#include "files/LinesFile.h"
 #include "fuzz/MemoryPlatform.h"
 #include "fuzz/ReadFileTarget.h"
 #include "fuzz/TableLeague.h"
-#include "session/Routines.h"
+#include "machine/Reporting.h"
+#include "session/Session.h"
 
 #include <cstring>
 
@@ -45,7 +47,8 @@ void RunTarget(Input input)
     const Team before = Teams[1];
 
     LinesFileRead result = LinesFileRead::Loaded;
-    const bool ended = Reporting(" in cmdLoadFile!", [&] { result = ReadLinesFile(InFolder("Lines.dvl")); });
+    const bool ended = Reporting(Machine(), " in cmdLoadFile!",
+                                 [&] { result = ReadLinesFile(OpenLeague, OpenFiles(), 1, InFolder("Lines.dvl")); });
     Require(machine.Files.size() == 1 && machine.Files.count(InFolder("Lines.dvl")) == 1);
     Require(ended && machine.BoxCount == (result == LinesFileRead::NotDecompressed ? 1 : 0));
     Require(StatusesAreKnown(Players) && StatusesAreKnown(Goalies));

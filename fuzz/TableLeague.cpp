@@ -1,6 +1,7 @@
 #include "fuzz/TableLeague.h"
 
-#include "session/Routines.h"
+#include "makers/Makers.h"
+#include "session/Session.h"
 
 #include <algorithm>
 #include <cstring>
@@ -127,7 +128,7 @@ void MakeTableLeague()
 {
     ResetClientVariables();
     Machine().MessagesAllowed = true;
-    MarkRosterChangesUntouched();
+    MarkRosterChangesUntouched(OpenLeague);
     MakeRules();
     MakePlaceholders();
     int skater = 1;
@@ -146,8 +147,8 @@ void MakeTableLeague()
     MakeTeam(1);
     MakeTeam(2);
     for (int day = 1; day <= 10; ++day) {
-        AutoLines(1, false, day);
-        AutoLinesFarm(1, false, day);
+        AutoLines(OpenWork(), 1, false, day);
+        AutoLinesFarm(OpenWork(), 1, false, day);
         Require(Teams[1].ProLines[day].StartGoalie != 0 && Teams[1].Farm.FarmLines[day].StartGoalie != 0);
     }
     Snapshot.clear();
@@ -175,7 +176,6 @@ void ResetTableLeague()
     GoalieStatCount = 13;
     Machine().MessagesAllowed = true;
     Modified = false;
-    RosterFixed = 0;
 }
 
 int PlayerSlot(int number)

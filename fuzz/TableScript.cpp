@@ -4,7 +4,7 @@
 #include "fuzz/Script.h"
 #include "fuzz/TableLeague.h"
 #include "league/Failure.h"
-#include "session/Routines.h"
+#include "session/Session.h"
 
 #include <algorithm>
 #include <array>

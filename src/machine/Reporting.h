@@ -47,4 +47,14 @@ bool Reporting(Voice& says, std::string_view ending, Body&& body)
     return !FailureOf(says, ending, body);
 }
 
+// The same, but a cancelled dialog ends `body` without a word.
+template <class Body>
+bool ReportingUnlessCancelled(Voice& says, std::string_view ending, Body&& body)
+{
+    const auto failed = FailureIn(body);
+    if (failed && *failed != failure::Cancelled)
+        ReportFailure(says, *failed, ending);
+    return !failed;
+}
+
 } // namespace dravik

@@ -1,8 +1,9 @@
 #include "screens/PersonWords.h"
 
+#include "rules/Overall.h"
 #include "screens/platform/CodePage.h"
 #include "screens/RosterEntry.h"
-#include "session/Routines.h"
+#include "session/Session.h"
 
 #include <QTextDocument>
 
@@ -27,7 +28,7 @@ QStringList AsideOf(int position, int index)
 {
     QStringList aside{ToQString(PositionName[position])};
     if (LeagueData.ShowOverall)
-        aside << QString::number(CalculateOverall(position, index));
+        aside << QString::number(CalculateOverall(OpenLeague, Machine(), position, index));
     return aside;
 }
 
@@ -36,7 +37,13 @@ QString OverallOf(PersonId who)
     const int digit = ShownPosition(who);
     if (digit == 0 || !LeagueData.ShowOverall)
         return {};
-    return QString::number(CalculateOverall(digit, who.Slot));
+    return QString::number(CalculateOverall(OpenLeague, Machine(), digit, who.Slot));
+}
+
+StatRows StatRowsOf(PersonId who)
+{
+    return who.IsGoalie ? GoalieStatRows(OpenLeague, Machine(), who.Slot, static_cast<int>(GoalieStatCount))
+                        : SkaterStatRows(OpenLeague, Machine(), who.Slot, static_cast<int>(PlayerStatCount));
 }
 
 QString DescriptionOf(PersonId who, const QString& standsIn, const QStringList& findings)

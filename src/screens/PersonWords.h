@@ -1,6 +1,7 @@
 #pragma once
 
 #include "league/PersonId.h"
+#include "rules/StatRows.h"
 
 #include <QString>
 #include <QStringList>
@@ -15,6 +16,9 @@ QStringList AsideOf(int position, int index);
 // The overall of a skater or goalie in a league that shows it; nothing for a skater without a position or somebody outside
 // the tables. No box is shown.
 QString OverallOf(PersonId who);
+
+// The rows of his ratings, as many as the windows show. Somebody outside the tables fails with 9.
+StatRows StatRowsOf(PersonId who);
 
 // The tooltip of a person: name, position, overall where the league shows it, condition, and behind those the slots that
 // he `standsIn`, if any, and what the judge said. Somebody without a position, or outside the tables, has the judge's words

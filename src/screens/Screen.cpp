@@ -1,11 +1,12 @@
 #include "screens/Screen.h"
 
+#include "machine/Reporting.h"
 #include "screens/panels/EditBox.h"
 #include "screens/panels/EntryList.h"
 #include "screens/panels/Layouts.h"
 #include "screens/platform/CodePage.h"
 #include "screens/Stage.h"
-#include "session/Routines.h"
+#include "session/Session.h"
 
 #include <algorithm>
 #include <QAbstractButton>
@@ -22,7 +23,11 @@ namespace dravik {
 bool RunEvent(const QString& name, const std::function<void()>& routine)
 {
     try {
-        return Reporting(" in " + FromQString(name) + "!", routine);
+        // A machine is asked for only where there is something to tell.
+        const auto failed = FailureIn(routine);
+        if (failed)
+            ReportFailure(Machine(), *failed, " in " + FromQString(name) + "!");
+        return !failed;
     } catch (...) {
         // Not even the report could be shown.
         return false;

@@ -13,7 +13,7 @@
 #include "screens/roster/frmRoster.h"
 #include "screens/team/frmTeam.h"
 #include "screens/team/frmTicket.h"
-#include "session/Routines.h"
+#include "session/Session.h"
 
 #include <algorithm>
 #include <iterator>
@@ -215,7 +215,7 @@ void Stage::ShowBehind(std::string_view name)
         if (CallerScreen == MainName || CallerScreen == TeamName)
             ShowReturningTo(CallerScreen);
         else
-            ShowIntegrityFailure();
+            Machine().ShowIntegrityFailure();
         break;
     case Behind::Viewer:
         ShowReturningTo(ViewerOpener());

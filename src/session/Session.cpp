@@ -19,12 +19,13 @@ bool Modified = false;
 Int16 SelectedPlayer;
 bool SelectedIsGoalie = false;
 bool ListEventGuard = false;
-Int16 RosterFixed;
 Int16 ViewerReturnMode;
 
 namespace {
 Platform* TheMachine = nullptr;
 }
+
+int OwnNumber() { return static_cast<int>(CurrentTeam); }
 
 PersonId SelectedPerson() { return {.IsGoalie = SelectedIsGoalie, .Slot = static_cast<int>(SelectedPlayer)}; }
 
@@ -47,7 +48,6 @@ void ResetClientVariables()
     SelectedPlayer = 0;
     SelectedIsGoalie = false;
     ListEventGuard = false;
-    RosterFixed = 0;
     ViewerReturnMode = 0;
     EmptyOpenMarket();
 }

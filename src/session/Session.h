@@ -35,7 +35,6 @@ extern bool Modified;            // set by whatever edits; nothing reads it
 extern Int16 SelectedPlayer;     // the person chosen on the open screen
 extern bool SelectedIsGoalie;    // and whether he is a goalie
 extern bool ListEventGuard;      // holds back list and box events while a screen fills itself
-extern Int16 RosterFixed;        // 1 after a roster judgement that changed a status
 extern Int16 ViewerReturnMode;   // tells a dependent screen who opened it: one of the numbers below
 
 // Whom the record of a player returns to, and whose coach is looked for.
@@ -47,7 +46,10 @@ inline constexpr int ProTeam = 2;
 inline constexpr int FarmTeam = 3;
 } // namespace return_mode
 
-// That person in one, and the choice of another one. A slot beyond 16 bits fails with 6.
+// The chosen team, as the floors below take it.
+int OwnNumber();
+
+// The chosen person in one, and the choice of another one. A slot beyond 16 bits fails with 6.
 PersonId SelectedPerson();
 void SelectPerson(PersonId who);
 

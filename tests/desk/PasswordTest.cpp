@@ -1,8 +1,8 @@
 #include "desk/Password.h"
 
-#include "session/Routines.h"
 #include "support/FailingBoxes.h"
 #include "support/LeagueImage.h"
+#include "support/Routines.h"
 #include "support/SmallLeague.h"
 
 namespace dravik {

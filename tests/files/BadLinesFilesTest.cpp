@@ -2,10 +2,10 @@
 
 #include "files/WrapFile.h"
 #include "league/Failure.h"
-#include "session/Routines.h"
 #include "support/BadFiles.h"
 #include "support/LeagueImage.h"
 #include "support/PeakMemory.h"
+#include "support/Routines.h"
 
 #include <algorithm>
 #include <filesystem>

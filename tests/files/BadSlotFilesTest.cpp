@@ -1,7 +1,7 @@
 // Bad bytes and cuts all over a slot file that is small enough for thousands of readings.
 
 #include "files/SlotFile.h"
-#include "session/Routines.h"
+#include "session/Session.h"
 #include "support/LeagueImage.h"
 #include "support/SmallLeague.h"
 

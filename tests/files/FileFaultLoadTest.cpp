@@ -1,8 +1,8 @@
 // A load of lines whose file operations fail: the tables are as before or as the file has them, and the words are the known
 // ones.
 
-#include "session/Routines.h"
 #include "support/FileFaultReaders.h"
+#include "support/Routines.h"
 
 #include <random>
 

@@ -1,10 +1,11 @@
 // Every file operation of the export and of the wrapper's two ways between files fails in every way, and the process is
 // killed at every one of them. Saves, opens and loads have tests of their own beside this one.
 
+#include "files/RatingsExport.h"
 #include "files/WrapFile.h"
 #include "league/Failure.h"
-#include "session/Routines.h"
 #include "support/FaultyFiles.h"
+#include "support/Routines.h"
 
 #include <random>
 

@@ -4,10 +4,10 @@
 
 #include "league/Failure.h"
 #include "session/OpenLeagueClient.h"
-#include "session/Routines.h"
 #include "support/FaultyFiles.h"
 #include "support/OpenedWindow.h"
 #include "support/RealFaults.h"
+#include "support/Routines.h"
 
 #include <algorithm>
 #include <chrono>

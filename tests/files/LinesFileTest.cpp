@@ -1,7 +1,8 @@
-#include "session/Routines.h"
+#include "files/LinesFile.h"
 
 #include "league/Failure.h"
 #include "support/LeagueImage.h"
+#include "support/Routines.h"
 #include "support/SmallLeague.h"
 
 #include <cstring>
@@ -293,7 +294,7 @@ TEST_F(LinesFileTest, OnlyPeopleOfTheTeamTakeTheirWordFromTheFile)
     RosterChangesGoalie[1].TradeAvailable = true;
     RosterChangesGoalie[3].Status = 0; // of team 6
     const ByteVector slots = LinesSlots(5);
-    MarkRosterChangesUntouched();
+    MarkRosterChangesUntouched(OpenLeague);
     for (auto& change : RosterChanges)
         change.Protected = change.TradeAvailable = false;
     Players[2].Protected = true;

@@ -1,7 +1,8 @@
-#include "session/Routines.h"
+#include "files/OffersFile.h"
 
 #include "league/Failure.h"
 #include "support/ClientFileBytes.h"
+#include "support/Routines.h"
 #include "support/SmallLeague.h"
 
 #include <filesystem>
@@ -190,7 +191,7 @@ TEST_F(OffersFileTest, AnOfferWithoutAnIdIsNotWritten)
     Offer(1).Id = 0;
     Offer(2);
     EXPECT_THAT(Ids(SavedPlain()), ElementsAre(2));
-    EXPECT_TRUE(IsOffer(Offers[1])) << "it says enough all the same";
+    EXPECT_TRUE(IsOffer(LeagueData, Offers[1])) << "it says enough all the same";
     EXPECT_EQ(Offers[1].Team, 0);
 }
 

@@ -1,7 +1,8 @@
-#include "session/Routines.h"
+#include "files/RatingsExport.h"
 
 #include "support/ClientFileBytes.h"
 #include "support/LeagueImage.h"
+#include "support/Routines.h"
 #include "support/SmallLeague.h"
 
 #include <filesystem>

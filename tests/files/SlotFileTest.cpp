@@ -1,6 +1,6 @@
 #include "files/SlotFile.h"
 
-#include "session/Routines.h"
+#include "session/Session.h"
 #include "support/BytePieces.h"
 #include "support/SmallLeague.h"
 

@@ -1,4 +1,4 @@
-#include "session/Routines.h"
+#include "session/Session.h"
 #include "support/SmallLeague.h"
 
 namespace dravik {
@@ -8,7 +8,7 @@ TEST(TablesTest, ARosterWordThatNobodyHasTouchedIs10)
 {
     ResetClientVariables();
     RosterChanges[3].Protected = true;
-    MarkRosterChangesUntouched();
+    MarkRosterChangesUntouched(OpenLeague);
     for (const RosterChange& change : RosterChanges)
         ASSERT_EQ(change.Status, 10);
     for (const RosterChange& change : RosterChangesGoalie)

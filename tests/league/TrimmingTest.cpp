@@ -1,5 +1,4 @@
 #include "league/Trimming.h"
-#include "session/Routines.h"
 
 #include <gtest/gtest.h>
 #include <string>

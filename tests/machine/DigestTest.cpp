@@ -1,7 +1,7 @@
 #include "machine/Digest.h"
 
-#include "session/Routines.h"
 #include "support/FailingAllocation.h"
+#include "support/Routines.h"
 #include "support/SmallLeague.h"
 
 #include <array>

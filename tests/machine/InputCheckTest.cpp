@@ -1,6 +1,7 @@
-#include "session/Routines.h"
+#include "machine/InputCheck.h"
 
 #include "support/FailingBoxes.h"
+#include "support/Routines.h"
 #include "support/SmallLeague.h"
 
 namespace dravik {

@@ -1,5 +1,9 @@
-#include "session/Routines.h"
-#include "support/SmallLeague.h"
+#include "machine/Location.h"
+
+#include "league/Failure.h"
+#include "support/ScriptedPlatform.h"
+
+#include <gmock/gmock.h>
 
 namespace dravik {
 namespace {
@@ -9,8 +13,7 @@ using ::testing::ElementsAre;
 TEST(LocationTest, ALocationIsHandedToTheDesktopAndItsAnswerReturned)
 {
     ScriptedPlatform machine;
-    UseMachine(machine);
-    EXPECT_EQ(OpenLocation("http://localhost/", 5), 42);
+    EXPECT_EQ(OpenLocation(machine, "http://localhost/", 5), 42);
     EXPECT_THAT(machine.OpenedLocations, ElementsAre("http://localhost/"));
     EXPECT_THAT(machine.Boxes(), ElementsAre());
 }
@@ -21,8 +24,7 @@ TEST(LocationTest, TheShowModeReachesTheDesktopAsGiven)
     public:
         int OpenLocation(const std::string& /*location*/, int showMode) override { return showMode; }
     } machine;
-    UseMachine(machine);
-    EXPECT_EQ(OpenLocation("x", 70000), 70000);
+    EXPECT_EQ(OpenLocation(machine, "x", 70000), 70000);
 }
 
 TEST(LocationTest, AFailureIsToldAndTheAnswerIs0)
@@ -31,8 +33,7 @@ TEST(LocationTest, AFailureIsToldAndTheAnswerIs0)
     public:
         int OpenLocation(const std::string& /*location*/, int /*showMode*/) override { Fail(failure::FileNotFound); }
     } machine;
-    UseMachine(machine);
-    EXPECT_EQ(OpenLocation("nowhere", 1), 0);
+    EXPECT_EQ(OpenLocation(machine, "nowhere", 1), 0);
     EXPECT_THAT(machine.Boxes(), ElementsAre(Box{16, "53 - File not found in OpenLocation Function!"}));
 }
 

@@ -4,8 +4,8 @@
 #include "support/RealFaults.h"
 
 #include "league/Failure.h"
-#include "session/Routines.h"
 #include "support/FaultyFiles.h"
+#include "support/Routines.h"
 
 #ifndef _WIN32
 

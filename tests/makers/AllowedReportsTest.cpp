@@ -1,4 +1,4 @@
-#include "session/Routines.h"
+#include "support/Routines.h"
 #include "support/SmallLeague.h"
 
 // What the makers still show while the program allows no messages: only what nobody has to ask for.

@@ -1,5 +1,5 @@
 #include "makers/LinesView.h"
-#include "session/Routines.h"
+#include "support/Routines.h"
 #include "support/SmallLeague.h"
 
 #include <numeric>

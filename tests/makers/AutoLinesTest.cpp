@@ -1,6 +1,6 @@
 #include "makers/LinesView.h"
 #include "makers/OpenRun.h"
-#include "session/Routines.h"
+#include "support/Routines.h"
 #include "support/SmallLeague.h"
 
 namespace dravik {

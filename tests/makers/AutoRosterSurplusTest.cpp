@@ -1,6 +1,6 @@
 #include "makers/AutoRosterTeam.h"
-#include "session/Routines.h"
 #include "support/LineFindings.h"
+#include "support/Routines.h"
 
 namespace dravik {
 namespace {

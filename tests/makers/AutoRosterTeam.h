@@ -1,7 +1,7 @@
 #pragma once
 
 #include "rules/LineSlots.h"
-#include "session/Routines.h"
+#include "support/Routines.h"
 #include "support/SmallLeague.h"
 
 namespace dravik {

@@ -1,5 +1,5 @@
 #include "makers/AutoRosterTeam.h"
-#include "session/Routines.h"
+#include "support/Routines.h"
 
 // What the makers tell the news, and in which order.
 namespace dravik {

@@ -3,7 +3,7 @@
 #include "makers/RandomTeam.h"
 #include "makers/RatingList.h"
 #include "makers/SecondReading.h"
-#include "session/Routines.h"
+#include "support/Routines.h"
 
 #include <algorithm>
 #include <cstring>

@@ -1,6 +1,7 @@
-#include "session/Routines.h"
+#include "rules/Finance.h"
 #include "support/LeagueImage.h"
 #include "support/RandomLeague.h"
+#include "support/Routines.h"
 #include "support/SmallLeague.h"
 
 // A routine that refuses its team has told so and done nothing, people of no team included.
@@ -44,6 +45,7 @@ TEST_P(RefusedTeam, IsToldOnceAndLeavesEveryByteOfTheTables)
     LeagueData.FarmEnabled = true;
     LeagueData.FarmRosterRequired = true;
     LeagueData.ExpenseFlag = false;
+    RosterFixed = 0;
     const ByteVector before = AllTables();
     for (const int team : {-1, 0, 101}) {
         GetParam().Run(team);

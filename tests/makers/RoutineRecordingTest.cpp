@@ -1,7 +1,10 @@
+#include "machine/Reporting.h"
 #include "makers/RandomTeam.h"
-#include "session/Routines.h"
+#include "rules/Finance.h"
+#include "rules/Waivers.h"
 #include "support/LeagueImage.h"
 #include "support/RandomLeague.h"
+#include "support/Routines.h"
 
 #include <cstdlib>
 #include <cstring>
@@ -105,7 +108,7 @@ std::string TextOf(float number)
 std::string SeasonOf(int team)
 {
     SeasonFigures season;
-    Reporting(" in the season!", [&] { ProjectSeason(team, season); });
+    Reporting(Machine(), " in the season!", [&] { ProjectSeason(team, season); });
     std::string text = std::to_string(static_cast<int>(season.Form));
     const auto add = [&text](const auto& figure) { text += ' ' + TextOf(figure); };
     add(season.Cash);

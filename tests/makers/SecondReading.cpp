@@ -1,7 +1,9 @@
 #include "makers/SecondReading.h"
 
+#include "rules/Finance.h"
 #include "rules/LineSlots.h"
-#include "session/Routines.h"
+#include "rules/Waivers.h"
+#include "support/Routines.h"
 
 #include <algorithm>
 #include <cmath>

@@ -1,6 +1,6 @@
 #include "rules/RosterTexts.h"
-#include "session/Routines.h"
 #include "support/LineFindings.h"
+#include "support/Routines.h"
 #include "support/SmallLeague.h"
 
 // What the judges still show while the program allows no messages: only what nobody has to ask for.

@@ -1,4 +1,5 @@
-#include "session/Routines.h"
+#include "rules/Finance.h"
+#include "session/Session.h"
 #include "support/FailingBoxes.h"
 #include "support/LeagueImage.h"
 #include "support/RandomLeague.h"

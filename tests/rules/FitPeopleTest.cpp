@@ -1,6 +1,6 @@
 #include "rules/RosterTexts.h"
-#include "session/Routines.h"
 #include "support/LineFindings.h"
+#include "support/Routines.h"
 #include "support/SmallLeague.h"
 
 // It is the condition that makes a person unfit for the judges, never the text of his injury.

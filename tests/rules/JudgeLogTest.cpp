@@ -1,7 +1,8 @@
+#include "rules/Finance.h"
 #include "rules/RosterTexts.h"
-#include "session/Routines.h"
 #include "support/FailingBoxes.h"
 #include "support/LineFindings.h"
+#include "support/Routines.h"
 #include "support/SmallLeague.h"
 
 #include <functional>

@@ -1,6 +1,6 @@
 #include "rules/LineSlots.h"
-#include "session/Routines.h"
 #include "support/LineFindings.h"
+#include "support/Routines.h"
 #include "support/SmallLeague.h"
 
 #include <array>

@@ -1,7 +1,7 @@
 #include "rules/LineSlots.h"
-#include "session/Routines.h"
 #include "support/LeagueImage.h"
 #include "support/LineFindings.h"
+#include "support/Routines.h"
 #include "support/SmallLeague.h"
 
 #include <algorithm>

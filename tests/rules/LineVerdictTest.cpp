@@ -1,8 +1,8 @@
 #include "rules/LineVerdict.h"
 
 #include "rules/LineSlots.h"
-#include "session/Routines.h"
 #include "support/LineFindings.h"
+#include "support/Routines.h"
 #include "support/SmallLeague.h"
 
 #include <algorithm>

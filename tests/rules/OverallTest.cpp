@@ -1,5 +1,7 @@
-#include "session/Routines.h"
+#include "rules/Overall.h"
+
 #include "support/RandomLeague.h"
+#include "support/Routines.h"
 #include "support/SmallLeague.h"
 
 #include <array>

@@ -1,6 +1,6 @@
 #include "rules/RosterTexts.h"
-#include "session/Routines.h"
 #include "support/LeagueImage.h"
+#include "support/Routines.h"
 #include "support/SmallLeague.h"
 
 #include <string>

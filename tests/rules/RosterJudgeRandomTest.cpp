@@ -1,8 +1,8 @@
 #include "rules/LineSlots.h"
 #include "rules/RosterTexts.h"
-#include "session/Routines.h"
 #include "support/LeagueImage.h"
 #include "support/RandomLeague.h"
+#include "support/Routines.h"
 #include "support/SmallLeague.h"
 
 #include <memory>

@@ -1,7 +1,7 @@
 #include "rules/LineSlots.h"
 #include "rules/RosterTexts.h"
-#include "session/Routines.h"
 #include "support/LeagueImage.h"
+#include "support/Routines.h"
 #include "support/SmallLeague.h"
 
 #include <string>

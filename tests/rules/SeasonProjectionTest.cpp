@@ -1,7 +1,9 @@
-#include "session/Routines.h"
+#include "rules/SeasonProjection.h"
 
+#include "rules/Finance.h"
 #include "support/LeagueImage.h"
 #include "support/RandomLeague.h"
+#include "support/Routines.h"
 #include "support/SmallLeague.h"
 
 #include <algorithm>

@@ -1,5 +1,6 @@
-#include "session/Routines.h"
+#include "rules/StatRows.h"
 
+#include "support/Routines.h"
 #include "support/SmallLeague.h"
 
 #include <numeric>

@@ -1,6 +1,7 @@
-#include "session/Routines.h"
+#include "rules/Waivers.h"
 #include "support/LeagueImage.h"
 #include "support/RandomLeague.h"
+#include "support/Routines.h"
 #include "support/SmallLeague.h"
 
 #include <cstring>

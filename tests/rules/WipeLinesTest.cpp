@@ -1,7 +1,9 @@
-#include "session/Routines.h"
+#include "rules/WipeLines.h"
+
 #include "support/FailingBoxes.h"
 #include "support/LeagueImage.h"
 #include "support/RandomLeague.h"
+#include "support/Routines.h"
 #include "support/SmallLeague.h"
 
 #include <array>

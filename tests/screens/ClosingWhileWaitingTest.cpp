@@ -2,7 +2,7 @@
 
 #include "OnMainScreen.h"
 #include "OnTeamScreen.h"
-#include "session/Routines.h"
+#include "session/Session.h"
 
 #include <filesystem>
 #include <QPointer>

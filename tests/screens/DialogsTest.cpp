@@ -7,7 +7,6 @@
 #include "screens/platform/FusionLook.h"
 #include "screens/platform/Palettes.h"
 #include "screens/platform/QtPlatform.h"
-#include "session/Routines.h"
 
 #include <gmock/gmock.h>
 #include <QIcon>

@@ -1,6 +1,6 @@
 #include "Hands.h"
 #include "OnDraftScreen.h"
-#include "session/Routines.h"
+#include "support/Routines.h"
 
 #include <filesystem>
 

@@ -2,7 +2,7 @@
 #include "OnMainScreen.h"
 
 #include "screens/platform/QtPlatform.h"
-#include "session/Routines.h"
+#include "support/Routines.h"
 
 #include <filesystem>
 

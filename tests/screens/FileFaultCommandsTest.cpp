@@ -6,7 +6,7 @@
 #include "OnMainScreen.h"
 #include "OnOfferScreen.h"
 #include "OnTeamScreen.h"
-#include "session/Routines.h"
+#include "session/Session.h"
 #include "support/FaultyFiles.h"
 
 #include <filesystem>

@@ -1,7 +1,7 @@
 #include "Hands.h"
 #include "OnOfferScreen.h"
 #include "screens/platform/CodePage.h"
-#include "session/Routines.h"
+#include "session/Session.h"
 
 namespace dravik {
 namespace {

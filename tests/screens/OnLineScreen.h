@@ -4,7 +4,7 @@
 #include "screens/lines/frmFarmLine.h"
 #include "screens/lines/frmLine.h"
 #include "screens/RosterEntry.h"
-#include "session/Routines.h"
+#include "session/Session.h"
 
 namespace dravik {
 

@@ -4,7 +4,7 @@
 #include "screens/platform/QtPlatform.h"
 #include "screens/Stage.h"
 #include "screens/team/frmTeam.h"
-#include "session/Routines.h"
+#include "session/Session.h"
 #include "support/LineFindings.h"
 #include "support/SmallLeague.h"
 

@@ -2,7 +2,7 @@
 
 #include "OnStage.h"
 #include "screens/player/frmEditPlayer.h"
-#include "session/Routines.h"
+#include "session/Session.h"
 
 namespace dravik {
 

@@ -1,7 +1,7 @@
 #include "screens/panels/QuietLines.h"
 #include "OnMainScreen.h"
 #include "screens/panels/Shades.h"
-#include "session/Routines.h"
+#include "session/Session.h"
 
 #include <filesystem>
 #include <QImage>

@@ -1,7 +1,7 @@
 #include "OnMainScreen.h"
 #include "OnTeamScreen.h"
 #include "screens/platform/CodePage.h"
-#include "session/Routines.h"
+#include "support/Routines.h"
 
 #include <QHelpEvent>
 #include <QTextDocument>

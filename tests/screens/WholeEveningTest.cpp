@@ -11,8 +11,8 @@
 #include "screens/roster/frmRoster.h"
 #include "screens/RosterEntry.h"
 #include "screens/team/frmTicket.h"
-#include "session/Routines.h"
 #include "support/ClientFileBytes.h"
+#include "support/Routines.h"
 
 #include <cstring>
 #include <memory>

@@ -1,6 +1,7 @@
 #include "screens/main/frmAbout.h"
+#include "machine/Location.h"
 #include "OnStage.h"
-#include "session/Routines.h"
+#include "session/Session.h"
 
 namespace dravik {
 namespace {

@@ -1,5 +1,6 @@
+#include "files/DraftFile.h"
 #include "OnDraftScreen.h"
-#include "session/Routines.h"
+#include "session/Session.h"
 
 namespace dravik {
 namespace {

@@ -1,5 +1,5 @@
 #include "OnDraftScreen.h"
-#include "session/Routines.h"
+#include "session/Session.h"
 
 namespace dravik {
 namespace {

@@ -1,4 +1,5 @@
 #include "OnViewer.h"
+#include "support/Routines.h"
 
 // The boxes of the ratings.
 namespace dravik {

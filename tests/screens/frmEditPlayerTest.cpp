@@ -1,6 +1,7 @@
 #include "AnswerDialog.h"
 #include "OnViewer.h"
 #include "screens/platform/Palettes.h"
+#include "support/Routines.h"
 
 #include <QGroupBox>
 

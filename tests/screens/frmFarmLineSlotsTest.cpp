@@ -1,5 +1,5 @@
 #include "OnLineScreen.h"
-#include "session/Routines.h"
+#include "support/Routines.h"
 
 #include <cstring>
 

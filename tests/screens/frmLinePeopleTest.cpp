@@ -1,4 +1,5 @@
 #include "OnLineScreen.h"
+#include "support/Routines.h"
 
 #include <QHelpEvent>
 #include <QTextDocument>

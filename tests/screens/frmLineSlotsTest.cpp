@@ -1,6 +1,7 @@
 #include "Dragging.h"
 #include "LineLabelTable.h"
 #include "OnLineScreen.h"
+#include "support/Routines.h"
 
 #include <cstring>
 

@@ -1,5 +1,5 @@
 #include "OnMainScreen.h"
-#include "session/Routines.h"
+#include "session/Session.h"
 
 #include <filesystem>
 

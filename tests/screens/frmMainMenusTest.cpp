@@ -1,6 +1,6 @@
 #include "OnMainScreen.h"
 
-#include "session/Routines.h"
+#include "support/Routines.h"
 #include <QTimer>
 
 namespace dravik {

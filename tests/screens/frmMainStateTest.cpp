@@ -1,6 +1,7 @@
 #include "OnMainScreen.h"
 
-#include "session/Routines.h"
+#include "rules/RosterJudge.h"
+#include "session/Session.h"
 #include <QMenuBar>
 
 namespace dravik {
@@ -141,7 +142,7 @@ TEST_F(MainState, SetLinesRepairsTheRosterWithoutAWordOfItsOwn)
         ElementsAre(Box{48, "Roster is not Complete!\r\nYou cannot make your lines if your roster is not done!"}));
     EXPECT_EQ(Players[1].Status, status::Scratch);
     EXPECT_EQ(RosterChanges[1].Status, status::Scratch);
-    EXPECT_EQ(RosterFixed, 1);
+    EXPECT_FALSE(CheckRoster(OpenWork(), 1, false, true, false).Repaired) << "it is repaired by now";
     EXPECT_EQ(TheStage.Find("Line"), nullptr);
 }
 
@@ -151,11 +152,10 @@ TEST_F(MainState, SetFarmLinesLeavesTheRosterAlone)
     Players[1].Condition = 50;
     MainWithLeague();
     CurrentTeam = 1;
-    RosterFixed = 0;
     Main().mnuSetFarmLines->trigger();
     ASSERT_NE(TheStage.Find("FarmLine"), nullptr);
     EXPECT_EQ(Players[1].Status, status::Pro);
-    EXPECT_EQ(RosterFixed, 0);
+    EXPECT_TRUE(CheckRoster(OpenWork(), 1, false, true, false).Repaired) << "it was left to be repaired";
     EXPECT_THAT(Machine.Boxes(), IsEmpty());
 }
 

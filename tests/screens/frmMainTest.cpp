@@ -1,7 +1,7 @@
 #include "MainScreenWords.h"
 #include "OnMainScreen.h"
 #include "screens/ElementName.h"
-#include "session/Routines.h"
+#include "session/Session.h"
 
 namespace dravik {
 namespace {

@@ -1,6 +1,7 @@
 #include "OnRosterScreen.h"
 
-#include "session/Routines.h"
+#include "rules/Waivers.h"
+#include "support/Routines.h"
 
 namespace dravik {
 namespace {

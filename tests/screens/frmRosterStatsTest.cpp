@@ -1,6 +1,6 @@
 #include "OnRosterScreen.h"
 
-#include "session/Routines.h"
+#include "support/Routines.h"
 
 namespace dravik {
 namespace {

@@ -1,7 +1,7 @@
 #include "OnRosterScreen.h"
 
-#include "session/Routines.h"
 #include "support/LeagueImage.h"
+#include "support/Routines.h"
 
 #include <algorithm>
 

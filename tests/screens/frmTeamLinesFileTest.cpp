@@ -1,6 +1,6 @@
 #include "OnTeamScreen.h"
 
-#include "session/Routines.h"
+#include "session/Session.h"
 #include "support/ClientFileBytes.h"
 #include <filesystem>
 

@@ -1,6 +1,6 @@
 #include "OnTeamScreen.h"
 
-#include "session/Routines.h"
+#include "support/Routines.h"
 #include <limits>
 
 namespace dravik {

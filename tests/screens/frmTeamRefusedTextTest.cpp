@@ -1,7 +1,7 @@
 #include "AnswerDialog.h"
 #include "OnTeamScreen.h"
 #include "screens/platform/QtPlatform.h"
-#include "session/Routines.h"
+#include "session/Session.h"
 
 #include <QEventLoop>
 #include <QMessageBox>

@@ -1,7 +1,8 @@
 #include "OnTeamScreen.h"
 
+#include "rules/Finance.h"
 #include "screens/roster/frmRoster.h"
-#include "session/Routines.h"
+#include "session/Session.h"
 #include <QEventLoop>
 #include <QHelpEvent>
 #include <QScrollArea>

@@ -1,6 +1,6 @@
 #include "screens/team/frmTicket.h"
 #include "OnTeamScreen.h"
-#include "session/Routines.h"
+#include "session/Session.h"
 #include "support/FailingBoxes.h"
 #include "support/LeagueImage.h"
 

@@ -1,6 +1,6 @@
 #include "Writer.h"
 
-#include "session/Routines.h"
+#include "support/Routines.h"
 
 #include <limits>
 #include <memory>

@@ -2,7 +2,7 @@
 
 #include "league/Failure.h"
 #include "session/OpenLeagueClient.h"
-#include "session/Routines.h"
+#include "session/Session.h"
 #include "support/BadFiles.h"
 #include "support/LeagueImage.h"
 #include "support/OpenedWindow.h"

@@ -1,7 +1,7 @@
 // Client files that were damaged on their way and open all the same, because what came out of them has all that is asked for.
 
 #include "session/OpenLeagueClient.h"
-#include "session/Routines.h"
+#include "session/Session.h"
 #include "support/BadFiles.h"
 #include "support/LeagueImage.h"
 #include "support/OpenedWindow.h"

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "session/OpenLeagueClient.h"
-#include "session/Routines.h"
+#include "session/Session.h"
 #include "support/LeagueImage.h"
 #include "support/OpenedWindow.h"
 #include "support/SmallLeague.h"

@@ -1,4 +1,4 @@
-#include "session/Routines.h"
+#include "session/Session.h"
 
 #include "support/SmallLeague.h"
 
@@ -39,7 +39,7 @@ void SoilEverything()
     Soil(RosterChanges);
     Soil(RosterChangesGoalie);
     WindowTitle = TempFile = CallerScreen = "soiled";
-    CurrentTeam = PlayerStatCount = GoalieStatCount = SelectedPlayer = RosterFixed = ViewerReturnMode = 7;
+    CurrentTeam = PlayerStatCount = GoalieStatCount = SelectedPlayer = ViewerReturnMode = 7;
     Modified = SelectedIsGoalie = ListEventGuard = true;
 }
 
@@ -63,7 +63,6 @@ TEST_F(SessionTest, AProgramThatHasJustStartedKnowsNoLeagueAndNoTeam)
     EXPECT_EQ(PlayerStatCount, 0);
     EXPECT_EQ(GoalieStatCount, 0);
     EXPECT_EQ(SelectedPlayer, 0);
-    EXPECT_EQ(RosterFixed, 0);
     EXPECT_EQ(ViewerReturnMode, 0);
     EXPECT_FALSE(Modified || SelectedIsGoalie || ListEventGuard);
 }
@@ -107,19 +106,19 @@ std::string Everything()
     add(RosterChangesGoalie);
     all += WindowTitle + TempFile + CallerScreen;
     for (const long long number : {static_cast<long long>(CurrentTeam), static_cast<long long>(Machine().MsgResult),
-                                   static_cast<long long>(RosterFixed), static_cast<long long>(Modified)})
+                                   static_cast<long long>(Modified)})
         all += std::to_string(number) + ";";
     return all;
 }
 
 TEST_F(SessionTest, NewsLogLinesAndAnErasedPlayerReachTheMachineAsTheyAre)
 {
-    LeagueNews("Team 5 changed its name.");
-    TeamNews(5, " Skater 1 was sent to the farm.\r\n");
-    TeamNews(-7, "");
+    dravik::Machine().LeagueNews("Team 5 changed its name.");
+    dravik::Machine().TeamNews(5, " Skater 1 was sent to the farm.\r\n");
+    dravik::Machine().TeamNews(-7, "");
     dravik::Machine().WriteLog("Status of Skater 1 was fixed.");
-    PlayerErased(1, 5);
-    PlayerErased(99999, 0);
+    dravik::Machine().PlayerErased(1, 5);
+    dravik::Machine().PlayerErased(99999, 0);
     EXPECT_THAT(Machine.TakeNews(), ElementsAre(News{"league", "Team 5 changed its name."},
                                                 News{"team 5", " Skater 1 was sent to the farm.\r\n"},
                                                 News{"team -7", ""}, News{"log", "Status of Skater 1 was fixed."}));
@@ -131,12 +130,12 @@ TEST_F(SessionTest, NewsLogLinesAndAnErasedPlayerHaveNoEffect)
 {
     TeamMaker(5).DressesFullRoster();
     const std::string before = Everything();
-    LeagueNews("Team 5 changed its name.");
-    TeamNews(5, "Skater 1 was sent to the farm.");
-    TeamNews(-7, "A team that is none.");
+    dravik::Machine().LeagueNews("Team 5 changed its name.");
+    dravik::Machine().TeamNews(5, "Skater 1 was sent to the farm.");
+    dravik::Machine().TeamNews(-7, "A team that is none.");
     dravik::Machine().WriteLog("Status of Skater 1 was fixed.");
-    PlayerErased(1, 5);
-    PlayerErased(99999, 0);
+    dravik::Machine().PlayerErased(1, 5);
+    dravik::Machine().PlayerErased(99999, 0);
     EXPECT_TRUE(Everything() == before);
     EXPECT_THAT(Machine.Boxes(), IsEmpty());
     EXPECT_THAT(Machine.FileOperations(), IsEmpty());
@@ -144,9 +143,9 @@ TEST_F(SessionTest, NewsLogLinesAndAnErasedPlayerHaveNoEffect)
 
 TEST_F(SessionTest, TheWaitScreenIsTheMachines)
 {
-    ShowWait();
+    dravik::Machine().ShowWait();
     EXPECT_TRUE(Machine.WaitShown);
-    CloseWait();
+    dravik::Machine().CloseWait();
     EXPECT_FALSE(Machine.WaitShown);
 }
 

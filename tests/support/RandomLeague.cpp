@@ -1,7 +1,7 @@
 #include "support/RandomLeague.h"
 
 #include "rules/LineSlots.h"
-#include "session/Routines.h"
+#include "session/Session.h"
 #include "support/SmallLeague.h"
 
 namespace dravik {
@@ -64,7 +64,7 @@ void RollTeam(Dice& dice, int number, const RandomSize& size)
         assistant = dice.Roll(0, size.Skaters);
     for (const Side side : {Side::Pro, Side::Farm})
         for (int day = 1; day <= 10; ++day) {
-            Lines& lines = LinesOf(number, day, side);
+            Lines& lines = LinesOf(OpenLeague, number, day, side);
             for (const LineSlot& slot : SkaterSlots)
                 At(lines, slot) = dice.Chance(10) ? 0 : dice.Roll(1, size.Skaters);
             lines.StartGoalie = dice.Roll(0, size.Goalies);

@@ -1,7 +1,7 @@
 #include "support/SmallLeague.h"
 
 #include "rules/LineSlots.h"
-#include "session/Routines.h"
+#include "session/Session.h"
 
 #include <algorithm>
 
@@ -158,7 +158,7 @@ SmallLeague::SmallLeague()
     ResetClientVariables();
     UseMachine(Machine);
     Machine.MessagesAllowed = true;
-    MarkRosterChangesUntouched();
+    MarkRosterChangesUntouched(OpenLeague);
     TempFile = Machine.InFolder("ClientTemp.dvt");
     WindowTitle = "Dravik Hockey Simulator Client";
 

@@ -2,7 +2,7 @@
 #include "sample-league/Command.h"
 #include "SampleFixture.h"
 #include "session/OpenLeagueClient.h"
-#include "session/Routines.h"
+#include "session/Session.h"
 #include "support/OpenedWindow.h"
 
 #include <filesystem>

@@ -1,5 +1,6 @@
+#include "rules/Finance.h"
 #include "SampleFixture.h"
-#include "session/Routines.h"
+#include "session/Session.h"
 
 namespace dravik {
 

@@ -1,6 +1,6 @@
 #include "rules/LineSlots.h"
 #include "SampleFixture.h"
-#include "session/Routines.h"
+#include "support/Routines.h"
 
 #include <set>
 

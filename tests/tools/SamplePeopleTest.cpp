@@ -1,5 +1,5 @@
 #include "SampleFixture.h"
-#include "session/Routines.h"
+#include "support/Routines.h"
 
 #include <map>
 #include <set>

@@ -1,7 +1,7 @@
 #include "sample-league/ClientFileWriter.h"
 
 #include "files/SlotFile.h"
-#include "session/Routines.h"
+#include "session/Session.h"
 
 namespace dravik::sample {
 

@@ -1,5 +1,6 @@
 #include "Random.h"
-#include "session/Routines.h"
+#include "rules/Finance.h"
+#include "session/Session.h"
 #include "Subjects.h"
 
 namespace dravik::sample {

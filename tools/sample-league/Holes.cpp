@@ -1,6 +1,8 @@
 #include "Random.h"
+#include "rules/Finance.h"
 #include "rules/LineSlots.h"
-#include "session/Routines.h"
+#include "rules/WipeLines.h"
+#include "session/Session.h"
 #include "Subjects.h"
 
 namespace dravik::sample {
@@ -39,7 +41,7 @@ void ShortenRoster(int team)
     const std::vector<int> defensemen = DefensemenOf(team, status::Pro);
     for (const int index : {defensemen.at(0), defensemen.at(1)}) {
         Players[index].Status = status::Scratch;
-        WipePlayerFromTeamLines(team, index);
+        WipePlayerFromTeamLines(OpenLeague, Machine(), team, index);
     }
 }
 
@@ -65,28 +67,28 @@ void ShortenFarm(int team)
     for (std::size_t i = 1; i < goalies.size(); ++i) {
         Goalies[goalies[i]].Team = 0;
         Goalies[goalies[i]].Contract = 0;
-        WipePlayerFromTeamLines(team, goalies[i] + GoalieOffset);
+        WipePlayerFromTeamLines(OpenLeague, Machine(), team, goalies[i] + GoalieOffset);
     }
     const std::vector<int> defensemen = DefensemenOf(team, status::Farm);
     for (std::size_t i = 3; i < defensemen.size(); ++i) {
         Player& player = Players[defensemen[i]];
         player.Team = 0;
         player.Contract = 0;
-        WipePlayerFromTeamLines(team, defensemen[i]);
+        WipePlayerFromTeamLines(OpenLeague, Machine(), team, defensemen[i]);
     }
 }
 
 void EmptyFarmDays(int team)
 {
     for (int day = 3; day <= 10; ++day)
-        WipesLines(team, day, false);
+        WipesLines(OpenLeague, Machine(), team, day, false);
 }
 
 void EmptyAllDays(int team)
 {
     for (int day = 1; day <= 10; ++day) {
-        WipesLines(team, day, true);
-        WipesLines(team, day, false);
+        WipesLines(OpenLeague, Machine(), team, day, true);
+        WipesLines(OpenLeague, Machine(), team, day, false);
     }
 }
 

@@ -1,6 +1,7 @@
+#include "makers/Makers.h"
 #include "Random.h"
 #include "rules/LineSlots.h"
-#include "session/Routines.h"
+#include "session/Session.h"
 #include "Subjects.h"
 
 #include <utility>
@@ -59,10 +60,10 @@ void MakeLineUps(const SampleOptions& options)
 {
     Random random(options.Seed, "line-ups");
     for (const int team : TeamsInUse()) {
-        AutoLines(team, false, 1);
+        AutoLines(OpenWork(), team, false, 1);
         SetBench(random, Teams[team].ProLines[1]);
         FillLaterDays(random, Teams[team].ProLines);
-        AutoLinesFarm(team, false, 1);
+        AutoLinesFarm(OpenWork(), team, false, 1);
         FillLaterDays(random, Teams[team].Farm.FarmLines);
     }
 }

@@ -1,6 +1,7 @@
 #include "Ratings.h"
 
-#include "session/Routines.h"
+#include "rules/Overall.h"
+#include "session/Session.h"
 
 #include <algorithm>
 #include <array>
@@ -70,7 +71,7 @@ template <class Person>
 void Reach(Person& person, std::span<const int> core, int position, int index, int overall)
 {
     for (int tries = 0; tries < 60; ++tries) {
-        const int missing = overall - CalculateOverall(position, index);
+        const int missing = overall - CalculateOverall(OpenLeague, Machine(), position, index);
         if (missing == 0)
             return;
         for (const int stat : core)

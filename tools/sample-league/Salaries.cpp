@@ -1,5 +1,6 @@
 #include "Random.h"
-#include "session/Routines.h"
+#include "rules/Overall.h"
+#include "session/Session.h"
 #include "Subjects.h"
 
 namespace dravik::sample {
@@ -28,10 +29,12 @@ void PayPros(int team, long long pay)
     for (const int status : {status::Scratch, status::Pro}) {
         for (const int index : SkatersOf(team, status)) {
             Player& player = Players[index];
-            payees.push_back({&player.Salary, WeightOf(CalculateOverall(static_cast<int>(player.Position), index))});
+            payees.push_back({&player.Salary, WeightOf(CalculateOverall(OpenLeague, Machine(),
+                                                                        static_cast<int>(player.Position), index))});
         }
         for (const int index : GoaliesOf(team, status))
-            payees.push_back({&Goalies[index].Salary, WeightOf(CalculateOverall(position::Goalie, index))});
+            payees.push_back(
+                {&Goalies[index].Salary, WeightOf(CalculateOverall(OpenLeague, Machine(), position::Goalie, index))});
     }
     long long weights = 1;
     for (const Payee& payee : payees)

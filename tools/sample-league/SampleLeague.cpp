@@ -1,6 +1,6 @@
 #include "SampleLeague.h"
 
-#include "session/Routines.h"
+#include "session/Session.h"
 #include "Subjects.h"
 
 namespace dravik {

@@ -1,8 +1,9 @@
 #include "CodePage.h"
+#include "machine/Digest.h"
 #include "Names.h"
 #include "Places.h"
 #include "Random.h"
-#include "session/Routines.h"
+#include "session/Session.h"
 #include "Subjects.h"
 
 #include <array>
@@ -84,7 +85,7 @@ void MakeTeams(const SampleOptions& options)
         team.PayrollBonus = random.Chance(25) ? random.Between(5, 50) * 25000 : 0;
     }
     for (const TeamPassword& password : SamplePasswords)
-        Teams[password.Team].Password = DigestStrToHexStr(password.Password);
+        Teams[password.Team].Password = DigestStrToHexStr(Machine(), password.Password);
 }
 
 } // namespace dravik::sample

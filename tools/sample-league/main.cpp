@@ -1,5 +1,5 @@
 #include "sample-league/Command.h"
-#include "session/Routines.h"
+#include "session/Session.h"
 
 #include <iostream>
 

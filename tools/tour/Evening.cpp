@@ -1,11 +1,14 @@
 #include "Evening.h"
+#include "files/LinesFile.h"
 #include "league/Trimming.h"
+#include "rules/RosterJudge.h"
+#include "rules/WipeLines.h"
 #include "screens/lines/frmFarmLine.h"
 #include "screens/lines/frmLine.h"
 #include "screens/platform/CodePage.h"
 #include "screens/player/frmEditPlayer.h"
 #include "screens/RosterEntry.h"
-#include "session/Routines.h"
+#include "session/Session.h"
 
 #include <iostream>
 #include <QApplication>
@@ -92,7 +95,8 @@ void Evening::ShapeRoster()
     Roster().cmdAutoRoster->click();
     QApplication::processEvents();
     answers.ConfirmAll(false);
-    Require(Roster().lblComplete->text() == "Roster Is Complete", "the roster is complete: " + Judged());
+    Require(Roster().lblComplete->text() == "Roster Is Complete",
+            "the roster is complete: " + Roster().txtReasons->toPlainText());
     PickList* pro = Roster().lstPlayer[status::Pro];
     pro->setFocus();
     for (int step = 0; step < 4; ++step) {
@@ -145,11 +149,10 @@ void Evening::ShowPlayer(int position, const QString& picture)
     Require(stage.Find("EditPlayer") == nullptr && Roster().isVisible(), "the roster screen comes back");
 }
 
-QString Evening::Judged() { return ToQString(LastRosterText()); }
-
 void Evening::MakeLines()
 {
-    Require(CheckRoster(plan.Team, false, true, false), "the roster stays complete: " + Judged());
+    const RosterVerdict verdict = CheckRoster(OpenWork(), plan.Team, false, true, false);
+    Require(verdict.Complete, "the roster stays complete: " + ToQString(TextOf(OpenLeague, plan.Team, verdict)));
     MakeLinesOn(*Team().cmdLines, "Line", "lines");
     MakeLinesOn(*Team().cmdFarmLines, "FarmLine", "farmlines");
     Require(Team().cmdSaveToFile->isEnabled(), "both first days are complete");
@@ -193,7 +196,7 @@ void Evening::PickFirst(LinesScreen& screen)
 
 void Evening::SaveLines()
 {
-    const QString target = PathToDesktop(LinesFilePath(plan.Team));
+    const QString target = PathToDesktop(LinesFilePath(OpenLeague, Machine(), plan.Team));
     Require(Team().cmdSaveToFile->isEnabled(), "the lines file can be saved");
     ExpectPassword();
     answers.Confirm("Lines file for " + TeamName() + " successfully save at\n" + target);
@@ -214,7 +217,7 @@ void Evening::ExpectPassword()
 void Evening::LoadLines()
 {
     const Lines day1 = Teams[plan.Team].ProLines[1];
-    WipesLines(plan.Team, 1, true);
+    WipesLines(OpenLeague, Machine(), plan.Team, 1, true);
     Team().FormActivate();
     Require(!Team().cmdSaveToFile->isEnabled(), "wiped lines cannot be saved");
     Photograph("Team", "team-wiped");

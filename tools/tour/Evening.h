@@ -45,7 +45,6 @@ private:
     void ShapeRoster();
     // Opens the record of the first pro of a position by a double click, and closes it again.
     void ShowPlayer(int position, const QString& picture);
-    static QString Judged();
     void MakeLines();
     // Looks at the lines as they came, has those of every day made, and looks at every tab of the first day.
     void MakeLinesOn(QPushButton& command, std::string_view name, const QString& picture);

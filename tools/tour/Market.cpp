@@ -1,10 +1,12 @@
 #include "Evening.h"
+#include "files/DraftFile.h"
+#include "files/OffersFile.h"
 #include "screens/main/frmAbout.h"
 #include "screens/market/frmDraft.h"
 #include "screens/platform/CodePage.h"
 #include "screens/player/frmEditPlayer.h"
 #include "screens/team/frmTicket.h"
-#include "session/Routines.h"
+#include "session/Session.h"
 
 #include <iostream>
 #include <QApplication>
@@ -53,7 +55,7 @@ void Evening::RankDraft()
     auto* viewer = static_cast<frmEditPlayer*>(stage.Find("EditPlayer"));
     Require(viewer != nullptr && viewer->isVisible() && !draft.isVisible(), "the player viewer opens");
     Leave("EditPlayer", draft, viewer->cmdExit);
-    const QString target = PathToDesktop(DraftFilePath(plan.Team));
+    const QString target = PathToDesktop(DraftFilePath(OpenLeague, Machine(), plan.Team));
     ExpectPassword();
     answers.Confirm("Fantasy Draft File save for " + TeamName() + " succesfully at\n" + target);
     draft.cmdSaveToFile->click();
@@ -123,7 +125,7 @@ void Evening::MakeOffers()
     Offers().chkShowPlayerWithOffer->click();
     Require(Offers().lstPlayers->count() == 2, "those with an offer are listed alone");
     Photograph("FreeAgent", "offers-made");
-    const QString target = PathToDesktop(OffersFilePath(plan.Team));
+    const QString target = PathToDesktop(OffersFilePath(OpenLeague, Machine(), plan.Team));
     ExpectPassword();
     answers.ConfirmAll(true); // a report in pages
     Offers().cmdSaveToFile->click();

@@ -15,15 +15,12 @@
 #include "screens/platform/CodePage.h"
 #include "screens/RosterEntry.h"
 #include "screens/Shown.h"
-#include "session/RosterFixed.h"
 #include "session/Session.h"
 
 #include <QGuiApplication>
 
 // Opening and closing, the list, the days, strategy, goalie pull and the commands on the lines.
 namespace dravik {
-
-int LinesScreen::OwnNumber() { return static_cast<int>(CurrentTeam); }
 
 Lines& LinesScreen::ShownLines() const { return LinesOf(OpenLeague, OwnNumber(), ShownDay(), Kind.Side); }
 
@@ -109,13 +106,11 @@ void LinesScreen::lstPlayer_Click()
 
 void LinesScreen::ShowPicked()
 {
-    const int id = static_cast<int>(SelectedPlayer);
     frmStat->HideRows(); // a goalie has fewer rows than a skater
     frmStat->ShowPosition(ToQString(PositionName[SelectedPosition]));
     OnPerson(OpenLeague, SelectedPerson(),
              [this](const auto& person) { ShowPickedName(ToQString(person.Name.Trimmed())); });
-    frmStat->ShowRows(SelectedIsGoalie ? GoalieStatRows(OpenLeague, Machine(), id, static_cast<int>(GoalieStatCount))
-                                       : SkaterStatRows(OpenLeague, Machine(), id, static_cast<int>(PlayerStatCount)));
+    frmStat->ShowRows(StatRowsOf(SelectedPerson()));
     if (!SelectedIsGoalie)
         RefreshPlaying();
 }
@@ -245,21 +240,23 @@ void LinesScreen::txtPullGoalerMinGoal_LostFocus() { TakePull(txtPullGoalerMinGo
 
 void LinesScreen::txtPullGoalerMinPct_LostFocus() { TakePull(txtPullGoalerMinPct, GoaliePull::MinPct); }
 
-void LinesScreen::ShowMade(const Made& made)
+void LinesScreen::ShowDayAnew()
 {
-    KeepRosterFixed(made.RosterRepaired);
     Place();
     Check();
 }
 
-void LinesScreen::cmdAutoLines_Click() { ShowMade(MakeDay(OpenWork(), OwnNumber(), ShownDay(), Kind.Side)); }
+void LinesScreen::cmdAutoLines_Click()
+{
+    MakeDay(OpenWork(), OwnNumber(), ShownDay(), Kind.Side);
+    ShowDayAnew();
+}
 
 void LinesScreen::cmdWipeLines_Click()
 {
     if (!WipeDay(OpenWork(), OwnNumber(), ShownDay(), Kind.Side))
         return;
-    Place();
-    Check();
+    ShowDayAnew();
 }
 
 void LinesScreen::cmdDebug_Click()

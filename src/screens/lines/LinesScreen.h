@@ -110,12 +110,11 @@ protected:
     // Judges the shown day, in a box when asked, and shows what was found.
     bool Judge(bool showMessage);
     void RefreshPlaying();
-    // Shows and judges the day behind a run of a maker.
-    void ShowMade(const Made& made);
+    // Shows and judges the day once more, behind whatever changed all of it.
+    void ShowDayAnew();
 
-    // The day at hand, its team, and the person picked last.
+    // The day at hand.
     [[nodiscard]] int ShownDay() const { return static_cast<int>(Day); }
-    static int OwnNumber();
 
     const LinesKind& Kind;
     QHBoxLayout* Commands = nullptr; // the row of commands on the lines

@@ -2,11 +2,12 @@
 #include "rules/LineEligibility.h"
 #include "rules/LineJudge.h"
 #include "rules/PlayingLines.h"
+#include "rules/StatRows.h"
 #include "screens/lines/LinesScreen.h"
 #include "screens/PersonWords.h"
 #include "screens/platform/CodePage.h"
 #include "screens/RosterEntry.h"
-#include "session/Routines.h"
+#include "session/Session.h"
 
 #include <algorithm>
 

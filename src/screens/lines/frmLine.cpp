@@ -49,6 +49,10 @@ void frmLine::CheckInTurn()
     Modified = true;
 }
 
-void frmLine::cmdPartialLine_Click() { ShowMade(MakeRestOfDay(OpenWork(), OwnNumber(), ShownDay())); }
+void frmLine::cmdPartialLine_Click()
+{
+    MakeRestOfDay(OpenWork(), OwnNumber(), ShownDay());
+    ShowDayAnew();
+}
 
 } // namespace dravik

@@ -1,10 +1,12 @@
 #include "screens/main/frmAbout.h"
 
+#include "machine/Location.h"
 #include "machine/Platform.h"
+#include "machine/Reporting.h"
 #include "screens/panels/Labels.h"
 #include "screens/panels/Shades.h"
 #include "screens/platform/CodePage.h"
-#include "session/Routines.h"
+#include "session/Session.h"
 
 #include <QGridLayout>
 #include <QShortcut>
@@ -54,7 +56,7 @@ frmAbout::frmAbout(Stage& stage) : Screen(stage, "frmAbout")
 
 void frmAbout::FormLoad()
 {
-    Reporting(" inFormLoad!", [this] {
+    Reporting(Machine(), " inFormLoad!", [this] {
         SetTitle(ToQString(ProgramTitle) + " - About");
         lblThank->setText("Thank you to everyone who helped me make this software!\n"
                           "And thank you for playing: a league is its general managers.");
@@ -68,7 +70,7 @@ void frmAbout::FormLoad()
 void frmAbout::lblWebSite_Click()
 {
     constexpr int normalWindow = 1;
-    OpenLocation(FromQString(lblWebSite->text()), normalWindow);
+    OpenLocation(Machine(), FromQString(lblWebSite->text()), normalWindow);
 }
 
 void frmAbout::cmdExit_Click() { Unload(); }

@@ -1,8 +1,13 @@
 #include "screens/main/frmMain.h"
 
+#include "desk/Password.h"
+#include "files/RatingsExport.h"
 #include "league/Trimming.h"
+#include "machine/Paths.h"
 #include "machine/Platform.h"
+#include "machine/Reporting.h"
 #include "machine/SettingsFailure.h"
+#include "rules/RosterJudge.h"
 #include "screens/ElementName.h"
 #include "screens/panels/ElidedLabel.h"
 #include "screens/panels/Labels.h"
@@ -10,7 +15,7 @@
 #include "screens/platform/CodePage.h"
 #include "screens/Shown.h"
 #include "screens/Stage.h"
-#include "session/Routines.h"
+#include "session/Session.h"
 
 #include <QMenuBar>
 
@@ -195,9 +200,9 @@ QPushButton* frmMain::MakeShortcut(QAction* action)
 
 void frmMain::FormLoad()
 {
-    Reporting(" in FormLoad FrmMain!", [this] {
+    Reporting(Machine(), " in FormLoad FrmMain!", [this] {
         if (Machine().AnotherInstanceRuns()) {
-            ShowBox(std::string(ProgramTitle) + " is already running!", box::Critical);
+            Machine().ShowBox(std::string(ProgramTitle) + " is already running!", box::Critical);
             Unload();
             return;
         }
@@ -205,10 +210,10 @@ void frmMain::FormLoad()
         TempFile = Machine().ProgramFolder() + PathSeparator + "ClientTemp.dvt";
         WindowTitle = ProgramTitle;
         SetWindowCaption(WindowTitle);
-        MarkRosterChangesUntouched();
+        MarkRosterChangesUntouched(OpenLeague);
         CentreOnScreen();
         const std::string last = LastLeague();
-        if (!last.empty() && FileExist(last))
+        if (!last.empty() && FileExist(Machine(), last))
             OpenLeagueClient(last, *this);
     });
 }
@@ -234,7 +239,7 @@ void frmMain::SetWindowCaption(const std::string& caption) { SetTitle(ToQString(
 
 void frmMain::PlaceTeam()
 {
-    Reporting(" in PlaceTeam!", [this] {
+    Reporting(Machine(), " in PlaceTeam!", [this] {
         SetWindowCaption(WindowTitle);
         lblTitle->setText(Shown(LeagueData.Name));
         cmdOpen->hide();
@@ -335,13 +340,13 @@ void frmMain::lstDivision_DblClick(int division)
     if (chosen == nullptr)
         return;
     CurrentTeam = chosen->data(entry::NumberRole).toInt();
-    if (CheckPassword(static_cast<int>(CurrentTeam)))
+    if (CheckPassword(OpenLeague, Machine(), OwnNumber()))
         Open("Team");
 }
 
 void frmMain::mnuOpen_Click()
 {
-    ReportingUnlessCancelled(" in mnuOpen!", [this] {
+    ReportingUnlessCancelled(Machine(), " in mnuOpen!", [this] {
         const std::string path = Machine().OpenFileDialog(Machine().ProgramFolder(),
                                                           "DRVK Client File (*.dvs) |*.dvs|All Files (*.*) | *.*");
         OpenLeagueClient(path, *this);
@@ -353,10 +358,10 @@ void frmMain::mnuExit_Click() { Owner.Close(*this); }
 bool frmMain::TeamIsProved()
 {
     if (CurrentTeam == 0) {
-        ShowBox("No Team is Selected!", box::Information);
+        Machine().ShowBox("No Team is Selected!", box::Information);
         return false;
     }
-    return CheckPassword(static_cast<int>(CurrentTeam));
+    return CheckPassword(OpenLeague, Machine(), OwnNumber());
 }
 
 void frmMain::mnuViewTeam_Click()
@@ -377,10 +382,10 @@ void frmMain::mnuSetLines_Click()
 {
     if (!TeamIsProved())
         return;
-    if (!CheckRoster(static_cast<int>(CurrentTeam), false, true, false)) {
-        ShowBox("Roster is not Complete!" + std::string(LineBreak) +
-                    "You cannot make your lines if your roster is not done!",
-                box::Warning);
+    if (!CheckRoster(OpenWork(), OwnNumber(), false, true, false)) {
+        Machine().ShowBox("Roster is not Complete!" + std::string(LineBreak) +
+                              "You cannot make your lines if your roster is not done!",
+                          box::Warning);
         return;
     }
     CallerScreen = "Main";
@@ -412,12 +417,13 @@ void frmMain::mnuAbout_Click() { Open("About"); }
 
 void frmMain::mnuOutputRatingCSV_Click()
 {
-    Reporting(" in mnuOutputRatingCSV!", [] {
-        if (ShowBox("Are you sure you want to output a Rating CSV file of your league?", box::YesNo) != button::Yes)
+    Reporting(Machine(), " in mnuOutputRatingCSV!", [] {
+        if (Machine().ShowBox("Are you sure you want to output a Rating CSV file of your league?", box::YesNo) !=
+            button::Yes)
             return;
         const std::string folder = Machine().ProgramFolder();
-        ExportRatings(folder);
-        ShowBox("Output done in " + WithoutOuterBlanks(folder), box::Information);
+        ExportRatings(OpenLeague, Machine(), folder);
+        Machine().ShowBox("Output done in " + WithoutOuterBlanks(folder), box::Information);
     });
 }
 

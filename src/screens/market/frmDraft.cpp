@@ -11,12 +11,6 @@
 
 namespace dravik {
 
-namespace {
-
-int OwnNumber() { return static_cast<int>(CurrentTeam); }
-
-} // namespace
-
 void frmDraft::FormLoad()
 {
     Reporting(Machine(), " in FormLoad frmFantasyEntryDraftClient!", [this] {

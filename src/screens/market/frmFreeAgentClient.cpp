@@ -25,15 +25,7 @@ namespace {
 
 Team& OwnTeam() { return Teams[CurrentTeam]; }
 
-int OwnNumber() { return static_cast<int>(CurrentTeam); }
-
 std::string Money(long long amount) { return Machine().CurrencyNoDecimals(static_cast<double>(amount)); }
-
-StatRows RowsOf(PersonId who)
-{
-    return who.IsGoalie ? GoalieStatRows(OpenLeague, Machine(), who.Slot, static_cast<int>(GoalieStatCount))
-                        : SkaterStatRows(OpenLeague, Machine(), who.Slot, static_cast<int>(PlayerStatCount));
-}
 
 // Shows in a box the number that is taken in the place of its own.
 TakesInstead Into(EditBox* box)
@@ -169,7 +161,7 @@ void frmFreeAgentClient::lstPlayers_Click()
 void frmFreeAgentClient::ShowPerson(PersonId who)
 {
     OnPerson(OpenLeague, who, [&](const auto& person) {
-        Stats->ShowRows(RowsOf(who));
+        Stats->ShowRows(StatRowsOf(who));
         Stats->SetName(ToQString(person.Name.Trimmed()));
         txtAge->setText(QString::number(person.Age));
         txtSalary->setText(QString::number(person.Salary));

@@ -2,7 +2,7 @@
 
 #include "machine/Platform.h"
 #include "screens/platform/CodePage.h"
-#include "session/Routines.h"
+#include "session/Session.h"
 
 namespace dravik {
 
@@ -12,7 +12,7 @@ int SearchPlayer(const EntryList& list, const std::string& prompt)
     for (int row = 0; row < list.count(); ++row)
         if (list.item(row)->text().contains(part, Qt::CaseInsensitive))
             return row;
-    ShowBox("Player not found!", box::Information);
+    Machine().ShowBox("Player not found!", box::Information);
     return -1;
 }
 

@@ -1,8 +1,9 @@
 #include "screens/platform/Application.h"
 
+#include "machine/Reporting.h"
 #include "screens/panels/Accessible.h"
 #include "screens/platform/CodePage.h"
-#include "session/Routines.h"
+#include "session/Session.h"
 
 #include <algorithm>
 
@@ -19,7 +20,9 @@ bool Application::notify(QObject* receiver, QEvent* event)
 {
     bool handled = false;
     try {
-        Reporting(" in Application!", [&] { handled = QApplication::notify(receiver, event); });
+        // Events come before there is a machine, too.
+        if (const auto failed = FailureIn([&] { handled = QApplication::notify(receiver, event); }))
+            ReportFailure(Machine(), *failed, " in Application!");
     } catch (...) {
         // Not even the report could be shown; without it the general manager can still save.
         return false;

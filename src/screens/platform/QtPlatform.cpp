@@ -6,7 +6,6 @@
 #include "screens/platform/CodePage.h"
 #include "screens/platform/Dialogs.h"
 #include "screens/platform/Formats.h"
-#include "session/Routines.h"
 
 #include <QCoreApplication>
 #include <QCryptographicHash>

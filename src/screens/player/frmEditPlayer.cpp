@@ -1,11 +1,14 @@
 #include "screens/player/frmEditPlayer.h"
 
 #include "desk/PlayerPosition.h"
+#include "machine/Reporting.h"
+#include "rules/StatRows.h"
 #include "screens/EventGuard.h"
+#include "screens/PersonWords.h"
 #include "screens/platform/CodePage.h"
 #include "screens/RosterEntry.h"
 #include "screens/Stage.h"
-#include "session/Routines.h"
+#include "session/Session.h"
 
 #include <QSignalBlocker>
 
@@ -32,7 +35,7 @@ bool IsChosen(long long number, bool isGoalie)
 
 void frmEditPlayer::FormLoad()
 {
-    Reporting(" in FormLoad FrmEditPlayer!", [this] {
+    Reporting(Machine(), " in FormLoad FrmEditPlayer!", [this] {
         CentreOnScreen();
         SetTitle(Title(" - Edit Player"));
         RepairPositions(OpenWork());
@@ -113,7 +116,7 @@ std::optional<PersonId> frmEditPlayer::ShownPerson() const
 
 void frmEditPlayer::lstPlayer_Click()
 {
-    Reporting(" in LstPlayer_Click", [this] {
+    Reporting(Machine(), " in LstPlayer_Click", [this] {
         const EventGuard guard;
         const QListWidgetItem* current = lstPlayer->currentItem();
         if (current != nullptr) {
@@ -169,7 +172,7 @@ void frmEditPlayer::TickPosition(QRadioButton* option)
 
 void frmEditPlayer::ShowRatings(PersonId person)
 {
-    const StatRows rows = person.IsGoalie ? GoalieStatRows(person.Slot) : SkaterStatRows(person.Slot);
+    const StatRows rows = StatRowsOf(person);
     int row = 0;
     for (const StatRow& rating : rows.Ratings)
         SetRow(++row, rating);
@@ -193,7 +196,7 @@ void frmEditPlayer::ShowRow(int row, std::string_view label, int rating)
 void frmEditPlayer::ShowOverall()
 {
     const PersonId person{PlayerPosition == position::Goalie, static_cast<int>(SelectedPlayer)};
-    const StatRows rows = person.IsGoalie ? GoalieStatRows(person.Slot) : SkaterStatRows(person.Slot);
+    const StatRows rows = StatRowsOf(person);
     if (rows.OverallRow)
         SetRow(static_cast<int>(rows.Ratings.size()) + 1, *rows.OverallRow);
 }

@@ -1,9 +1,11 @@
 #include "desk/PlayerPosition.h"
+#include "machine/InputCheck.h"
+#include "machine/Reporting.h"
 #include "screens/EventGuard.h"
 #include "screens/platform/CodePage.h"
 #include "screens/player/frmEditPlayer.h"
 #include "screens/Shown.h"
-#include "session/Routines.h"
+#include "session/Session.h"
 
 #include <utility>
 
@@ -43,7 +45,7 @@ void frmEditPlayer::LeaveBox(EditBox* box, InputMode mode, const std::function<v
 {
     if (ListEventGuard)
         return;
-    Reporting(Ending(box->objectName()), [&] {
+    Reporting(Machine(), Ending(box->objectName()), [&] {
         const std::string text = FromQString(box->text());
         if (!text.empty() && !CheckInput(Machine(), text, mode, false)) {
             const EventGuard guard;
@@ -143,7 +145,7 @@ void frmEditPlayer::txtStats_LostFocus(int index)
 
 void frmEditPlayer::optPosition_Click(int index)
 {
-    Reporting(" in optPosition!", [&] {
+    Reporting(Machine(), " in optPosition!", [&] {
         if (!PositionEventsOn || NewPlayerMode || NewGoalieMode)
             return;
         const auto person = ShownPerson();
@@ -157,7 +159,7 @@ void frmEditPlayer::optPosition_Click(int index)
 
 void frmEditPlayer::CopyFlag(FlagField field, const QCheckBox* box)
 {
-    Reporting(Ending(box->objectName()), [&] {
+    Reporting(Machine(), Ending(box->objectName()), [&] {
         if (NewPlayerMode || NewGoalieMode)
             return;
         if (const auto person = ShownPerson())

@@ -1,8 +1,9 @@
 #include "desk/Erasure.h"
+#include "machine/Reporting.h"
 #include "screens/panels/NameSearch.h"
 #include "screens/platform/CodePage.h"
 #include "screens/player/frmEditPlayer.h"
-#include "session/Routines.h"
+#include "session/Session.h"
 
 #include <QSignalBlocker>
 
@@ -23,7 +24,7 @@ void frmEditPlayer::LeaveNewGoalieMode()
 
 void frmEditPlayer::cmdNewPlayer_Click()
 {
-    Reporting(" in cmdNewPlayer!", [this] {
+    Reporting(Machine(), " in cmdNewPlayer!", [this] {
         if (NewPlayerMode) {
             SaveRecord({false, FreeSlot});
             return;
@@ -41,7 +42,7 @@ void frmEditPlayer::cmdNewPlayer_Click()
 
 void frmEditPlayer::cmdNewGoaler_Click()
 {
-    Reporting(" in cmdNewGoaler!", [this] {
+    Reporting(Machine(), " in cmdNewGoaler!", [this] {
         if (NewGoalieMode) {
             SaveRecord({true, FreeSlot});
             return;
@@ -136,7 +137,7 @@ void frmEditPlayer::ClearBoxes()
 
 void frmEditPlayer::cmdSearch_Click()
 {
-    Reporting(" in cmdSearch!", [this] {
+    Reporting(Machine(), " in cmdSearch!", [this] {
         const int found = SearchPlayer(*lstPlayer, "Complete or Part of the Player's Name?");
         if (found >= 0)
             Choose(found);
@@ -145,7 +146,7 @@ void frmEditPlayer::cmdSearch_Click()
 
 void frmEditPlayer::cmdErase_Click()
 {
-    Reporting(" in cmdErase!", [this] {
+    Reporting(Machine(), " in cmdErase!", [this] {
         if (lstPlayer->currentItem() == nullptr)
             return;
         const auto person = ShownPerson();

@@ -1,14 +1,19 @@
 #include "screens/roster/frmRoster.h"
 
 #include "machine/Platform.h"
+#include "machine/Reporting.h"
+#include "rules/Overall.h"
 #include "rules/People.h"
+#include "rules/RosterJudge.h"
+#include "rules/SalaryCap.h"
+#include "rules/StatRows.h"
 #include "rules/Waivers.h"
 #include "screens/EventGuard.h"
 #include "screens/PersonWords.h"
 #include "screens/platform/CodePage.h"
 #include "screens/RosterEntry.h"
 #include "screens/Stage.h"
-#include "session/Routines.h"
+#include "session/Session.h"
 
 #include <algorithm>
 #include <type_traits>
@@ -20,15 +25,13 @@ namespace {
 
 Team& OwnTeam() { return Teams[CurrentTeam]; }
 
-int OwnNumber() { return static_cast<int>(CurrentTeam); }
-
 template <class Person>
 constexpr bool IsGoalie = std::is_same_v<std::remove_cv_t<Person>, Goalie>;
 
 QStringList LinesOf(const std::string& text) { return ToQString(text).split("\r\n", Qt::SkipEmptyParts); }
 
-// The findings of the last roster judgement without the heading and the closing words of its box. A judgement that broke
-// off got neither.
+// The findings of a roster judgement without the heading and the closing words of its box. A judgement that broke off got
+// neither.
 QStringList Findings(const std::string& text)
 {
     QStringList lines = LinesOf(text);
@@ -44,7 +47,7 @@ void frmRoster::FormLoad()
     RunEvent("FormLoad FrmRoster", [this] {
         CentreOnScreen();
         if (!TeamTable::Has(CurrentTeam)) {
-            ShowIntegrityFailure();
+            Machine().ShowIntegrityFailure();
             Unload();
             return;
         }
@@ -63,16 +66,15 @@ void frmRoster::FormLoad()
             cmdAutoRoster->setEnabled(false);
             cmdAutoRosterPartial->setEnabled(false);
         }
-        CheckRoster(OwnNumber(), false, true, true);
-        ShowReasons(true);
+        ShowReasons(CheckRoster(OpenWork(), OwnNumber(), false, true, true));
     });
 }
 
-void frmRoster::FormUnload() { CheckRoster(OwnNumber(), false, true, true); }
+void frmRoster::FormUnload() { CheckRoster(OpenWork(), OwnNumber(), false, true, true); }
 
 void frmRoster::ShowPlayer(bool noCheck)
 {
-    Reporting(" in ShowPlayer!", [&] {
+    Reporting(Machine(), " in ShowPlayer!", [&] {
         for (PickList* list : lstPlayer)
             list->Empty();
         StatusCount = {};
@@ -91,7 +93,7 @@ void frmRoster::ListPerson(Person& person, int index)
 {
     const std::string name = person.Name.Trimmed();
     if (person.Status > status::Pro) {
-        ShowBox(name + " has no status!", box::Warning);
+        Machine().ShowBox(name + " has no status!", box::Warning);
         return;
     }
     if (person.Status == status::Farm)
@@ -102,7 +104,7 @@ void frmRoster::ListPerson(Person& person, int index)
     const int position = PositionOf(person);
     if constexpr (!IsGoalie<Person>) {
         if (position < position::Center || position > position::Defense) {
-            ShowBox(name + " has no position!", box::Warning);
+            Machine().ShowBox(name + " has no position!", box::Warning);
             return;
         }
     }
@@ -117,28 +119,27 @@ void frmRoster::ListPerson(Person& person, int index)
 
 void frmRoster::JudgeLists()
 {
-    RosterFixed = 0;
-    const bool complete = CheckRoster(OwnNumber(), false, true, false);
-    if (!complete && RosterFixed == 1)
+    const RosterVerdict verdict = CheckRoster(OpenWork(), OwnNumber(), false, true, false);
+    if (!verdict.Complete && verdict.Repaired)
         ShowPlayer(true);
-    ShowVerdict(complete);
-    ShowReasons(true);
+    ShowVerdict(verdict);
     const Team& team = OwnTeam();
     lblProtectedTotal->setText(" Total Protected Players: " + QString::number(team.ProtectedCount));
     if (team.ProtectedCount > LeagueData.MaxProtected)
-        ShowBox("Too Many Protected Players!", box::Information);
+        Machine().ShowBox("Too Many Protected Players!", box::Information);
 }
 
-void frmRoster::ShowVerdict(bool complete)
+void frmRoster::ShowVerdict(const RosterVerdict& verdict)
 {
-    lblComplete->Tell(complete ? "Roster Is Complete" : "Roster Is Incomplete", complete);
+    lblComplete->Tell(verdict.Complete ? "Roster Is Complete" : "Roster Is Incomplete", verdict.Complete);
+    ShowReasons(verdict);
 }
 
-void frmRoster::ShowReasons(bool withSalaryCap)
+void frmRoster::ShowReasons(const RosterVerdict& verdict)
 {
-    QStringList lines = Findings(LastRosterText());
-    if (withSalaryCap && LeagueData.SalaryCapMode != 0)
-        lines << LinesOf(LastCapText());
+    QStringList lines = Findings(TextOf(OpenLeague, OwnNumber(), verdict));
+    if (verdict.Cap && LeagueData.SalaryCapMode != 0)
+        lines << LinesOf(TextOf(OpenLeague, Machine(), OwnNumber(), *verdict.Cap));
     txtReasons->Tell(lines.join('\n'));
     ShowPayroll();
 }
@@ -148,7 +149,7 @@ void frmRoster::ShowReasons(bool withSalaryCap)
 void frmRoster::ShowPayroll()
 {
     try {
-        Payroll->Show(StandingAgainstCap(OwnNumber()));
+        Payroll->Show(StandingAgainstCap(OpenLeague, OwnNumber()));
     } catch (const Failure&) {
         Payroll->hide();
     }
@@ -175,7 +176,7 @@ void frmRoster::HidePlayerDetails()
 
 void frmRoster::lstPlayer_Click(int index)
 {
-    Reporting(" in LstPlayer_Click!", [&] {
+    Reporting(Machine(), " in LstPlayer_Click!", [&] {
         if (ListEventGuard)
             return;
         const PickList* list = lstPlayer[index];
@@ -232,17 +233,17 @@ template <class Person>
 void frmRoster::ShowRatings(const Person& person, int index)
 {
     constexpr bool isGoalie = IsGoalie<Person>;
+    const int count = static_cast<int>(isGoalie ? GoalieStatCount : PlayerStatCount);
     const auto show = [this](int row, const StatRow& shown) { Stats->ShowRow(row, shown); };
     if constexpr (isGoalie)
-        TellGoalieRatings(index, show);
+        TellGoalieRatings(OpenLeague, index, count, show);
     else
-        TellSkaterRatings(index, show);
-    const int overall = CalculateOverall(PositionOf(person), index);
+        TellSkaterRatings(OpenLeague, index, count, show);
+    const int overall = CalculateOverall(OpenLeague, Machine(), PositionOf(person), index);
     PlayerOverall = overall;
-    if (LeagueData.ShowOverall) {
-        const auto behind = static_cast<int>((isGoalie ? GoalieStatCount : PlayerStatCount) + 1);
-        Stats->ShowRow(behind, isGoalie ? GoalieOverallRow(overall) : SkaterOverallRow(overall));
-    }
+    if (LeagueData.ShowOverall)
+        Stats->ShowRow(count + 1,
+                       isGoalie ? GoalieOverallRow(LeagueData, overall) : SkaterOverallRow(LeagueData, overall));
 }
 
 template <class Person>
@@ -258,9 +259,9 @@ void frmRoster::ShowFlags(const Person& person)
 
 void frmRoster::ShowStats()
 {
-    Reporting(" in ShowStats!", [this] {
+    Reporting(Machine(), " in ShowStats!", [this] {
         if (SelectedIsGoalie && !GoalieTable::Has(SelectedPlayer)) {
-            ShowIntegrityFailure();
+            Machine().ShowIntegrityFailure();
             return;
         }
         const int id = static_cast<int>(SelectedPlayer);
@@ -279,9 +280,9 @@ void frmRoster::ShowStats()
 void frmRoster::Change(int from, int to, int id, int position, bool& done)
 {
     done = false;
-    Reporting(" in Change!", [&] {
+    Reporting(Machine(), " in Change!", [&] {
         if (position < position::Center || position > position::Goalie) {
-            ShowBox("Unable to extract position information!", box::Warning);
+            Machine().ShowBox("Unable to extract position information!", box::Warning);
             return;
         }
         const PersonId who{.IsGoalie = position == position::Goalie, .Slot = id};
@@ -289,8 +290,7 @@ void frmRoster::Change(int from, int to, int id, int position, bool& done)
             return;
         for (QPushButton* move : {cmdToFarm, cmdToPro, cmdToScratchesFromFarm, cmdToScratchesFromPro})
             move->setEnabled(false);
-        ShowVerdict(CheckRoster(OwnNumber(), false, false, false));
-        ShowReasons(false);
+        ShowVerdict(CheckRoster(OpenWork(), OwnNumber(), false, false, false));
         HidePlayerDetails();
         done = true;
     });
@@ -298,7 +298,7 @@ void frmRoster::Change(int from, int to, int id, int position, bool& done)
 
 void frmRoster::lstPlayer_DblClick(int index)
 {
-    Reporting(" in lstPlayer_DblClick!", [&] {
+    Reporting(Machine(), " in lstPlayer_DblClick!", [&] {
         const QListWidgetItem* current = lstPlayer[index]->currentItem();
         if (current == nullptr)
             return;

@@ -2,6 +2,7 @@
 
 #include "desk/RosterMoves.h"
 #include "league/Field.h"
+#include "rules/RosterJudge.h"
 #include "screens/panels/PayrollBar.h"
 #include "screens/panels/PickList.h"
 #include "screens/panels/ReasonsBox.h"
@@ -89,9 +90,10 @@ private:
     void ListPerson(Person& person, int index);
     // Judges the lists that have just been filled, and shows the verdict.
     void JudgeLists();
-    void ShowVerdict(bool complete);
+    // Whether the roster is complete, and the reasons.
+    void ShowVerdict(const RosterVerdict& verdict);
     // What the judgement said stands under the verdict; the payroll's part only when it was judged too.
-    void ShowReasons(bool withSalaryCap);
+    void ShowReasons(const RosterVerdict& verdict);
     void ShowPayroll();
     template <class Person>
     void ShowRatings(const Person& person, int index);

@@ -2,19 +2,15 @@
 #include "desk/PlayerFlags.h"
 #include "desk/Release.h"
 #include "desk/RosterMoves.h"
+#include "machine/Reporting.h"
+#include "makers/Makers.h"
 #include "screens/platform/CodePage.h"
 #include "screens/roster/frmRoster.h"
 #include "screens/RosterEntry.h"
-#include "session/Routines.h"
+#include "session/Session.h"
 
 // The commands of the roster screen: the moves between the lists, waivers, release, captaincy, flags and automatic rosters.
 namespace dravik {
-
-namespace {
-
-int OwnNumber() { return static_cast<int>(CurrentTeam); }
-
-} // namespace
 
 void frmRoster::MoveEntry(int from, int to, int row)
 {
@@ -49,30 +45,32 @@ Permission frmRoster::MayLeaveFarm() { return dravik::MayLeaveFarm(OpenWork(), S
 
 void frmRoster::cmdToFarm_Click()
 {
-    Reporting(" in cmdToFarm!", [this] { MoveChosen(status::Scratch, status::Farm, &frmRoster::MayGoToFarm); });
+    Reporting(Machine(), " in cmdToFarm!",
+              [this] { MoveChosen(status::Scratch, status::Farm, &frmRoster::MayGoToFarm); });
 }
 
 void frmRoster::cmdToPro_Click()
 {
     // Without "!": the ending by which general managers know this command's failures.
-    Reporting(" in cmdToPro", [this] { MoveChosen(status::Scratch, status::Pro, &frmRoster::MayMoveFreely); });
+    Reporting(Machine(), " in cmdToPro",
+              [this] { MoveChosen(status::Scratch, status::Pro, &frmRoster::MayMoveFreely); });
 }
 
 void frmRoster::cmdToScratchesFromPro_Click()
 {
-    Reporting(" in cmdToScratchesFromPro!",
+    Reporting(Machine(), " in cmdToScratchesFromPro!",
               [this] { MoveChosen(status::Pro, status::Scratch, &frmRoster::MayMoveFreely); });
 }
 
 void frmRoster::cmdToScratchesFromFarm_Click()
 {
-    Reporting(" in cmdToScratchesFromFarm!",
+    Reporting(Machine(), " in cmdToScratchesFromFarm!",
               [this] { MoveChosen(status::Farm, status::Scratch, &frmRoster::MayLeaveFarm); });
 }
 
 void frmRoster::cmdSendToWaiver_Click()
 {
-    Reporting(" in cmdSendToWaiver!", [this] {
+    Reporting(Machine(), " in cmdSendToWaiver!", [this] {
         SendToWaivers(OpenWork(), OwnNumber(), SelectedPerson(), [this] { return ScratchSelected(); });
     });
 }
@@ -93,7 +91,7 @@ bool frmRoster::ScratchSelected()
 
 void frmRoster::cmdRelease_Click()
 {
-    Reporting(" in cmdRelease!", [this] {
+    Reporting(Machine(), " in cmdRelease!", [this] {
         if (ReleasePerson(OpenWork(), OwnNumber(), SelectedPerson()))
             ShowPlayer(false);
         Modified = true;
@@ -102,7 +100,7 @@ void frmRoster::cmdRelease_Click()
 
 void frmRoster::cmdCaptain_Click()
 {
-    Reporting(" in cmdCaptain!", [this] {
+    Reporting(Machine(), " in cmdCaptain!", [this] {
         if (!MakeCaptain(OpenWork(), OwnNumber(), SelectedPerson()))
             return;
         ShowPlayer(false);
@@ -112,7 +110,7 @@ void frmRoster::cmdCaptain_Click()
 
 void frmRoster::cmdAssistant_Click()
 {
-    Reporting(" in cmdAssistant!", [this] {
+    Reporting(Machine(), " in cmdAssistant!", [this] {
         if (!MakeAssistant(OpenWork(), OwnNumber(), SelectedPerson()))
             return;
         ShowPlayer(false);
@@ -130,7 +128,7 @@ QListWidgetItem* frmRoster::CurrentEntry()
 
 void frmRoster::cmdTradeAvailable_Click()
 {
-    Reporting(" in cmdTradeAvailable!", [this] {
+    Reporting(Machine(), " in cmdTradeAvailable!", [this] {
         const PersonId who = SelectedPerson();
         if (TakeBarredOffMarket(OpenWork(), who))
             cmdTradeAvailable->setEnabled(false);
@@ -151,7 +149,7 @@ void frmRoster::chkProtected_Click()
 {
     if (ListEventGuard)
         return;
-    Reporting(" in chkProtected!", [this] {
+    Reporting(Machine(), " in chkProtected!", [this] {
         SetProtected(OpenWork(), OwnNumber(), SelectedPerson(), chkProtected->isChecked());
         lblProtectedTotal->setText(" Total Protected Players: " + QString::number(Teams[OwnNumber()].ProtectedCount));
     });
@@ -177,16 +175,16 @@ void frmRoster::chkNoTrade_Click()
 
 void frmRoster::cmdAutoRoster_Click()
 {
-    Reporting(" in cmdAutoRoster!", [this] {
-        AutoRoster(OwnNumber(), true, false);
+    Reporting(Machine(), " in cmdAutoRoster!", [this] {
+        AutoRoster(OpenWork(), OwnNumber(), true, false);
         ShowPlayer(false);
     });
 }
 
 void frmRoster::cmdAutoRosterPartial_Click()
 {
-    Reporting(" in cmdAutoRosterPartial!", [this] {
-        AutoRoster(OwnNumber(), true, true);
+    Reporting(Machine(), " in cmdAutoRosterPartial!", [this] {
+        AutoRoster(OpenWork(), OwnNumber(), true, true);
         ShowPlayer(false);
     });
 }

@@ -5,10 +5,14 @@
 #include "desk/LinesFiles.h"
 #include "desk/Password.h"
 #include "desk/TeamMoney.h"
+#include "machine/Reporting.h"
+#include "rules/LineJudge.h"
+#include "rules/RosterJudge.h"
+#include "rules/SeasonProjection.h"
 #include "screens/platform/CodePage.h"
 #include "screens/Shown.h"
 #include "screens/Stage.h"
-#include "session/Routines.h"
+#include "session/Session.h"
 
 #include <cmath>
 #include <functional>
@@ -29,15 +33,13 @@ QString ShownMoney(double amount) { return ToQString(Machine().CurrencyNoDecimal
 
 Team& OwnTeam() { return Teams[CurrentTeam]; }
 
-int OwnNumber() { return static_cast<int>(CurrentTeam); }
-
 // Takes the wait screen away. That brings the team screen to the front, once the command has told what it has to tell: the
 // judges that run then may have boxes of their own.
 class WaitEnd {
 public:
     void operator()()
     {
-        CloseWait();
+        Machine().CloseWait();
         came = true;
     }
     [[nodiscard]] bool Came() const { return came; }
@@ -50,12 +52,12 @@ private:
 
 void frmTeam::FormLoad()
 {
-    Reporting(" in FormLoad FrmTeam!", [this] {
+    Reporting(Machine(), " in FormLoad FrmTeam!", [this] {
         CentreOnScreen();
         if (!LeagueData.FarmEnabled)
             cmdFarmLines->setEnabled(false);
         if (!TeamTable::Has(CurrentTeam)) {
-            ShowIntegrityFailure();
+            Machine().ShowIntegrityFailure();
             Unload();
             return;
         }
@@ -143,10 +145,10 @@ void frmTeam::ShowSaveHint(const QStringList& reasons, const QStringList& detail
 // What was reached before a failure is shown all the same; the other labels keep what they show.
 void frmTeam::UpdateFinance()
 {
-    Reporting(" in UpdateFinance!", [this] {
+    Reporting(Machine(), " in UpdateFinance!", [this] {
         SeasonFigures season;
         try {
-            ProjectSeason(OwnNumber(), season);
+            ProjectSeason(OpenLeague, Machine(), OwnNumber(), season);
         } catch (...) {
             ShowSeason(season);
             throw;
@@ -180,18 +182,18 @@ void frmTeam::ShowSeason(const SeasonFigures& season)
 
 void frmTeam::cmdPassword_Click()
 {
-    Reporting(" in cmdPassword!", [] { ChangePassword(OpenWork(), Machine(), OwnNumber()); });
+    Reporting(Machine(), " in cmdPassword!", [] { ChangePassword(OpenWork(), Machine(), OwnNumber()); });
 }
 
 void frmTeam::cmdChangeFinance_Click()
 {
-    ReportingUnlessCancelled(" in cmdChangeFinance!",
+    ReportingUnlessCancelled(Machine(), " in cmdChangeFinance!",
                              [this] { ChangeCash(OpenWork(), OwnNumber(), [this] { UpdateFinance(); }); });
 }
 
 void frmTeam::cmdPayrollBonus_Click()
 {
-    ReportingUnlessCancelled(" in cmdPayrollBonus!",
+    ReportingUnlessCancelled(Machine(), " in cmdPayrollBonus!",
                              [this] { ChangePayrollBonus(OpenWork(), OwnNumber(), [this] { UpdateFinance(); }); });
 }
 
@@ -205,12 +207,12 @@ void frmTeam::FireCoach(bool (*fire)(const Work&, int team), QLabel* label, QPus
 
 void frmTeam::cmdFirePro_Click()
 {
-    Reporting(" in cmdFirePro!", [this] { FireCoach(FireProCoach, lblCoach, cmdFirePro); });
+    Reporting(Machine(), " in cmdFirePro!", [this] { FireCoach(FireProCoach, lblCoach, cmdFirePro); });
 }
 
 void frmTeam::cmdFireFarm_Click()
 {
-    Reporting(" in cmdFireFarm!", [this] { FireCoach(FireFarmCoach, lblFarmCoach, cmdFireFarm); });
+    Reporting(Machine(), " in cmdFireFarm!", [this] { FireCoach(FireFarmCoach, lblFarmCoach, cmdFireFarm); });
 }
 
 void frmTeam::OpenFromHere(std::string_view name)
@@ -223,10 +225,10 @@ void frmTeam::CmdRoster_Click() { OpenFromHere("Roster"); }
 
 void frmTeam::cmdLines_Click()
 {
-    if (!CheckRoster(OwnNumber(), false, true, false)) {
-        ShowBox("Roster is incomplete!" + std::string(LineBreak) +
-                    "You cannot make your lines if your roster is incomplete!",
-                box::Warning);
+    if (!CheckRoster(OpenWork(), OwnNumber(), false, true, false)) {
+        Machine().ShowBox("Roster is incomplete!" + std::string(LineBreak) +
+                              "You cannot make your lines if your roster is incomplete!",
+                          box::Warning);
         return;
     }
     OpenFromHere("Line");
@@ -253,7 +255,7 @@ void frmTeam::cmdFarmChangeCoach_Click()
 void frmTeam::cmdSaveToFile_Click()
 {
     WaitEnd endWait;
-    Reporting(" in cmdSaveToFile!",
+    Reporting(Machine(), " in cmdSaveToFile!",
               [&] { SaveLines(OpenWork(), OpenFiles(), Machine(), OwnNumber(), std::ref(endWait)); });
     if (endWait.Came())
         FormActivate();
@@ -262,7 +264,7 @@ void frmTeam::cmdSaveToFile_Click()
 void frmTeam::cmdLoadFile_Click()
 {
     WaitEnd endWait;
-    ReportingUnlessCancelled(" in cmdLoadFile!", [&] {
+    ReportingUnlessCancelled(Machine(), " in cmdLoadFile!", [&] {
         const std::string path = Machine().OpenFileDialog(Machine().ProgramFolder(),
                                                           "DRVK Client File (*.dvl) |*.dvl|All Files (*.*) | *.*");
         LoadLines(OpenWork(), OpenFiles(), Machine(), OwnNumber(), path, std::ref(endWait), [this] { FormLoad(); });

@@ -1,12 +1,13 @@
 #include "desk/Contacts.h"
 #include "desk/Morale.h"
 #include "desk/TeamNames.h"
+#include "machine/Reporting.h"
 #include "screens/EventGuard.h"
 #include "screens/platform/CodePage.h"
 #include "screens/Shown.h"
 #include "screens/Stage.h"
 #include "screens/team/frmTeam.h"
-#include "session/Routines.h"
+#include "session/Session.h"
 
 // What the title and the boxes of the team screen show, and what a box does when the focus leaves it.
 namespace dravik {
@@ -14,8 +15,6 @@ namespace dravik {
 namespace {
 
 Team& OwnTeam() { return Teams[CurrentTeam]; }
-
-int OwnNumber() { return static_cast<int>(CurrentTeam); }
 
 } // namespace
 
@@ -48,7 +47,7 @@ void frmTeam::TakeText(EditBox* box, const std::function<bool(const std::string&
 {
     if (ListEventGuard)
         return;
-    Reporting(" in " + FromQString(box->objectName()) + "_LostFocus!", [&] {
+    Reporting(Machine(), " in " + FromQString(box->objectName()) + "_LostFocus!", [&] {
         bool taken = false;
         try {
             taken = take(FromQString(box->text()));

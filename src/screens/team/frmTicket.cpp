@@ -2,6 +2,7 @@
 
 #include "desk/Arena.h"
 #include "desk/TicketPrices.h"
+#include "machine/Reporting.h"
 #include "screens/ElementName.h"
 #include "screens/EventGuard.h"
 #include "screens/panels/ElidedLabel.h"
@@ -9,7 +10,7 @@
 #include "screens/panels/Layouts.h"
 #include "screens/platform/CodePage.h"
 #include "screens/Shown.h"
-#include "session/Routines.h"
+#include "session/Session.h"
 
 #include <QGroupBox>
 
@@ -22,8 +23,6 @@ constexpr int DigitIndent = 4; // of the digits in a box
 constexpr const char* LevelCaption[] = {"Level 1 :", "Level 2 :", "Level 3 :", "Level 4 :", "Luxury Box :"};
 
 Team& OwnTeam() { return Teams[CurrentTeam]; }
-
-int OwnNumber() { return static_cast<int>(CurrentTeam); }
 
 // A box whose text was refused gets the focus back, without an event of its own.
 void Refuse(EditBox* box)
@@ -140,7 +139,7 @@ void frmTicket::SetTabOrder()
 
 void frmTicket::FormLoad()
 {
-    Reporting(" in FormLoad FrmTicket!", [this] {
+    Reporting(Machine(), " in FormLoad FrmTicket!", [this] {
         CentreOnScreen();
         if (!TeamTable::Has(CurrentTeam)) {
             Machine().ShowIntegrityFailure();
@@ -179,7 +178,7 @@ void frmTicket::txtArenaCapacity_LostFocus(int level)
 {
     if (ListEventGuard)
         return;
-    Reporting(" in txtArenaCapacity_LostFocus!", [&] {
+    Reporting(Machine(), " in txtArenaCapacity_LostFocus!", [&] {
         EditBox* box = txtArenaCapacity[level];
         ShowTyped(box, SetArenaCapacity(OpenWork(), OwnNumber(), level, FromQString(box->text())));
         ShowTotal();

@@ -1,11 +1,11 @@
-#include "session/Routines.h"
-
-#include "session/RosterFixed.h"
+#include "support/Routines.h"
 
 #include <optional>
 #include <utility>
 
 namespace dravik {
+
+Int16 RosterFixed;
 
 namespace {
 
@@ -21,6 +21,12 @@ Judged<RosterVerdict> LastRoster;
 Judged<std::optional<CapVerdict>> LastCap;
 LineVerdict LastLines;
 
+void KeepRosterFixed(std::optional<bool> repaired)
+{
+    if (repaired)
+        RosterFixed = *repaired ? 1 : 0;
+}
+
 } // namespace
 
 bool CheckRoster(int team, bool log, bool withSalaryCap, bool showMessage)
@@ -28,7 +34,7 @@ bool CheckRoster(int team, bool log, bool withSalaryCap, bool showMessage)
     RosterVerdict verdict = CheckRoster(OpenWork(), team, log, withSalaryCap, showMessage);
     const bool complete = verdict.Complete;
     if (TeamTable::Has(team)) {
-        RosterFixed = verdict.Repaired ? 1 : 0;
+        KeepRosterFixed(verdict.Repaired);
         if (withSalaryCap)
             LastCap = {team, verdict.Cap};
         LastRoster = {team, std::move(verdict)};
