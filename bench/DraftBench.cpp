@@ -41,7 +41,7 @@ public:
 
     void OpenDraft()
     {
-        Open("Draft");
+        Open(Window::Draft);
         Demand(Draft().lstPlayers->count() == 11000);
     }
     // Every fourth skater leaves the list, and comes back at the next turn.
@@ -71,7 +71,7 @@ public:
     }
 
 private:
-    frmDraft& Draft() { return On<frmDraft>("Draft"); }
+    frmDraft& Draft() { return On<frmDraft>(Window::Draft); }
     void Paint()
     {
         QApplication::processEvents();

@@ -49,7 +49,7 @@ public:
     {
         const TeamMaker team = PutTeam();
         CurrentTeam = Own;
-        Open("Line");
+        Open(Window::Line);
         for (const int id : {team.Skaters[0], team.Skaters[3]}) // two centers, in turn
             rows.push_back(Screen().lstPlayer->RowOf(EntryNumber(id, position::Center)));
         Demand(Screen().vscDay->maximum() == DayStrip::Days);
@@ -82,7 +82,7 @@ public:
     }
 
 private:
-    frmLine& Screen() { return On<frmLine>("Line"); }
+    frmLine& Screen() { return On<frmLine>(Window::Line); }
     SlotLabel* Slot() { return Screen().TabLine->SlotAt(LineField::NormalForward, 1, 1).Label; }
     long long Standing() { return Teams[Own].ProLines[Screen().Day].NormalForward(1, 1); }
     void Pick()

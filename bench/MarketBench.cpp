@@ -52,7 +52,7 @@ public:
     }
 
     // The screen filled and painted.
-    void OpenOffers() { Open("FreeAgent"); }
+    void OpenOffers() { Open(Window::FreeAgent); }
     // The tick set or taken away, painted.
     void Filter()
     {
@@ -88,7 +88,7 @@ public:
     }
 
 private:
-    frmFreeAgentClient& Offers() { return On<frmFreeAgentClient>("FreeAgent"); }
+    frmFreeAgentClient& Offers() { return On<frmFreeAgentClient>(Window::FreeAgent); }
     PickList* List() { return Offers().lstPlayers; }
 
     int turn = 0;

@@ -37,7 +37,7 @@ public:
     {
         PutTeam();
         CurrentTeam = Own;
-        Open("Roster");
+        Open(Window::Roster);
     }
 
     // One click of the mouse, painted.
@@ -71,7 +71,7 @@ public:
     }
 
 private:
-    frmRoster& Roster() { return On<frmRoster>("Roster"); }
+    frmRoster& Roster() { return On<frmRoster>(Window::Roster); }
     int Listed()
     {
         int listed = 0;

@@ -24,17 +24,17 @@ protected:
     }
 
     // Opens a screen from the main window, painted.
-    void Open(const char* name)
+    void Open(Window window)
     {
-        CallerScreen = "Main";
-        stage.Open(name, *stage.Find("Main"));
+        CallerScreen = caller_screen::Main;
+        stage.Open(window, *stage.Find(Window::Main));
         QApplication::processEvents();
-        stage.Find(name)->grab();
+        stage.Find(window)->grab();
     }
     template <class Form>
-    Form& On(const char* name)
+    Form& On(Window window)
     {
-        return *static_cast<Form*>(stage.Find(name));
+        return *static_cast<Form*>(stage.Find(window));
     }
 
     ScriptedPlatform machine;

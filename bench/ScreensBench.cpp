@@ -61,19 +61,19 @@ public:
     }
 
     // A screen, filled and painted.
-    void Open(const char* name)
+    void Open(Window window)
     {
-        stage->Open(name, Main());
-        stage->Find(name)->grab();
+        stage->Open(window, Main());
+        stage->Find(window)->grab();
     }
-    void Close(const char* name)
+    void Close(Window window)
     {
-        if (Screen* screen = stage->Find(name))
+        if (Screen* screen = stage->Find(window))
             screen->close();
         Settle();
     }
 
-    frmMain& Main() { return *static_cast<frmMain*>(stage->Find("Main")); }
+    frmMain& Main() { return *static_cast<frmMain*>(stage->Find(Window::Main)); }
 
     std::string League;
 
@@ -97,30 +97,35 @@ void StartToMainWindow(benchmark::State& state)
 }
 BENCHMARK(StartToMainWindow)->Iterations(15)->UseManualTime()->Unit(benchmark::kMillisecond);
 
-void OpenScreen(benchmark::State& state, const char* name)
+void OpenScreen(benchmark::State& state, Window window)
 {
     Bench& bench = TheBench<Bench>();
     bench.Leave();
     bench.Start();
     CurrentTeam = Own;
-    CallerScreen = "Main";
+    CallerScreen = caller_screen::Main;
     ViewerReturnMode = 1;
     SelectedPlayer = 1;
     SelectedIsGoalie = false;
-    bench.Open(name);
+    bench.Open(window);
     HoldTo(state,
            Compare(
-               state, [&] { bench.Open(name); }, ShowBarePage, Millisecond, [&] { bench.Close(name); }),
+               state, [&] { bench.Open(window); }, ShowBarePage, Millisecond, [&] { bench.Close(window); }),
            4);
-    bench.Close(name);
+    bench.Close(window);
 }
 
 void RegisterScreens()
 {
     constexpr int rounds = 15;
-    for (const char* name : {"Team", "Roster", "Line", "FarmLine", "FreeAgent", "Draft", "Ticket", "EditPlayer",
-                             "About", "Coach", "Prospect"})
-        benchmark::RegisterBenchmark((std::string("Open/") + name).c_str(), OpenScreen, name)
+    constexpr std::pair<const char*, Window> windows[] = {
+        {"Open/Team", Window::Team},         {"Open/Roster", Window::Roster},         {"Open/Line", Window::Line},
+        {"Open/FarmLine", Window::FarmLine}, {"Open/FreeAgent", Window::FreeAgent},   {"Open/Draft", Window::Draft},
+        {"Open/Ticket", Window::Ticket},     {"Open/EditPlayer", Window::EditPlayer}, {"Open/About", Window::About},
+        {"Open/Coach", Window::Coach},       {"Open/Prospect", Window::Prospect},
+    };
+    for (const auto& [name, window] : windows)
+        benchmark::RegisterBenchmark(name, OpenScreen, window)
             ->Iterations(rounds)
             ->UseManualTime()
             ->Unit(benchmark::kMillisecond);

@@ -115,7 +115,7 @@ void Screen::Unload()
     close();
 }
 
-void Screen::Open(std::string_view name) { Owner.Open(name, *this); }
+void Screen::Open(Window window) { Owner.Open(window, *this); }
 
 void Screen::closeEvent(QCloseEvent* event)
 {

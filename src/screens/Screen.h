@@ -1,10 +1,11 @@
 #pragma once
 
+#include "screens/Window.h"
+
 #include <functional>
 #include <QMainWindow>
 #include <QPointer>
 #include <QPushButton>
-#include <string_view>
 
 namespace dravik {
 
@@ -47,8 +48,8 @@ protected:
     bool event(QEvent* event) override;
     bool eventFilter(QObject* watched, QEvent* event) override;
 
-    // Opens another screen in front of this one.
-    void Open(std::string_view name);
+    // Opens another window in front of this one.
+    void Open(Window window);
 
     // Makes the command `name` with its caption. A click runs `click`, and reports what fails with the command's name.
     // A text box that still has the focus acts first; if its text is refused, the click is dropped. From a command that

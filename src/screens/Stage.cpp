@@ -34,51 +34,48 @@ std::unique_ptr<Screen> Make(Stage& stage)
 }
 
 struct Role {
-    std::string_view Name;
+    Window Opens;
     Behind Back;
     bool HidesOpener;
     std::unique_ptr<Screen> (*Create)(Stage&);
 };
 
-constexpr std::string_view MainName = "Main";
-constexpr std::string_view TeamName = "Team";
-constexpr std::string_view RosterName = "Roster";
-
+// All but the main window, which is there from the start.
 // clang-format off
 constexpr Role Roles[] = {
-    {"Team",       Behind::Main,   true,  Make<frmTeam>},
-    {"Roster",     Behind::Caller, true,  Make<frmRoster>},
-    {"Line",       Behind::Caller, true,  Make<frmLine>},
-    {"FarmLine",   Behind::Caller, true,  Make<frmFarmLine>},
-    {"FreeAgent",  Behind::Main,   true,  Make<frmFreeAgentClient>},
-    {"Draft",      Behind::Main,   true,  Make<frmDraft>},
-    {"Ticket",     Behind::Team,   true,  Make<frmTicket>},
-    {"EditPlayer", Behind::Viewer, true,  Make<frmEditPlayer>},
-    {"About",      Behind::Main,   false, Make<frmAbout>},
-    {"Coach",      Behind::Main,   true,  Make<frmCoach>},
-    {"Prospect",   Behind::Main,   true,  Make<frmProspect>},
+    {Window::Team,       Behind::Main,   true,  Make<frmTeam>},
+    {Window::Roster,     Behind::Caller, true,  Make<frmRoster>},
+    {Window::Line,       Behind::Caller, true,  Make<frmLine>},
+    {Window::FarmLine,   Behind::Caller, true,  Make<frmFarmLine>},
+    {Window::FreeAgent,  Behind::Main,   true,  Make<frmFreeAgentClient>},
+    {Window::Draft,      Behind::Main,   true,  Make<frmDraft>},
+    {Window::Ticket,     Behind::Team,   true,  Make<frmTicket>},
+    {Window::EditPlayer, Behind::Viewer, true,  Make<frmEditPlayer>},
+    {Window::About,      Behind::Main,   false, Make<frmAbout>},
+    {Window::Coach,      Behind::Main,   true,  Make<frmCoach>},
+    {Window::Prospect,   Behind::Main,   true,  Make<frmProspect>},
 };
 // clang-format on
 
-const Role* RoleOf(std::string_view name)
+const Role* RoleOf(Window window)
 {
     const auto* found =
-        std::find_if(std::begin(Roles), std::end(Roles), [name](const Role& role) { return role.Name == name; });
+        std::find_if(std::begin(Roles), std::end(Roles), [window](const Role& role) { return role.Opens == window; });
     return found == std::end(Roles) ? nullptr : found;
 }
 
 // Whom the player viewer returns to, by `ViewerReturnMode`.
-std::string_view ViewerOpener()
+Window ViewerOpener()
 {
     switch (static_cast<int>(ViewerReturnMode)) {
     case return_mode::Roster:
-        return RosterName;
+        return Window::Roster;
     case return_mode::Offers:
-        return "FreeAgent";
+        return Window::FreeAgent;
     case return_mode::Draft:
-        return "Draft";
+        return Window::Draft;
     default:
-        return MainName;
+        return Window::Main;
     }
 }
 
@@ -97,7 +94,7 @@ bool Stage::Start()
 {
     auto made = std::make_unique<frmMain>(*this);
     frmMain& main = *made;
-    screens[MainName] = std::move(made);
+    screens[Window::Main] = std::move(made);
     Load(main);
     if (main.WantsToUnload()) {
         ended = true;
@@ -108,23 +105,20 @@ bool Stage::Start()
     return true;
 }
 
-void Stage::Provide(std::string_view name, Factory factory)
-{
-    provided.insert_or_assign(std::string(name), std::move(factory));
-}
+void Stage::Provide(Window window, Factory factory) { provided.insert_or_assign(window, std::move(factory)); }
 
-void Stage::Open(std::string_view name, Screen& opener)
+void Stage::Open(Window window, Screen& opener)
 {
-    const Role* role = RoleOf(name);
+    const Role* role = RoleOf(window);
     if (role == nullptr)
         Fail(failure::InvalidCall);
-    const auto other = provided.find(name);
+    const auto other = provided.find(window);
     const Factory create = other != provided.end() ? other->second : Factory(role->Create);
-    if (const auto standing = screens.find(role->Name); standing != screens.end()) {
+    if (const auto standing = screens.find(window); standing != screens.end()) {
         standing->second->hide();
         Dispose(std::move(standing->second));
     }
-    Screen& screen = *(screens[role->Name] = create(*this));
+    Screen& screen = *(screens[window] = create(*this));
     Load(screen);
     if (screen.WantsToUnload()) {
         screen.close();
@@ -138,9 +132,9 @@ void Stage::Open(std::string_view name, Screen& opener)
 
 void Stage::Close(Screen& screen) { screen.Unload(); }
 
-Screen* Stage::Find(std::string_view name) const
+Screen* Stage::Find(Window window) const
 {
-    const auto found = screens.find(name);
+    const auto found = screens.find(window);
     return found == screens.end() ? nullptr : found->second.get();
 }
 
@@ -168,24 +162,24 @@ void Stage::Closed(Screen& screen)
                                     [&screen](const auto& entry) { return entry.second.get() == &screen; });
     if (found == screens.end())
         return;
-    const std::string_view name = found->first;
+    const Window closed = found->first;
     Dispose(std::move(found->second));
     screens.erase(found);
     if (ended)
         return;
-    if (name == MainName) {
+    if (closed == Window::Main) {
         ended = true;
-        for (const auto& [otherName, other] : screens)
+        for (const auto& [window, other] : screens)
             other->hide();
         QCoreApplication::exit(0);
         return;
     }
-    ShowBehind(name);
+    ShowBehind(closed);
 }
 
-frmMain* Stage::Main() const { return dynamic_cast<frmMain*>(Find(MainName)); }
+frmMain* Stage::Main() const { return dynamic_cast<frmMain*>(Find(Window::Main)); }
 
-frmTeam* Stage::Team() const { return dynamic_cast<frmTeam*>(Find(TeamName)); }
+frmTeam* Stage::Team() const { return dynamic_cast<frmTeam*>(Find(Window::Team)); }
 
 void Stage::Load(Screen& screen)
 {
@@ -202,18 +196,20 @@ void Stage::Show(Screen& screen)
     RunEvent("Form_Activate", [&screen] { screen.FormActivate(); });
 }
 
-void Stage::ShowBehind(std::string_view name)
+void Stage::ShowBehind(Window closed)
 {
-    switch (RoleOf(name)->Back) {
+    switch (RoleOf(closed)->Back) {
     case Behind::Main:
-        ShowReturningTo(MainName);
+        ShowReturningTo(Window::Main);
         break;
     case Behind::Team:
-        ShowReturningTo(TeamName);
+        ShowReturningTo(Window::Team);
         break;
     case Behind::Caller:
-        if (CallerScreen == MainName || CallerScreen == TeamName)
-            ShowReturningTo(CallerScreen);
+        if (CallerScreen == caller_screen::Main)
+            ShowReturningTo(Window::Main);
+        else if (CallerScreen == caller_screen::Team)
+            ShowReturningTo(Window::Team);
         else
             Machine().ShowIntegrityFailure();
         break;
@@ -223,12 +219,12 @@ void Stage::ShowBehind(std::string_view name)
     }
 }
 
-void Stage::ShowReturningTo(std::string_view name)
+void Stage::ShowReturningTo(Window window)
 {
-    Screen* screen = Find(name);
+    Screen* screen = Find(window);
     // The screen that should be there may have been closed meanwhile; the way home is always open.
     if (screen == nullptr)
-        screen = Find(MainName);
+        screen = Find(Window::Main);
     if (screen == nullptr)
         return;
     RunEvent("Form_Load", [screen] { screen->ReloadForm(); });

@@ -1,11 +1,11 @@
 #pragma once
 
+#include "screens/Window.h"
+
 #include <functional>
 #include <map>
 #include <memory>
 #include <QPointer>
-#include <string>
-#include <string_view>
 #include <vector>
 
 namespace dravik {
@@ -27,18 +27,18 @@ public:
     // Makes and shows the main screen. False when another instance runs: the program is to end at once.
     bool Start();
 
-    // Opens the screen `name` ("Roster") and hides `opener` unless that screen stands beside it. A screen that closes
-    // itself while loading brings back whom it would bring back later. A name of no screen fails with 5.
-    void Open(std::string_view name, Screen& opener);
+    // Opens `window` and hides `opener` unless it stands beside it. A screen that closes itself while loading brings back
+    // whom it would bring back later. The main window, which is started and not opened, fails with 5.
+    void Open(Window window, Screen& opener);
     // Closes a screen.
     void Close(Screen& screen);
 
     // What makes a screen. `Provide` puts another maker in the place of the program's own: tests watch the stage with it.
     using Factory = std::function<std::unique_ptr<Screen>(Stage&)>;
-    void Provide(std::string_view name, Factory factory);
+    void Provide(Window window, Factory factory);
 
-    // The screen of that name if it is loaded. "Main" is the main screen.
-    [[nodiscard]] Screen* Find(std::string_view name) const;
+    // The screen of that window if it is loaded.
+    [[nodiscard]] Screen* Find(Window window) const;
 
     // Lists the teams anew on the main screen.
     void PlaceTeam();
@@ -57,13 +57,13 @@ private:
     // Fills a new screen. One whose filling fails is shown as far as it came.
     void Load(Screen& screen);
     void Show(Screen& screen);
-    // Shows the screen that stands behind the closed screen `name`.
-    void ShowBehind(std::string_view name);
-    void ShowReturningTo(std::string_view name);
+    // Shows the screen that stands behind the closed one.
+    void ShowBehind(Window closed);
+    void ShowReturningTo(Window window);
     void Dispose(std::unique_ptr<Screen> screen);
 
-    std::map<std::string, Factory, std::less<>> provided;
-    std::map<std::string_view, std::unique_ptr<Screen>> screens;
+    std::map<Window, Factory> provided;
+    std::map<Window, std::unique_ptr<Screen>> screens;
     std::vector<QPointer<Screen>> disposed; // closed, and deleted as soon as the events at hand are done
     const Screen* loading = nullptr;
     bool ended = false;

@@ -9,6 +9,7 @@
 #include "machine/Work.h"
 
 #include <string>
+#include <string_view>
 
 // What the windows remember while the program runs: the league that is open, by the names of its tables, the machine that it
 // runs on, and what was chosen. Nothing below knows of it: there a league, a voice, a disk are passed to whoever needs them.
@@ -28,7 +29,7 @@ inline constexpr GoalieChangeTable& RosterChangesGoalie = OpenLeague.RosterChang
 extern Int16 CurrentTeam;        // chosen in the main window, 1..100; 0 = none yet
 extern std::string WindowTitle;  // the program's title, " - " and the open file's name behind it
 extern std::string TempFile;     // full path of the work file: what is being written
-extern std::string CallerScreen; // "Main" or "Team": where the roster and lines screens return to
+extern std::string CallerScreen; // where the roster and lines screens return to: one of the names below
 extern Int16 PlayerStatCount;    // rating captions shown for a skater: 15, or 7 groups
 extern Int16 GoalieStatCount;    // rating captions shown for a goalie: 13, or 7 groups
 extern bool Modified;            // set by whatever edits; nothing reads it
@@ -36,6 +37,11 @@ extern Int16 SelectedPlayer;     // the person chosen on the open screen
 extern bool SelectedIsGoalie;    // and whether he is a goalie
 extern bool ListEventGuard;      // holds back list and box events while a screen fills itself
 extern Int16 ViewerReturnMode;   // tells a dependent screen who opened it: one of the numbers below
+
+namespace caller_screen {
+inline constexpr std::string_view Main = "Main";
+inline constexpr std::string_view Team = "Team";
+} // namespace caller_screen
 
 // Whom the record of a player returns to, and whose coach is looked for.
 namespace return_mode {

@@ -225,7 +225,7 @@ TEST_F(MainFileFaults, StartingTellsEveryFaultAndStartsWithoutALeague)
             Stage stage;
             EXPECT_TRUE(stage.Start());
             Settle();
-            const auto& main = *static_cast<frmMain*>(stage.Find("Main"));
+            const auto& main = *static_cast<frmMain*>(stage.Find(Window::Main));
             open = main.windowTitle() == "Dravik Hockey Simulator Client - League";
             EXPECT_EQ(main.lblConference[1]->text() == "No League File Load!", !open);
             EXPECT_EQ(main.mnuTeam->menuAction()->isVisible(), open);

@@ -1,8 +1,8 @@
 #pragma once
 
+#include "NamedStage.h"
 #include "screens/main/frmMain.h"
 #include "screens/platform/QtPlatform.h"
-#include "screens/Stage.h"
 #include "screens/team/frmTeam.h"
 #include "session/Session.h"
 #include "support/LineFindings.h"
@@ -20,11 +20,11 @@ protected:
     // The main screen, started as the program starts it.
     frmMain& Main()
     {
-        if (TheStage.Find("Main") == nullptr) {
+        if (TheStage.Find(Window::Main) == nullptr) {
             EXPECT_TRUE(TheStage.Start());
             Settle();
         }
-        return *static_cast<frmMain*>(TheStage.Find("Main"));
+        return *static_cast<frmMain*>(TheStage.Find(Window::Main));
     }
 
     // The main screen with the tables as they stand shown as an open league.
@@ -45,7 +45,7 @@ protected:
         Settle();
         return *TeamScreen();
     }
-    [[nodiscard]] frmTeam* TeamScreen() const { return static_cast<frmTeam*>(TheStage.Find("Team")); }
+    [[nodiscard]] frmTeam* TeamScreen() const { return static_cast<frmTeam*>(TheStage.Find(Window::Team)); }
 
     // Lets everything happen that is waiting, the deletion of closed screens included.
     static void Settle()
@@ -108,7 +108,7 @@ protected:
         UseMachine(Machine);
     }
 
-    Stage TheStage;
+    NamedStage TheStage;
 };
 
 } // namespace dravik

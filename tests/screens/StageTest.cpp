@@ -85,10 +85,10 @@ TEST_F(StageTest, EveryScreenOfTheProgramOpens)
     }
 }
 
-TEST_F(StageTest, ANameOfNoScreenIsAFailure)
+TEST_F(StageTest, TheMainWindowIsStartedAndCannotBeOpened)
 {
     MainWithLeague();
-    EXPECT_THROW(TheStage.Open("Nowhere", Main()), Failure);
+    EXPECT_THROW(TheStage.Open(Window::Main, Main()), Failure);
     EXPECT_TRUE(Main().isVisible());
 }
 

@@ -73,7 +73,7 @@ protected:
                 } catch (const std::exception& failure) {
                     ADD_FAILURE() << failure.what();
                 }
-                if (stage.Find("Main") != nullptr)
+                if (stage.Find(Window::Main) != nullptr)
                     QCoreApplication::exit(1);
             });
             EXPECT_EQ(QApplication::exec(), 0);
@@ -88,7 +88,7 @@ protected:
     template <class T>
     T& Front(const char* name)
     {
-        Screen* screen = Program->Find(name);
+        Screen* screen = Program->Find(WindowNamed(name));
         if (screen == nullptr || !screen->isVisible())
             throw std::runtime_error(std::string("not in front: ") + name);
         return *static_cast<T*>(screen);
@@ -97,7 +97,7 @@ protected:
 
     void LeaveByTheMenu()
     {
-        auto& main = *static_cast<frmMain*>(Program->Find("Main"));
+        auto& main = *static_cast<frmMain*>(Program->Find(Window::Main));
         QMenuBar* bar = main.menuBar();
         QTest::mouseClick(bar, Qt::LeftButton, {}, bar->actionGeometry(main.mnuFile->menuAction()).center());
         QTest::mouseClick(main.mnuFile, Qt::LeftButton, {}, main.mnuFile->actionGeometry(main.mnuExit).center());

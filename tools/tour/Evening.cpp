@@ -24,10 +24,10 @@ void Evening::Spend()
     Start();
     OpenLeague();
     EnterOffice();
-    Photograph("Team", "team-first");
+    Photograph(Window::Team, "team-first");
     ShapeRoster();
     MakeLines();
-    Photograph("Team", "team");
+    Photograph(Window::Team, "team");
     SaveLines();
     LoadLines();
     ShowTickets();
@@ -42,7 +42,7 @@ void Evening::Spend()
 void Evening::Start()
 {
     Require(stage.Start(), "the program starts");
-    Photograph("Main", "main-empty");
+    Photograph(Window::Main, "main-empty");
 }
 
 void Evening::OpenLeague()
@@ -53,7 +53,7 @@ void Evening::OpenLeague()
     Require(Main().mnuTeam->menuAction()->isVisible(), "the team menu comes up");
     Require(ListOf(plan.Team) != nullptr, "the team stands in a list");
     Choose();
-    Photograph("Main", "main");
+    Photograph(Window::Main, "main");
 }
 
 void Evening::Choose()
@@ -73,14 +73,14 @@ void Evening::EnterOffice()
     QKeyEvent enter(QEvent::KeyPress, Qt::Key_Return, Qt::NoModifier);
     QApplication::sendEvent(ListOf(plan.Team), &enter);
     NoComplaints("the password is proved");
-    Require(stage.Find("Team") != nullptr && stage.Find("Team")->isVisible(), "the team screen opens");
+    Require(stage.Find(Window::Team) != nullptr && stage.Find(Window::Team)->isVisible(), "the team screen opens");
 }
 
 void Evening::LeaveOffice()
 {
     Team().cmdExit->click();
     QApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
-    Require(stage.Find("Team") == nullptr && Main().isVisible(), "the main screen comes back");
+    Require(stage.Find(Window::Team) == nullptr && Main().isVisible(), "the main screen comes back");
 }
 
 void Evening::ShapeRoster()
@@ -89,8 +89,9 @@ void Evening::ShapeRoster()
     Team().CmdRoster->click();
     QApplication::processEvents();
     answers.ConfirmAll(false);
-    Require(stage.Find("Roster") != nullptr && stage.Find("Roster")->isVisible(), "the roster screen opens");
-    Photograph("Roster", "roster-first");
+    Require(stage.Find(Window::Roster) != nullptr && stage.Find(Window::Roster)->isVisible(),
+            "the roster screen opens");
+    Photograph(Window::Roster, "roster-first");
     answers.ConfirmAll(true); // the maker says what it did
     Roster().cmdAutoRoster->click();
     QApplication::processEvents();
@@ -105,12 +106,12 @@ void Evening::ShapeRoster()
     }
     Require(SelectedPlayer > 0 && Roster().cmdToScratchesFromPro->isEnabled(), "a player is chosen");
     NoComplaints("the roster is made");
-    Photograph("Roster", "roster");
+    Photograph(Window::Roster, "roster");
     const int number = pro->currentItem()->data(entry::NumberRole).toInt();
     Roster().cmdToScratchesFromPro->click();
     PickList* scratches = Roster().lstPlayer[status::Scratch];
     Require(scratches->RowOf(number) >= 0 && pro->RowOf(number) < 0, "he moves to the scratches");
-    Photograph("Roster", "roster-moved");
+    Photograph(Window::Roster, "roster-moved");
     scratches->setCurrentRow(scratches->RowOf(number), QItemSelectionModel::ClearAndSelect);
     Roster().cmdToPro->click();
     Require(pro->RowOf(number) >= 0, "and back again");
@@ -120,7 +121,7 @@ void Evening::ShapeRoster()
     Roster().cmdExit->click();
     QApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
     NoComplaints("the roster is shaped");
-    Require(stage.Find("Roster") == nullptr && Team().isVisible(), "the team screen comes back");
+    Require(stage.Find(Window::Roster) == nullptr && Team().isVisible(), "the team screen comes back");
 }
 
 void Evening::ShowPlayer(int position, const QString& picture)
@@ -139,33 +140,34 @@ void Evening::ShowPlayer(int position, const QString& picture)
         QApplication::sendEvent(pro->viewport(), &event);
     }
     NoComplaints("the record opens");
-    auto* viewer = static_cast<frmEditPlayer*>(stage.Find("EditPlayer"));
+    auto* viewer = static_cast<frmEditPlayer*>(stage.Find(Window::EditPlayer));
     Require(viewer != nullptr && viewer->isVisible() && !Roster().isVisible(), "the player viewer opens");
     Require(viewer->lstPlayer->count() == 1, "it shows the one player");
-    Photograph("EditPlayer", picture);
+    Photograph(Window::EditPlayer, picture);
     viewer->cmdExit->click();
     QApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
     NoComplaints("the record closes");
-    Require(stage.Find("EditPlayer") == nullptr && Roster().isVisible(), "the roster screen comes back");
+    Require(stage.Find(Window::EditPlayer) == nullptr && Roster().isVisible(), "the roster screen comes back");
 }
 
 void Evening::MakeLines()
 {
     const RosterVerdict verdict = CheckRoster(OpenWork(), plan.Team, false, true, false);
-    Require(verdict.Complete, "the roster stays complete: " + ToQString(TextOf(OpenLeague, plan.Team, verdict)));
-    MakeLinesOn(*Team().cmdLines, "Line", "lines");
-    MakeLinesOn(*Team().cmdFarmLines, "FarmLine", "farmlines");
+    Require(verdict.Complete,
+            "the roster stays complete: " + ToQString(TextOf(dravik::OpenLeague, plan.Team, verdict)));
+    MakeLinesOn(*Team().cmdLines, Window::Line, "lines");
+    MakeLinesOn(*Team().cmdFarmLines, Window::FarmLine, "farmlines");
     Require(Team().cmdSaveToFile->isEnabled(), "both first days are complete");
 }
 
-void Evening::MakeLinesOn(QPushButton& command, std::string_view name, const QString& picture)
+void Evening::MakeLinesOn(QPushButton& command, Window window, const QString& picture)
 {
     answers.ConfirmAll(true); // the maker says what it did, and what opening finds depends on the league
     command.click();
     QApplication::processEvents();
-    Require(stage.Find(name) != nullptr && stage.Find(name)->isVisible(), "the lines screen opens");
-    auto& screen = static_cast<LinesScreen&>(*stage.Find(name));
-    Photograph(name, picture + "-first");
+    Require(stage.Find(window) != nullptr && stage.Find(window)->isVisible(), "the lines screen opens");
+    auto& screen = static_cast<LinesScreen&>(*stage.Find(window));
+    Photograph(window, picture + "-first");
     for (int day = screen.vscDay->maximum(); day >= 1; --day) {
         screen.vscDay->setValue(day);
         screen.cmdAutoLines->click();
@@ -177,13 +179,13 @@ void Evening::MakeLinesOn(QPushButton& command, std::string_view name, const QSt
     PickFirst(screen);
     for (int tab = 0; tab < screen.TabLine->count(); ++tab) {
         screen.TabLine->setCurrentIndex(tab);
-        Photograph(name, QString("%1-tab%2").arg(picture).arg(tab + 1));
+        Photograph(window, QString("%1-tab%2").arg(picture).arg(tab + 1));
     }
     screen.TabLine->setCurrentIndex(0);
     screen.cmdExit->click();
     QApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
     NoComplaints("the lines are made");
-    Require(stage.Find(name) == nullptr && Team().isVisible(), "the team screen comes back");
+    Require(stage.Find(window) == nullptr && Team().isVisible(), "the team screen comes back");
 }
 
 void Evening::PickFirst(LinesScreen& screen)
@@ -196,7 +198,7 @@ void Evening::PickFirst(LinesScreen& screen)
 
 void Evening::SaveLines()
 {
-    const QString target = PathToDesktop(LinesFilePath(OpenLeague, Machine(), plan.Team));
+    const QString target = PathToDesktop(LinesFilePath(dravik::OpenLeague, Machine(), plan.Team));
     Require(Team().cmdSaveToFile->isEnabled(), "the lines file can be saved");
     ExpectPassword();
     answers.Confirm("Lines file for " + TeamName() + " successfully save at\n" + target);
@@ -217,10 +219,10 @@ void Evening::ExpectPassword()
 void Evening::LoadLines()
 {
     const Lines day1 = Teams[plan.Team].ProLines[1];
-    WipesLines(OpenLeague, Machine(), plan.Team, 1, true);
+    WipesLines(dravik::OpenLeague, Machine(), plan.Team, 1, true);
     Team().FormActivate();
     Require(!Team().cmdSaveToFile->isEnabled(), "wiped lines cannot be saved");
-    Photograph("Team", "team-wiped");
+    Photograph(Window::Team, "team-wiped");
     answers.Choose(saved);
     answers.Confirm("Lines file for " + TeamName() + " successfully load from\n" + saved);
     Team().cmdLoadFile->click();
@@ -231,16 +233,17 @@ void Evening::LoadLines()
     Require(Team().cmdSaveToFile->isEnabled(), "the lines are complete again");
 }
 
-void Evening::Leave(const char* name, const Screen& behind, QPushButton* exit)
+void Evening::Leave(Window window, const Screen& behind, QPushButton* exit)
 {
+    const QString name = stage.Find(window)->objectName();
     exit->click();
     QApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
-    Require(stage.Find(name) == nullptr && behind.isVisible(), QString("the way back from ") + name);
+    Require(stage.Find(window) == nullptr && behind.isVisible(), "the way back from " + name);
 }
 
-void Evening::Photograph(std::string_view screen, const QString& name)
+void Evening::Photograph(Window window, const QString& name)
 {
-    Require(camera.Photograph(*stage.Find(screen), name), "pictures of " + name + " are written");
+    Require(camera.Photograph(*stage.Find(window), name), "pictures of " + name + " are written");
 }
 
 void Evening::NoComplaints(const QString& step)
@@ -258,20 +261,20 @@ void Evening::Require(bool holds, const QString& what)
 
 frmTeam& Evening::Team()
 {
-    Require(stage.Find("Team") != nullptr, "the team screen is there");
-    return *static_cast<frmTeam*>(stage.Find("Team"));
+    Require(stage.Find(Window::Team) != nullptr, "the team screen is there");
+    return *static_cast<frmTeam*>(stage.Find(Window::Team));
 }
 
 frmRoster& Evening::Roster()
 {
-    Require(stage.Find("Roster") != nullptr, "the roster screen is there");
-    return *static_cast<frmRoster*>(stage.Find("Roster"));
+    Require(stage.Find(Window::Roster) != nullptr, "the roster screen is there");
+    return *static_cast<frmRoster*>(stage.Find(Window::Roster));
 }
 
 frmFreeAgentClient& Evening::Offers()
 {
-    Require(stage.Find("FreeAgent") != nullptr, "the screen of the offers is there");
-    return *static_cast<frmFreeAgentClient*>(stage.Find("FreeAgent"));
+    Require(stage.Find(Window::FreeAgent) != nullptr, "the screen of the offers is there");
+    return *static_cast<frmFreeAgentClient*>(stage.Find(Window::FreeAgent));
 }
 
 QString Evening::TeamName() const { return ToQString(Teams[plan.Team].Name.Trimmed()); }

@@ -47,7 +47,7 @@ private:
     void ShowPlayer(int position, const QString& picture);
     void MakeLines();
     // Looks at the lines as they came, has those of every day made, and looks at every tab of the first day.
-    void MakeLinesOn(QPushButton& command, std::string_view name, const QString& picture);
+    void MakeLinesOn(QPushButton& command, Window window, const QString& picture);
     // Picks the first player of the list by keyboard.
     static void PickFirst(LinesScreen& screen);
     void SaveLines();
@@ -65,16 +65,16 @@ private:
     // The screens whose commands are hidden.
     void ShowEmptyScreens();
     // Leaves a screen, which brings `behind` back.
-    void Leave(const char* name, const Screen& behind, QPushButton* exit);
+    void Leave(Window window, const Screen& behind, QPushButton* exit);
     // Makes the first two people an offer who may take one, looks at those with an offer alone, and saves the offer file.
     void MakeOffers();
 
     static void Fill(EditBox* box, const QString& text);
-    void Photograph(std::string_view screen, const QString& name);
+    void Photograph(Window window, const QString& name);
     void NoComplaints(const QString& step);
     static void Require(bool holds, const QString& what);
 
-    frmMain& Main() { return *static_cast<frmMain*>(stage.Find("Main")); }
+    frmMain& Main() { return *static_cast<frmMain*>(stage.Find(Window::Main)); }
     frmTeam& Team();
     frmRoster& Roster();
     frmFreeAgentClient& Offers();

@@ -19,7 +19,7 @@ void Evening::ShowTickets()
 {
     Team().cmdTicketArena->click();
     QApplication::processEvents();
-    auto* tickets = static_cast<frmTicket*>(stage.Find("Ticket"));
+    auto* tickets = static_cast<frmTicket*>(stage.Find(Window::Ticket));
     Require(tickets != nullptr && tickets->isVisible(), "the ticket screen opens");
     Int16& price = Teams[plan.Team].TicketPrice[1];
     const long long wanted = price + 1;
@@ -27,17 +27,17 @@ void Evening::ShowTickets()
     tickets->txtTicket[1]->setText(QString::number(wanted));
     tickets->cmdExit->setFocus();
     Require(price == wanted, "the price is stored");
-    Photograph("Ticket", "tickets");
-    Leave("Ticket", Team(), tickets->cmdExit);
+    Photograph(Window::Ticket, "tickets");
+    Leave(Window::Ticket, Team(), tickets->cmdExit);
 }
 
 void Evening::RankDraft()
 {
     LeagueData.FantasyDraft = true;
-    stage.Open("Draft", Main());
-    auto& draft = *static_cast<frmDraft*>(stage.Find("Draft"));
+    stage.Open(Window::Draft, Main());
+    auto& draft = *static_cast<frmDraft*>(stage.Find(Window::Draft));
     Require(draft.isVisible(), "the draft screen opens");
-    Photograph("Draft", "draft-first");
+    Photograph(Window::Draft, "draft-first");
     constexpr int wanted = 4;
     Require(draft.lstPlayers->count() >= wanted, "there are players without a team");
     for (int row = 0; row < wanted; ++row) {
@@ -50,19 +50,19 @@ void Evening::RankDraft()
     draft.cmdUp->click();
     Require(draft.lstDraftList->item(0)->text() == favourite, "the third moves to the top");
     NoComplaints("the draft list is made");
-    Photograph("Draft", "draft");
+    Photograph(Window::Draft, "draft");
     draft.lstDraftList_DblClick();
-    auto* viewer = static_cast<frmEditPlayer*>(stage.Find("EditPlayer"));
+    auto* viewer = static_cast<frmEditPlayer*>(stage.Find(Window::EditPlayer));
     Require(viewer != nullptr && viewer->isVisible() && !draft.isVisible(), "the player viewer opens");
-    Leave("EditPlayer", draft, viewer->cmdExit);
-    const QString target = PathToDesktop(DraftFilePath(OpenLeague, Machine(), plan.Team));
+    Leave(Window::EditPlayer, draft, viewer->cmdExit);
+    const QString target = PathToDesktop(DraftFilePath(dravik::OpenLeague, Machine(), plan.Team));
     ExpectPassword();
     answers.Confirm("Fantasy Draft File save for " + TeamName() + " succesfully at\n" + target);
     draft.cmdSaveToFile->click();
     NoComplaints("the draft file is saved");
     Require(QFileInfo(target).size() > 0, "the draft file lies on disk");
     std::cout << "saved " << target.toStdString() << '\n';
-    Leave("Draft", Main(), draft.cmdExit);
+    Leave(Window::Draft, Main(), draft.cmdExit);
 }
 
 void Evening::ExportTheRatings()
@@ -78,19 +78,19 @@ void Evening::ExportTheRatings()
 void Evening::ShowAbout()
 {
     Main().mnuAbout->trigger();
-    auto* about = static_cast<frmAbout*>(stage.Find("About"));
+    auto* about = static_cast<frmAbout*>(stage.Find(Window::About));
     Require(about != nullptr && about->isVisible() && Main().isVisible(), "the about screen opens beside the main one");
-    Photograph("About", "about");
-    Leave("About", Main(), about->cmdExit);
+    Photograph(Window::About, "about");
+    Leave(Window::About, Main(), about->cmdExit);
 }
 
 void Evening::ShowEmptyScreens()
 {
-    for (const char* name : {"Coach", "Prospect"}) {
-        stage.Open(name, Main());
-        Require(stage.Find(name) != nullptr && stage.Find(name)->isVisible(), "an empty screen opens");
-        Photograph(name, QString(name).toLower());
-        stage.Find(name)->close();
+    for (const auto& [window, picture] : {std::pair(Window::Coach, "coach"), std::pair(Window::Prospect, "prospect")}) {
+        stage.Open(window, Main());
+        Require(stage.Find(window) != nullptr && stage.Find(window)->isVisible(), "an empty screen opens");
+        Photograph(window, picture);
+        stage.Find(window)->close();
         QApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
         Require(Main().isVisible(), "the main screen comes back");
     }
@@ -103,7 +103,7 @@ void Evening::MakeOffers()
     answers.ConfirmAll(true); // the first of the list may be somebody whom only his own team may sign
     Main().mnuFreeAgents->trigger();
     QApplication::processEvents();
-    Require(stage.Find("FreeAgent") != nullptr && stage.Find("FreeAgent")->isVisible(), "the offers open");
+    Require(stage.Find(Window::FreeAgent) != nullptr && stage.Find(Window::FreeAgent)->isVisible(), "the offers open");
     int made = 0;
     for (int row = 0; row < Offers().lstPlayers->count() && made < 2; ++row) {
         Offers().lstPlayers->setCurrentRow(row, QItemSelectionModel::ClearAndSelect);
@@ -121,11 +121,11 @@ void Evening::MakeOffers()
     answers.ConfirmAll(false);
     Require(made == 2, "two people can be made an offer");
     NoComplaints("the offers are made");
-    Photograph("FreeAgent", "offers");
+    Photograph(Window::FreeAgent, "offers");
     Offers().chkShowPlayerWithOffer->click();
     Require(Offers().lstPlayers->count() == 2, "those with an offer are listed alone");
-    Photograph("FreeAgent", "offers-made");
-    const QString target = PathToDesktop(OffersFilePath(OpenLeague, Machine(), plan.Team));
+    Photograph(Window::FreeAgent, "offers-made");
+    const QString target = PathToDesktop(OffersFilePath(dravik::OpenLeague, Machine(), plan.Team));
     ExpectPassword();
     answers.ConfirmAll(true); // a report in pages
     Offers().cmdSaveToFile->click();
@@ -136,7 +136,7 @@ void Evening::MakeOffers()
     Offers().cmdExit->click();
     QApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
     NoComplaints("the offers are saved");
-    Require(stage.Find("FreeAgent") == nullptr && Main().isVisible(), "the main screen comes back");
+    Require(stage.Find(Window::FreeAgent) == nullptr && Main().isVisible(), "the main screen comes back");
 }
 
 void Evening::Fill(EditBox* box, const QString& text)

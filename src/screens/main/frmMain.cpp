@@ -341,7 +341,7 @@ void frmMain::lstDivision_DblClick(int division)
         return;
     CurrentTeam = chosen->data(entry::NumberRole).toInt();
     if (CheckPassword(OpenLeague, Machine(), OwnNumber()))
-        Open("Team");
+        Open(Window::Team);
 }
 
 void frmMain::mnuOpen_Click()
@@ -367,15 +367,15 @@ bool frmMain::TeamIsProved()
 void frmMain::mnuViewTeam_Click()
 {
     if (TeamIsProved())
-        Open("Team");
+        Open(Window::Team);
 }
 
 void frmMain::mnuSetRoster_Click()
 {
     if (!TeamIsProved())
         return;
-    CallerScreen = "Main";
-    Open("Roster");
+    CallerScreen = caller_screen::Main;
+    Open(Window::Roster);
 }
 
 void frmMain::mnuSetLines_Click()
@@ -388,8 +388,8 @@ void frmMain::mnuSetLines_Click()
                           box::Warning);
         return;
     }
-    CallerScreen = "Main";
-    Open("Line");
+    CallerScreen = caller_screen::Main;
+    Open(Window::Line);
 }
 
 // The farm's lines may be made whatever the roster is like.
@@ -397,23 +397,23 @@ void frmMain::mnuSetFarmLines_Click()
 {
     if (!TeamIsProved())
         return;
-    CallerScreen = "Main";
-    Open("FarmLine");
+    CallerScreen = caller_screen::Main;
+    Open(Window::FarmLine);
 }
 
 void frmMain::mnuFreeAgents_Click()
 {
     if (TeamIsProved())
-        Open("FreeAgent");
+        Open(Window::FreeAgent);
 }
 
 void frmMain::mnuDraft_Click()
 {
     if (TeamIsProved())
-        Open("Draft");
+        Open(Window::Draft);
 }
 
-void frmMain::mnuAbout_Click() { Open("About"); }
+void frmMain::mnuAbout_Click() { Open(Window::About); }
 
 void frmMain::mnuOutputRatingCSV_Click()
 {

@@ -127,7 +127,7 @@ void frmDraft::OpenViewer(int id)
 {
     SelectPerson(PersonOf(id));
     ViewerReturnMode = return_mode::Draft;
-    Open("EditPlayer");
+    Open(Window::EditPlayer);
 }
 
 void frmDraft::lstPlayers_DblClick()

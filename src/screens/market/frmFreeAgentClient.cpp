@@ -199,7 +199,7 @@ void frmFreeAgentClient::lstPlayers_DblClick()
             return;
         SelectPerson(PersonOf(current->data(entry::NumberRole).toInt()));
         ViewerReturnMode = return_mode::Offers;
-        Open("EditPlayer");
+        Open(Window::EditPlayer);
         ShowWaitingBox(); // in front of the record
     });
 }

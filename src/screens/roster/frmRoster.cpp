@@ -305,7 +305,7 @@ void frmRoster::lstPlayer_DblClick(int index)
         const int number = current->data(entry::NumberRole).toInt();
         SelectPerson(EntryPerson(number));
         ViewerReturnMode = return_mode::Roster;
-        Open("EditPlayer");
+        Open(Window::EditPlayer);
     });
 }
 

@@ -215,13 +215,13 @@ void frmTeam::cmdFireFarm_Click()
     Reporting(Machine(), " in cmdFireFarm!", [this] { FireCoach(FireFarmCoach, lblFarmCoach, cmdFireFarm); });
 }
 
-void frmTeam::OpenFromHere(std::string_view name)
+void frmTeam::OpenFromHere(Window window)
 {
-    CallerScreen = "Team";
-    Open(name);
+    CallerScreen = caller_screen::Team;
+    Open(window);
 }
 
-void frmTeam::CmdRoster_Click() { OpenFromHere("Roster"); }
+void frmTeam::CmdRoster_Click() { OpenFromHere(Window::Roster); }
 
 void frmTeam::cmdLines_Click()
 {
@@ -231,25 +231,25 @@ void frmTeam::cmdLines_Click()
                           box::Warning);
         return;
     }
-    OpenFromHere("Line");
+    OpenFromHere(Window::Line);
 }
 
-void frmTeam::cmdFarmLines_Click() { OpenFromHere("FarmLine"); }
+void frmTeam::cmdFarmLines_Click() { OpenFromHere(Window::FarmLine); }
 
-void frmTeam::cmdTicketArena_Click() { OpenFromHere("Ticket"); }
+void frmTeam::cmdTicketArena_Click() { OpenFromHere(Window::Ticket); }
 
-void frmTeam::cmdProspect_Click() { OpenFromHere("Prospect"); }
+void frmTeam::cmdProspect_Click() { OpenFromHere(Window::Prospect); }
 
 void frmTeam::cmdChangeCoach_Click()
 {
     ViewerReturnMode = return_mode::ProTeam;
-    OpenFromHere("Coach");
+    OpenFromHere(Window::Coach);
 }
 
 void frmTeam::cmdFarmChangeCoach_Click()
 {
     ViewerReturnMode = return_mode::FarmTeam;
-    OpenFromHere("Coach");
+    OpenFromHere(Window::Coach);
 }
 
 void frmTeam::cmdSaveToFile_Click()

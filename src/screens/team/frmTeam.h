@@ -110,7 +110,7 @@ private:
     void TakeAddress(EditBox* box, const Text<40>& address, void (*take)(const Work&, int team, std::string_view text));
 
     void FireCoach(bool (*fire)(const Work&, int team), QLabel* label, QPushButton* command);
-    void OpenFromHere(std::string_view name);
+    void OpenFromHere(Window window);
     // Says why the lines file cannot be saved; the judges' own words are behind it.
     void ShowSaveHint(const QStringList& reasons, const QStringList& details);
 
