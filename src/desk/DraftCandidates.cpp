@@ -34,7 +34,8 @@ void EachDraftCandidate(const Tables& league, const PositionFilter& shown,
                         const std::function<void(const DraftCandidate&)>& tell)
 {
     const League& rules = league.LeagueData;
-    const auto tellAgent = [&](const auto& person, int position, int slot) {
+    const auto tellAgent = [&](const auto& person, int slot) {
+        const int position = PositionOf(person);
         if (shown[position])
             tell({.Id = CommonNumberOf(person),
                   .Text = NameAndPosition(person.Name.Trimmed(), position),
@@ -43,13 +44,12 @@ void EachDraftCandidate(const Tables& league, const PositionFilter& shown,
     if (rules.FantasyDraft) {
         for (int slot = 1; slot <= PlayerTable::last; ++slot) {
             const Player& player = league.Players[slot];
-            const auto position = static_cast<int>(player.Position);
-            if (IsFree(player) && position >= position::Center && position <= position::Defense)
-                tellAgent(player, position, slot);
+            if (IsFree(player) && player.Position >= position::Center && player.Position <= position::Defense)
+                tellAgent(player, slot);
         }
         for (int slot = 1; slot <= GoalieTable::last; ++slot)
             if (IsFree(league.Goalies[slot]))
-                tellAgent(league.Goalies[slot], position::Goalie, slot);
+                tellAgent(league.Goalies[slot], slot);
     }
     if (IsEntryDraftAhead(rules))
         for (int slot = 1; slot <= ProspectTable::last; ++slot) {

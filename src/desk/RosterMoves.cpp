@@ -7,7 +7,6 @@
 #include "rules/WipeLines.h"
 
 #include <string>
-#include <type_traits>
 
 namespace dravik {
 
@@ -17,8 +16,7 @@ namespace {
 template <class Person>
 bool MayMove(const Work& work, int team, PersonId who, const Person& person, int to)
 {
-    constexpr bool isGoalie = std::is_same_v<Person, Goalie>;
-    const std::string kind = isGoalie ? "Goalie" : "Player";
+    const std::string kind = who.IsGoalie ? "Goalie" : "Player";
     Voice& says = work.Says;
     if (!IsHealthy(person)) {
         says.ShowBox("Cannot Move an Injured " + kind + "!", box::Warning);
@@ -41,10 +39,10 @@ bool MayMove(const Work& work, int team, PersonId who, const Person& person, int
     }
     if (WaiverCheck(work.League, says, who.CommonId())) {
         const std::string question =
-            std::string("Do you want to send this ") + (isGoalie ? "goalie" : "player") + " to waiver?";
+            std::string("Do you want to send this ") + (who.IsGoalie ? "goalie" : "player") + " to waiver?";
         if (says.ShowBox(question, box::YesNo) != button::Yes)
             return false;
-        if constexpr (!isGoalie) // a goalie is asked about, and goes down without being placed on waivers
+        if (!who.IsGoalie) // a goalie is asked about, and goes down without being placed on waivers
             MarkWaived(work.League, says, team, who.Slot);
     }
     return true;
@@ -79,7 +77,7 @@ void KeepOffFarm(const Work& work, PersonId who)
 {
     const League& rules = work.League.LeagueData;
     OnPerson(work.League, who, [&](auto& person) {
-        const int overall = CalculateOverall(work.League, work.Says, PositionOf(person), who.Slot);
+        const int overall = CalculateOverall(work.League, work.Says, who);
         if (IsTooGoodForFarm(rules, overall) || IsTooDearForFarm(rules, person.Salary))
             person.Status = status::Scratch;
     });

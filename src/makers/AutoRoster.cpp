@@ -36,11 +36,6 @@ struct SkaterKind {
     static PlayerTable& People(Tables& league) { return league.Players; }
     static constexpr bool WipedGoingDown = true;
 
-    static int Rating(const Work& work, int id)
-    {
-        const int position = static_cast<int>(work.League.Players[id].Position);
-        return CalculateOverall(work.League, work.Says, position, id);
-    }
     static void Count(RosterRun& run, const Player& player) { ++run.PositionCount[player.Position]; }
     static bool MustSitOut(const Player& player) { return player.Status == status::Pro && !IsDressable(player); }
 };
@@ -50,10 +45,6 @@ struct GoalieKind {
     static GoalieTable& People(Tables& league) { return league.Goalies; }
     static constexpr bool WipedGoingDown = false;
 
-    static int Rating(const Work& work, int id)
-    {
-        return CalculateOverall(work.League, work.Says, position::Goalie, id);
-    }
     static void Count(RosterRun& /*run*/, const Goalie& /*goalie*/) {}
     // A suspended goalie sits out wherever he stands, on the farm too.
     static bool MustSitOut(const Goalie& goalie)
@@ -63,22 +54,28 @@ struct GoalieKind {
 };
 
 template <class Kind>
-int CommonId(int id)
+PersonId Who(int id)
 {
-    return PersonIn<typename Kind::Person>(id).CommonId();
+    return PersonIn<typename Kind::Person>(id);
+}
+
+template <class Kind>
+int Rating(const RosterRun& run, int id)
+{
+    return CalculateOverall(run.At.League, run.At.Says, Who<Kind>(id));
 }
 
 template <class Kind>
 void SetStatus(const RosterRun& run, int id, int status)
 {
     Kind::People(run.At.League)[id].Status = status;
-    ChangeOf(run.At.League, PersonIn<typename Kind::Person>(id)).Status = status;
+    ChangeOf(run.At.League, Who<Kind>(id)).Status = status;
 }
 
 template <class Kind>
 void Wipe(const RosterRun& run, int id)
 {
-    WipePlayerFromTeamLines(run.At.League, run.At.Says, run.Team, CommonId<Kind>(id));
+    WipePlayerFromTeamLines(run.At.League, run.At.Says, run.Team, Who<Kind>(id).CommonId());
 }
 
 template <class Kind>
@@ -123,7 +120,7 @@ void Rank(RosterRun& run)
             return;
         }
         Kind::Count(run, person);
-        int rating = Kind::Rating(run.At, id);
+        int rating = Rating<Kind>(run, id);
         if (run.Partial && (person.Status == status::Scratch || person.Status == status::Pro))
             rating += proAdvantage;
         InsertByRating(run.Ids, run.Ratings, id, rating);
@@ -278,8 +275,8 @@ template <class Kind>
 bool MayGoDown(const RosterRun& run, int id)
 {
     const League& rules = run.At.League.LeagueData;
-    return !IsTooGoodForFarm(rules, Kind::Rating(run.At, id)) &&
-           !WaiverCheck(run.At.League, run.At.Says, CommonId<Kind>(id)) &&
+    return !IsTooGoodForFarm(rules, Rating<Kind>(run, id)) &&
+           !WaiverCheck(run.At.League, run.At.Says, Who<Kind>(id).CommonId()) &&
            !IsTooDearForFarm(rules, Kind::People(run.At.League)[id].Salary);
 }
 

@@ -12,9 +12,7 @@ void InsertInLineup(const Tables& league, Voice& says, Lineup& lineup, int& id)
 {
     const PersonId who = PersonOf(id);
     id = who.Slot;
-    const int position = who.IsGoalie ? position::Goalie : PositionOf(league.Players[id]);
-    const int rating = CalculateOverall(league, says, position, id);
-    InsertByRating(lineup.Ids, lineup.Ratings, id, rating);
+    InsertByRating(lineup.Ids, lineup.Ratings, id, CalculateOverall(league, says, who));
 }
 
 } // namespace dravik

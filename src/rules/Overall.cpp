@@ -116,4 +116,10 @@ int CalculateOverall(const Tables& league, Voice& says, int position, int id)
     return overall.value_or(0);
 }
 
+int CalculateOverall(const Tables& league, Voice& says, PersonId who)
+{
+    const int position = who.IsGoalie ? position::Goalie : PositionOf(league.Players[who.Slot]);
+    return CalculateOverall(league, says, position, who.Slot);
+}
+
 } // namespace dravik

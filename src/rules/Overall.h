@@ -1,6 +1,6 @@
 #pragma once
 
-#include "league/Tables.h"
+#include "league/PersonId.h"
 #include "machine/Voice.h"
 
 #include <optional>
@@ -13,5 +13,8 @@ std::optional<int> OverallAt(const Tables& league, int position, int id);
 
 // The same; another position shows "Integrity Check Failed!" in a critical box and gives 0.
 int CalculateOverall(const Tables& league, Voice& says, int position, int id);
+
+// The same in the position that somebody's record names. A skater outside the table fails with 9.
+int CalculateOverall(const Tables& league, Voice& says, PersonId who);
 
 } // namespace dravik

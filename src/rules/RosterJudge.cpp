@@ -124,7 +124,7 @@ private:
             LeaveFarm(person);
             TakeOffLines(PersonIn<Person>(index));
         };
-        if (IsTooGoodForFarm(rules, CalculateOverall(work.League, work.Says, PositionOf(person), index)))
+        if (IsTooGoodForFarm(rules, CalculateOverall(work.League, work.Says, PersonIn<Person>(index))))
             refuse(RosterFault::TooGoodForFarm);
         if (IsTooDearForFarm(rules, person.Salary))
             refuse(RosterFault::TooDearForFarm);

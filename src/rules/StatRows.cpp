@@ -115,8 +115,7 @@ StatRows SkaterStatRows(const Tables& league, Voice& says, int index, int count)
 {
     StatRows rows;
     TellSkaterRatings(league, index, count, Into(rows.Ratings));
-    const int position = static_cast<int>(league.Players[index].Position);
-    AddOverall(league.LeagueData, rows, CalculateOverall(league, says, position, index), SkaterOverallRow);
+    AddOverall(league.LeagueData, rows, CalculateOverall(league, says, PersonIn<Player>(index)), SkaterOverallRow);
     return rows;
 }
 
@@ -132,7 +131,7 @@ StatRows GoalieStatRows(const Tables& league, Voice& says, int index, int count)
 {
     StatRows rows;
     TellGoalieRatings(league, index, count, Into(rows.Ratings));
-    AddOverall(league.LeagueData, rows, CalculateOverall(league, says, position::Goalie, index), GoalieOverallRow);
+    AddOverall(league.LeagueData, rows, CalculateOverall(league, says, PersonIn<Goalie>(index)), GoalieOverallRow);
     return rows;
 }
 

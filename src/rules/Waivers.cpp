@@ -10,11 +10,11 @@ namespace dravik {
 namespace {
 
 template <class Person>
-bool NeedsWaivers(const Tables& league, Voice& says, const Person& person, int slot)
+bool NeedsWaivers(const Tables& league, Voice& says, const Person& person, PersonId who)
 {
     const League& rules = league.LeagueData;
     return person.ProGames >= rules.WaiverMinGames && person.Age > rules.WaiverExemptAge &&
-           !IsTooGoodForFarm(rules, CalculateOverall(league, says, PositionOf(person), slot));
+           !IsTooGoodForFarm(rules, CalculateOverall(league, says, who));
 }
 
 } // namespace
@@ -30,8 +30,7 @@ bool WaiverCheck(const Tables& league, Voice& says, int id)
         if (!league.LeagueData.WaiverAllowed || league.LeagueData.TradeDeadlineInForce)
             return;
         const PersonId who = PersonOf(id);
-        needed =
-            OnPerson(league, who, [&](const auto& person) { return NeedsWaivers(league, says, person, who.Slot); });
+        needed = OnPerson(league, who, [&](const auto& person) { return NeedsWaivers(league, says, person, who); });
     });
     return needed;
 }

@@ -24,20 +24,19 @@ int ShownPosition(PersonId who)
 
 } // namespace
 
-QStringList AsideOf(int position, int index)
+QStringList AsideOf(PersonId who)
 {
-    QStringList aside{ToQString(PositionName[position])};
+    QStringList aside{ToQString(PositionName[ShownPosition(who)])};
     if (LeagueData.ShowOverall)
-        aside << QString::number(CalculateOverall(OpenLeague, Machine(), position, index));
+        aside << OverallOf(who);
     return aside;
 }
 
 QString OverallOf(PersonId who)
 {
-    const int digit = ShownPosition(who);
-    if (digit == 0 || !LeagueData.ShowOverall)
+    if (ShownPosition(who) == 0 || !LeagueData.ShowOverall)
         return {};
-    return QString::number(CalculateOverall(OpenLeague, Machine(), digit, who.Slot));
+    return QString::number(CalculateOverall(OpenLeague, Machine(), who));
 }
 
 StatRows StatRowsOf(PersonId who)

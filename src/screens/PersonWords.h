@@ -9,9 +9,8 @@
 // What the lists and slots say about people beside their names.
 namespace dravik {
 
-// What is drawn muted beside a name: the position, and the overall where the league shows it. `position` 1..4 takes a
-// `Player` index, 5 a `Goalie` index.
-QStringList AsideOf(int position, int index);
+// What is drawn muted beside the name of somebody with a position: that, and the overall where the league shows it.
+QStringList AsideOf(PersonId who);
 
 // The overall of a skater or goalie in a league that shows it; nothing for a skater without a position or somebody outside
 // the tables. No box is shown.

@@ -83,7 +83,7 @@ void LinesScreen::ShowPlayer()
                 return;
             const std::string name =
                 OnPerson(OpenLeague, who, [](const auto& person) { return person.Name.Trimmed(); });
-            lstPlayer->Add(ToQString(name), EntryNumber(who.Slot, position), AsideOf(position, who.Slot));
+            lstPlayer->Add(ToQString(name), EntryNumber(who.Slot, position), AsideOf(who));
         });
         ListMore();
     });

@@ -26,9 +26,18 @@ std::string NameAndPosition(const std::string& name, int position)
 
 QString Title(std::string_view ending) { return ToQString(std::string(ProgramTitle) + std::string(ending)); }
 
-bool IsChosen(long long number, bool isGoalie)
+// Whether the record is that of the person to be shown, or everybody is.
+template <class Person>
+bool IsWanted(const Person& person)
 {
-    return SelectedPlayer == 0 || (number == SelectedPlayer && isGoalie == SelectedIsGoalie);
+    return person.InUse &&
+           (SelectedPlayer == 0 || PersonIn<Person>(static_cast<int>(person.Number)) == SelectedPerson());
+}
+
+// Who is shown, where the position at hand is that of somebody.
+PersonId PersonWith(long long position)
+{
+    return {.IsGoalie = position == position::Goalie, .Slot = static_cast<int>(SelectedPlayer)};
 }
 
 } // namespace
@@ -54,7 +63,8 @@ void frmEditPlayer::FormLoad()
 void frmEditPlayer::ListPeople()
 {
     const bool isEverybody = SelectedPlayer == 0;
-    const auto add = [this, isEverybody](const auto& person, int position) {
+    const auto add = [this, isEverybody](const auto& person) {
+        const int position = PositionOf(person);
         AddEntry(person.Name.Trimmed(), static_cast<int>(person.Number), position);
         if (isEverybody)
             return;
@@ -64,11 +74,11 @@ void frmEditPlayer::ListPeople()
             command->hide();
     };
     for (int slot = FirstSlot; slot <= PlayerTable::last; ++slot)
-        if (Players[slot].InUse && IsChosen(Players[slot].Number, false))
-            add(Players[slot], static_cast<int>(Players[slot].Position));
+        if (IsWanted(Players[slot]))
+            add(Players[slot]);
     for (int slot = FirstSlot; slot <= GoalieTable::last; ++slot)
-        if (Goalies[slot].InUse && IsChosen(Goalies[slot].Number, true))
-            add(Goalies[slot], position::Goalie);
+        if (IsWanted(Goalies[slot]))
+            add(Goalies[slot]);
     FitList();
 }
 
@@ -111,7 +121,7 @@ std::optional<PersonId> frmEditPlayer::ShownPerson() const
         Machine().ShowIntegrityFailure();
         return std::nullopt;
     }
-    return PersonId{PlayerPosition == position::Goalie, static_cast<int>(SelectedPlayer)};
+    return PersonWith(PlayerPosition);
 }
 
 void frmEditPlayer::lstPlayer_Click()
@@ -195,8 +205,7 @@ void frmEditPlayer::ShowRow(int row, std::string_view label, int rating)
 // Shows the overall anew after a rating has changed.
 void frmEditPlayer::ShowOverall()
 {
-    const PersonId person{PlayerPosition == position::Goalie, static_cast<int>(SelectedPlayer)};
-    const StatRows rows = StatRowsOf(person);
+    const StatRows rows = StatRowsOf(PersonWith(PlayerPosition));
     if (rows.OverallRow)
         SetRow(static_cast<int>(rows.Ratings.size()) + 1, *rows.OverallRow);
 }

@@ -16,7 +16,6 @@
 #include "session/Session.h"
 
 #include <algorithm>
-#include <type_traits>
 
 // Opening, the three lists, the person chosen in them, and the one way in which a person changes lists.
 namespace dravik {
@@ -24,9 +23,6 @@ namespace dravik {
 namespace {
 
 Team& OwnTeam() { return Teams[CurrentTeam]; }
-
-template <class Person>
-constexpr bool IsGoalie = std::is_same_v<std::remove_cv_t<Person>, Goalie>;
 
 QStringList LinesOf(const std::string& text) { return ToQString(text).split("\r\n", Qt::SkipEmptyParts); }
 
@@ -96,22 +92,21 @@ void frmRoster::ListPerson(Person& person, int index)
         Machine().ShowBox(name + " has no status!", box::Warning);
         return;
     }
+    const PersonId who = PersonIn<Person>(index);
     if (person.Status == status::Farm)
-        KeepOffFarm(OpenWork(), PersonIn<Person>(index));
+        KeepOffFarm(OpenWork(), who);
     ++StatusCount[person.Status];
     if (person.Status > status::Farm && IsFit(person))
         ++StatusCount[3];
     const int position = PositionOf(person);
-    if constexpr (!IsGoalie<Person>) {
-        if (position < position::Center || position > position::Defense) {
-            Machine().ShowBox(name + " has no position!", box::Warning);
-            return;
-        }
+    if (!who.IsGoalie && (position < position::Center || position > position::Defense)) {
+        Machine().ShowBox(name + " has no position!", box::Warning);
+        return;
     }
     if (chkPosition[position]->isChecked()) {
         const std::string mark = OfficeMark(OwnTeam(), PersonIn<Person>(static_cast<int>(person.Number)));
         const std::string text = EntryText(name, mark, static_cast<bool>(person.TradeAvailable));
-        lstPlayer[person.Status]->Add(ToQString(text), EntryNumber(person.Number, position), AsideOf(position, index));
+        lstPlayer[person.Status]->Add(ToQString(text), EntryNumber(person.Number, position), AsideOf(who));
     }
     if (person.Protected)
         ++OwnTeam().ProtectedCount;
@@ -229,21 +224,19 @@ void frmRoster::lstPlayer_Click(int index)
 }
 
 // Row by row, so that what breaks leaves the rows before it, and the overall's own box comes up over the ratings.
-template <class Person>
-void frmRoster::ShowRatings(const Person& person, int index)
+void frmRoster::ShowRatings(PersonId who)
 {
-    constexpr bool isGoalie = IsGoalie<Person>;
-    const int count = static_cast<int>(isGoalie ? GoalieStatCount : PlayerStatCount);
+    const int count = static_cast<int>(who.IsGoalie ? GoalieStatCount : PlayerStatCount);
     const auto show = [this](int row, const StatRow& shown) { Stats->ShowRow(row, shown); };
-    if constexpr (isGoalie)
-        TellGoalieRatings(OpenLeague, index, count, show);
+    if (who.IsGoalie)
+        TellGoalieRatings(OpenLeague, who.Slot, count, show);
     else
-        TellSkaterRatings(OpenLeague, index, count, show);
-    const int overall = CalculateOverall(OpenLeague, Machine(), PositionOf(person), index);
+        TellSkaterRatings(OpenLeague, who.Slot, count, show);
+    const int overall = CalculateOverall(OpenLeague, Machine(), who);
     PlayerOverall = overall;
     if (LeagueData.ShowOverall)
         Stats->ShowRow(count + 1,
-                       isGoalie ? GoalieOverallRow(LeagueData, overall) : SkaterOverallRow(LeagueData, overall));
+                       who.IsGoalie ? GoalieOverallRow(LeagueData, overall) : SkaterOverallRow(LeagueData, overall));
 }
 
 template <class Person>
@@ -260,16 +253,16 @@ void frmRoster::ShowFlags(const Person& person)
 void frmRoster::ShowStats()
 {
     Reporting(Machine(), " in ShowStats!", [this] {
-        if (SelectedIsGoalie && !GoalieTable::Has(SelectedPlayer)) {
+        const PersonId who = SelectedPerson();
+        if (who.IsGoalie && !who.HasSlot()) {
             Machine().ShowIntegrityFailure();
             return;
         }
-        const int id = static_cast<int>(SelectedPlayer);
-        OnPerson(OpenLeague, SelectedPerson(), [&](const auto& person) {
+        OnPerson(OpenLeague, who, [&](const auto& person) {
             Stats->SetName(ToQString(person.Name.Trimmed()));
-            ShowRatings(person, id);
+            ShowRatings(who);
             ShowFlags(person);
-            if (SelectedIsGoalie || person.Status == status::Farm) {
+            if (who.IsGoalie || person.Status == status::Farm) {
                 cmdCaptain->setEnabled(false);
                 cmdAssistant->setEnabled(false);
             }

@@ -95,8 +95,7 @@ private:
     // What the judgement said stands under the verdict; the payroll's part only when it was judged too.
     void ShowReasons(const RosterVerdict& verdict);
     void ShowPayroll();
-    template <class Person>
-    void ShowRatings(const Person& person, int index);
+    void ShowRatings(PersonId who);
     template <class Person>
     void ShowFlags(const Person& person);
 
