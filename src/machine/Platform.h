@@ -7,6 +7,7 @@
 
 #include <array>
 #include <cstdint>
+#include <functional>
 #include <string>
 #include <string_view>
 
@@ -27,6 +28,13 @@ public:
     // Shows the wait screen if it is not shown, then lets the screen paint for about 100 milliseconds, holding back
     // what the user types and clicks.
     virtual void ShowWait() = 0;
+    // The same, and `work` done: a desktop does it as soon as the screen is painted and so within its time. What fails in
+    // it goes on from here when that time has passed.
+    virtual void ShowWaitOver(const std::function<void()>& work)
+    {
+        ShowWait();
+        work();
+    }
     virtual void CloseWait() = 0;
 
     // Hands `location` to the desktop with the verb "open"; returns the desktop's answer.

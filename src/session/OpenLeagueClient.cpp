@@ -111,9 +111,9 @@ void OpenLeagueClient(const std::string& path, MainWindow& window)
             return;
         }
         DeleteIfExists(Machine(), TempFile);
-        Machine().ShowWait();
-        const ClientFileRead outcome =
-            ReadClientFile(OpenLeague, SlotFilesOf(OpenFiles()), ExistingPath(Machine(), path));
+        ClientFileRead outcome;
+        Machine().ShowWaitOver(
+            [&] { outcome = ReadClientFile(OpenLeague, SlotFilesOf(OpenFiles()), ExistingPath(Machine(), path)); });
         if (outcome.File == SlotFileRead::NotDecompressed)
             return; // told, and the wait screen stays
         if (!outcome.Whole) {

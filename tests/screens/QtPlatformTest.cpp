@@ -1,5 +1,6 @@
 #include "screens/platform/QtPlatform.h"
 
+#include "AnswerDialog.h"
 #include "league/Failure.h"
 #include "machine/SettingsFailure.h"
 #include "screens/main/frmWait.h"
@@ -14,6 +15,7 @@
 #include <QElapsedTimer>
 #include <QFile>
 #include <QLabel>
+#include <QMessageBox>
 #include <QTemporaryDir>
 #include <QTest>
 #include <QTimer>
@@ -405,6 +407,81 @@ TEST_F(QtPlatformTest, WhileWaitingWhatIsPendingRuns)
         Desktop.SetWaitMilliseconds(milliseconds);
         Desktop.ShowWait();
         EXPECT_TRUE(ran) << milliseconds;
+        Desktop.CloseWait();
+    }
+}
+
+// Notes whether a wait screen has been painted.
+class WaitPainted : public QObject {
+public:
+    bool Seen = false;
+
+    WaitPainted() { qApp->installEventFilter(this); }
+    bool eventFilter(QObject* watched, QEvent* event) override
+    {
+        Seen = Seen || (event->type() == QEvent::Paint && qobject_cast<frmWait*>(watched) != nullptr);
+        return false;
+    }
+};
+
+TEST_F(QtPlatformTest, WorkIsDoneOnceBehindAPaintedWaitScreenAndWithinItsTime)
+{
+    constexpr int time = 150;
+    Desktop.SetWaitMilliseconds(time);
+    for (const bool shownBefore : {false, true}) {
+        const WaitPainted painted;
+        QElapsedTimer clock;
+        std::vector<qint64> done;
+        clock.start();
+        Desktop.ShowWaitOver([&] {
+            EXPECT_TRUE(painted.Seen) << shownBefore;
+            EXPECT_NE(ShownWait(), nullptr);
+            done.push_back(clock.elapsed());
+        });
+        const qint64 took = clock.elapsed();
+        ASSERT_EQ(done.size(), 1U) << shownBefore;
+        EXPECT_LT(done.front(), time) << "the work does not wait for the end";
+        EXPECT_GE(took, time - 1) << "the screen has its time";
+        EXPECT_NE(ShownWait(), nullptr);
+    }
+    Desktop.CloseWait();
+}
+
+TEST_F(QtPlatformTest, WithoutAMomentForTheWaitScreenItsWorkIsDoneBehindIt)
+{
+    Desktop.SetWaitMilliseconds(0);
+    int done = 0;
+    Desktop.ShowWaitOver([&done] { ++done; });
+    EXPECT_EQ(done, 1);
+    Desktop.CloseWait();
+}
+
+TEST_F(QtPlatformTest, AFailureOfTheWorkGoesOnWhenTheWaitScreenHasHadItsTime)
+{
+    for (const int milliseconds : {0, 20}) {
+        Desktop.SetWaitMilliseconds(milliseconds);
+        QElapsedTimer clock;
+        clock.start();
+        EXPECT_EQ(NumberOfFailure([this] { Desktop.ShowWaitOver([] { Fail(failure::Overflow); }); }),
+                  failure::Overflow);
+        EXPECT_GE(clock.elapsed(), milliseconds - 1);
+        EXPECT_NE(ShownWait(), nullptr) << "it stays until it is closed";
+        Impatient window;
+        EXPECT_TRUE(window.close()) << "nothing is held back any more";
+        Desktop.CloseWait();
+    }
+}
+
+TEST_F(QtPlatformTest, ABoxOfTheWorkCanBeClosedWhileTheWaitScreenHasItsTime)
+{
+    for (const int milliseconds : {0, 20}) {
+        Desktop.SetWaitMilliseconds(milliseconds);
+        int answer = 0;
+        Desktop.ShowWaitOver([&] {
+            OnDialog<QMessageBox>([](QMessageBox& shown) { shown.close(); });
+            answer = Desktop.MessageBox("Text", box::YesNoCancel, "Title");
+        });
+        EXPECT_EQ(answer, button::Cancel);
         Desktop.CloseWait();
     }
 }

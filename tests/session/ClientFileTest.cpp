@@ -73,6 +73,33 @@ TEST_F(ClientFileTest, TheWindowIsSetInOrder)
     EXPECT_FALSE(Machine.WaitShown);
 }
 
+// Notes what is in the tables when the wait screen comes up, and when it has had its time.
+class MachineThatWaits : public ScriptedPlatform {
+public:
+    bool ReadBefore = false;
+    bool ReadMeanwhile = false;
+
+    void ShowWaitOver(const std::function<void()>& work) override
+    {
+        ReadBefore = static_cast<bool>(Teams[5].InUse);
+        ScriptedPlatform::ShowWaitOver(work);
+        ReadMeanwhile = static_cast<bool>(Teams[5].InUse);
+    }
+};
+
+TEST_F(ClientFileTest, ItIsReadWhileTheWaitScreenHasItsTime)
+{
+    Teams[5].InUse = true;
+    const std::string path = SaveWrapped();
+    MachineThatWaits waiting;
+    UseMachine(waiting);
+    Open(path);
+    UseMachine(Machine);
+    EXPECT_FALSE(waiting.ReadBefore);
+    EXPECT_TRUE(waiting.ReadMeanwhile);
+    EXPECT_THAT(waiting.Boxes(), IsEmpty());
+}
+
 TEST_F(ClientFileTest, TheLastFourCharactersAreCutFromTheTitleWhateverTheyAre)
 {
     Machine.Settings["SkipZIPClient"] = "YES";

@@ -21,4 +21,10 @@ frmWait::frmWait(QWidget* parent) : QDialog(parent, Qt::Dialog | Qt::CustomizeWi
     layout->setSizeConstraint(QLayout::SetFixedSize);
 }
 
+void frmWait::paintEvent(QPaintEvent* event)
+{
+    QDialog::paintEvent(event);
+    emit Painted();
+}
+
 } // namespace dravik

@@ -13,6 +13,12 @@ class frmWait : public QDialog {
 
 public:
     explicit frmWait(QWidget* parent = nullptr);
+
+signals:
+    void Painted();
+
+protected:
+    void paintEvent(QPaintEvent* event) override;
 };
 
 } // namespace dravik

@@ -21,6 +21,9 @@
 #include <QUrl>
 
 #include <algorithm>
+#include <exception>
+#include <optional>
+#include <utility>
 
 namespace dravik {
 
@@ -73,6 +76,41 @@ public:
         event->ignore();
         return true;
     }
+};
+
+// What is done while the wait screen has its time. Until then and behind it no window closes; a box that the work itself
+// shows can be closed.
+class WaitingWork : public QObject {
+public:
+    explicit WaitingWork(const std::function<void()>& newWork) : work(newWork), held(std::in_place) {}
+
+    // Does the work, the first time. A failure is kept: it must not run through the toolkit.
+    void Do()
+    {
+        if (std::exchange(isDone, true) || !work)
+            return;
+        held.reset();
+        try {
+            work();
+        } catch (...) {
+            failed = std::current_exception();
+        }
+        held.emplace();
+    }
+
+    // Does the work if its turn has not come, and hands on its failure.
+    void Finish()
+    {
+        Do();
+        if (failed)
+            std::rethrow_exception(failed);
+    }
+
+private:
+    const std::function<void()>& work;
+    std::optional<NoClosing> held;
+    bool isDone = false;
+    std::exception_ptr failed;
 };
 
 } // namespace
@@ -202,7 +240,7 @@ bool QtPlatform::AnotherInstanceRuns()
     return lock->error() == QLockFile::LockFailedError;
 }
 
-void QtPlatform::ShowWait()
+void QtPlatform::ShowWaitOver(const std::function<void()>& work)
 {
     if (wait == nullptr)
         wait = new frmWait(DialogParent());
@@ -210,14 +248,18 @@ void QtPlatform::ShowWait()
         CentreOver(*wait, wait->parentWidget());
         wait->show();
     }
-    const NoClosing held;
+    WaitingWork waiting(work);
     if (waitMilliseconds == 0) {
         QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
-        return;
+    } else {
+        QEventLoop painting;
+        QTimer::singleShot(waitMilliseconds, Qt::PreciseTimer, &painting, &QEventLoop::quit);
+        // What is painted is on its way to the display before what is queued runs.
+        QObject::connect(wait, &frmWait::Painted, &waiting, &WaitingWork::Do, Qt::QueuedConnection);
+        wait->update();
+        painting.exec(QEventLoop::ExcludeUserInputEvents);
     }
-    QEventLoop painting;
-    QTimer::singleShot(waitMilliseconds, Qt::PreciseTimer, &painting, &QEventLoop::quit);
-    painting.exec(QEventLoop::ExcludeUserInputEvents);
+    waiting.Finish();
 }
 
 void QtPlatform::CloseWait() { delete wait; }

@@ -46,7 +46,8 @@ public:
     std::string ProgramFolder() override;
     std::string Version() override;
     bool AnotherInstanceRuns() override;
-    void ShowWait() override;
+    void ShowWait() override { ShowWaitOver({}); }
+    void ShowWaitOver(const std::function<void()>& work) override;
     void CloseWait() override;
     // 42 when the desktop took the location and 0 when it did not. The desktop decides how its window shows, so `showMode`
     // goes unused. A location without a scheme is taken for a file if it is there, else for a web address.
