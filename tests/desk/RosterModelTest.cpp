@@ -1,7 +1,4 @@
-#include "desk/Captaincy.h"
-#include "desk/PlayerFlags.h"
-#include "desk/Release.h"
-#include "desk/RosterMoves.h"
+#include "RosterEvening.h"
 #include "rules/Waivers.h"
 #include "rules/WipeLines.h"
 #include "session/Session.h"
@@ -18,62 +15,7 @@
 namespace dravik {
 namespace {
 
-constexpr int Own = 1;
-
-// What a command is given.
-struct Command {
-    int Number;
-    PersonId Who;
-    int From;
-    int To;
-    bool Tick;
-};
-constexpr int CommandCount = 9;
-
-// One league with its counts, and what was said over it.
-struct Evening {
-    std::unique_ptr<Tables> League;
-    RosterCounts Counts{};
-    bool Modified = false;
-    std::string Result{}; // of the last command
-};
-
-void AtTheDesk(Evening& evening, Voice& says, const Formats& shown, const Command& command)
-{
-    const Work work{*evening.League, says, shown, evening.Modified};
-    const PersonId who = command.Who;
-    switch (command.Number) {
-    case 0:
-        evening.Result = MoveOnRoster(work, Own, who, command.From, command.To, evening.Counts) ? "moved" : "stays";
-        break;
-    case 1:
-        SendToWaivers(work, Own, who,
-                      [&] { return MoveOnRoster(work, Own, who, status::Pro, status::Scratch, evening.Counts); });
-        break;
-    case 2:
-        evening.Result = ReleasePerson(work, Own, who) ? "released" : "stays";
-        break;
-    case 3:
-        evening.Result = MakeCaptain(work, Own, who) ? "told" : "refused";
-        break;
-    case 4:
-        evening.Result = MakeAssistant(work, Own, who) ? "told" : "refused";
-        break;
-    case 5:
-        SetProtected(work, Own, who, command.Tick);
-        break;
-    case 6:
-        TakeBarredOffMarket(work, who);
-        SetTradeAvailable(work, who, !IsTradeAvailable(work.League, who));
-        break;
-    case 7:
-        SetNoTrade(work, who, command.Tick);
-        break;
-    default:
-        SetNoApplyRerate(work, who, command.Tick);
-        break;
-    }
-}
+using namespace roster_evening;
 
 // ---- The naive telling ---------------------------------------------------------------------------------------------
 
@@ -324,13 +266,7 @@ TEST(RosterModelTest, RandomEveningsAreThoseOfTheNaiveTelling)
         Evening desk{.League = Copy(OpenLeague)};
         Evening naive{.League = Copy(OpenLeague)};
         for (int turn = 0; turn < commands; ++turn) {
-            const bool isGoalie = dice.Chance(20);
-            const Command command{
-                .Number = static_cast<int>(dice.Roll(0, CommandCount - 1)),
-                .Who = {.IsGoalie = isGoalie, .Slot = static_cast<int>(dice.Roll(1, isGoalie ? 18 : 150))},
-                .From = static_cast<int>(dice.Roll(0, 2)),
-                .To = static_cast<int>(dice.Roll(0, 2)),
-                .Tick = dice.Chance(50)};
+            const Command command = RollCommand(dice);
             const auto answers = static_cast<unsigned>(dice.Roll(1, 1000000));
             const int failAt = dice.Chance(30) ? static_cast<int>(dice.Roll(1, 3)) : 0;
             const Said byDesk = Told(answers, failAt, [&](Voice& says) { AtTheDesk(desk, says, shown, command); });

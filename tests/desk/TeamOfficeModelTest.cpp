@@ -1,11 +1,5 @@
-#include "desk/Arena.h"
-#include "desk/Coaches.h"
-#include "desk/Contacts.h"
-#include "desk/Morale.h"
-#include "desk/TeamMoney.h"
-#include "desk/TeamNames.h"
-#include "desk/TicketPrices.h"
 #include "machine/InputCheck.h"
+#include "OfficeEvening.h"
 #include "support/ScriptedPlatform.h"
 #include "support/TroubledVoice.h"
 
@@ -20,92 +14,7 @@
 namespace dravik {
 namespace {
 
-const std::vector<std::string> Typed = {
-    "",           "0",          "1",           "5",     "-3",      "8-2",   "-",           "45",
-    "998",        "999",        "1000",        "99999", "100000",  "32767", "32768",       "-40000",
-    "2147483647", "2147483648", "-2147483649", "12a",   "HCG",     "abc",   "HC",          "ABCD",
-    "a_b",        "Gulls",      "Mira Holt",   "  ",    "R\xE9mi", "x 2",   "99999999999", std::string(39, 'y') + "zz"};
-
-struct Command {
-    int Number = 0;
-    int Team = 1;
-    int Level = 1;
-    std::string Text;
-};
-constexpr int CommandCount = 16;
-
-// One league, and what came of the last command.
-struct Office {
-    std::unique_ptr<Tables> League;
-    bool Modified = false;
-    std::string Result{};
-};
-
-std::string Told(const TypedNumber& typed)
-{
-    return std::string(typed.Accepted ? "taken " : "refused ") + (typed.Shown ? std::to_string(*typed.Shown) : "");
-}
-std::string Told(bool done) { return done ? "done" : "not done"; }
-
-void AtTheDesk(Office& office, Voice& says, const Formats& shown, const Command& command)
-{
-    const Work work{*office.League, says, shown, office.Modified};
-    const int team = command.Team;
-    const std::string& text = command.Text;
-    std::string& result = office.Result;
-    const auto show = [&result] { result += "figures "; };
-    result.clear();
-    switch (command.Number) {
-    case 0:
-        result = Told(SetTicketPrice(work, team, command.Level, text));
-        break;
-    case 1:
-        result = Told(SetArenaCapacity(work, team, command.Level, text));
-        break;
-    case 2:
-        result = Told(NameArena(work, team, text));
-        break;
-    case 3:
-        result = Told(RenameTeam(work, team, text));
-        break;
-    case 4:
-        result = Told(RenameFarm(work, team, text));
-        break;
-    case 5:
-        result = Told(AbbreviateTeam(work, team, text));
-        break;
-    case 6:
-        result = Told(AbbreviateFarm(work, team, text));
-        break;
-    case 7:
-        result = Told(NameCity(work, team, text));
-        break;
-    case 8:
-        result = Told(NameGeneralManager(work, team, text));
-        break;
-    case 9:
-        SetEmail(work, team, text);
-        break;
-    case 10:
-        SetMessenger(work, team, text);
-        break;
-    case 11:
-        result = Told(SetMorale(work, team, text));
-        break;
-    case 12:
-        result = Told(SetFarmMorale(work, team, text));
-        break;
-    case 13:
-        result = Told(FireProCoach(work, team));
-        result += Told(FireFarmCoach(work, team));
-        break;
-    case 14:
-        ChangeCash(work, team, show);
-        break;
-    default:
-        ChangePayrollBonus(work, team, show);
-    }
-}
+using namespace office_evening;
 
 // ---- The naive telling ---------------------------------------------------------------------------------------------
 
@@ -327,13 +236,9 @@ TEST(TeamOfficeModelTest, RandomEveningsAreThoseOfTheNaiveTelling)
         Office desk{.League = Copy(OpenLeague)};
         Office naive{.League = Copy(OpenLeague)};
         for (int turn = 0; turn < commands; ++turn) {
-            const auto roll = [&dice](int least, int most) { return static_cast<int>(dice.Roll(least, most)); };
-            const Command command{.Number = roll(0, CommandCount - 1),
-                                  .Team = roll(1, 3),
-                                  .Level = roll(1, 5),
-                                  .Text = Typed[static_cast<std::size_t>(roll(0, std::ssize(Typed) - 1))]};
+            const Command command = RollCommand(dice);
             const auto answers = static_cast<unsigned>(dice.Roll(1, 1000000));
-            const int failAt = dice.Chance(20) ? roll(1, 3) : 0;
+            const int failAt = dice.Chance(20) ? static_cast<int>(dice.Roll(1, 3)) : 0;
             const Said byDesk =
                 SaidOver(answers, failAt, Typed, [&](Voice& says) { AtTheDesk(desk, says, shown, command); });
             const Said byNaive = SaidOver(answers, failAt, Typed, [&](Voice& says) {
