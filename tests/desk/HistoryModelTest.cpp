@@ -1,0 +1,542 @@
+#include "desk/History.h"
+#include "desk/LinesFiles.h"
+#include "files/LinesFile.h"
+#include "LinesEvening.h"
+#include "makers/Makers.h"
+#include "MarketEvening.h"
+#include "OfficeEvening.h"
+#include "RecordEvening.h"
+#include "RosterEvening.h"
+#include "rules/LineJudge.h"
+#include "rules/RosterJudge.h"
+#include "support/LeagueImage.h"
+#include "support/PlainFormats.h"
+#include "support/SmallLeague.h"
+#include "support/TroubledVoice.h"
+
+#include <algorithm>
+#include <cstdlib>
+#include <cstring>
+#include <functional>
+#include <gtest/gtest.h>
+#include <map>
+#include <memory>
+#include <set>
+#include <string_view>
+
+// Random evenings under a history: the commands of the other models, loads of a lines file and the makers of rosters, with boxes
+// answered at random, failures at any of them, and files that break off. Judges repair and strangers write between the steps, and
+// now and then the manager goes back and forth. At the end all is undone and redone: every state on the way is the one that was.
+//
+// DRAVIK_HISTORY_LEAGUES names how many leagues instead of the usual ones, DRAVIK_HISTORY_COMMANDS how many commands each, and
+// DRAVIK_HISTORY_FIRST the number of the first league.
+namespace dravik {
+namespace {
+
+constexpr int Own = 1;
+
+int FromEnvironment(const char* name, int usual)
+{
+    const char* value = std::getenv(name);
+    return value != nullptr ? std::atoi(value) : usual;
+}
+
+// A number for some bytes that hardly any others have; 0 for zeros, so that offers that nobody touched do not count.
+std::size_t Digest(const auto& record, std::size_t place = 1)
+{
+    const std::string_view bytes(reinterpret_cast<const char*>(&record), sizeof record);
+    if (bytes.find_first_not_of('\0') == std::string_view::npos)
+        return 0;
+    return std::hash<std::string_view>()(bytes) * (2 * place + 1);
+}
+
+// Brings a copy of the beginning to where the history is, by what it tells alone.
+class Follower final : public HistoryWatcher {
+public:
+    Follower(const Tables& league, const Market& market) :
+        League(Copy(league)), OnMarket(std::make_unique<Market>(market))
+    {
+    }
+
+    void Closed(const Step& step) noexcept override
+    {
+        Go(step.Change, DifferenceEnd::After);
+        std::size_t changed = 0;
+        RunReader reader(step.Change.Stored());
+        while (const auto run = reader.Next())
+            changed += run->Before.size();
+        Excess = std::max(Excess, static_cast<long long>(step.Held()) - 2 * static_cast<long long>(changed));
+        ++Told["closed"];
+    }
+    void Merged(const Step& /*into*/, const ByteDifference& more) noexcept override
+    {
+        Go(more, DifferenceEnd::After);
+        ++Told["merged"];
+    }
+    void Folded(const Step* into, const ByteDifference& more) noexcept override
+    {
+        Go(more, DifferenceEnd::After);
+        ++Told[into != nullptr ? "folded" : "folded into the beginning"];
+    }
+    void Undone(const Step& step) noexcept override
+    {
+        Go(step.Change, DifferenceEnd::Before);
+        ++Told["undone"];
+    }
+    void Redone(const Step& step) noexcept override
+    {
+        Go(step.Change, DifferenceEnd::After);
+        ++Told["redone"];
+    }
+    void Ended(HistoryEnd why) noexcept override { ++Told[why == HistoryEnd::OtherTeam ? "other team" : "no room"]; }
+
+    std::unique_ptr<Tables> League;
+    std::unique_ptr<Market> OnMarket;
+    std::map<std::string, int> Told;
+    long long Excess = 0; // the most that a step took above twice what it changed
+    bool Lost = false;    // it was told of bytes that are others where it is
+
+private:
+    void Go(const ByteDifference& over, DifferenceEnd to)
+    {
+        const DeskContents at{*League, OnMarket.get()};
+        Lost = Lost || !IsAt(at, over, to == DifferenceEnd::After ? DifferenceEnd::Before : DifferenceEnd::After);
+        Put(at, over, to);
+    }
+};
+
+// ---- The leagues -------------------------------------------------------------------------------------------------------------
+
+enum class Kind { Plain, Messy, Full, Noise };
+constexpr int KindCount = 4;
+
+void RollPlainLeague()
+{
+    SetOrdinaryRules();
+    for (int number = 1; number <= 3; ++number) {
+        TeamMaker team(number);
+        team.DressesFullRoster().FarmsFullRoster();
+        const std::vector<int> all = team.Skaters;
+        const std::vector<int> forwards(all.begin(), all.begin() + 12);
+        const std::vector<int> defense(all.begin() + 12, all.begin() + 18);
+        for (int day = 1; day <= 10; ++day)
+            FillLines(Teams[number].ProLines[day], forwards, defense, team.GoalieIds);
+    }
+}
+
+void RollAny(Dice& dice, Kind kind)
+{
+    ResetClientVariables();
+    switch (kind) {
+    case Kind::Plain:
+        return RollPlainLeague();
+    case Kind::Messy:
+        return market_evening::RollMarket(dice);
+    case Kind::Full:
+        return RollLeague(dice, {.Teams = 100, .Skaters = 10000, .Goalies = 1000, .Coaches = 500});
+    case Kind::Noise:
+        return ScrambleLeague(static_cast<unsigned>(dice.Roll(1, 1000000)));
+    }
+}
+
+// ---- The evening -------------------------------------------------------------------------------------------------------------
+
+// What is typed where a command asks.
+const std::vector<std::string> Typed = {"", "0", "1", "3", "50", "100", "33.5", "many", "-7", "40000", "Gulls"};
+
+class HistoryEvening {
+public:
+    HistoryEvening(unsigned seed, Kind kind, ScriptedPlatform& files) : dice(seed), disk(files)
+    {
+        RollAny(dice, kind);
+        league = Copy(OpenLeague);
+        const auto ranked = kind == Kind::Messy ? dice.Pick({0, 3, 999, 1001}) : 0;
+        for (long long rank = 0; rank < ranked; ++rank)
+            market->Ranking[rank] = rank + 1;
+        follower = std::make_unique<Follower>(*league, *market);
+        history = std::make_unique<History>(*league);
+        history->Join(*market);
+        history->Begin();
+        history->TellTo(follower.get());
+        TakeBeginning();
+        states.push_back({.Digest = Now()});
+        linesFile = disk.InFolder("Some.dvl");
+        SaidOver(1, 0, Typed, [&](Voice& says) { WriteLinesFile(*Copy(*league), Files(says), Own, linesFile); });
+    }
+
+    void Play(int commands)
+    {
+        for (int turn = 0; turn < commands && !HasFailed(); ++turn) {
+            SCOPED_TRACE("turn " + std::to_string(turn));
+            switch (dice.Roll(1, 12)) {
+            case 1:
+                ChangeOutside();
+                break;
+            case 2:
+                for (long long turns = dice.Roll(1, 6); turns > 0 && Back(); --turns)
+                    ;
+                break;
+            case 3:
+                for (long long turns = dice.Roll(1, 6); turns > 0 && Forth(); --turns)
+                    ;
+                break;
+            default:
+                TakeStep();
+            }
+        }
+    }
+
+    // Everything undone, and everything redone.
+    void GoAllTheWay()
+    {
+        while (Forth())
+            ;
+        const auto end = Copy(*league);
+        const auto endOfMarket = std::make_unique<Market>(*market);
+        const std::size_t all = done;
+        while (Back())
+            ;
+        ASSERT_EQ(done, 0U);
+        ASSERT_TRUE(IsAt(*beginning, *beginningOfMarket));
+        ASSERT_TRUE(IsAt(*follower->League, *follower->OnMarket));
+        for (std::size_t step = 0; step < all; ++step)
+            ASSERT_TRUE(Forth());
+        ASSERT_TRUE(IsAt(*end, *endOfMarket));
+        ASSERT_TRUE(IsAt(*follower->League, *follower->OnMarket));
+        ASSERT_FALSE(follower->Lost);
+        Counted["whole way"] += static_cast<int>(all);
+    }
+
+    [[nodiscard]] const Follower& Told() const { return *follower; }
+    std::map<std::string, int> Counted;
+
+private:
+    static bool HasFailed() { return ::testing::Test::HasFailure(); }
+    FileAccess Files(Voice& says) { return {disk, says, disk, disk.InFolder("work")}; }
+
+    // ---- What a manager does ----
+
+    // The league, lent to one of the evenings that the other models play.
+    template <class Evening>
+    class Lent {
+    public:
+        explicit Lent(std::unique_ptr<Tables>& lender) : owner(lender) { At.League = std::move(owner); }
+        Lent(const Lent&) = delete;
+        Lent& operator=(const Lent&) = delete;
+        ~Lent() { owner = std::move(At.League); }
+        Evening At{};
+
+    private:
+        std::unique_ptr<Tables>& owner;
+    };
+
+    // A command of any kind, given what it needs.
+    using Does = std::function<void(Voice& says)>;
+    template <class Evening, class Command>
+    Does OfEvening(const Command& command)
+    {
+        return [this, command](Voice& says) {
+            Lent<Evening> lent(league);
+            AtTheDesk(lent.At, says, shown, command);
+        };
+    }
+    Does RollCommand()
+    {
+        switch (dice.Roll(1, 14)) {
+        case 1:
+        case 2:
+        case 3:
+            return OfEvening<roster_evening::Evening>(roster_evening::RollCommand(dice));
+        case 4:
+        case 5:
+        case 6:
+            return OfEvening<lines_evening::Evening>(lines_evening::RollCommand(dice));
+        case 7:
+        case 8:
+            return OfEvening<office_evening::Office>(office_evening::RollCommand(dice));
+        case 9:
+        case 10:
+            return OfEvening<record_evening::Desk>(record_evening::RollCommand(dice));
+        case 11:
+        case 12:
+        case 13: {
+            int ranked = 0;
+            while (ranked <= DraftRanking::last && market->Ranking[ranked] != 0)
+                ++ranked;
+            return OnTheMarket(market_evening::RollCommand(dice, ranked));
+        }
+        default:
+            return OfTheWidest();
+        }
+    }
+    Does OnTheMarket(const market_evening::Command& command)
+    {
+        return [this, command](Voice& says) {
+            if (OfferTable::Has(command.Id)) {
+                history->Watch(command.Id);
+                touched.insert(command.Id);
+            }
+            Lent<market_evening::Evening> lent(league);
+            market_evening::Desk{lent.At, *market, disk}.Does(says, shown, command);
+        };
+    }
+    Does OfTheWidest()
+    {
+        const bool partial = dice.Chance(50);
+        if (dice.Chance(50))
+            return [this, partial](Voice& says) {
+                bool modified = false;
+                AutoRoster({*league, says, shown, modified}, Own, true, partial);
+            };
+        const std::size_t breaksOff = dice.Chance(40) ? static_cast<std::size_t>(dice.Roll(1, 400)) : 0;
+        return [this, breaksOff](Voice& says) {
+            bool modified = false;
+            if (breaksOff != 0)
+                disk.FailFileOperation(breaksOff, failure::PathAccess);
+            LoadLines(
+                {*league, says, shown, modified}, Files(says), disk, Own, linesFile, [] {}, [] {});
+        };
+    }
+
+    // What a command says, whether it comes to its end or not; in a step, if one is given.
+    void Run(const Does& does, const StepLabel* label)
+    {
+        const auto answers = static_cast<unsigned>(dice.Roll(1, 1000000));
+        const int failAt = dice.Chance(20) ? static_cast<int>(dice.Roll(1, 3)) : 0;
+        const bool triesToUndo = dice.Chance(10);
+        const Said said = SaidOver(answers, failAt, Typed, [&](Voice& says) {
+            if (label == nullptr)
+                return does(says);
+            const OpenStep step = history->Open(*label);
+            does(says);
+            const OpenStep inner = history->Open({.Words = "a part of it"});
+            if (triesToUndo) {
+                EXPECT_EQ(history->Undo(), Turned::StepIsOpen);
+            }
+        });
+        disk.FailNoMore();
+        Counted["failed"] += !said.empty() && said.back().starts_with("failed") ? 1 : 0;
+    }
+
+    void TakeStep()
+    {
+        const StepLabel label{.Words = "Command",
+                              .Where = "Desk",
+                              .Team = dice.Chance(2) ? Own + 1 : Own,
+                              .Drag = static_cast<std::uint64_t>(dice.Chance(30) ? dice.Roll(1, 2) : 0)};
+        ExpectFold();
+        std::unique_ptr<Tables> atOpening;
+        std::unique_ptr<Market> marketAtOpening;
+        const bool otherTeam = states.size() > 1 && label.Team != team;
+        if (otherTeam) {
+            atOpening = Copy(*league);
+            marketAtOpening = std::make_unique<Market>(*market);
+        }
+        Run(RollCommand(), &label);
+
+        const std::size_t now = Now();
+        if (now == states[done].Digest) {
+            ++Counted["empty"];
+            return;
+        }
+        if (otherTeam) {
+            states = {states[done]};
+            done = 0;
+            beginning = std::move(atOpening);
+            beginningOfMarket = std::move(marketAtOpening);
+        }
+        states.resize(done + 1);
+        const bool merges = goesOn && label.Drag != 0 && done > 0 && states[done].Drag == label.Drag;
+        if (merges) {
+            states[done].Digest = now;
+            DropIfGone();
+        } else {
+            states.push_back({.Digest = now, .Drag = label.Drag});
+            ++done;
+        }
+        goesOn = true;
+        team = label.Team;
+    }
+
+    void ChangeOutside()
+    {
+        switch (dice.Roll(1, 4)) {
+        case 1: // a judge that repairs
+            return Run(
+                [this](Voice& says) {
+                    bool modified = false;
+                    const Work work{*league, says, shown, modified};
+                    CheckRoster(work, Own, true, true, true);
+                    CheckLine(work, Own, true, 1, true);
+                },
+                nullptr);
+        case 2: // a command that nobody opened a step for
+            return Run(RollCommand(), nullptr);
+        case 3: // somebody writes anywhere
+            for (long long bytes = dice.Roll(1, 3); bytes > 0; --bytes)
+                reinterpret_cast<unsigned char*>(league.get())[dice.Roll(0, sizeof(Tables) - 1)] ^= 1U;
+            return;
+        default: // somebody writes where the last step did
+            if (const Step* last = history->ToUndo()) {
+                const auto run = RunReader(last->Change.Stored()).Next();
+                FirstByteOf({*league, market.get()}, run->Table)[run->Offset] ^= 1U;
+            }
+        }
+    }
+
+    // ---- The way back ----
+
+    // A refusal is for bytes that are others. Once they are folded the step goes back.
+    bool Back()
+    {
+        const bool others = ExpectFold();
+        const std::size_t before = Now();
+        Turned turned = history->Undo();
+        if (turned == Turned::Changed) {
+            EXPECT_TRUE(others);
+            EXPECT_EQ(Now(), before);
+            ++Counted["refused"];
+            history->Fold();
+            turned = history->Undo();
+        }
+        if (turned != Turned::Done) {
+            EXPECT_EQ(turned, Turned::Nothing);
+            EXPECT_EQ(done, 0U);
+            history->Fold();
+            return false;
+        }
+        goesOn = false;
+        if (done == 0) {
+            ADD_FAILURE() << "a step too many";
+            return false;
+        }
+        --done;
+        EXPECT_EQ(Now(), states[done].Digest) << "behind the undo of step " << done + 1;
+        return !HasFailed();
+    }
+    bool Forth()
+    {
+        ExpectFold();
+        const std::size_t before = Now();
+        const Turned turned = history->Redo();
+        if (turned != Turned::Done) {
+            EXPECT_EQ(Now(), before);
+            EXPECT_EQ(turned, done + 1 == states.size() ? Turned::Nothing : Turned::Changed);
+            EXPECT_TRUE(turned == Turned::Nothing || !states[done + 1].IsKnown);
+            Counted["refused"] += turned == Turned::Changed ? 1 : 0;
+            history->Fold();
+            return false;
+        }
+        goesOn = false;
+        if (++done >= states.size()) {
+            ADD_FAILURE() << "a step too many";
+            return false;
+        }
+        if (states[done].IsKnown) {
+            EXPECT_EQ(Now(), states[done].Digest) << "behind the redo of step " << done;
+        }
+        states[done].Digest = Now();
+        states[done].IsKnown = true;
+        return !HasFailed();
+    }
+
+    // ---- What is expected ----
+
+    // The state behind a step. Where something was folded in front of it since, it is not known until it comes.
+    struct State {
+        std::size_t Digest = 0;
+        std::uint64_t Drag = 0;
+        bool IsKnown = true;
+    };
+
+    [[nodiscard]] std::size_t Now() const
+    {
+        std::size_t sum = Digest(*league) + Digest(market->Ranking, OfferTable::last + 1);
+        for (const int id : touched)
+            sum += Digest(market->Offers[id], static_cast<std::size_t>(id));
+        return sum;
+    }
+    [[nodiscard]] bool IsAt(const Tables& tables, const Market& offers) const
+    {
+        return std::memcmp(&tables, league.get(), sizeof(Tables)) == 0 &&
+               std::memcmp(&offers, market.get(), sizeof(Market)) == 0;
+    }
+    void TakeBeginning()
+    {
+        beginning = Copy(*league);
+        beginningOfMarket = std::make_unique<Market>(*market);
+    }
+
+    // What changed outside is part of the state that the history stands at. Whether anything did.
+    bool ExpectFold()
+    {
+        const std::size_t now = Now();
+        if (states[done].Digest == now)
+            return false;
+        states[done].Digest = now;
+        for (std::size_t later = done + 1; later < states.size(); ++later)
+            states[later].IsKnown = false;
+        if (done == 0)
+            TakeBeginning();
+        DropIfGone();
+        return true;
+    }
+    void DropIfGone()
+    {
+        if (done == 0 || states[done].Digest != states[done - 1].Digest)
+            return;
+        states.erase(states.begin() + static_cast<std::ptrdiff_t>(done));
+        --done;
+        ++Counted["gone"];
+    }
+
+    Dice dice;
+    ScriptedPlatform& disk;
+    PlainFormats shown;
+    std::unique_ptr<Tables> league;
+    std::unique_ptr<Market> market = MakeMarket();
+    std::unique_ptr<Follower> follower;
+    std::unique_ptr<History> history;
+    std::string linesFile;
+    std::unique_ptr<Tables> beginning;
+    std::unique_ptr<Market> beginningOfMarket;
+    std::set<int> touched; // offers
+    std::vector<State> states;
+    std::size_t done = 0;
+    bool goesOn = false;
+    int team = Own;
+};
+
+TEST(HistoryModelTest, RandomEveningsAreUndoneToTheirBeginningAndRedoneToTheirEnd)
+{
+    const int leagues = FromEnvironment("DRAVIK_HISTORY_LEAGUES", 12);
+    const int commands = FromEnvironment("DRAVIK_HISTORY_COMMANDS", 120);
+    const int first = FromEnvironment("DRAVIK_HISTORY_FIRST", 1);
+    ScriptedPlatform disk;
+    disk.Settings["SkipZIPClient"] = "YES"; // the quick way
+    std::map<std::string, int> all;
+    for (int number = first; number < first + leagues; ++number) {
+        SCOPED_TRACE("league " + std::to_string(number));
+        HistoryEvening evening(static_cast<unsigned>(number), static_cast<Kind>(number % KindCount), disk);
+        evening.Play(commands);
+        ASSERT_FALSE(HasFailure());
+        evening.GoAllTheWay();
+        ASSERT_FALSE(HasFailure());
+        EXPECT_LE(evening.Told().Excess, 4096);
+        for (const auto& [what, times] : evening.Counted)
+            all[what] += times;
+        for (const auto& [what, times] : evening.Told().Told)
+            all[what] += times;
+    }
+    // The evenings were not idle ones.
+    for (const auto& [what, times] : all)
+        RecordProperty(what, times);
+    for (const char* what : {"whole way", "failed", "empty", "refused", "gone", "closed", "merged", "folded",
+                             "folded into the beginning", "undone", "redone", "other team"})
+        EXPECT_GT(all[what], leagues / 12) << what;
+    EXPECT_GT(all["whole way"], leagues * commands / 10);
+    EXPECT_EQ(all["no room"], 0);
+}
+
+} // namespace
+} // namespace dravik
