@@ -4,7 +4,7 @@
 //
 //     judges_bench
 
-#include "bench/FullLeague.h"
+#include "bench/FullTeam.h"
 #include "bench/Ratio.h"
 #include "makers/Makers.h"
 #include "rules/Finance.h"
@@ -21,48 +21,9 @@
 namespace dravik {
 namespace {
 
-constexpr int Own = 5;
-constexpr int Skaters = 52;
-constexpr int Keepers = 6;
-
-void SetCap()
-{
-    League& league = LeagueData;
-    league.SalaryCapMode = 1;
-    league.SalaryCap = 500000000;
-    league.FarmRosterRequired = true;
-    league.FarmPayrollInCap = true;
-    league.CoachPayrollInCap = true;
-    league.FarmSalaryCap = 500000000;
-}
-
 bool LinesAreComplete() { return CheckLine(OpenWork(), Own, false, 1, true).Complete; }
 bool FarmLinesAreComplete() { return CheckLineFarm(OpenWork(), Own, false, 1, true).Complete; }
 bool RosterIsComplete() { return CheckRoster(OpenWork(), Own, true, false, false).Complete; }
-
-// The people of the team at hand, spread over the tables. Its pro roster, the farm's and all lines are complete.
-void PutTeam()
-{
-    FillLeague();
-    SetCap();
-    const TeamMaker made(Own);
-    // Eighteen of either side are enough of every position: 4, 4, 4 and 6.
-    const auto positionOf = [](int place) { return place % 18 < 12 ? 1 + place % 18 % 3 : position::Defense; };
-    for (int place = 0; place < Skaters; ++place) {
-        const int status = place < 18 ? status::Pro : place < 36 ? status::Farm : status::Scratch;
-        PutSkater(1 + place * 190, Own, positionOf(place), status, 60 + place % 30);
-    }
-    for (int place = 0; place < Keepers; ++place) {
-        const int status = place < 2 ? status::Pro : place < 4 ? status::Farm : status::Scratch;
-        PutGoalie(1 + place * 160, Own, status, 70 + place);
-    }
-    for (int day = 1; day <= 10; ++day) {
-        AutoLines(OpenWork(), Own, false, day);
-        AutoLinesFarm(OpenWork(), Own, false, day);
-    }
-    Demand(CheckRoster(OpenWork(), Own, false, true, false).Complete);
-    Demand(LinesAreComplete() && FarmLinesAreComplete());
-}
 
 // Looks at every record of both tables once and counts the team's people, with the program's own walk: what is measured
 // is what the routines add to it.
@@ -104,13 +65,6 @@ void EmptyDay() { WipesLines(OpenLeague, Machine(), Own, 1, true); }
 void EmptyFarmDay() { WipesLines(OpenLeague, Machine(), Own, 1, false); }
 void RefillFarmDay() { AutoLinesFarm(OpenWork(), Own, false, 1); }
 void RefillDay() { AutoLines(OpenWork(), Own, false, 1); }
-void ScratchEverybody()
-{
-    for (int place = 0; place < Skaters; ++place)
-        Players[1 + place * 190].Status = status::Scratch;
-    for (int place = 0; place < Keepers; ++place)
-        Goalies[1 + place * 160].Status = status::Scratch;
-}
 
 constexpr double JudgeLimit = 4;
 constexpr double RosterAndCapLimit = 2.4; // one walk for the roster and one for both payrolls
