@@ -3,9 +3,11 @@
 #include "machine/Reporting.h"
 #include "screens/panels/EditBox.h"
 #include "screens/panels/EntryList.h"
+#include "screens/panels/HistoryCommands.h"
 #include "screens/panels/Layouts.h"
 #include "screens/platform/CodePage.h"
 #include "screens/Stage.h"
+#include "session/OpenHistory.h"
 #include "session/Session.h"
 
 #include <algorithm>
@@ -15,6 +17,7 @@
 #include <QLayout>
 #include <QMouseEvent>
 #include <QScreen>
+#include <QShortcut>
 #include <QStyle>
 #include <utility>
 
@@ -178,9 +181,74 @@ EditBox* Screen::MakeBox(const QString& name, std::function<void()> lostFocus)
 {
     auto* box = new EditBox(this);
     box->setObjectName(name);
-    connect(box, &EditBox::LostFocus, this,
-            [this, name, run = std::move(lostFocus)] { Leave([&] { RunEvent(name + "_LostFocus", run); }); });
+    connect(box, &EditBox::LostFocus, this, [this, name, box, run = std::move(lostFocus)] {
+        Leave([&] { RunStep(WordsOfChange(*box), [&] { RunEvent(name + "_LostFocus", run); }); });
+    });
     return box;
+}
+
+std::function<void()> Screen::AsStep(std::function<QString()> words, std::function<void()> change)
+{
+    return [this, words = std::move(words), change = std::move(change)] { RunStep(words(), change); };
+}
+
+std::function<void()> Screen::AsStep(const QString& words, std::function<void()> change)
+{
+    return AsStep([words] { return words; }, std::move(change));
+}
+
+QString Screen::WordsOfChange(const QWidget& box) const
+{
+    return "Change " + box.accessibleName().remove(" :").remove(':') + Subject();
+}
+
+void Screen::RunStep(const QString& words, const std::function<void()>& change, quint64 drag)
+{
+    const auto showHistory = qScopeGuard([this] { ShowHistory(); });
+    const OpenStep step = OpenHistory().Open({.Words = FromQString(words),
+                                              .Where = std::string(Owner.NameOf(*this)),
+                                              .Team = static_cast<int>(CurrentTeam),
+                                              .Drag = drag});
+    change();
+}
+
+QWidget* Screen::MakeHistoryCommands()
+{
+    history = new HistoryCommands(this);
+    const auto undo = [this] { Turn(&History::Undo); };
+    const auto redo = [this] { Turn(&History::Redo); };
+    connect(history, &HistoryCommands::Undo, this, undo);
+    connect(history, &HistoryCommands::Redo, this, redo);
+    connect(new QShortcut(QKeySequence("Ctrl+Z"), this), &QShortcut::activated, this, undo);
+    for (const char* key : {"Ctrl+Shift+Z", "Ctrl+Y"})
+        connect(new QShortcut(QKeySequence(key), this), &QShortcut::activated, this, redo);
+    return history;
+}
+
+void Screen::ShowHistory()
+{
+    if (history == nullptr)
+        return;
+    const std::string_view here = Owner.NameOf(*this);
+    history->Show(ToQString(OpenHistory().UndoWords(here)), ToQString(OpenHistory().RedoWords(here)));
+}
+
+// What was changed behind the step belongs to it by now.
+void Screen::Turn(Turned (History::*turn)())
+{
+    if (!SettleFocus())
+        return;
+    const bool isUndo = turn == &History::Undo;
+    RunEvent("History", [this, turn, isUndo] {
+        OpenHistory().Fold();
+        const Step* step = isUndo ? OpenHistory().ToUndo() : OpenHistory().ToRedo();
+        const QString words = step != nullptr ? ToQString(step->Label.Words) : QString();
+        if ((OpenHistory().*turn)() != Turned::Done)
+            return;
+        Owner.ShowAnew();
+        history->Tell((isUndo ? "Undone: " : "Done again: ") + words);
+    });
+    ShowHistory();
 }
 
 void Screen::Leave(const std::function<void()>& lostFocus)

@@ -11,7 +11,10 @@ namespace dravik {
 
 class EditBox;
 class EntryList;
+class History;
+class HistoryCommands;
 class Stage;
+enum class Turned;
 
 // What all screens have in common. A screen is made and loaded by the stage, shown, hidden while another one that it
 // opened is up, and unloaded when it closes. It knows the stage and no other screen.
@@ -31,6 +34,11 @@ public:
     // Runs on the screen that the player viewer returns to, before that one is gone. `changed` tells that the viewer
     // changed something for which lists must be rebuilt.
     virtual void ViewerClosed(bool /*changed*/) {}
+    // Shows the tables once more, after bytes of them were put back. What a judge repairs on the way does not last.
+    virtual void ShowAnew() {}
+
+    // Shows what the commands of the history would do now.
+    void ShowHistory();
 
     // Puts the window in the middle of its display, no larger than that.
     void CentreOnScreen();
@@ -55,10 +63,22 @@ protected:
     // A text box that still has the focus acts first; if its text is refused, the click is dropped. From a command that
     // has closed itself the focus goes back to the list that the user is at.
     QPushButton* MakeCommand(const QString& name, const QString& caption, std::function<void()> click);
+    // `change` as one step of the history, under `words`: what the manager did ("Wipe Lines, day 3"). Words that depend on the
+    // moment come as a routine, which runs before the change.
+    std::function<void()> AsStep(std::function<QString()> words, std::function<void()> change);
+    std::function<void()> AsStep(const QString& words, std::function<void()> change);
+    // What the changes of the screen's boxes are about, behind their words: ", day 3".
+    [[nodiscard]] virtual QString Subject() const { return {}; }
+    // The words of the step that a change in a box is.
+    [[nodiscard]] QString WordsOfChange(const QWidget& box) const;
+    // Runs `change` as such a step. Those of one drag, which has a number above 0, are one step.
+    void RunStep(const QString& words, const std::function<void()>& change, quint64 drag = 0);
+    // The two commands of the history, for the footer, with their keys.
+    QWidget* MakeHistoryCommands();
     // Makes `page` what the window shows, with `footer`, if there is one, below it: where the window is too small the page
     // scrolls, and the footer stays. Call it once, when both are filled.
     void SetPage(QWidget* page, QLayout* footer = nullptr);
-    // Makes the text box `name`; `lostFocus` runs when it loses the focus.
+    // Makes the text box `name`; `lostFocus` runs when it loses the focus, as a step that is named after the box.
     EditBox* MakeBox(const QString& name, std::function<void()> lostFocus);
     // Runs what a text box of any kind does when it loses the focus. If that brings up a dialog, the press of the mouse
     // that took the focus away still runs its command.
@@ -67,12 +87,16 @@ protected:
     Stage& Owner;
 
 private:
+    // Puts back the last step, or puts the next one again.
+    void Turn(Turned (History::*turn)());
+
     // Lets the text box that has the focus act; false when it keeps the focus.
     bool SettleFocus();
 
     // The list that the user is at: the one he chose in, else the one that had the focus last, or none.
     [[nodiscard]] EntryList* ListAtHand() const;
 
+    HistoryCommands* history = nullptr;
     bool wantsToUnload = false;
     bool unloaded = false;
     QPointer<EntryList> lastList;    // that had the focus

@@ -13,6 +13,7 @@
 #include "screens/roster/frmRoster.h"
 #include "screens/team/frmTeam.h"
 #include "screens/team/frmTicket.h"
+#include "session/OpenMarket.h"
 #include "session/Session.h"
 
 #include <algorithm>
@@ -35,6 +36,7 @@ std::unique_ptr<Screen> Make(Stage& stage)
 
 struct Role {
     Window Opens;
+    std::string_view Name; // where something was done
     Behind Back;
     bool HidesOpener;
     std::unique_ptr<Screen> (*Create)(Stage&);
@@ -43,17 +45,17 @@ struct Role {
 // All but the main window, which is there from the start.
 // clang-format off
 constexpr Role Roles[] = {
-    {Window::Team,       Behind::Main,   true,  Make<frmTeam>},
-    {Window::Roster,     Behind::Caller, true,  Make<frmRoster>},
-    {Window::Line,       Behind::Caller, true,  Make<frmLine>},
-    {Window::FarmLine,   Behind::Caller, true,  Make<frmFarmLine>},
-    {Window::FreeAgent,  Behind::Main,   true,  Make<frmFreeAgentClient>},
-    {Window::Draft,      Behind::Main,   true,  Make<frmDraft>},
-    {Window::Ticket,     Behind::Team,   true,  Make<frmTicket>},
-    {Window::EditPlayer, Behind::Viewer, true,  Make<frmEditPlayer>},
-    {Window::About,      Behind::Main,   false, Make<frmAbout>},
-    {Window::Coach,      Behind::Main,   true,  Make<frmCoach>},
-    {Window::Prospect,   Behind::Main,   true,  Make<frmProspect>},
+    {Window::Team,       "Team",        Behind::Main,   true,  Make<frmTeam>},
+    {Window::Roster,     "Roster",      Behind::Caller, true,  Make<frmRoster>},
+    {Window::Line,       "Lines",       Behind::Caller, true,  Make<frmLine>},
+    {Window::FarmLine,   "Farm Lines",  Behind::Caller, true,  Make<frmFarmLine>},
+    {Window::FreeAgent,  "Free Agents", Behind::Main,   true,  Make<frmFreeAgentClient>},
+    {Window::Draft,      "Draft List",  Behind::Main,   true,  Make<frmDraft>},
+    {Window::Ticket,     "Tickets",     Behind::Team,   true,  Make<frmTicket>},
+    {Window::EditPlayer, "Player",      Behind::Viewer, true,  Make<frmEditPlayer>},
+    {Window::About,      "About",       Behind::Main,   false, Make<frmAbout>},
+    {Window::Coach,      "Coach",       Behind::Main,   true,  Make<frmCoach>},
+    {Window::Prospect,   "Prospects",   Behind::Main,   true,  Make<frmProspect>},
 };
 // clang-format on
 
@@ -138,6 +140,29 @@ Screen* Stage::Find(Window window) const
     return found == screens.end() ? nullptr : found->second.get();
 }
 
+std::string_view Stage::NameOf(const Screen& screen) const
+{
+    for (const auto& [window, standing] : screens)
+        if (standing.get() == &screen)
+            return window == Window::Main ? "Main" : RoleOf(window)->Name;
+    return {};
+}
+
+void Stage::ShowAnew()
+{
+    const auto kept = Copy(OpenLeague);
+    const auto market = std::make_unique<Market>(OpenMarket());
+    const bool wasModified = Modified;
+    const bool messagesWereAllowed = std::exchange(Machine().MessagesAllowed, false);
+    for (const auto& [window, screen] : screens) {
+        RunEvent("ShowAnew", [&showing = *screen] { showing.ShowAnew(); });
+        OpenLeague = *kept;
+        OpenMarket() = *market;
+    }
+    Machine().MessagesAllowed = messagesWereAllowed;
+    Modified = wasModified;
+}
+
 void Stage::PlaceTeam()
 {
     if (frmMain* main = Main())
@@ -194,6 +219,7 @@ void Stage::Show(Screen& screen)
     screen.raise();
     screen.activateWindow();
     RunEvent("Form_Activate", [&screen] { screen.FormActivate(); });
+    screen.ShowHistory();
 }
 
 void Stage::ShowBehind(Window closed)

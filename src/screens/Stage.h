@@ -6,6 +6,7 @@
 #include <map>
 #include <memory>
 #include <QPointer>
+#include <string_view>
 #include <vector>
 
 namespace dravik {
@@ -40,6 +41,12 @@ public:
     // The screen of that window if it is loaded.
     [[nodiscard]] Screen* Find(Window window) const;
 
+    // What the window of a screen is called, where something was done there ("Farm Lines"); nothing for one that no stage made.
+    [[nodiscard]] std::string_view NameOf(const Screen& screen) const;
+
+    // Has all screens show the tables once more, after bytes of them were put back. They judge as they show, and what they
+    // repair then does not last: the tables stay as they were put back.
+    void ShowAnew();
     // Lists the teams anew on the main screen.
     void PlaceTeam();
     // Makes the command available that saves the lines file, since day 1 of the pro lines has passed.

@@ -9,6 +9,7 @@
 #include "machine/SettingsFailure.h"
 #include "rules/StatRows.h"
 #include "rules/Waivers.h"
+#include "session/OpenHistory.h"
 #include "session/Session.h"
 
 #include <cmath>
@@ -105,6 +106,7 @@ void ShowLeague(const std::string& path, bool damaged, MainWindow& window)
 void OpenLeagueClient(const std::string& path, MainWindow& window)
 {
     Reporting(Machine(), " in OpenLeagueClient!", [&] {
+        ForgetHistory();
         EmptyLeagueTables(OpenLeague);
         if (!FileExist(Machine(), path)) {
             TellCritical("Cannot find last client league file!");

@@ -1,6 +1,7 @@
 #include "session/Session.h"
 
 #include "league/Failure.h"
+#include "session/OpenHistory.h"
 #include "session/OpenMarket.h"
 
 #include <cstring>
@@ -50,6 +51,7 @@ void ResetClientVariables()
     ListEventGuard = false;
     ViewerReturnMode = 0;
     EmptyOpenMarket();
+    ForgetHistory();
 }
 
 Platform& Machine()

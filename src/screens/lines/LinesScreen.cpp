@@ -49,6 +49,24 @@ void LinesScreen::FormLoad()
 
 void LinesScreen::FormUnload() { WarnOfFirstDay(OpenWork(), OwnNumber(), Kind.Side); }
 
+void LinesScreen::ShowAnew()
+{
+    const QListWidgetItem* chosen = lstPlayer->Chosen();
+    const int number = chosen != nullptr ? chosen->data(entry::NumberRole).toInt() : 0;
+    ShowPlayer();
+    Place();
+    if (const int row = chosen != nullptr ? lstPlayer->RowOf(number) : -1; row >= 0)
+        lstPlayer->setCurrentRow(row);
+    Check();
+}
+
+QString LinesScreen::Subject() const { return ", day " + QString::number(ShownDay()); }
+
+std::function<void()> LinesScreen::AsDayStep(const QString& words, std::function<void()> change)
+{
+    return AsStep([this, words] { return words + Subject(); }, std::move(change));
+}
+
 void LinesScreen::CloseMakers() { cmdAutoLines->setEnabled(false); }
 
 void LinesScreen::FindGames()

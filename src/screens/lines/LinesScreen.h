@@ -45,6 +45,8 @@ public:
     void FormLoad() override;
     // Warns of a first day that is incomplete.
     void FormUnload() override;
+    // The people and the shown day.
+    void ShowAnew() override;
 
     // Lists anew who may be dressed. A skater without a position is told in a critical box and left out.
     void ShowPlayer();
@@ -113,6 +115,10 @@ protected:
     // Shows and judges the day once more, behind whatever changed all of it.
     void ShowDayAnew();
 
+    [[nodiscard]] QString Subject() const override;
+    // A change of the shown day as a step.
+    std::function<void()> AsDayStep(const QString& words, std::function<void()> change);
+
     // The day at hand.
     [[nodiscard]] int ShownDay() const { return static_cast<int>(Day); }
 
@@ -127,6 +133,9 @@ private:
     QWidget* MakePeopleColumn();
     QWidget* MakeLinesColumn();
     void SetTabOrder();
+
+    // What a press on a slot would do.
+    [[nodiscard]] QString WordsOfPlacing(int index) const;
 
     [[nodiscard]] Lines& ShownLines() const;
     void FindGames();
@@ -157,6 +166,7 @@ private:
 
     LineVerdict said;                  // by the judge about the day as it is shown
     const QObject* heldBack = nullptr; // what was pressed while a text box kept the focus
+    quint64 pull = 0;                  // how often a bar of the strategy was taken
     bool wasLetGo = false;             // the press that is under way has lost its release to a failure's box
 };
 

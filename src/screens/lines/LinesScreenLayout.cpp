@@ -101,7 +101,8 @@ void LinesScreen::MakeControls()
 
     TabLine = new LineBoard(this);
     TabLine->tabBar()->setFocusPolicy(Qt::StrongFocus); // a press on a tab leaves a text box first
-    connect(TabLine, &LineBoard::SlotPressed, this, [this](int index) { Slot_Click(index); });
+    connect(TabLine, &LineBoard::SlotPressed, this,
+            [this](int index) { RunStep(WordsOfPlacing(index), [this, index] { Slot_Click(index); }); });
     connect(TabLine, &LineBoard::HeadingPressed, this, [this](int index) { Heading_Click(index); });
     for (const BoardSlot& slot : TabLine->Slots)
         slot.Label->installEventFilter(this);
@@ -117,13 +118,16 @@ void LinesScreen::MakeControls()
 
 void LinesScreen::MakeCommands()
 {
-    cmdAutoLines = MakeCommand("cmdAutoLines", "&Auto Lines", [this] { cmdAutoLines_Click(); });
-    cmdWipeLines = MakeCommand("cmdWipeLines", "&Wipe Lines", [this] { cmdWipeLines_Click(); });
-    cmdCopy = MakeCommand("cmdCopy", "&Copy To Day ...", [this] { cmdCopy_Click(); });
-    cmdCopyAll = MakeCommand("cmdCopyAll", "Copy To A&ll Days", [this] { cmdCopyAll_Click(); });
+    cmdAutoLines =
+        MakeCommand("cmdAutoLines", "&Auto Lines", AsDayStep("Auto Lines", [this] { cmdAutoLines_Click(); }));
+    cmdWipeLines =
+        MakeCommand("cmdWipeLines", "&Wipe Lines", AsDayStep("Wipe Lines", [this] { cmdWipeLines_Click(); }));
+    cmdCopy = MakeCommand("cmdCopy", "&Copy To Day ...", AsDayStep("Copy To Day", [this] { cmdCopy_Click(); }));
+    cmdCopyAll =
+        MakeCommand("cmdCopyAll", "Copy To A&ll Days", AsDayStep("Copy To All Days", [this] { cmdCopyAll_Click(); }));
     cmdDebug = MakeCommand("cmdDebug", "W&hy are my lines incomplete?", [this] { cmdDebug_Click(); });
     cmdExit = MakeCommand("cmdExit", "E&xit", [this] { cmdExit_Click(); });
-    Commands = MakeFooter({cmdAutoLines, cmdWipeLines, cmdCopy, cmdCopyAll}, {cmdExit});
+    Commands = MakeFooter({cmdAutoLines, cmdWipeLines, cmdCopy, cmdCopyAll}, {MakeHistoryCommands(), cmdExit});
 }
 
 void LinesScreen::MakeStrategyPage()
@@ -151,8 +155,14 @@ void LinesScreen::MakeStrategyPage()
         bar->setPageStep(1);
         bar->setInvertedControls(false); // the right arrow key gives a point
         bar->setFocusPolicy(Qt::StrongFocus);
-        connect(bar, &QScrollBar::valueChanged, this,
-                [this, style] { RunEvent("hscStats_Change", [this, style] { hscStats_Change(style); }); });
+        connect(bar, &QScrollBar::sliderPressed, this, [this] { ++pull; });
+        connect(bar, &QScrollBar::valueChanged, this, [this, style] {
+            if (StrategyReady)
+                RunStep(
+                    WordsOfChange(*hscStats[style]),
+                    [this, style] { RunEvent("hscStats_Change", [this, style] { hscStats_Change(style); }); },
+                    hscStats[style]->isSliderDown() ? pull : 0);
+        });
         bar->installEventFilter(this);
         hscStats[style] = bar;
         lblStatsPoint[style] = MakeLabel("", strategy);

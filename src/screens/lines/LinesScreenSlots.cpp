@@ -20,6 +20,13 @@ bool LinesScreen::TakesPicked(const BoardSlot& slot) const
            TakesSomebody(slot.Slot, Kind.Side, SelectedPerson(), static_cast<int>(SelectedPosition));
 }
 
+QString LinesScreen::WordsOfPlacing(int index) const
+{
+    const QListWidgetItem* chosen = lstPlayer->Chosen();
+    const QString where = TabLine->Slots[static_cast<std::size_t>(index)].Label->Where();
+    return "Place " + (chosen != nullptr ? chosen->text() + ", " : QString()) + where + Subject();
+}
+
 void LinesScreen::Slot_Click(int index)
 {
     BoardSlot& slot = TabLine->Slots[static_cast<std::size_t>(index)];

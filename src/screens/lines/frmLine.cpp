@@ -23,7 +23,8 @@ constexpr LinesKind Pro{
 
 frmLine::frmLine(Stage& stage) : LinesScreen(stage, Pro)
 {
-    cmdPartialLine = MakeCommand("cmdPartialLine", "Pa&rtial Auto Lines", [this] { cmdPartialLine_Click(); });
+    cmdPartialLine = MakeCommand("cmdPartialLine", "Pa&rtial Auto Lines",
+                                 AsDayStep("Partial Auto Lines", [this] { cmdPartialLine_Click(); }));
     Commands->insertWidget(1, cmdPartialLine);
     setTabOrder(cmdAutoLines, cmdPartialLine);
 }

@@ -9,6 +9,8 @@
 #include "screens/platform/CodePage.h"
 #include "session/Session.h"
 
+#include <algorithm>
+
 namespace dravik {
 
 void frmDraft::FormLoad()
@@ -56,6 +58,22 @@ void frmDraft::PlaceOffer()
         for (QPushButton* command : {cmdSaveToFile, cmdUp, cmdDown, cmdRemove})
             command->setEnabled(lstDraftList->count() >= 1);
     });
+}
+
+void frmDraft::ShowAnew()
+{
+    const int row = lstDraftList->currentRow();
+    PlaceOffer();
+    lstDraftList->setCurrentRow(std::min(row, lstDraftList->count() - 1));
+}
+
+std::function<void()> frmDraft::AsListStep(const QString& words, const EntryList* list, std::function<void()> change)
+{
+    const auto withName = [words, list] {
+        const QListWidgetItem* chosen = list->Chosen();
+        return chosen != nullptr ? words + ": " + chosen->text() : words;
+    };
+    return AsStep(withName, std::move(change));
 }
 
 void frmDraft::chkPosition_Click(int /*position*/) { ShowPlayer(); }

@@ -20,6 +20,8 @@ public:
 
     // Lists who can be drafted. A CurrentTeam out of range is told and leaves the screen empty.
     void FormLoad() override;
+    // The ranking.
+    void ShowAnew() override;
 
     // Lists who can be drafted anew.
     void ShowPlayer();
@@ -50,6 +52,8 @@ public:
     QPushButton *cmdSearch = nullptr, *cmdSaveToFile = nullptr, *cmdExit = nullptr;
 
 private:
+    // A change of whoever is chosen in a list as a step.
+    std::function<void()> AsListStep(const QString& words, const EntryList* list, std::function<void()> change);
     void MakeControls();
     QWidget* MakeListColumn(QLabel* heading, EntryList* list);
     void SetTabOrder();

@@ -43,7 +43,7 @@ frmDraft::frmDraft(Stage& stage) : Screen(stage, "frmDraft"), DraftList(OpenMark
     column->addLayout(lists, 1);
     column->addSpacing(Gap);
 
-    SetPage(content, MakeFooter({cmdSearch}, {cmdSaveToFile, cmdExit}));
+    SetPage(content, MakeFooter({cmdSearch}, {MakeHistoryCommands(), cmdSaveToFile, cmdExit}));
     SetTabOrder();
     resize(DefaultSize.expandedTo(content->minimumSizeHint()));
 }
@@ -79,17 +79,22 @@ void frmDraft::MakeControls()
     onDoubleClick(lstPlayers, &frmDraft::lstPlayers_DblClick);
     onDoubleClick(lstDraftList, &frmDraft::lstDraftList_DblClick);
     connect(lstDraftList, &RankList::Dropped, this, [this](int from, int to) {
-        RunEvent("lstDraftList_Dropped", [this, from, to] { lstDraftList_Dropped(from, to); });
+        RunStep("Drag on the draft list: " + lstDraftList->item(from)->text(), [this, from, to] {
+            RunEvent("lstDraftList_Dropped", [this, from, to] { lstDraftList_Dropped(from, to); });
+        });
     });
 
-    cmdChoose = MakeCommand("cmdChoose", "-->", [this] { cmdChoose_Click(); });
+    cmdChoose =
+        MakeCommand("cmdChoose", "-->", AsListStep("Add to the draft list", lstPlayers, [this] { cmdChoose_Click(); }));
     cmdChoose->setAccessibleName("Add to the draft list");
-    cmdRemove = MakeCommand("cmdRemove", "<--", [this] { cmdRemove_Click(); });
+    cmdRemove = MakeCommand("cmdRemove", "<--",
+                            AsListStep("Take off the draft list", lstDraftList, [this] { cmdRemove_Click(); }));
     cmdRemove->setAccessibleName("Take off the draft list");
     for (QPushButton* command : {cmdChoose, cmdRemove})
         command->setToolTip(command->accessibleName());
-    cmdUp = MakeCommand("cmdUp", "&UP", [this] { cmdUp_Click(); });
-    cmdDown = MakeCommand("cmdDown", "&Down", [this] { cmdDown_Click(); });
+    cmdUp = MakeCommand("cmdUp", "&UP", AsListStep("Up on the draft list", lstDraftList, [this] { cmdUp_Click(); }));
+    cmdDown = MakeCommand("cmdDown", "&Down",
+                          AsListStep("Down on the draft list", lstDraftList, [this] { cmdDown_Click(); }));
     cmdSearch = MakeCommand("cmdSearch", "Search &Player", [this] { cmdSearch_Click(); });
     cmdSaveToFile = MakeCommand("cmdSaveToFile", "&Save to File", [this] { cmdSaveToFile_Click(); });
     cmdExit = MakeCommand("cmdExit", "E&xit", [this] { cmdExit_Click(); });

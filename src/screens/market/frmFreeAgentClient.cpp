@@ -12,6 +12,7 @@
 #include "screens/PersonWords.h"
 #include "screens/platform/CodePage.h"
 #include "screens/Stage.h"
+#include "session/OpenHistory.h"
 #include "session/Session.h"
 
 #include <QApplication>
@@ -151,6 +152,7 @@ void frmFreeAgentClient::lstPlayers_Click()
         if (current == nullptr)
             return;
         OfferIndex = current->data(entry::NumberRole).toInt();
+        OpenHistory().Watch(static_cast<int>(OfferIndex));
         if (const auto who = FreeAgentOf(OpenLeague, static_cast<int>(OfferIndex)))
             ShowPerson(*who);
         else
@@ -204,6 +206,23 @@ void frmFreeAgentClient::lstPlayers_DblClick()
     });
 }
 
+// Somebody barred is not told of once more.
+void frmFreeAgentClient::ShowAnew()
+{
+    ShowTally();
+    if (chkShowPlayerWithOffer->isChecked())
+        ShowPlayer();
+    else if (txtOffer->isEnabled())
+        lstPlayers_Click();
+}
+
+QString frmFreeAgentClient::Subject() const
+{
+    QString name;
+    OnPerson(OpenLeague, PersonAtHand(), [&name](const auto& person) { name = ToQString(person.Name.Trimmed()); });
+    return ": " + name;
+}
+
 void frmFreeAgentClient::chkShowPlayerWithOffer_Click()
 {
     // Its key asks for it a moment before it is ticked. A box that refused its text has the focus back by then and keeps
@@ -226,10 +245,16 @@ bool frmFreeAgentClient::IsTaken(LeavingBox& box, Entered entered)
     return false;
 }
 
+OfferTable& frmFreeAgentClient::OffersAtHand()
+{
+    TakeOffer(OpenLeague, OwnNumber(), FreeAgentOffers, PersonAtHand());
+    return FreeAgentOffers;
+}
+
 void frmFreeAgentClient::txtOffer_LostFocus()
 {
     Reporting(Machine(), " in txtOffer LostFocus.", [this] {
-        if (IsTaken(*txtOffer, OfferSalary(OpenWork(), FreeAgentOffers, PersonAtHand(), FromQString(txtOffer->text()),
+        if (IsTaken(*txtOffer, OfferSalary(OpenWork(), OffersAtHand(), PersonAtHand(), FromQString(txtOffer->text()),
                                            Into(txtOffer))))
             ShowTally();
     });
@@ -238,7 +263,7 @@ void frmFreeAgentClient::txtOffer_LostFocus()
 void frmFreeAgentClient::txtDuration_LostFocus()
 {
     Reporting(Machine(), " in txtDuration LostFocus.", [this] {
-        if (IsTaken(*txtDuration, OfferDuration(OpenWork(), FreeAgentOffers, PersonAtHand(),
+        if (IsTaken(*txtDuration, OfferDuration(OpenWork(), OffersAtHand(), PersonAtHand(),
                                                 FromQString(txtDuration->text()), Into(txtDuration))))
             ShowTally();
     });
@@ -247,7 +272,7 @@ void frmFreeAgentClient::txtDuration_LostFocus()
 void frmFreeAgentClient::txtBonus_LostFocus()
 {
     RunEvent("txtBonus_LostFocus", [this] {
-        if (IsTaken(*txtBonus, OfferBonus(OpenWork(), FreeAgentOffers, PersonAtHand(), FromQString(txtBonus->text()))))
+        if (IsTaken(*txtBonus, OfferBonus(OpenWork(), OffersAtHand(), PersonAtHand(), FromQString(txtBonus->text()))))
             ShowTally();
     });
 }
@@ -256,7 +281,7 @@ void frmFreeAgentClient::txtComment_LostFocus()
 {
     RunEvent("txtComment_LostFocus", [this] {
         IsTaken(*txtComment,
-                OfferComment(OpenWork(), FreeAgentOffers, PersonAtHand(), FromQString(txtComment->toPlainText())));
+                OfferComment(OpenWork(), OffersAtHand(), PersonAtHand(), FromQString(txtComment->toPlainText())));
     });
 }
 

@@ -26,6 +26,8 @@ public:
     // Fills the screen for CurrentTeam, without an offer. A number out of range is told and leaves the screen empty.
     void FormLoad() override;
     void FormUnload() override;
+    // What the offers come to, and the offer at hand.
+    void ShowAnew() override;
 
     // Lists everybody who can be made an offer, or only those who have one, and chooses the first of them.
     void ShowPlayer();
@@ -61,6 +63,8 @@ public:
     QPushButton *cmdSearch = nullptr, *cmdSaveToFile = nullptr, *cmdExit = nullptr;
 
 protected:
+    // Whom the offer at hand is made to.
+    [[nodiscard]] QString Subject() const override;
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
@@ -82,6 +86,8 @@ private:
     void ShowPerson(PersonId who);
     void EnableOffer(bool enabled);
     [[nodiscard]] PersonId PersonAtHand() const { return PersonOf(static_cast<int>(OfferIndex)); }
+    // The offers, of which the one at hand is its person's also where undoing took that back.
+    OfferTable& OffersAtHand();
     // Whether the text of a box was taken; a refused one gets the focus back.
     static bool IsTaken(LeavingBox& box, Entered entered);
     // Shows a box about the person who is being chosen. Under the mouse it waits as long as a second press would make a

@@ -41,7 +41,7 @@ frmFreeAgentClient::frmFreeAgentClient(Stage& stage) :
     column->addLayout(middle, 1);
     column->addLayout(MakeLimitRow());
 
-    SetPage(content, MakeFooter({cmdSearch}, {cmdSaveToFile, cmdExit}));
+    SetPage(content, MakeFooter({cmdSearch}, {MakeHistoryCommands(), cmdSaveToFile, cmdExit}));
     SetTabOrder();
     resize(DefaultSize.expandedTo(content->minimumSizeHint()));
 }
@@ -92,7 +92,8 @@ void frmFreeAgentClient::MakeControls()
     txtComment = new EditArea(this);
     txtComment->setObjectName("txtComment");
     txtComment->SetLines(LinesOfComment);
-    connect(txtComment, &EditArea::LostFocus, this, [this] { Leave([this] { txtComment_LostFocus(); }); });
+    connect(txtComment, &EditArea::LostFocus, this,
+            [this] { Leave([this] { RunStep(WordsOfChange(*txtComment), [this] { txtComment_LostFocus(); }); }); });
     EnableOffer(false);
 
     secondPress.setSingleShot(true);

@@ -39,6 +39,8 @@ public:
     // `where` says to a screen reader which slot this is; `tag` is the position that is painted.
     SlotLabel(const QString& where, const QString& tag, QWidget* parent = nullptr);
 
+    // Which slot this is, as a screen reader says it.
+    [[nodiscard]] const QString& Where() const { return slot; }
     void SetName(const QString& name);
     void SetMark(Mark shown);
     [[nodiscard]] Mark Shown() const { return mark; }

@@ -68,6 +68,17 @@ void frmRoster::FormLoad()
 
 void frmRoster::FormUnload() { CheckRoster(OpenWork(), OwnNumber(), false, true, true); }
 
+void frmRoster::ShowAnew()
+{
+    const QListWidgetItem* current = CurrentEntry();
+    const int number = current != nullptr ? current->data(entry::NumberRole).toInt() : 0;
+    const bool wasChosen = current != nullptr;
+    ShowPlayer(false);
+    for (PickList* list : lstPlayer)
+        if (const int row = wasChosen ? list->RowOf(number) : -1; row >= 0)
+            list->setCurrentRow(row);
+}
+
 void frmRoster::ShowPlayer(bool noCheck)
 {
     Reporting(Machine(), " in ShowPlayer!", [&] {

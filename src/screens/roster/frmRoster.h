@@ -28,6 +28,9 @@ public:
     // The player viewer comes back: what it may have changed is shown anew.
     void ViewerClosed(bool changed) override { changed ? ShowPlayer(false) : ShowStats(); }
 
+    // The lists, the verdict and whoever was chosen.
+    void ShowAnew() override;
+
     // Lists everybody anew. People too good or too dear for the farm become scratches on the way, silently. Unless
     // `noCheck`, the roster is judged afterwards, which may list everybody once more.
     void ShowPlayer(bool noCheck);
@@ -98,6 +101,10 @@ private:
     void ShowRatings(PersonId who);
     template <class Person>
     void ShowFlags(const Person& person);
+
+    // A change of the person at hand as a step, and a move of whoever is chosen in a list.
+    std::function<void()> AsPersonStep(const QString& words, std::function<void()> change);
+    std::function<void()> AsMove(const QString& words, int from, std::function<void()> change);
 
     // Moves every chosen entry of a list that `mayMove` lets pass.
     void MoveChosen(int from, int to, Permission (frmRoster::*mayMove)());

@@ -2,6 +2,7 @@
 #include "screens/panels/Labels.h"
 #include "screens/panels/Layouts.h"
 #include "screens/roster/frmRoster.h"
+#include "session/Session.h"
 
 #include <algorithm>
 
@@ -42,7 +43,7 @@ frmRoster::frmRoster(Stage& stage) : Screen(stage, "frmRoster")
     column->addLayout(lists, 1);
     column->addWidget(Payroll);
 
-    SetPage(content, MakeFooter({cmdAutoRoster, cmdAutoRosterPartial}, {cmdExit}));
+    SetPage(content, MakeFooter({cmdAutoRoster, cmdAutoRosterPartial}, {MakeHistoryCommands(), cmdExit}));
     SetTabOrder();
     HidePlayerDetails();
     resize(DefaultSize.expandedTo(content->minimumSizeHint()));
@@ -79,23 +80,30 @@ void frmRoster::MakeControls()
     Stats = new StatPanel(this);
     Stats->SetHint("Pick a player to see his ratings");
 
-    cmdToFarm = MakeCommand("cmdToFarm", "To &Farm -->", [this] { cmdToFarm_Click(); });
-    cmdToPro = MakeCommand("cmdToPro", "<-- To &Pro", [this] { cmdToPro_Click(); });
-    cmdToScratchesFromPro =
-        MakeCommand("cmdToScratchesFromPro", "To &Scratch -->", [this] { cmdToScratchesFromPro_Click(); });
+    cmdToFarm =
+        MakeCommand("cmdToFarm", "To &Farm -->", AsMove("To Farm", status::Scratch, [this] { cmdToFarm_Click(); }));
+    cmdToPro = MakeCommand("cmdToPro", "<-- To &Pro", AsMove("To Pro", status::Scratch, [this] { cmdToPro_Click(); }));
+    cmdToScratchesFromPro = MakeCommand("cmdToScratchesFromPro", "To &Scratch -->",
+                                        AsMove("To Scratch", status::Pro, [this] { cmdToScratchesFromPro_Click(); }));
     cmdToScratchesFromFarm =
-        MakeCommand("cmdToScratchesFromFarm", "<-- To S&cratch", [this] { cmdToScratchesFromFarm_Click(); });
-    cmdTradeAvailable = MakeCommand("cmdTradeAvailable", "&Trade Available", [this] { cmdTradeAvailable_Click(); });
-    cmdCaptain = MakeCommand("cmdCaptain", "Make Captai&n", [this] { cmdCaptain_Click(); });
-    cmdAssistant = MakeCommand("cmdAssistant", "Make Ass&istant", [this] { cmdAssistant_Click(); });
-    cmdRelease = MakeCommand("cmdRelease", "Release", [this] { cmdRelease_Click(); });
-    cmdSendToWaiver = MakeCommand("cmdSendToWaiver", "Send To Waiver", [this] { cmdSendToWaiver_Click(); });
+        MakeCommand("cmdToScratchesFromFarm", "<-- To S&cratch",
+                    AsMove("To Scratch from the farm", status::Farm, [this] { cmdToScratchesFromFarm_Click(); }));
+    cmdTradeAvailable = MakeCommand("cmdTradeAvailable", "&Trade Available",
+                                    AsPersonStep("Trade Available", [this] { cmdTradeAvailable_Click(); }));
+    cmdCaptain =
+        MakeCommand("cmdCaptain", "Make Captai&n", AsPersonStep("Make Captain", [this] { cmdCaptain_Click(); }));
+    cmdAssistant = MakeCommand("cmdAssistant", "Make Ass&istant",
+                               AsPersonStep("Make Assistant", [this] { cmdAssistant_Click(); }));
+    cmdRelease = MakeCommand("cmdRelease", "Release", AsPersonStep("Release", [this] { cmdRelease_Click(); }));
+    cmdSendToWaiver = MakeCommand("cmdSendToWaiver", "Send To Waiver",
+                                  AsPersonStep("Send To Waiver", [this] { cmdSendToWaiver_Click(); }));
     chkProtected = MakeFlag("chkProtected", "Pr&otected", &frmRoster::chkProtected_Click);
     chkNoApplyRerate = MakeFlag("chkNoApplyRerate", "Do Not Apply Rerate", &frmRoster::chkNoApplyRerate_Click);
     chkNoTrade = MakeFlag("chkNoTrade", "No Trade", &frmRoster::chkNoTrade_Click);
-    cmdAutoRoster = MakeCommand("cmdAutoRoster", "&Auto Made Roster", [this] { cmdAutoRoster_Click(); });
-    cmdAutoRosterPartial =
-        MakeCommand("cmdAutoRosterPartial", "Partial A&uto Made Roster", [this] { cmdAutoRosterPartial_Click(); });
+    cmdAutoRoster = MakeCommand("cmdAutoRoster", "&Auto Made Roster",
+                                AsStep("Auto Made Roster", [this] { cmdAutoRoster_Click(); }));
+    cmdAutoRosterPartial = MakeCommand("cmdAutoRosterPartial", "Partial A&uto Made Roster",
+                                       AsStep("Partial Auto Made Roster", [this] { cmdAutoRosterPartial_Click(); }));
     cmdExit = MakeCommand("cmdExit", "E&xit", [this] { cmdExit_Click(); });
     // Flags that only show in some leagues, and what the league keeps to itself.
     for (QWidget* hidden :
@@ -121,8 +129,11 @@ QCheckBox* frmRoster::MakeFlag(const char* name, const QString& caption, void (f
 {
     auto* flag = new QCheckBox(caption, this);
     flag->setObjectName(name);
-    connect(flag, &QCheckBox::toggled, this,
-            [this, name, click] { RunEvent(QString(name) + "_Click", [this, click] { (this->*click)(); }); });
+    const auto run = [this, name, click] { RunEvent(QString(name) + "_Click", [this, click] { (this->*click)(); }); };
+    connect(flag, &QCheckBox::toggled, this, [change = AsPersonStep(QString(caption).remove('&'), run)] {
+        if (!ListEventGuard)
+            change();
+    });
     return flag;
 }
 

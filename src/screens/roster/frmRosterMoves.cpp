@@ -12,6 +12,27 @@
 // The commands of the roster screen: the moves between the lists, waivers, release, captaincy, flags and automatic rosters.
 namespace dravik {
 
+std::function<void()> frmRoster::AsPersonStep(const QString& words, std::function<void()> change)
+{
+    const auto withName = [words] {
+        QString name;
+        OnPerson(OpenLeague, SelectedPerson(),
+                 [&name](const auto& person) { name = ToQString(person.Name.Trimmed()); });
+        return words + ": " + name;
+    };
+    return AsStep(withName, std::move(change));
+}
+
+std::function<void()> frmRoster::AsMove(const QString& words, int from, std::function<void()> change)
+{
+    const auto withNames = [this, words, from] {
+        const QList<QListWidgetItem*> chosen = lstPlayer[from]->selectedItems();
+        return words + ": " +
+               (chosen.size() == 1 ? chosen.front()->text() : QString::number(chosen.size()) + " players");
+    };
+    return AsStep(withNames, std::move(change));
+}
+
 void frmRoster::MoveEntry(int from, int to, int row)
 {
     lstPlayer[to]->TakeFrom(*lstPlayer[from], row);

@@ -72,6 +72,13 @@ void frmTeam::FormLoad()
     });
 }
 
+void frmTeam::ShowAnew()
+{
+    ShowTeam(OwnTeam());
+    CloseWhatTheLeagueKeeps();
+    FormActivate();
+}
+
 void frmTeam::ShowTeam(const Team& team)
 {
     ShowName(team);

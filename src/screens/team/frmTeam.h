@@ -26,6 +26,8 @@ public:
     // Fills the screen for CurrentTeam. A number out of range is told and closes the screen.
     void FormLoad() override;
     void ReloadForm() override { FormLoad(); }
+    // The team, and what stands against saving its lines.
+    void ShowAnew() override;
     // Judges day 1 of both lines: only with complete ones can the lines file be saved.
     void FormActivate() override;
 

@@ -57,7 +57,7 @@ frmTeam::frmTeam(Stage& stage) : Screen(stage, "frmTeam")
     grid->setRowStretch(1, 1);
     column->addLayout(grid, 1);
 
-    SetPage(content, MakeFooter({cmdPassword, cmdProspect}, {cmdExit}));
+    SetPage(content, MakeFooter({cmdPassword, cmdProspect}, {MakeHistoryCommands(), cmdExit}));
 
     CloseWhatTheLeagueKeeps();
     SetTabOrder();
@@ -116,16 +116,19 @@ void frmTeam::MakeControls()
     cmdFarmLines = MakeCommand("cmdFarmLines", "&Farm Lines", [this] { cmdFarmLines_Click(); });
     cmdTicketArena = MakeCommand("cmdTicketArena", "&Tickets && Arena", [this] { cmdTicketArena_Click(); });
     cmdSaveToFile = MakeCommand("cmdSaveToFile", "&Save Lines", [this] { cmdSaveToFile_Click(); });
-    cmdLoadFile = MakeCommand("cmdLoadFile", "L&oad Lines ...", [this] { cmdLoadFile_Click(); });
+    cmdLoadFile = MakeCommand("cmdLoadFile", "L&oad Lines ...", AsStep("Load Lines", [this] { cmdLoadFile_Click(); }));
     cmdExit = MakeCommand("cmdExit", "E&xit", [this] { cmdExit_Click(); });
-    cmdChangeFinance =
-        MakeCommand("cmdChangeFinance", "Change &Bank Account ...", [this] { cmdChangeFinance_Click(); });
-    cmdPayrollBonus = MakeCommand("cmdPayrollBonus", "Payroll Bo&nus ...", [this] { cmdPayrollBonus_Click(); });
-    cmdPassword = MakeCommand("cmdPassword", "Change &Password ...", [this] { cmdPassword_Click(); });
+    cmdChangeFinance = MakeCommand("cmdChangeFinance", "Change &Bank Account ...",
+                                   AsStep("Change Bank Account", [this] { cmdChangeFinance_Click(); }));
+    cmdPayrollBonus = MakeCommand("cmdPayrollBonus", "Payroll Bo&nus ...",
+                                  AsStep("Payroll Bonus", [this] { cmdPayrollBonus_Click(); }));
+    cmdPassword =
+        MakeCommand("cmdPassword", "Change &Password ...", AsStep("Change Password", [this] { cmdPassword_Click(); }));
     cmdChangeCoach = MakeCommand("cmdChangeCoach", "Change Coach", [this] { cmdChangeCoach_Click(); });
     cmdFarmChangeCoach = MakeCommand("cmdFarmChangeCoach", "Change Coach", [this] { cmdFarmChangeCoach_Click(); });
-    cmdFirePro = MakeCommand("cmdFirePro", "Fire Coach", [this] { cmdFirePro_Click(); });
-    cmdFireFarm = MakeCommand("cmdFireFarm", "Fire Coach", [this] { cmdFireFarm_Click(); });
+    cmdFirePro = MakeCommand("cmdFirePro", "Fire Coach", AsStep("Fire Coach", [this] { cmdFirePro_Click(); }));
+    cmdFireFarm =
+        MakeCommand("cmdFireFarm", "Fire Coach", AsStep("Fire Coach of the farm", [this] { cmdFireFarm_Click(); }));
     cmdProspect = MakeCommand("cmdProspect", "Prospects", [this] { cmdProspect_Click(); });
     for (QPushButton* command : {cmdFarmChangeCoach, cmdFireFarm})
         command->setAccessibleName("Farm: " + command->text());

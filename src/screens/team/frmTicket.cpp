@@ -73,7 +73,7 @@ frmTicket::frmTicket(Stage& stage) : Screen(stage, "frmTicket"), lblTitle(new El
     QVBoxLayout* column = MakePage(sheet, Margin);
     column->addWidget(lblTitle);
     column->addWidget(MakeArenaGroup());
-    column->addWidget(cmdExit, 0, Qt::AlignRight);
+    column->addLayout(MakeFooter({}, {MakeHistoryCommands(), cmdExit}));
     column->addStretch(1);
     auto* content = new QWidget(this);
     auto* middle = new QHBoxLayout(content);
@@ -150,11 +150,7 @@ void frmTicket::FormLoad()
         const QString name = Shown(team.Name);
         SetTitle(ToQString(ProgramTitle) + " - " + name + " - Ticket & Arena");
         lblTitle->setText(name);
-        txtArena->setText(Shown(team.ArenaName));
-        for (int level = 1; level <= 5; ++level) {
-            txtArenaCapacity[level]->setText(Shown(team.ArenaCapacity[level]));
-            txtTicket[level]->setText(Shown(team.TicketPrice[level]));
-        }
+        ShowBoxes();
         txtArena->setEnabled(false);
         for (EditBox* box : txtArenaCapacity)
             box->setEnabled(false);
@@ -163,6 +159,22 @@ void frmTicket::FormLoad()
                 box->setEnabled(false);
         ShowTotal();
     });
+}
+
+void frmTicket::ShowBoxes()
+{
+    const Team& team = OwnTeam();
+    txtArena->setText(Shown(team.ArenaName));
+    for (int level = 1; level <= 5; ++level) {
+        txtArenaCapacity[level]->setText(Shown(team.ArenaCapacity[level]));
+        txtTicket[level]->setText(Shown(team.TicketPrice[level]));
+    }
+}
+
+void frmTicket::ShowAnew()
+{
+    ShowBoxes();
+    ShowTotal();
 }
 
 void frmTicket::ShowTotal() { lblArenaCapacityTotal->setText(Shown(TotalCapacity(OwnTeam()))); }

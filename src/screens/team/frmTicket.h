@@ -16,6 +16,8 @@ public:
 
     // Fills the screen for CurrentTeam. A number out of range is told and closes the screen.
     void FormLoad() override;
+    // What stands in the boxes, and the total.
+    void ShowAnew() override;
 
     // A text that is refused brings the focus back to its box; any other is shown as far as the record took it.
     void txtTicket_LostFocus(int level);
@@ -32,6 +34,7 @@ public:
 private:
     QWidget* MakeArenaGroup();
     void SetTabOrder();
+    void ShowBoxes();
     void ShowTotal();
 
     QLabel* lblTitle;

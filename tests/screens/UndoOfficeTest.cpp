@@ -1,0 +1,118 @@
+// What is undone and done again on the team's screens and on the market.
+
+#include "OnDraftScreen.h"
+#include "OnHistory.h"
+#include "OnOfferScreen.h"
+#include "OnTeamScreen.h"
+#include "screens/team/frmTicket.h"
+#include "session/OpenHistory.h"
+#include "support/LeagueImage.h"
+
+namespace dravik {
+namespace {
+
+using ::testing::ElementsAre;
+using ::testing::IsEmpty;
+
+using UndoTeam = OnTeamScreen;
+
+TEST_F(UndoTeam, ABoxIsAStepUnderItsName)
+{
+    frmTeam& office = Office();
+    const auto before = AllTables();
+    Enter(office.txtEmail, "new@example.org");
+    EXPECT_EQ(UndoWords(office), "Undo: Change " + office.txtEmail->accessibleName().toStdString());
+    Press(office.cmdExit, Qt::Key_Z, Qt::ControlModifier);
+    EXPECT_TRUE(AllTables() == before);
+    EXPECT_EQ(Of(office.txtEmail), "ward@example.org");
+}
+
+TEST_F(UndoTeam, TicketPricesComeBackOnTheirScreenAndFromTheTeams)
+{
+    for (int level = 1; level <= 5; ++level)
+        Own().TicketPrice[level] = 20;
+    Click(Office().cmdTicketArena);
+    auto& tickets = *static_cast<frmTicket*>(TheStage.Find("Ticket"));
+    TypeInto(tickets.txtTicket[1], "30");
+    Press(tickets.txtTicket[1], Qt::Key_Tab);
+    ASSERT_EQ(Own().TicketPrice[1], 30);
+    EXPECT_EQ(UndoWords(tickets), "Undo: Change Level 1 Level Ticket Price");
+    tickets.cmdExit->setFocus();
+    Undo(tickets);
+    EXPECT_EQ(Own().TicketPrice[1], 20);
+    EXPECT_EQ(Of(tickets.txtTicket[1]), "20");
+    Redo(tickets);
+    EXPECT_EQ(Of(tickets.txtTicket[1]), "30");
+    Click(tickets.cmdExit);
+    EXPECT_EQ(UndoWords(Office()), "Undo: Change Level 1 Level Ticket Price (Tickets)");
+    Undo(Office());
+    EXPECT_EQ(Own().TicketPrice[1], 20);
+}
+
+using UndoOffers = OnOfferScreen;
+
+TEST_F(UndoOffers, AnOfferComesBackBoxByBox)
+{
+    FreeSkater(1).Name = "Ward Tilton";
+    FreeSkater(2);
+    Open();
+    ClickEntry(0);
+    Enter(Offers().txtOffer, "900000");
+    Enter(Offers().txtDuration, "3");
+    EXPECT_EQ(UndoWords(Offers()), "Undo: Change Duration: Ward Tilton");
+    ClickEntry(1);
+    Offers().lstPlayers->setFocus();
+    Undo(Offers());
+    EXPECT_EQ(OfferOf(1).Duration, 0);
+    EXPECT_EQ(OfferOf(1).Salary, 900000);
+    Undo(Offers());
+    EXPECT_EQ(OfferOf(1).Salary, 0);
+    Redo(Offers());
+    Redo(Offers());
+    ClickEntry(0);
+    EXPECT_THAT(Boxes(), ElementsAre("900000", "3", "0", ""));
+    Offers().lstPlayers->setFocus();
+    Undo(Offers());
+    EXPECT_THAT(Boxes(), ElementsAre("900000", "0", "0", ""));
+    EXPECT_THAT(Machine.Boxes(), IsEmpty());
+}
+
+TEST_F(UndoOffers, WhatIsOfferedBehindAnUndoIsStillAnOfferToThatPerson)
+{
+    FreeSkater(1);
+    Open();
+    ClickEntry(0);
+    Enter(Offers().txtOffer, "900000");
+    Offers().lstPlayers->setFocus();
+    Undo(Offers());
+    Enter(Offers().txtOffer, "800000");
+    EXPECT_EQ(OfferOf(1).Id, 1);
+    EXPECT_EQ(OfferOf(1).Salary, 800000);
+    EXPECT_EQ(RedoWords(Offers()), "");
+}
+
+using UndoDraft = OnDraftScreen;
+
+TEST_F(UndoDraft, ARankingComesBackStepByStep)
+{
+    Choose({0, 1, 2});
+    EXPECT_EQ(UndoWords(Draft()), "Undo: Add to the draft list: " + Of(Draft().lstPlayers)[2].first);
+    const auto ranked = Ranking();
+    ASSERT_EQ(ranked.size(), 3U);
+    ClickEntry(Draft().lstDraftList, 2);
+    Click(Draft().cmdUp);
+    Undo(Draft());
+    EXPECT_EQ(Ranking(), ranked);
+    EXPECT_EQ(Of(Draft().lstDraftList).size(), 3U);
+    for (int step = 1; step <= 3; ++step)
+        Undo(Draft());
+    EXPECT_THAT(Ranking(), IsEmpty());
+    EXPECT_THAT(Of(Draft().lstDraftList), IsEmpty());
+    EXPECT_EQ(UndoWords(Draft()), "");
+    for (int step = 1; step <= 3; ++step)
+        Redo(Draft());
+    EXPECT_EQ(Ranking(), ranked);
+}
+
+} // namespace
+} // namespace dravik
