@@ -53,6 +53,7 @@ const Place* PlaceOf(DeskTable table)
 
 constexpr unsigned Beyond = 15; // what half a byte says of a number that is this or more
 constexpr unsigned SevenBits = 127;
+constexpr unsigned char Repeat = 16; // a run of no length would have this head
 
 bool IsEarlier(const DifferingRun& left, const DifferingRun& right)
 {
@@ -127,10 +128,8 @@ std::optional<unsigned char> RunReader::Byte()
     return byte;
 }
 
-std::optional<std::size_t> RunReader::Number(unsigned half)
+std::optional<std::size_t> RunReader::Number()
 {
-    if (half < Beyond)
-        return half;
     std::size_t number = 0;
     constexpr unsigned most = 28; // bits, which no table needs
     for (unsigned shift = 0; shift < most; shift += 7) {
@@ -139,13 +138,35 @@ std::optional<std::size_t> RunReader::Number(unsigned half)
             break;
         number |= static_cast<std::size_t>(*byte & SevenBits) << shift;
         if (*byte <= SevenBits)
-            return number + Beyond;
+            return number;
     }
     return std::nullopt;
 }
 
+std::optional<std::size_t> RunReader::NumberBeyond(unsigned half)
+{
+    if (half < Beyond)
+        return half;
+    const auto number = Number();
+    return number ? std::optional(*number + Beyond) : std::nullopt;
+}
+
+// The run that lies and is as long as `skipped` and `length` say, for which there are bytes and a place in the table.
+DifferingRun RunReader::TakeRun()
+{
+    const DifferingRun run{
+        .Table = *table, .Offset = end + skipped, .Before = rest.first(length), .After = rest.subspan(length, length)};
+    rest = rest.subspan(2 * length);
+    end = run.Offset + length;
+    return run;
+}
+
 std::optional<DifferingRun> RunReader::Next()
 {
+    if (repeats > 0) {
+        --repeats;
+        return TakeRun();
+    }
     for (;;) {
         const auto byte = Byte();
         if (!byte)
@@ -156,55 +177,88 @@ std::optional<DifferingRun> RunReader::Next()
                 return Break();
             last = *table;
             end = 0;
+            length = 0;
         } else if (*byte == 0) {
             table.reset();
         } else {
-            const auto skipped = Number(*byte >> 4U);
-            const auto length = skipped ? Number(*byte & Beyond) : std::nullopt;
-            if (!length || *length == 0 || *length > rest.size() / 2 || end + *skipped + *length > SizeOf(*table))
+            std::size_t runs = 1;
+            if (*byte == Repeat) {
+                runs = Number().value_or(0);
+            } else {
+                skipped = NumberBeyond(*byte >> 4U).value_or(SizeOf(*table));
+                length = NumberBeyond(*byte & Beyond).value_or(0);
+            }
+            if (runs == 0 || length == 0 || runs > rest.size() / 2 / length ||
+                runs > (SizeOf(*table) - end) / (skipped + length))
                 return Break();
-            const DifferingRun run{.Table = *table,
-                                   .Offset = end + *skipped,
-                                   .Before = rest.first(*length),
-                                   .After = rest.subspan(*length, *length)};
-            rest = rest.subspan(2 * *length);
-            end = run.Offset + *length;
-            return run;
+            repeats = runs - 1;
+            return TakeRun();
         }
     }
 }
 
 // ---- Writing -------------------------------------------------------------------------------------------------------
 
-void DifferenceWriter::PutBeyond(std::size_t number)
+void DifferenceWriter::PutNumber(std::size_t number)
 {
-    if (number < Beyond)
-        return;
-    for (number -= Beyond; number > SevenBits; number >>= 7U)
+    for (; number > SevenBits; number >>= 7U)
         bytes.push_back(static_cast<unsigned char>((number & SevenBits) | (SevenBits + 1)));
     bytes.push_back(static_cast<unsigned char>(number));
+}
+
+void DifferenceWriter::PutBeyond(std::size_t number)
+{
+    if (number >= Beyond)
+        PutNumber(number - Beyond);
+}
+
+void DifferenceWriter::PutHead()
+{
+    const auto half = [](std::size_t number) { return static_cast<unsigned>(std::min<std::size_t>(number, Beyond)); };
+    bytes.push_back(static_cast<unsigned char>(half(skipped) << 4U | half(length)));
+    PutBeyond(skipped);
+    PutBeyond(length);
 }
 
 void DifferenceWriter::EndRun()
 {
     if (beforeRun.empty())
         return;
-    const std::size_t skipped = start - end;
-    const std::size_t length = beforeRun.size();
-    const auto half = [](std::size_t number) { return static_cast<unsigned>(std::min<std::size_t>(number, Beyond)); };
-    bytes.push_back(static_cast<unsigned char>(half(skipped) << 4U | half(length)));
-    PutBeyond(skipped);
-    PutBeyond(length);
-    bytes.insert(bytes.end(), beforeRun.begin(), beforeRun.end());
-    bytes.insert(bytes.end(), afterRun.begin(), afterRun.end());
+    if (count == 0 || skipped != start - end || length != beforeRun.size()) {
+        EndAlike();
+        skipped = start - end;
+        length = beforeRun.size();
+    }
+    ++count;
+    alike.insert(alike.end(), beforeRun.begin(), beforeRun.end());
+    alike.insert(alike.end(), afterRun.begin(), afterRun.end());
     end = start + length;
     beforeRun.clear();
     afterRun.clear();
 }
 
+void DifferenceWriter::EndAlike()
+{
+    if (count == 0)
+        return;
+    const auto second = alike.begin() + static_cast<std::ptrdiff_t>(2 * length);
+    PutHead();
+    bytes.insert(bytes.end(), alike.begin(), second);
+    if (count == 2) {
+        PutHead();
+    } else if (count > 2) {
+        bytes.push_back(Repeat);
+        PutNumber(count - 1);
+    }
+    bytes.insert(bytes.end(), second, alike.end());
+    count = 0;
+    alike.clear();
+}
+
 void DifferenceWriter::EndTable()
 {
     EndRun();
+    EndAlike();
     if (table)
         bytes.push_back(0);
     table.reset();

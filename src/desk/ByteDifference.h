@@ -52,7 +52,9 @@ struct DifferingRun {
 // stored. In ascending order, for each table with a difference: the table's number, its runs, and a 0. A run is one byte whose
 // upper half is how many equal bytes lie between it and the run before (0 to 14, or 15 for 15 and more) and whose lower half is
 // its length (1 to 14, or 15 likewise); behind it what is beyond either 15, seven bits a byte, the lowest first, the eighth
-// set when another byte follows; then the bytes before, and the bytes after. Without a difference it is empty.
+// set when another byte follows; then the bytes before, and the bytes after. Where two or more runs follow that lie and are as
+// long as the one before, they are a 16, how many they are, in sevens of bits too, and the bytes before and after of each.
+// Without a difference it is empty.
 class ByteDifference {
 public:
     // The difference that was stored so; none when no difference is stored by these bytes.
@@ -79,12 +81,17 @@ public:
 private:
     std::optional<DifferingRun> Break();
     std::optional<unsigned char> Byte();
-    std::optional<std::size_t> Number(unsigned half);
+    std::optional<std::size_t> Number();
+    std::optional<std::size_t> NumberBeyond(unsigned half);
+    DifferingRun TakeRun();
 
     Bytes rest;
     std::optional<DeskTable> table;
     DeskTable last{};
-    std::size_t end = 0; // of the run before, in its table
+    std::size_t end = 0;     // of the run before, in its table
+    std::size_t skipped = 0; // before that run
+    std::size_t length = 0;  // of it; 0 in front of the first
+    std::size_t repeats = 0; // runs like it that are still to come
     bool broken = false;
 };
 
@@ -98,15 +105,23 @@ public:
 
 private:
     void EndRun();
+    void EndAlike();
     void EndTable();
+    void PutHead();
+    void PutNumber(std::size_t number);
     void PutBeyond(std::size_t number);
 
     std::vector<unsigned char> bytes;
     std::optional<DeskTable> table;
-    std::size_t end = 0;   // of the last run that is written
-    std::size_t start = 0; // of the run that is being gathered
+    std::size_t end = 0;   // of the last run that was gathered
+    std::size_t start = 0; // of the one that is being gathered
     std::vector<unsigned char> beforeRun;
     std::vector<unsigned char> afterRun;
+    // Runs one behind the other that lie and are as long as each other, and are not written yet.
+    std::size_t skipped = 0;
+    std::size_t length = 0;
+    std::size_t count = 0;
+    std::vector<unsigned char> alike;
 };
 
 // Adds whatever differs between two states of the bytes of one table. Equal ones cost a comparison of memory.

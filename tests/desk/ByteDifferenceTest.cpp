@@ -9,6 +9,8 @@
 #include <map>
 #include <string>
 #include <tuple>
+#include <utility>
+#include <vector>
 
 namespace dravik {
 namespace {
@@ -61,6 +63,12 @@ Desk Changed(Dice& dice, Desk desk)
             for (std::size_t i = start; i < std::min<std::size_t>(start + length, 400); ++i)
                 bytes[i] = static_cast<unsigned char>(dice.Roll(0, 2));
         }
+    return desk;
+}
+Desk ChangedOften(Dice& dice, Desk desk)
+{
+    for (int times = 1; times <= 10; ++times)
+        desk = Changed(dice, std::move(desk));
     return desk;
 }
 ByteDifference Between(const Desk& before, const Desk& after)
@@ -150,6 +158,19 @@ TEST(ByteDifferenceTest, RunsThatTouchAreOne)
     EXPECT_THAT(Written(writer.Finish()), ElementsAre(2, 0x02, 1, 3, 2, 4, 0));
 }
 
+TEST(ByteDifferenceTest, RunsThatLieAlikeShareOneHead)
+{
+    const auto everyThird = [](std::size_t runs) {
+        std::vector<unsigned char> after(3 * runs, 0);
+        for (std::size_t run = 0; run < runs; ++run)
+            after[3 * run + 2] = 7;
+        return Written(Made(DeskTable::Players, 0, std::vector<unsigned char>(after.size(), 0), after));
+    };
+    EXPECT_THAT(everyThird(2), ElementsAre(3, 0x21, 0, 7, 0x21, 0, 7, 0));
+    EXPECT_THAT(everyThird(3), ElementsAre(3, 0x21, 0, 7, 0x10, 2, 0, 7, 0, 7, 0));
+    EXPECT_EQ(everyThird(10000).size(), 2 * 10000U + 6);
+}
+
 TEST(ByteDifferenceTest, RandomStatesDifferAsANaiveComparisonTells)
 {
     for (unsigned seed = 1; seed <= 500; ++seed) {
@@ -192,7 +213,7 @@ TEST(ByteDifferenceTest, ACutDifferenceIsNone)
 {
     Dice dice(7);
     const Desk before = RollDesk(dice);
-    const auto whole = Written(Between(before, Changed(dice, before)));
+    const auto whole = Written(Between(before, ChangedOften(dice, before)));
     ASSERT_GT(whole.size(), 100U);
     // Behind a whole table a cut cannot be told; what is left is the difference of the tables before it.
     std::size_t readable = 0;
@@ -210,7 +231,7 @@ TEST(ByteDifferenceTest, AFlippedBitMakesNoDifferenceThatLeavesItsTables)
 {
     Dice dice(8);
     const Desk before = RollDesk(dice);
-    const auto whole = Written(Between(before, Changed(dice, before)));
+    const auto whole = Written(Between(before, ChangedOften(dice, before)));
     int refused = 0;
     for (std::size_t bit = 0; bit < 8 * whole.size(); ++bit) {
         auto flipped = whole;
@@ -232,15 +253,22 @@ TEST(ByteDifferenceTest, WhatIsWrittenInAnyOtherFormIsNone)
     using Stored = std::vector<unsigned char>;
     const auto isRead = [](const Stored& stored) { return ByteDifference::FromStored(stored).has_value(); };
     EXPECT_TRUE(isRead({2, 0x01, 1, 2, 0}));
-    EXPECT_FALSE(isRead({2, 0}));                               // a table without a run
-    EXPECT_FALSE(isRead({0}));                                  // no table
-    EXPECT_FALSE(isRead({12, 0x01, 1, 2, 0}));                  // a table that nobody has
-    EXPECT_FALSE(isRead({2, 0x01, 1, 1, 0}));                   // bytes that do not differ
-    EXPECT_FALSE(isRead({2, 0x01, 1, 2, 0x01, 1, 2, 0}));       // two runs that touch
-    EXPECT_FALSE(isRead({2, 0x10, 0x01, 1, 2, 0}));             // a run without bytes
-    EXPECT_FALSE(isRead({3, 0x01, 1, 2, 0, 2, 0x01, 1, 2, 0})); // tables out of order
-    EXPECT_FALSE(isRead({2, 0x01, 1, 2, 0, 2, 0x31, 1, 2, 0})); // a table twice
-    EXPECT_FALSE(isRead({2, 0xF1, 0x80, 0x00, 1, 2, 0}));       // a number in more bytes than it needs
+    EXPECT_FALSE(isRead({2, 0}));                         // a table without a run
+    EXPECT_FALSE(isRead({0}));                            // no table
+    EXPECT_FALSE(isRead({12, 0x01, 1, 2, 0}));            // a table that nobody has
+    EXPECT_FALSE(isRead({2, 0x01, 1, 1, 0}));             // bytes that do not differ
+    EXPECT_FALSE(isRead({2, 0x01, 1, 2, 0x01, 1, 2, 0})); // two runs that touch
+    EXPECT_TRUE(isRead({2, 0x21, 1, 2, 0x10, 2, 1, 2, 1, 2, 0}));
+    EXPECT_FALSE(isRead({2, 0x10, 2, 1, 2, 1, 2, 0}));                         // nothing before that is repeated
+    EXPECT_FALSE(isRead({2, 0x21, 1, 2, 0x10, 1, 1, 2, 0}));                   // repeated once, which has another form
+    EXPECT_FALSE(isRead({2, 0x21, 1, 2, 0x10, 0, 0}));                         // repeated never
+    EXPECT_FALSE(isRead({2, 0x21, 1, 2, 0x21, 1, 2, 0x21, 1, 2, 0}));          // not repeated
+    EXPECT_FALSE(isRead({2, 0x21, 1, 2, 0x10, 2, 1, 2, 1, 2, 0x21, 1, 2, 0})); // more than it says
+    EXPECT_FALSE(isRead({2, 0x21, 1, 2, 0x10, 3, 1, 2, 1, 2, 0}));             // fewer
+    EXPECT_FALSE(isRead({2, 0x20, 0x01, 1, 2, 0}));                            // a run without bytes
+    EXPECT_FALSE(isRead({3, 0x01, 1, 2, 0, 2, 0x01, 1, 2, 0}));                // tables out of order
+    EXPECT_FALSE(isRead({2, 0x01, 1, 2, 0, 2, 0x31, 1, 2, 0}));                // a table twice
+    EXPECT_FALSE(isRead({2, 0xF1, 0x80, 0x00, 1, 2, 0}));                      // a number in more bytes than it needs
     EXPECT_FALSE(isRead({2, 0xF1, 0x80, 0x80, 0x80, 0x80, 0x80, 0, 1, 2, 0}));
     EXPECT_FALSE(isRead({11, 0xF1, 0xFF, 0x7F, 1, 2, 0})); // beyond the ranking
     EXPECT_FALSE(isRead({2, 0x0F, 0xFF, 0xFF, 0xFF, 0x7F, 1}));
