@@ -115,7 +115,7 @@ std::optional<DifferingRun> RunReader::Break()
 {
     broken = true;
     rest = {};
-    table.reset();
+    table = NoTable;
     return std::nullopt;
 }
 
@@ -155,7 +155,7 @@ std::optional<std::size_t> RunReader::NumberBeyond(unsigned half)
 DifferingRun RunReader::TakeRun()
 {
     const DifferingRun run{
-        .Table = *table, .Offset = end + skipped, .Before = rest.first(length), .After = rest.subspan(length, length)};
+        .Table = table, .Offset = end + skipped, .Before = rest.first(length), .After = rest.subspan(length, length)};
     rest = rest.subspan(2 * length);
     end = run.Offset + length;
     return run;
@@ -170,26 +170,26 @@ std::optional<DifferingRun> RunReader::Next()
     for (;;) {
         const auto byte = Byte();
         if (!byte)
-            return table ? Break() : std::nullopt;
-        if (!table) {
+            return table == NoTable ? std::nullopt : Break();
+        if (table == NoTable) {
             table = static_cast<DeskTable>(*byte);
-            if (*table <= last || SizeOf(*table) == 0)
+            if (table <= last || SizeOf(table) == 0)
                 return Break();
-            last = *table;
+            last = table;
             end = 0;
             length = 0;
         } else if (*byte == 0) {
-            table.reset();
+            table = NoTable;
         } else {
             std::size_t runs = 1;
             if (*byte == Repeat) {
                 runs = Number().value_or(0);
             } else {
-                skipped = NumberBeyond(*byte >> 4U).value_or(SizeOf(*table));
+                skipped = NumberBeyond(*byte >> 4U).value_or(SizeOf(table));
                 length = NumberBeyond(*byte & Beyond).value_or(0);
             }
             if (runs == 0 || length == 0 || runs > rest.size() / 2 / length ||
-                runs > (SizeOf(*table) - end) / (skipped + length))
+                runs > (SizeOf(table) - end) / (skipped + length))
                 return Break();
             repeats = runs - 1;
             return TakeRun();
@@ -259,9 +259,9 @@ void DifferenceWriter::EndTable()
 {
     EndRun();
     EndAlike();
-    if (table)
+    if (table != NoTable)
         bytes.push_back(0);
-    table.reset();
+    table = NoTable;
 }
 
 void DifferenceWriter::Add(DeskTable into, std::size_t offset, Bytes before, Bytes after)

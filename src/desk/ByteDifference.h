@@ -30,6 +30,7 @@ enum class DeskTable : unsigned char {
     Offers,
     Ranking
 };
+inline constexpr DeskTable NoTable{};
 // Those of the league, in the order in which they lie in it.
 inline constexpr DeskTable LeagueTables[] = {DeskTable::League,   DeskTable::Teams,         DeskTable::Players,
                                              DeskTable::Goalies,  DeskTable::Coaches,       DeskTable::Prospects,
@@ -86,8 +87,8 @@ private:
     DifferingRun TakeRun();
 
     Bytes rest;
-    std::optional<DeskTable> table;
-    DeskTable last{};
+    DeskTable table = NoTable;
+    DeskTable last = NoTable;
     std::size_t end = 0;     // of the run before, in its table
     std::size_t skipped = 0; // before that run
     std::size_t length = 0;  // of it; 0 in front of the first
@@ -112,7 +113,7 @@ private:
     void PutBeyond(std::size_t number);
 
     std::vector<unsigned char> bytes;
-    std::optional<DeskTable> table;
+    DeskTable table = NoTable;
     std::size_t end = 0;   // of the last run that was gathered
     std::size_t start = 0; // of the one that is being gathered
     std::vector<unsigned char> beforeRun;

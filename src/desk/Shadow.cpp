@@ -53,13 +53,14 @@ ByteDifference Shadow::Behind(const DeskContents& desk) const
 void Shadow::Follow(const ByteDifference& difference, DifferenceEnd to) noexcept
 {
     const DeskContents kept{*league};
-    Put(kept, difference, to);
     RunReader reader(difference.Stored());
     while (const auto run = reader.Next()) {
         const Bytes bytes = to == DifferenceEnd::Before ? run->Before : run->After;
-        if (run->Table == DeskTable::Offers)
+        if (unsigned char* table = FirstByteOf(kept, run->Table))
+            std::copy(bytes.begin(), bytes.end(), table + run->Offset);
+        else if (run->Table == DeskTable::Offers)
             FollowOffers(run->Offset, bytes);
-        else if (run->Table == DeskTable::Ranking && ranking)
+        else if (ranking)
             std::copy(bytes.begin(), bytes.end(), FirstByte(*ranking) + run->Offset);
     }
 }

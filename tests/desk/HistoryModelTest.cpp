@@ -166,18 +166,25 @@ public:
 
     void Play(int commands)
     {
+        if (dice.Chance(50))
+            ChangeOutside();
         for (int turn = 0; turn < commands && !HasFailed(); ++turn) {
             SCOPED_TRACE("turn " + std::to_string(turn));
-            switch (dice.Roll(1, 16)) {
+            switch (dice.Roll(1, 24)) {
             case 1:
+            case 5:
                 ChangeOutside();
+                if (dice.Chance(50))
+                    Back();
+                if (dice.Chance(50))
+                    Forth();
                 break;
             case 2:
-                for (long long turns = dice.Roll(1, 6); turns > 0 && Back(); --turns)
-                    ;
+                GoBack(dice.Roll(1, 12));
                 break;
             case 3:
-                for (long long turns = dice.Roll(1, 6); turns > 0 && Forth(); --turns)
+                GoBack(dice.Roll(1, 12));
+                while (Forth())
                     ;
                 break;
             case 4: // a drag to somewhere and back
@@ -334,7 +341,7 @@ private:
     void TakeStep(const Does& does, std::uint64_t drag)
     {
         const StepLabel label{
-            .Words = "Command", .Where = "Desk", .Team = dice.Chance(2) ? Own + 1 : Own, .Drag = drag};
+            .Words = "Command", .Where = "Desk", .Team = dice.Chance(1) ? Own + 1 : Own, .Drag = drag};
         ExpectFold();
         std::unique_ptr<Tables> atOpening;
         std::unique_ptr<Market> marketAtOpening;
@@ -424,6 +431,11 @@ private:
         --done;
         EXPECT_EQ(Now(), states[done].Digest) << "behind the undo of step " << done + 1;
         return !HasFailed();
+    }
+    void GoBack(long long turns)
+    {
+        while (turns > 0 && Back())
+            --turns;
     }
     bool Forth()
     {
@@ -546,7 +558,7 @@ TEST(HistoryModelTest, RandomEveningsAreUndoneToTheirBeginningAndRedoneToTheirEn
         return;
     for (const char* what : {"whole way", "failed", "empty", "refused", "gone", "closed", "merged", "folded",
                              "folded into the beginning", "undone", "redone", "other team"})
-        EXPECT_GT(all[what], leagues / 12) << what;
+        EXPECT_GT(all[what], 0) << what;
     EXPECT_GT(all["whole way"], leagues * commands / 10);
     EXPECT_EQ(all["no room"], 0);
 }
