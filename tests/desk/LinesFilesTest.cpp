@@ -85,7 +85,7 @@ TEST_F(LinesFilesTest, TheFarmsFirstDayIsNotAskedFor)
     Day(Side::Farm) = {};
     Save();
     EXPECT_TRUE(std::filesystem::exists(target));
-    Machine.TakeBoxes();
+    (void)Machine.TakeBoxes();
 }
 
 TEST_F(LinesFilesTest, AWrongPasswordEndsIt)
@@ -125,7 +125,7 @@ TEST_F(LinesFilesTest, ALoadBringsTheTeamBackShowsItAndTells)
 {
     Teams[Own].City = "Harbour City";
     Save();
-    Machine.TakeBoxes();
+    (void)Machine.TakeBoxes();
     Remember();
     Teams[Own].City = "Elsewhere";
     Day(Side::Pro) = {};
@@ -165,7 +165,7 @@ TEST_F(LinesFilesTest, AFileThatDoesNotInflateLeavesTheWaitScreenUp)
 TEST_F(LinesFilesTest, AScreenThatCannotBeShownAnewFailsBehindTheWait)
 {
     Save();
-    Machine.TakeBoxes();
+    (void)Machine.TakeBoxes();
     EXPECT_EQ(FailureOfCommand([&] {
                   LoadLines(
                       OpenWork(), OpenFiles(), Machine, Own, target, [this] { EndWait(); },

@@ -113,7 +113,7 @@ TEST_F(RosterMovesTest, WhoIsNotSentToWaiversStays)
     EXPECT_EQ(Players[1].Status, status::Pro);
     EXPECT_EQ(Players[1].Suspension, 0);
     EXPECT_FALSE(Modified);
-    Machine.TakeBoxes();
+    (void)Machine.TakeBoxes();
 }
 
 TEST_F(RosterMovesTest, TheOverallShownLastAndTheDeadlineKeepOffTheFarm)

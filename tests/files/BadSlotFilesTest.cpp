@@ -57,7 +57,6 @@ TEST_F(BadSlotFilesTest, ThousandsOfFlipsOfASmallSlotFileReadAsByHand)
         came.resize(5 * SlotLength);
 
         WriteWhole(path, bad);
-        Machine.TakeBoxes();
         Team first;
         Player player;
         Team second;
@@ -69,10 +68,9 @@ TEST_F(BadSlotFilesTest, ThousandsOfFlipsOfASmallSlotFileReadAsByHand)
             EXPECT_EQ(slots.ReadMagic("End"), std::memcmp(came.data() + 4 * SlotLength, "\3\0End", 5) == 0);
         });
         ASSERT_EQ(read != SlotFileRead::NotDecompressed, anything) << round;
-        if (!anything) {
-            EXPECT_THAT(Machine.Boxes(), ElementsAre(NotDecompressed));
+        EXPECT_EQ(Machine.TakeBoxes(), anything ? std::vector<Box>{} : std::vector{NotDecompressed}) << round;
+        if (!anything)
             continue;
-        }
         EXPECT_EQ(std::memcmp(&first, came.data() + SlotLength, sizeof first), 0) << round;
         EXPECT_EQ(std::memcmp(&player, came.data() + 2 * SlotLength, sizeof player), 0) << round;
         EXPECT_EQ(std::memcmp(&second, came.data() + 3 * SlotLength, sizeof second), 0) << round;

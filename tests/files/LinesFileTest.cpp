@@ -405,9 +405,11 @@ TEST_F(LinesFileTest, PlainReadAsWrappedAndTheReverse)
     const ByteVector slots = LinesSlots(5);
     WriteSparse(Path, slots);
     EXPECT_EQ(ReadLinesFile(Path), LinesFileRead::NotDecompressed);
+    EXPECT_THAT(Machine.TakeBoxes(), ElementsAre(Box{16, "9 - Subscript out of range in Zlib Decompress!"}));
     WriteWhole(Path, Wrapped(slots, 1));
     Plain();
     EXPECT_EQ(ReadLinesFile(Path), LinesFileRead::Refused);
+    EXPECT_THAT(Machine.Boxes(), IsEmpty());
     EXPECT_TRUE(Tables() == before);
 }
 

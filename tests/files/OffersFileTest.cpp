@@ -318,12 +318,16 @@ TEST_F(OffersFileTest, WhateverFailsTheFileIsWholeOrNotThere)
         for (std::size_t n = 1;; ++n) {
             const std::size_t before = Machine.FileOperations().size();
             Machine.FailFileOperation(n, failure::DiskFull);
+            bool told = false;
             try {
-                failed += Save().Outcome == OffersFileWrite::NotCompressed ? 1 : 0;
+                told = Save().Outcome == OffersFileWrite::NotCompressed;
+                failed += told ? 1 : 0;
             } catch (const Failure&) {
                 ++failed;
             }
             Machine.FailNoMore();
+            const Box full{16, "61 - Disk full in Zlib Compress!"};
+            EXPECT_EQ(Machine.TakeBoxes(), told ? std::vector{full} : std::vector<Box>{}) << n;
             if (fs::exists(Path)) {
                 EXPECT_TRUE(ReadWhole(Path) == whole) << n;
             }

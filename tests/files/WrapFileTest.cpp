@@ -107,10 +107,10 @@ TEST_F(WrapFileTest, ASourceThatIsNoStreamIsReportedOnlyWhenNothingComes)
 
     for (const std::string text : {"", "abc", "abcd", "this is no stream"}) {
         fs::remove(Target);
-        Machine.TakeBoxes();
         WriteWhole(Source, ByteVector(text.begin(), text.end()));
         EXPECT_FALSE(ZlibDecompress(Machine, Machine, Source, Target));
-        EXPECT_THAT(Machine.Boxes(), ElementsAre(Box{box::Critical, "9 - Subscript out of range in Zlib Decompress!"}));
+        EXPECT_THAT(Machine.TakeBoxes(),
+                    ElementsAre(Box{box::Critical, "9 - Subscript out of range in Zlib Decompress!"}));
         EXPECT_EQ(FilesLeft(), 1U);
     }
 }
@@ -125,12 +125,11 @@ TEST_F(WrapFileTest, NoFailureLeavesAHalfWrittenTarget)
         std::size_t operation = 1;
         for (;; ++operation) {
             ASSERT_LT(operation, 200U);
-            Machine.TakeBoxes();
             Machine.FailFileOperation(operation, failure::DiskFull);
             if (compress ? ZlibCompress(Machine, Machine, Source, Target)
                          : ZlibDecompress(Machine, Machine, Source, Target))
                 break;
-            EXPECT_THAT(Machine.Boxes(), ElementsAre(Box{box::Critical, message}));
+            EXPECT_THAT(Machine.TakeBoxes(), ElementsAre(Box{box::Critical, message}));
             EXPECT_EQ(FilesLeft(), 1U) << operation;
         }
         EXPECT_GT(operation, 15U);

@@ -23,7 +23,7 @@ protected:
 
     std::vector<Box> Run(bool verbose = true)
     {
-        Machine.TakeBoxes();
+        (void)Machine.TakeBoxes();
         AutoLinesFarm(5, verbose, 3);
         return Machine.TakeBoxes();
     }

@@ -49,7 +49,7 @@ protected:
 
     std::vector<Box> Run(bool verbose = true)
     {
-        Machine.TakeBoxes();
+        (void)Machine.TakeBoxes();
         AutoLinesPartial(5, verbose, 3);
         return Machine.TakeBoxes();
     }

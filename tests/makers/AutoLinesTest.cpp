@@ -39,7 +39,7 @@ protected:
 
     std::vector<Box> Run(bool verbose = true)
     {
-        Machine.TakeBoxes();
+        (void)Machine.TakeBoxes();
         AutoLines(5, verbose, 3);
         return Machine.TakeBoxes();
     }

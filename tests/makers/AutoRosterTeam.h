@@ -22,7 +22,7 @@ protected:
 
     std::vector<Box> Run(bool verbose = true, bool partial = false)
     {
-        Machine.TakeBoxes();
+        (void)Machine.TakeBoxes();
         AutoRoster(5, verbose, partial);
         return Machine.TakeBoxes();
     }

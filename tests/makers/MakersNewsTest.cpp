@@ -111,7 +111,7 @@ TEST_F(MakersNewsTest, ARepairThatLeavesAHoleIsNotTold)
         Players[id].Position = position::Center;
     LeagueData.RequiredDefensemen = 0;
     Machine.TakeNews();
-    Machine.TakeBoxes();
+    (void)Machine.TakeBoxes();
     Teams[5].ProLines[1].NormalDefense(1, 1) = 0;
     AutoLinesPartial(5, false, 1);
     EXPECT_THAT(Machine.TakeBoxes(), ElementsAre(Box{64, "Auto Lines Partial Function Error."}));

@@ -388,7 +388,7 @@ TEST_F(MakersPropertyTest, ACompleteHealthyDayIsUnchangedByTheRepair)
             continue;
         std::swap(day.StartGoalie, day.BackupGoalie);
         const auto before = Words(day);
-        Machine.TakeBoxes();
+        (void)Machine.TakeBoxes();
         AutoLinesPartial(Team5, true, 1);
         ASSERT_EQ(Machine.TakeBoxes(),
                   std::vector<Box>({{64, "Auto Lines Partial Function has been run successfully."}}))
@@ -476,7 +476,7 @@ TEST_F(MakersPropertyTest, TheRepairTakesTheWorstManWhoMayStandThereAndTouchesNo
             filled = filled && found != men.end();
         }
 
-        Machine.TakeBoxes();
+        (void)Machine.TakeBoxes();
         AutoLinesPartial(Team5, true, 1);
         ASSERT_EQ(Words(day), Words(expected)) << "seed " << seed;
         ASSERT_EQ(Machine.TakeBoxes(),

@@ -248,7 +248,7 @@ protected:
     // What one routine gives for a team, in eight digits.
     std::string Digest(const Routine& routine, int team)
     {
-        Machine.TakeBoxes();
+        (void)Machine.TakeBoxes();
         RosterFixed = 0;
         Modified = false;
         std::string told = routine.Run(team);

@@ -410,7 +410,7 @@ TEST_F(LineJudgePropertyTest, CompleteLinesStayUntouched)
         SCOPED_TRACE(seed);
         MakeLeague(seed);
         const std::string before = Bytes(Teams[Us]);
-        Machine.TakeBoxes();
+        (void)Machine.TakeBoxes();
         if (!RunJudge(false))
             continue;
         ++complete;

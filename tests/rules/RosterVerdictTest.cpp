@@ -113,7 +113,7 @@ TEST_F(RosterVerdictTest, ATeamOutOfRangeHasNeitherFindingsNorPayroll)
     EXPECT_FALSE(verdict.Failed);
     EXPECT_THAT(verdict.Findings, IsEmpty());
     EXPECT_FALSE(verdict.Cap);
-    Machine.TakeBoxes();
+    (void)Machine.TakeBoxes();
 }
 
 TEST_F(RosterVerdictTest, ThePayrollIsJudgedBesideAndSaysByHowMuch)

@@ -61,7 +61,7 @@ protected:
 
     void ExpectEnding(const std::function<void()>& command, const Ending& ending)
     {
-        Machine.TakeBoxes();
+        (void)Machine.TakeBoxes();
         Machine.CloseWait();
         command();
         // A box that comes while the wait screen stays comes before it; any other comes after its end.

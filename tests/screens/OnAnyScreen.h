@@ -39,7 +39,7 @@ protected:
             OpenTeam(5);
         TheStage.Open(name, name == "Ticket" ? static_cast<Screen&>(*TeamScreen()) : main);
         Settle();
-        Machine.TakeBoxes();
+        (void)Machine.TakeBoxes();
         return *TheStage.Find(name);
     }
     void CloseScreen(Screen& screen)

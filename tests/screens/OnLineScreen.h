@@ -37,7 +37,7 @@ protected:
     {
         if (TheStage.Find(name) == nullptr) {
             OpenFrom(MainWithLeague(), name, "Main");
-            Machine.TakeBoxes();
+            (void)Machine.TakeBoxes();
             Modified = false;
         }
         return *static_cast<T*>(TheStage.Find(name));

@@ -57,7 +57,7 @@ protected:
     {
         if (RosterScreen() == nullptr) {
             OpenFrom(MainWithLeague(), "Main");
-            Machine.TakeBoxes();
+            (void)Machine.TakeBoxes();
             Modified = false;
         }
         return *RosterScreen();

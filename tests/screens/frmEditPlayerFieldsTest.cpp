@@ -271,13 +271,13 @@ TEST_F(ViewerFields, AnotherPositionDigitFailsTheIntegrityCheckAndStoresNothing)
              {viewer.txtName, viewer.txtCountry, viewer.txtAge, viewer.txtWeight, viewer.txtHeight, viewer.txtCondition,
               viewer.txtInjury, viewer.txtContract, viewer.txtSalary, viewer.txtSuspension, viewer.txtStats[3]}) {
             TypeInto(box, box == viewer.txtCountry ? "SWE" : "1");
-            Machine.TakeBoxes(); // of the box that lost the focus to this one
+            (void)Machine.TakeBoxes(); // of the box that lost the focus to this one
             Press(box, Qt::Key_Tab);
             EXPECT_THAT(Machine.TakeBoxes(), ElementsAre(Box{16, "Integrity Check Failed!"}))
                 << box->objectName().toStdString();
         }
         viewer.cmdExit->setFocus();
-        Machine.TakeBoxes();
+        (void)Machine.TakeBoxes();
         viewer.chkRookie_Click();
         viewer.chkNoTrade_Click();
         viewer.chkNoApplyRerate_Click();
@@ -308,7 +308,7 @@ TEST_F(ViewerFields, AValueIsLimitedInItsBoxBeforeTheIntegrityCheckFails)
                                    {viewer.txtSuspension, "100", "99"},
                                    {viewer.txtStats[3], "007", "7"}}) {
         viewer.cmdExit->setFocus();
-        Machine.TakeBoxes();
+        (void)Machine.TakeBoxes();
         TypeInto(limited.Box, limited.Typed);
         std::string shown;
         AtNextBox([&] { shown = Of(limited.Box); });

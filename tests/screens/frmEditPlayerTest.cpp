@@ -124,7 +124,7 @@ TEST_F(PlayerViewer, OpeningOnAnyPlayerRepairsEverySkaterWithoutPosition)
     Viewer().close();
     Settle();
     EXPECT_EQ(Players[20].Position, 1);
-    Machine.TakeBoxes();
+    (void)Machine.TakeBoxes();
     Show(7);
     EXPECT_THAT(Machine.Boxes(), IsEmpty());
 }

@@ -139,7 +139,7 @@ TEST_F(frmFarmLinePeopleTest, ASkaterWithoutAPositionIsToldWhateverTheFilterSays
     frmFarmLine& farm = FarmLine();
     for (QCheckBox* filter : farm.chkPosition)
         filter->setChecked(false);
-    Machine.TakeBoxes();
+    (void)Machine.TakeBoxes();
     Players[Center].Position = 6;
     farm.ShowPlayer();
     EXPECT_THAT(Machine.Boxes(), ElementsAre(Box{16, "Skater 19 has no position!"}));

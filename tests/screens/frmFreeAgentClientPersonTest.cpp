@@ -140,7 +140,7 @@ TEST_F(OfferPerson, NothingIsWrittenForABlockedPlayer)
 {
     FreeSkater(1, 6, 21);
     Open();
-    Machine.TakeBoxes();
+    (void)Machine.TakeBoxes();
     OfferOf(1).Salary = 750000;
     OfferOf(1).Duration = 3;
     Click(Offers().cmdSaveToFile);

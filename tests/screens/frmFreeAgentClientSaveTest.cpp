@@ -28,7 +28,7 @@ protected:
 
     std::vector<Box> Save()
     {
-        Machine.TakeBoxes();
+        (void)Machine.TakeBoxes();
         Click(Offers().cmdSaveToFile);
         WaitAtBoxes = Machine.WaitAtBoxes();
         return Machine.TakeBoxes();

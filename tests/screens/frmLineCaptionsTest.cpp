@@ -22,7 +22,7 @@ protected:
     {
         visit(static_cast<LinesScreen&>(Line()), true);
         Click(Line().cmdExit);
-        Machine.TakeBoxes();
+        (void)Machine.TakeBoxes();
         visit(static_cast<LinesScreen&>(FarmLine()), false);
     }
 

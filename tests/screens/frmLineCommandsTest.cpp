@@ -29,7 +29,7 @@ TEST_F(LineCommands, AutoLinesFillTheShownDayAndSaySo)
     PutGames(5);
     frmLine& line = Line();
     line.vscDay->setValue(4);
-    Machine.TakeBoxes();
+    (void)Machine.TakeBoxes();
     Click(line.cmdAutoLines);
     EXPECT_THAT(Machine.Boxes(), ElementsAre(Box{64, "Auto Lines Function has been run successfully."}));
     EXPECT_EQ(Of(line.lblComplete), "Lines are Complete");

@@ -143,7 +143,7 @@ TEST_F(LineFindings, SomebodyBeyondTheTableIsMarkedAndThoseFoundBeforeHimToo)
     ProDay().NormalForward(1, 2) = ProDay().NormalForward(1, 1);
     ProDay().NormalForward(2, 1) = 20000;
     OpenFrom(MainWithLeague(), "Line", "Main");
-    Machine.TakeBoxes();
+    (void)Machine.TakeBoxes();
     EXPECT_THAT(Marked(Line(), Mark::Refused), ElementsAre("lblNormalTrioC(2)"));
     EXPECT_EQ(Marked(Line(), Mark::Twice).size(), 2U);
 }

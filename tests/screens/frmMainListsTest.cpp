@@ -42,7 +42,7 @@ TEST_F(MainLists, ADoubleClickWithAWrongPasswordTakesItsTeamThoughTheListsAreNot
     PutTeam(13, 7);
     Teams[8].Password = DigestOfA;
     Main().PlaceTeam();
-    Machine.TakeBoxes();
+    (void)Machine.TakeBoxes();
     Machine.Type("b");
     DoubleClickEntry(2, 1);
     EXPECT_THAT(Machine.Boxes(), ElementsAre(Box{48, "Password is incorrect!"}));

@@ -322,7 +322,7 @@ TEST_F(frmRosterMovesTest, WithNobodyChosenTheDeadlineAndTheLimitsAreNoMatter)
     LeagueData.FarmMaxOverall = 0;
     LeagueData.MaxProPlayers = 0;
     Roster().PlayerOverall = 99;
-    Machine.TakeBoxes();
+    (void)Machine.TakeBoxes();
     Modified = false;
     for (void (frmRoster::*command)() :
          {&frmRoster::cmdToFarm_Click, &frmRoster::cmdToPro_Click, &frmRoster::cmdToScratchesFromPro_Click,

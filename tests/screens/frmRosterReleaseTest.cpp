@@ -159,7 +159,7 @@ TEST_F(frmRosterReleaseTest, ReleaseOfAGoalieAsksForTheGoalerAndTakesHimOffTheLi
     const TeamMaker made = CompleteTeam(5);
     const int keeper = made.GoalieIds[0];
     Choose(keeper, 5);
-    Machine.TakeBoxes();
+    (void)Machine.TakeBoxes();
     Machine.Type("0");
     Roster().cmdRelease_Click();
     EXPECT_THAT(Machine.Questions(),

@@ -26,7 +26,7 @@ protected:
     {
         Click(Office().cmdSaveToFile);
         ASSERT_TRUE(std::filesystem::exists(target));
-        Machine.TakeBoxes();
+        (void)Machine.TakeBoxes();
     }
 
     std::string target;
@@ -222,7 +222,7 @@ TEST_F(LinesFileCommands, AFileOfAnotherLeagueOrKindIsRefused)
     code[client_file::Slot] ^= 1U;
     for (const ByteVector& bytes : {start, code}) {
         WriteWhole(target, bytes);
-        Machine.TakeBoxes();
+        (void)Machine.TakeBoxes();
         Machine.Choose(target);
         Click(Office().cmdLoadFile);
         EXPECT_THAT(Machine.Boxes(),

@@ -27,7 +27,7 @@ class BadClientFilesTest : public BadFiles {
 protected:
     void Open()
     {
-        Machine.TakeBoxes();
+        (void)Machine.TakeBoxes();
         Machine.CloseWait();
         Machine.Settings.erase("LastLoadLeague");
         Window.Calls.clear();

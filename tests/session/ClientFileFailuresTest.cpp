@@ -56,7 +56,7 @@ TEST_F(ClientFileFailures, AWrongStartMagicLeavesLeagueDataUntouched)
         bad[at] ^= 1U;
         WriteWhole(Machine.InFolder("League.dvs"), bad);
         ScrambleTables();
-        Machine.TakeBoxes();
+        (void)Machine.TakeBoxes();
         Open(Machine.InFolder("League.dvs"));
         EXPECT_THAT(Machine.Boxes(), ElementsAre(Box{box::Critical, "File Integrity is incorrect!"})) << at;
         EXPECT_THAT(Machine.WaitAtBoxes(), ElementsAre(false));
@@ -112,13 +112,13 @@ TEST_F(ClientFileFailures, SkipZIPClientIsTrimmedAndItsCaseDoesNotMatter)
     const std::string path = SavePlain();
     for (const char* yes : {"YES", "yes", "  Yes "}) {
         Machine.Settings["SkipZIPClient"] = yes;
-        Machine.TakeBoxes();
+        (void)Machine.TakeBoxes();
         Open(path);
         EXPECT_THAT(Machine.Boxes(), IsEmpty()) << yes;
     }
     for (const char* no : {"", "No", "Y", "YES!", "-1", "True"}) {
         Machine.Settings["SkipZIPClient"] = no;
-        Machine.TakeBoxes();
+        (void)Machine.TakeBoxes();
         Open(path);
         EXPECT_THAT(Machine.Boxes(), ElementsAre(Box{box::Critical, "9 - Subscript out of range in Zlib Decompress!"}))
             << no;
@@ -174,7 +174,7 @@ TEST_F(ClientFileFailures, AFileThatCannotBeReadToItsEndChangesNothingOutsideThe
         };
         // Three operations find the file and one opens it. The last read comes when the coaches have long been read.
         for (const std::size_t read : {std::size_t{1}, std::size_t{2}, reads / 2, reads}) {
-            Machine.TakeBoxes();
+            (void)Machine.TakeBoxes();
             Machine.CloseWait();
             Machine.FailFileOperation(4 + read, failure::PathAccess);
             Open(path);
@@ -195,7 +195,7 @@ TEST_F(ClientFileFailures, AFileDateThatIsNoDateEndsInTheCommonFailureMessage)
     for (const double date :
          {1e300, -1e300, std::numeric_limits<double>::quiet_NaN(), 2958466.0, -657435.0, 2958465.999995}) {
         LeagueData.FileDate = date;
-        Machine.TakeBoxes();
+        (void)Machine.TakeBoxes();
         Window.Calls.clear();
         Open(SavePlain());
         EXPECT_THAT(Machine.Boxes(), ElementsAre(Box{box::Critical, "6 - Overflow in OpenLeagueClient!"}));
@@ -203,7 +203,7 @@ TEST_F(ClientFileFailures, AFileDateThatIsNoDateEndsInTheCommonFailureMessage)
     }
     for (const double date : {2958465.0, 2958465.99999, -657434.0}) {
         LeagueData.FileDate = date;
-        Machine.TakeBoxes();
+        (void)Machine.TakeBoxes();
         Open(SavePlain());
         EXPECT_THAT(Machine.Boxes(), IsEmpty());
     }

@@ -22,7 +22,7 @@ protected:
     void Open(const ByteVector& file)
     {
         WriteWhole(ClientPath, file);
-        Machine.TakeBoxes();
+        (void)Machine.TakeBoxes();
         Machine.CloseWait();
         Window.Calls.clear();
         OpenLeagueClient(ClientPath, Window);

@@ -123,7 +123,7 @@ TEST_F(ReadLeagueTest, AFileDateThatIsNoDateIsToldAndLeavesTheLeagueWhole)
     for (const double date : {1e300, 1e9, -1e9, std::numeric_limits<double>::quiet_NaN(),
                               std::numeric_limits<double>::infinity(), 2958466.0, -657435.0}) {
         SCOPED_TRACE(date);
-        Machine.TakeBoxes();
+        (void)Machine.TakeBoxes();
         Window.Calls.clear();
         LeagueData.FileDate = date;
         const std::string path = SaveLeagueOverAnother();
@@ -166,7 +166,7 @@ TEST_F(ReadLeagueTest, WhateverFailsWhileALeagueIsShownTheTablesAreWhole)
     const std::string path = SaveLeagueOverAnother();
     for (int step = 1; step <= 8; ++step) {
         SCOPED_TRACE(step);
-        Machine.TakeBoxes();
+        (void)Machine.TakeBoxes();
         Players[0].Name = "Before";
         for (RosterChange& change : RosterChanges)
             change.Protected = true;

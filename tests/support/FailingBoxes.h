@@ -3,6 +3,7 @@
 #include "league/Failure.h"
 #include "support/ScriptedPlatform.h"
 
+#include <gtest/gtest.h>
 #include <string>
 
 namespace dravik {
@@ -12,6 +13,7 @@ namespace dravik {
 class FailingBoxes : public ScriptedPlatform {
 public:
     explicit FailingBoxes(int failures = 0) : FailuresLeft(failures) {}
+    ~FailingBoxes() override { EXPECT_LE(FailuresLeft, 0) << "boxes that were to fail and never came"; }
 
     int FailuresLeft;
 

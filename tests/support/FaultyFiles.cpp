@@ -68,7 +68,7 @@ FaultyFiles::FaultyFiles()
 FaultyFiles::Outcome FaultyFiles::Run(const Work& work)
 {
     Outcome outcome;
-    Machine.TakeBoxes();
+    Machine.ClearSeenBoxes();
     try {
         outcome.Done = work();
     } catch (const Failure& failed) {

@@ -4,9 +4,11 @@
 #include "machine/SettingsFailure.h"
 #include "support/ReferenceMd5.h"
 
+#include <algorithm>
 #include <chrono>
 #include <cmath>
 #include <filesystem>
+#include <gtest/gtest.h>
 #include <iomanip>
 #include <locale>
 #include <ostream>
@@ -17,6 +19,10 @@
 namespace dravik {
 
 namespace fs = std::filesystem;
+
+// Set by the floors whose tests are ready for it.
+extern bool MachinesAreStrict;
+bool MachinesAreStrict = false;
 
 namespace {
 
@@ -81,6 +87,27 @@ std::string Dollars(double amount, int decimals)
     return text;
 }
 
+template <class... Words>
+std::string Joined(const Words&... words)
+{
+    std::ostringstream text;
+    (text << ... << words);
+    return text.str();
+}
+
+// Fails the running test over what a machine has left.
+void FailOver(const std::vector<std::string>& left)
+{
+    constexpr std::size_t most = 20; // of the thousands of a property test
+    // Outside of a test, as in a bench, there is nobody to fail.
+    if (!MachinesAreStrict || ::testing::UnitTest::GetInstance()->current_test_info() == nullptr)
+        return;
+    for (std::size_t place = 0; place < std::min(left.size(), most); ++place)
+        ADD_FAILURE() << "On the scripted machine " << left[place];
+    if (left.size() > most)
+        ADD_FAILURE() << "and " << left.size() - most << " more";
+}
+
 std::chrono::sys_seconds PointOf(double days)
 {
     using namespace std::chrono;
@@ -120,12 +147,63 @@ ScriptedPlatform::~ScriptedPlatform()
 {
     std::error_code ignored;
     fs::remove_all(folder, ignored);
+    FailOver(LeftOver());
 }
 
 std::vector<Box> ScriptedPlatform::TakeBoxes()
 {
     waitAtBoxes.clear();
+    seenBoxes = 0;
     return std::exchange(boxes, {});
+}
+
+void ScriptedPlatform::ClearSeenBoxes()
+{
+    FailOver(UnseenBoxes());
+    (void)TakeBoxes();
+}
+
+void ScriptedPlatform::ForgetBoxes(std::string_view /*why*/) { (void)TakeBoxes(); }
+
+std::vector<std::string> ScriptedPlatform::UnseenBoxes() const
+{
+    std::vector<std::string> unseen;
+    for (std::size_t place = seenBoxes; place < boxes.size(); ++place)
+        unseen.push_back(Joined("nobody looked at ", boxes[place]));
+    return unseen;
+}
+
+std::vector<std::string> ScriptedPlatform::LeftOver() const
+{
+    std::vector<std::string> left = UnseenBoxes();
+    const auto note = [&left](const auto&... words) { left.push_back(Joined(words...)); };
+    for (const std::size_t place : unansweredQuestions)
+        if (place >= seenQuestions)
+            note("nobody expected ", questions[place]);
+    for (const std::size_t place : unansweredDialogs)
+        if (place >= seenDialogs)
+            note("nobody expected a dialog in \"", dialogs[place].first, "\" for \"", dialogs[place].second, '"');
+    for (const int button : buttons)
+        note("nobody took the answer of button ", button);
+    for (const std::string& text : typed)
+        note("nobody took the answer \"", text, '"');
+    for (const std::string& path : chosen)
+        note("nobody took the choice of \"", path, '"');
+    for (const int number : unmetFailures)
+        note("no file operation met failure ", number);
+    if (FailureIsAhead())
+        note("no file operation met failure ", failNumber);
+    if (SaveSettingFailure != 0 && !settingFailed)
+        note("no setting met failure ", SaveSettingFailure);
+    return left;
+}
+
+void ScriptedPlatform::FailFileOperation(std::size_t n, int number)
+{
+    if (FailureIsAhead())
+        unmetFailures.push_back(failNumber);
+    failAt = operations.size() + n;
+    failNumber = number;
 }
 
 std::vector<News> ScriptedPlatform::TakeNews() { return std::exchange(news, {}); }
@@ -151,12 +229,16 @@ int ScriptedPlatform::MessageBox(const std::string& text, int kind, const std::s
 
 std::string ScriptedPlatform::InputBox(const std::string& prompt, const std::string& title, const std::string& text)
 {
+    if (typed.empty())
+        unansweredQuestions.insert(questions.size());
     questions.push_back({prompt, title, text});
     return Next(typed, std::string());
 }
 
 std::string ScriptedPlatform::OpenFileDialog(const std::string& startFolder, const std::string& filter)
 {
+    if (chosen.empty())
+        unansweredDialogs.insert(dialogs.size());
     dialogs.emplace_back(startFolder, filter);
     if (chosen.empty())
         Fail(failure::Cancelled);
@@ -172,8 +254,10 @@ std::string ScriptedPlatform::GetSetting(const std::string& section, const std::
 
 void ScriptedPlatform::SaveSetting(const std::string& section, const std::string& key, const std::string& value)
 {
-    if (SaveSettingFailure != 0)
+    if (SaveSettingFailure != 0) {
+        settingFailed = true;
         throw SettingsFailure(SaveSettingFailure, InFolder("Settings"));
+    }
     if (section == "Settings")
         Settings[key] = value;
     Tell("setting " + key);

@@ -6,7 +6,10 @@
 #include <functional>
 #include <iosfwd>
 #include <map>
+#include <set>
 #include <string>
+#include <string_view>
+#include <utility>
 #include <vector>
 
 namespace dravik {
@@ -41,7 +44,8 @@ struct News {
 std::ostream& operator<<(std::ostream& out, const News& news);
 
 // A machine that answers from a script and records what it was asked. Files are real ones, in a folder of the test's own
-// that is removed with it; any file operation can be made to fail.
+// that is removed with it; any file operation can be made to fail. It is strict: at its end it fails the test that it
+// belongs to over whatever `LeftOver` says.
 class ScriptedPlatform : public DiskFiles {
 public:
     ScriptedPlatform();
@@ -53,13 +57,34 @@ public:
     void Type(const std::string& text) { typed.push_back(text); }
     void Choose(const std::string& path) { chosen.push_back(path); }
 
-    // What was shown and asked so far. `Boxes` clears nothing; `TakeBoxes` does.
-    [[nodiscard]] const std::vector<Box>& Boxes() const { return boxes; }
-    std::vector<Box> TakeBoxes();
+    // What was shown and asked so far; who asks for it has looked at it. `Boxes` clears nothing; `TakeBoxes` does.
+    [[nodiscard]] const std::vector<Box>& Boxes() const
+    {
+        seenBoxes = boxes.size();
+        return boxes;
+    }
+    [[nodiscard]] std::vector<Box> TakeBoxes();
+    // Clears the boxes that were looked at, and fails the running test over any that nobody looked at.
+    void ClearSeenBoxes();
+    // Throws away what was shown so far, whatever it is, for the reason `why`: only for a test that shows boxes by the
+    // hundred on its way to something else.
+    void ForgetBoxes(std::string_view why);
     // Whether the wait screen was up while each of these boxes was shown.
     [[nodiscard]] const std::vector<bool>& WaitAtBoxes() const { return waitAtBoxes; }
-    [[nodiscard]] const std::vector<Question>& Questions() const { return questions; }
-    [[nodiscard]] const std::vector<std::pair<std::string, std::string>>& Dialogs() const { return dialogs; }
+    [[nodiscard]] const std::vector<Question>& Questions() const
+    {
+        seenQuestions = questions.size();
+        return questions;
+    }
+    [[nodiscard]] const std::vector<std::pair<std::string, std::string>>& Dialogs() const
+    {
+        seenDialogs = dialogs.size();
+        return dialogs;
+    }
+
+    // In words: the boxes, and the questions and dialogs without an answer in the script, that nobody has looked at; the
+    // answers that nobody took, and the failures that nobody met.
+    [[nodiscard]] std::vector<std::string> LeftOver() const;
 
     // What news and log were told so far, in order; `TakeNews` clears it. `ErasedPlayers` are pairs of id and team.
     [[nodiscard]] const std::vector<News>& ToldNews() const { return news; }
@@ -67,13 +92,10 @@ public:
     [[nodiscard]] const std::vector<std::pair<int, int>>& ErasedPlayers() const { return erased; }
 
     // The file operations done so far, by name ("open", "create", "read", "write", "flush", "close", "length", "rename",
-    // "delete", "find"). From the n-th on (counted from 1), or only then, they fail with `number`.
+    // "delete", "find"). From the n-th on (counted from 1), or only then, they fail with `number`. `FailNoMore` takes back
+    // a failure that no operation has met yet.
     [[nodiscard]] const std::vector<std::string>& FileOperations() const { return operations; }
-    void FailFileOperation(std::size_t n, int number)
-    {
-        failAt = operations.size() + n;
-        failNumber = number;
-    }
+    void FailFileOperation(std::size_t n, int number);
     void FailAllFrom(std::size_t n, int number)
     {
         FailFileOperation(n, number);
@@ -137,6 +159,9 @@ public:
 
 private:
     void Tell(const std::string& event);
+    [[nodiscard]] std::vector<std::string> UnseenBoxes() const;
+    // Whether a file operation is to fail that has not come yet.
+    [[nodiscard]] bool FailureIsAhead() const { return failAt > operations.size(); }
 
     std::string folder;
     std::deque<int> buttons;
@@ -146,12 +171,19 @@ private:
     std::vector<bool> waitAtBoxes;
     std::vector<Question> questions;
     std::vector<std::pair<std::string, std::string>> dialogs;
+    std::set<std::size_t> unansweredQuestions; // by their places
+    std::set<std::size_t> unansweredDialogs;
+    mutable std::size_t seenBoxes = 0; // and those before it have been looked at
+    mutable std::size_t seenQuestions = 0;
+    mutable std::size_t seenDialogs = 0;
     std::vector<News> news;
     std::vector<std::pair<int, int>> erased;
     std::vector<std::string> operations;
     std::size_t failAt = 0;
     int failNumber = 0;
     bool failOn = false;
+    std::vector<int> unmetFailures; // replaced by another one before an operation met them
+    bool settingFailed = false;
 };
 
 } // namespace dravik
