@@ -59,6 +59,7 @@ TEST_F(JudgeLogTest, ARosterIsNotLoggedUnlessAskedFor)
     LeagueData.RequiredCenters = 5;
     EXPECT_FALSE(CheckRoster(5, false, false, true));
     EXPECT_THAT(Machine.ToldNews(), IsEmpty());
+    EXPECT_THAT(Machine.Boxes(), ElementsAre(Box{box::Warning, LastRosterText()}));
 }
 
 TEST_F(JudgeLogTest, ACompleteRosterIsNotLogged)
@@ -138,10 +139,16 @@ TEST_F(JudgeLogTest, TheFarmsLinesAreLoggedUnderTheFarmsNameAndTheTeams)
 
 TEST_F(JudgeLogTest, LinesAreNotLoggedUnlessAskedFor)
 {
+    const auto expectShown = [this] {
+        EXPECT_THAT(Machine.TakeBoxes(), ElementsAre(Box{box::Information, LastLinesText()}));
+    };
     EXPECT_FALSE(CheckLine(5, true, 1, false));
+    expectShown();
     (void)CheckLineFarm(5, true, 1, false);
+    expectShown();
     LeagueData.FarmRosterRequired = true;
     (void)CheckLineFarm(5, true, 1, false);
+    expectShown();
     EXPECT_THAT(Machine.ToldNews(), IsEmpty());
 }
 

@@ -103,7 +103,8 @@ TEST_F(LineGroupsTest, ANumberOutsideTheTableFailsAndSoDoesALineThatIsNone)
     Teams[1].ProLines[1].NormalForward(3, 1) = 20000;
     EXPECT_EQ(failureOf(NormalLines, 3), failure::OutOfRange);
     EXPECT_NE(failureOf(NormalLines, 2), failure::OutOfRange);
-    (void)Machine.TakeBoxes();
+    const Box failed{box::Critical, "Integrity Check Failed!"};
+    EXPECT_EQ(Machine.Boxes(), std::vector(5, failed)) << "of the placeholder in each slot of line 2";
 }
 
 } // namespace

@@ -342,6 +342,14 @@ protected:
                                    : CheckLineFarm(Us, showMessage, day, false);
     }
 
+    // Asked for no message, a judge tells nothing but the slot that he fails at.
+    void ExpectNothingToldButAFailure()
+    {
+        const Box failed{16, std::string("9 - Subscript out of range in ") +
+                                 (judge == Judge::Lenient ? "CheckLineFarm!" : "CheckLine!")};
+        EXPECT_THAT(Machine.TakeBoxes(), ::testing::AnyOf(IsEmpty(), ElementsAre(failed)));
+    }
+
     // The records that a judge could reach, in one run of bytes.
     static std::string People()
     {
@@ -396,6 +404,7 @@ TEST_F(LineJudgePropertyTest, NobodyIsMovedAndTheOtherTeamKeepsItsLines)
         const std::string people = People();
         const std::string others = Bytes(Teams[Them]);
         (void)RunJudge(false);
+        ExpectNothingToldButAFailure();
         EXPECT_EQ(People(), people);
         EXPECT_EQ(Bytes(Teams[Them]), others);
         if (HasFailure())
@@ -410,9 +419,10 @@ TEST_F(LineJudgePropertyTest, CompleteLinesStayUntouched)
         SCOPED_TRACE(seed);
         MakeLeague(seed);
         const std::string before = Bytes(Teams[Us]);
-        (void)Machine.TakeBoxes();
-        if (!RunJudge(false))
+        if (!RunJudge(false)) {
+            ExpectNothingToldButAFailure();
             continue;
+        }
         ++complete;
         EXPECT_EQ(LastLinesText(), "Lines are perfect!");
         EXPECT_EQ(Bytes(Teams[Us]), before);
@@ -430,7 +440,10 @@ TEST_F(LineJudgePropertyTest, ASecondCallRepairsNothing)
         MakeLeague(seed);
         (void)RunJudge(false);
         const std::string repaired = Bytes(Teams[Us]);
+        const std::vector<Box> told = Machine.Boxes();
+        ExpectNothingToldButAFailure();
         (void)RunJudge(false);
+        EXPECT_EQ(Machine.TakeBoxes(), told);
         EXPECT_EQ(Bytes(Teams[Us]), repaired);
         if (HasFailure())
             break;
@@ -446,6 +459,7 @@ TEST_F(LineJudgePropertyTest, EveryByteOfTheTeamStaysOrBecomesZero)
         MakeLeague(seed);
         const std::string before = Bytes(Teams[Us]);
         (void)RunJudge(false);
+        ExpectNothingToldButAFailure();
         const std::string after = Bytes(Teams[Us]);
         for (std::size_t at = 0; at < after.size(); ++at)
             EXPECT_TRUE(after[at] == before[at] || after[at] == 0);

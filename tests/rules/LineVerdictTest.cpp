@@ -296,6 +296,9 @@ TEST_F(LineVerdictTest, TheLogTakesTheTeamTheFarmToldByBothNames)
     EXPECT_FALSE(CheckLine(5, true, 1, false));
     EXPECT_FALSE(CheckLineFarm(5, true, 1, false));
     EXPECT_THAT(Machine.TakeNews(), IsEmpty());
+    const std::string empty = "Starting Goaler is empty.\r\n";
+    EXPECT_THAT(Machine.Boxes(),
+                ElementsAre(Box{64, empty + "Some errors will be automatically fixed.\r\n"}, Box{64, empty}));
 }
 
 } // namespace

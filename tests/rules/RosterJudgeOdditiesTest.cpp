@@ -73,6 +73,7 @@ TEST_F(RosterJudgeOdditiesTest, AFarmSkaterInAGoaliesPositionIsNoFarmGoalie)
     EXPECT_FALSE(CheckRoster(5, false, false, false));
     EXPECT_EQ(LastRosterText(),
               RosterError("Team 5", {"Not enough Goalie available in Pro and Farm Team! 3 Dressed. 4 Required."}));
+    EXPECT_THAT(Machine.Boxes(), ElementsAre(Box{box::Critical, "Skater 37 has no position!"}));
 }
 
 // ---- Failures ------------------------------------------------------------------------------------------------------
@@ -141,6 +142,7 @@ TEST_F(RosterJudgeOdditiesTest, ARefusedTeamLeavesEveryByteOfTheTables)
         for (const bool withSalaryCap : {false, true}) {
             EXPECT_FALSE(CheckRoster(team, false, withSalaryCap, true)) << team;
             EXPECT_TRUE(tables() == before) << team;
+            EXPECT_THAT(Machine.TakeBoxes(), ElementsAre(Box{box::Critical, "Integrity Check Failed!"})) << team;
         }
 }
 
@@ -153,6 +155,7 @@ TEST_F(RosterJudgeOdditiesTest, TheLastTeamIsJudgedLikeAnyOther)
     Players[last.Skaters[0]].Condition = 50;
     LeagueData.RequiredCenters = 0;
     EXPECT_FALSE(CheckRoster(100, false, false, true));
+    EXPECT_THAT(Machine.Boxes(), ElementsAre(Box{box::Warning, LastRosterText()}));
     EXPECT_EQ(Players[last.Skaters[0]].Status, 1);
     EXPECT_EQ(RosterFixed, 1);
 }

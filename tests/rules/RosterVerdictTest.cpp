@@ -104,6 +104,7 @@ TEST_F(RosterVerdictTest, AJudgementThatBreaksOffKeepsWhatItFoundByThenWithoutHe
               "Not enough Centers available in Pro Team! 4 Dressed. 5 Required.\r\n"
               "Not enough Left Wings available in Pro Team! 4 Dressed. 16384 Required.\r\n"
               "Not enough Centers available in Pro and Farm Team! 4 Dressed. 10 Required.\r\n");
+    EXPECT_THAT(Machine.Boxes(), ElementsAre(Box{box::Critical, "6 - Overflow in CheckRoster!"}));
 }
 
 TEST_F(RosterVerdictTest, ATeamOutOfRangeHasNeitherFindingsNorPayroll)
@@ -113,7 +114,7 @@ TEST_F(RosterVerdictTest, ATeamOutOfRangeHasNeitherFindingsNorPayroll)
     EXPECT_FALSE(verdict.Failed);
     EXPECT_THAT(verdict.Findings, IsEmpty());
     EXPECT_FALSE(verdict.Cap);
-    (void)Machine.TakeBoxes();
+    EXPECT_THAT(Machine.Boxes(), ElementsAre(Box{box::Critical, "Integrity Check Failed!"}));
 }
 
 TEST_F(RosterVerdictTest, ThePayrollIsJudgedBesideAndSaysByHowMuch)

@@ -14,6 +14,7 @@ namespace dravik {
 namespace {
 
 using ::testing::ElementsAre;
+using ::testing::IsEmpty;
 
 // A team with a pro payroll of 3000000, a farm payroll of 200000 and a coach of 500000.
 class SalaryCapTest : public SmallLeague {
@@ -232,11 +233,15 @@ TEST_F(SalaryCapTest, TheTextOfTheLastJudgementIsKeptWhetherShownOrNot)
     const std::string text = "Team 5 is over the salary cap by $1.00!\r\nFarm 5 is over the salary cap by $1.00!\r\n";
     CheckSalaryCap(5, false);
     EXPECT_EQ(LastCapText(), text);
+    EXPECT_THAT(Machine.Boxes(), IsEmpty());
     CheckSalaryCap(5, true);
     EXPECT_EQ(LastCapText(), text);
+    EXPECT_THAT(Machine.TakeBoxes(), ElementsAre(Box{box::Warning, "Team 5 is over the salary cap by $1.00!"},
+                                                 Box{box::Warning, "Farm 5 is over the salary cap by $1.00!"}));
     LeagueData.SalaryCapMode = 0;
     CheckSalaryCap(5, true);
     EXPECT_EQ(LastCapText(), "");
+    EXPECT_THAT(Machine.Boxes(), IsEmpty());
 }
 
 TEST_F(SalaryCapTest, ARosterJudgementThatBreaksOffBeforeThePayrollLeavesNoOlderText)
