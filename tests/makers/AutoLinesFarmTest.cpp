@@ -23,7 +23,6 @@ protected:
 
     std::vector<Box> Run(bool verbose = true)
     {
-        (void)Machine.TakeBoxes();
         AutoLinesFarm(5, verbose, 3);
         return Machine.TakeBoxes();
     }

@@ -49,7 +49,6 @@ protected:
 
     std::vector<Box> Run(bool verbose = true)
     {
-        (void)Machine.TakeBoxes();
         AutoLinesPartial(5, verbose, 3);
         return Machine.TakeBoxes();
     }

@@ -39,7 +39,6 @@ protected:
 
     std::vector<Box> Run(bool verbose = true)
     {
-        (void)Machine.TakeBoxes();
         AutoLines(5, verbose, 3);
         return Machine.TakeBoxes();
     }
@@ -559,6 +558,7 @@ TEST_F(AutoLinesTest, OneTiredGoalieGivesTheStartToNobody)
     DealGoaliesByCondition(run, Day);
     EXPECT_EQ(Day.StartGoalie, 0);
     EXPECT_EQ(Day.BackupGoalie, 1);
+    EXPECT_THAT(Machine.Boxes(), ElementsAre(IntegrityFailed));
 }
 
 TEST_F(AutoLinesTest, AMissingGoalieWhoseRecordIsNotInUseIsToldTwiceAndRefused)

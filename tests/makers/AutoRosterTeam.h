@@ -22,7 +22,6 @@ protected:
 
     std::vector<Box> Run(bool verbose = true, bool partial = false)
     {
-        (void)Machine.TakeBoxes();
         AutoRoster(5, verbose, partial);
         return Machine.TakeBoxes();
     }

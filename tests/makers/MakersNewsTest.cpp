@@ -82,6 +82,7 @@ TEST_F(MakersNewsTest, LinesTellThatTheyHaveBeenMade)
 {
     AutoLines(5, true, 1);
     EXPECT_THAT(Machine.TakeNews(), ElementsAre(LinesHaveRun));
+    EXPECT_THAT(Machine.TakeBoxes(), ElementsAre(Box{64, "Auto Lines Function has been run successfully."}));
     AutoLines(5, false, 1);
     EXPECT_THAT(Machine.TakeNews(), ElementsAre(LinesHaveRun));
 }
@@ -92,6 +93,9 @@ TEST_F(MakersNewsTest, LinesThatNeedARosterTellOfItFirst)
     AutoLines(5, true, 1);
     EXPECT_THAT(Machine.TakeNews(),
                 ElementsAre(News{"league", "Skater 4 of Team 5 was sent to pro."}, RosterHasRun, LinesHaveRun));
+    EXPECT_THAT(Machine.Boxes(), ElementsAre(Box{64, "Roster for Team 5 is incomplete!\r\n"
+                                                     "Trying Auto Rosters Function for Team 5."},
+                                             Box{64, "Auto Lines Function has been run successfully."}));
 }
 
 TEST_F(MakersNewsTest, RepairedLinesHaveTheirOwnWords)
@@ -111,7 +115,6 @@ TEST_F(MakersNewsTest, ARepairThatLeavesAHoleIsNotTold)
         Players[id].Position = position::Center;
     LeagueData.RequiredDefensemen = 0;
     Machine.TakeNews();
-    (void)Machine.TakeBoxes();
     Teams[5].ProLines[1].NormalDefense(1, 1) = 0;
     AutoLinesPartial(5, false, 1);
     EXPECT_THAT(Machine.TakeBoxes(), ElementsAre(Box{64, "Auto Lines Partial Function Error."}));

@@ -155,19 +155,29 @@ template <bool Judge(int, bool, int, bool)>
 std::string JudgedDays(int team)
 {
     std::string text;
-    for (int day = 1; day <= 10; ++day)
-        text += Truth(Judge(team, day % 2 == 0, day, day % 3 == 0)) + ": " + LastLinesText() + '\n';
+    for (int day = 1; day <= 10; ++day) {
+        text += Truth(Judge(team, day % 2 == 0, day, day % 3 == 0)) + ": ";
+        text += LastLinesText() + '\n';
+    }
     return text;
 }
 
 constexpr Routine Routines[] = {
-    {"CheckRoster", [](int team) { return Truth(CheckRoster(team, true, false, true)) + LastRosterText(); }},
+    {"CheckRoster",
+     [](int team) {
+         const bool complete = CheckRoster(team, true, false, true);
+         return Truth(complete) + LastRosterText();
+     }},
     {"CheckRosterWithCap",
      [](int team) {
          const bool complete = CheckRoster(team, false, true, false);
          return Truth(complete) + LastRosterText() + LastCapText() + std::to_string(RosterFixed);
      }},
-    {"CheckSalaryCap", [](int team) { return Truth(CheckSalaryCap(team, true)) + LastCapText(); }},
+    {"CheckSalaryCap",
+     [](int team) {
+         const bool within = CheckSalaryCap(team, true);
+         return Truth(within) + LastCapText();
+     }},
     {"CheckLine", JudgedDays<CheckLine>},
     {"CheckLineFarm", JudgedDays<CheckLineFarm>},
     {"CheckLineEmpty", [](int team) { return Truth(CheckLineEmpty(OpenLeague, Machine(), team, 1)); }},
@@ -248,7 +258,6 @@ protected:
     // What one routine gives for a team, in eight digits.
     std::string Digest(const Routine& routine, int team)
     {
-        (void)Machine.TakeBoxes();
         RosterFixed = 0;
         Modified = false;
         std::string told = routine.Run(team);
