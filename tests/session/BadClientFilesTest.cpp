@@ -27,7 +27,7 @@ class BadClientFilesTest : public BadFiles {
 protected:
     void Open()
     {
-        (void)Machine.TakeBoxes();
+        Machine.ClearSeenBoxes();
         Machine.CloseWait();
         Machine.Settings.erase("LastLoadLeague");
         Window.Calls.clear();

@@ -42,6 +42,7 @@ TEST_F(ClientFileFailures, AWorkFileLeftBehindIsDeleted)
     WriteWhole(Machine.InFolder("Bad.dvs"), {1, 2, 3});
     Open(Machine.InFolder("Bad.dvs"));
     EXPECT_FALSE(WorkFileIsThere());
+    EXPECT_THAT(Machine.Boxes(), ElementsAre(Box{box::Critical, "File Integrity is incorrect!"}));
 }
 
 TEST_F(ClientFileFailures, AWrongStartMagicLeavesLeagueDataUntouched)
@@ -56,10 +57,9 @@ TEST_F(ClientFileFailures, AWrongStartMagicLeavesLeagueDataUntouched)
         bad[at] ^= 1U;
         WriteWhole(Machine.InFolder("League.dvs"), bad);
         ScrambleTables();
-        (void)Machine.TakeBoxes();
         Open(Machine.InFolder("League.dvs"));
-        EXPECT_THAT(Machine.Boxes(), ElementsAre(Box{box::Critical, "File Integrity is incorrect!"})) << at;
         EXPECT_THAT(Machine.WaitAtBoxes(), ElementsAre(false));
+        EXPECT_THAT(Machine.TakeBoxes(), ElementsAre(Box{box::Critical, "File Integrity is incorrect!"})) << at;
         EXPECT_TRUE(FiveTablesAreEmpty());
         EXPECT_TRUE(LeagueDataIsUntouched());
         EXPECT_TRUE(CoachesAreUntouched());
@@ -112,15 +112,14 @@ TEST_F(ClientFileFailures, SkipZIPClientIsTrimmedAndItsCaseDoesNotMatter)
     const std::string path = SavePlain();
     for (const char* yes : {"YES", "yes", "  Yes "}) {
         Machine.Settings["SkipZIPClient"] = yes;
-        (void)Machine.TakeBoxes();
         Open(path);
-        EXPECT_THAT(Machine.Boxes(), IsEmpty()) << yes;
+        EXPECT_THAT(Machine.TakeBoxes(), IsEmpty()) << yes;
     }
     for (const char* no : {"", "No", "Y", "YES!", "-1", "True"}) {
         Machine.Settings["SkipZIPClient"] = no;
-        (void)Machine.TakeBoxes();
         Open(path);
-        EXPECT_THAT(Machine.Boxes(), ElementsAre(Box{box::Critical, "9 - Subscript out of range in Zlib Decompress!"}))
+        EXPECT_THAT(Machine.TakeBoxes(),
+                    ElementsAre(Box{box::Critical, "9 - Subscript out of range in Zlib Decompress!"}))
             << no;
     }
 }
@@ -174,14 +173,13 @@ TEST_F(ClientFileFailures, AFileThatCannotBeReadToItsEndChangesNothingOutsideThe
         };
         // Three operations find the file and one opens it. The last read comes when the coaches have long been read.
         for (const std::size_t read : {std::size_t{1}, std::size_t{2}, reads / 2, reads}) {
-            (void)Machine.TakeBoxes();
             Machine.CloseWait();
             Machine.FailFileOperation(4 + read, failure::PathAccess);
             Open(path);
             EXPECT_EQ(Machine.FileOperations().back(), "read");
             const std::string ending = plain ? " in OpenLeagueClient!" : " in Zlib Decompress!";
-            EXPECT_THAT(Machine.Boxes(), ElementsAre(Box{box::Critical, "75 - Path/File access error" + ending}));
             EXPECT_THAT(Machine.WaitAtBoxes(), ElementsAre(true));
+            EXPECT_THAT(Machine.TakeBoxes(), ElementsAre(Box{box::Critical, "75 - Path/File access error" + ending}));
             EXPECT_TRUE(Machine.WaitShown) << "the wait screen stays up";
             ExpectNothingRead();
             EXPECT_THAT(Window.Calls, IsEmpty());
@@ -195,17 +193,15 @@ TEST_F(ClientFileFailures, AFileDateThatIsNoDateEndsInTheCommonFailureMessage)
     for (const double date :
          {1e300, -1e300, std::numeric_limits<double>::quiet_NaN(), 2958466.0, -657435.0, 2958465.999995}) {
         LeagueData.FileDate = date;
-        (void)Machine.TakeBoxes();
         Window.Calls.clear();
         Open(SavePlain());
-        EXPECT_THAT(Machine.Boxes(), ElementsAre(Box{box::Critical, "6 - Overflow in OpenLeagueClient!"}));
+        EXPECT_THAT(Machine.TakeBoxes(), ElementsAre(Box{box::Critical, "6 - Overflow in OpenLeagueClient!"}));
         EXPECT_EQ(Window.Calls.back(), "date Client File Date : ") << "everything before the date is shown";
     }
     for (const double date : {2958465.0, 2958465.99999, -657434.0}) {
         LeagueData.FileDate = date;
-        (void)Machine.TakeBoxes();
         Open(SavePlain());
-        EXPECT_THAT(Machine.Boxes(), IsEmpty());
+        EXPECT_THAT(Machine.TakeBoxes(), IsEmpty());
     }
     LeagueData.FileDate = 2958465.99999;
     Open(SavePlain());

@@ -22,7 +22,7 @@ protected:
     void Open(const ByteVector& file)
     {
         WriteWhole(ClientPath, file);
-        (void)Machine.TakeBoxes();
+        Machine.ClearSeenBoxes();
         Machine.CloseWait();
         Window.Calls.clear();
         OpenLeagueClient(ClientPath, Window);
@@ -80,6 +80,7 @@ TEST_F(DamagedFilesTest, TheLineStaysUntilAnotherFileOpens)
     Open(WithWrongChecksum(good));
     Open({1, 2, 3});
     EXPECT_FALSE(Opened());
+    EXPECT_THAT(Machine.Boxes(), ElementsAre(Box{box::Critical, "9 - Subscript out of range in Zlib Decompress!"}));
     EXPECT_THAT(Window.Quiet, ElementsAre(::testing::Pair(QuietLine::Damaged, DamagedWords)));
     Open(good);
     EXPECT_TRUE(Opened());

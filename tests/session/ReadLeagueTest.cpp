@@ -123,13 +123,12 @@ TEST_F(ReadLeagueTest, AFileDateThatIsNoDateIsToldAndLeavesTheLeagueWhole)
     for (const double date : {1e300, 1e9, -1e9, std::numeric_limits<double>::quiet_NaN(),
                               std::numeric_limits<double>::infinity(), 2958466.0, -657435.0}) {
         SCOPED_TRACE(date);
-        (void)Machine.TakeBoxes();
         Window.Calls.clear();
         LeagueData.FileDate = date;
         const std::string path = SaveLeagueOverAnother();
         Open(path);
-        EXPECT_THAT(Machine.Boxes(), ElementsAre(Box{box::Critical, "6 - Overflow in OpenLeagueClient!"}));
         EXPECT_THAT(Machine.WaitAtBoxes(), ElementsAre(false));
+        EXPECT_THAT(Machine.TakeBoxes(), ElementsAre(Box{box::Critical, "6 - Overflow in OpenLeagueClient!"}));
         EXPECT_EQ(Machine.Settings["LastLoadLeague"], path);
         ASSERT_EQ(Window.Calls.size(), 7U);
         EXPECT_EQ(Window.Calls.back(), "date Client File Date : ") << "no date of another file stays";
@@ -166,14 +165,13 @@ TEST_F(ReadLeagueTest, WhateverFailsWhileALeagueIsShownTheTablesAreWhole)
     const std::string path = SaveLeagueOverAnother();
     for (int step = 1; step <= 8; ++step) {
         SCOPED_TRACE(step);
-        (void)Machine.TakeBoxes();
         Players[0].Name = "Before";
         for (RosterChange& change : RosterChanges)
             change.Protected = true;
         FailingWindow window;
         window.FailAt = step;
         OpenLeagueClient(path, window);
-        EXPECT_THAT(Machine.Boxes(), ElementsAre(Box{box::Critical, "7 - Out of memory in OpenLeagueClient!"}));
+        EXPECT_THAT(Machine.TakeBoxes(), ElementsAre(Box{box::Critical, "7 - Out of memory in OpenLeagueClient!"}));
         ExpectThatLeagueWhole();
     }
 }
