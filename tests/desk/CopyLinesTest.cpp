@@ -85,10 +85,13 @@ TEST_F(CopyLinesTest, ANoCopiesNothing)
     Machine.Type("3");
     Machine.Answer(button::No);
     CopyLinesToDay(OpenWork(), Own, Side::Pro, 1, 10);
-    EXPECT_EQ(Machine.TakeBoxes().size(), 1U);
+    EXPECT_THAT(Machine.TakeBoxes(),
+                ElementsAre(Box{box::YesNo, "Are you want to you want to copy the lines from day 1 to day 3?"}));
     Machine.Answer(button::No);
     CopyLinesToAllDays(OpenWork(), Own, Side::Pro, 1);
-    EXPECT_EQ(Machine.TakeBoxes().size(), 1U);
+    EXPECT_THAT(Machine.TakeBoxes(),
+                ElementsAre(Box{box::YesNo,
+                                "Are you want to you want to copy the lines from day 1 to day all the others day?"}));
     EXPECT_TRUE(IsAsExpected());
 }
 
@@ -154,6 +157,10 @@ TEST_F(CopyLinesTest, ADayInTheMiddleIsCopiedBothWays)
             ExpectCopied(Side::Farm, 4, day);
     EXPECT_TRUE(IsAsExpected());
     EXPECT_EQ(Day(Side::Farm, 1).StartGoalie, 0);
+    EXPECT_THAT(
+        Machine.Boxes(),
+        ElementsAre(Box{box::YesNo, "Are you want to you want to copy the lines from day 4 to day all the others day?"},
+                    Box{box::Information, "Lines 4 was successfully copy to day all the others day."}));
 }
 
 TEST_F(CopyLinesTest, AQuestionThatCannotBeAskedCopiesNothing)
@@ -192,6 +199,8 @@ TEST_F(CopyLinesTest, WhatWasCopiedBeforeTheLastBoxFailedStays)
               failure::OutOfMemory);
     ExpectCopied(Side::Pro, 1, 3);
     EXPECT_TRUE(IsAsExpected());
+    EXPECT_THAT(failing.Boxes(),
+                ElementsAre(Box{box::YesNo, "Are you want to you want to copy the lines from day 1 to day 3?"}));
 }
 
 } // namespace

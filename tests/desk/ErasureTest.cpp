@@ -66,13 +66,14 @@ TEST_F(ErasureTest, WithoutATeamOneQuestionIsEnough)
 
 TEST_F(ErasureTest, AnythingButYesKeepsHim)
 {
+    const auto questions = QuestionsAbout("Ward Tilton", "player");
     for (const int refusal : {button::No, button::Cancel}) {
         Answer({refusal});
         EXPECT_FALSE(ErasePerson(OpenWork(), Skater, 2));
-        EXPECT_EQ(Machine.TakeBoxes().size(), 1U);
+        EXPECT_THAT(Machine.TakeBoxes(), ElementsAre(questions[0]));
         Answer({button::Yes, refusal});
         EXPECT_FALSE(ErasePerson(OpenWork(), Skater, 2));
-        EXPECT_EQ(Machine.TakeBoxes().size(), 2U);
+        EXPECT_THAT(Machine.TakeBoxes(), ElementsAre(questions[0], questions[1]));
     }
     EXPECT_THAT(Machine.TakeNews(), IsEmpty());
     EXPECT_THAT(Machine.ErasedPlayers(), IsEmpty());
@@ -83,13 +84,14 @@ TEST_F(ErasureTest, AnImpossibleTeamFailsWith9BehindTheFirstQuestion)
 {
     Tilton.Team = 101;
     EXPECT_EQ(NumberOfFailure([&] { ErasePerson(OpenWork(), Skater, 2); }), failure::OutOfRange);
-    EXPECT_EQ(Machine.TakeBoxes().size(), 1U);
+    EXPECT_THAT(Machine.TakeBoxes(), ElementsAre(Box{box::YesNo, "Are you sure you want to erase Ward Tilton?"}));
     EXPECT_THAT(Machine.ErasedPlayers(), IsEmpty());
     EXPECT_FALSE(Modified);
 }
 
 TEST_F(ErasureTest, AQuestionThatCannotBeAskedKeepsHim)
 {
+    const auto questions = QuestionsAbout("Ward Tilton", "player");
     for (int asked = 0; asked < 3; ++asked) {
         class FailsAt final : public ScriptedPlatform {
         public:
@@ -108,6 +110,7 @@ TEST_F(ErasureTest, AQuestionThatCannotBeAskedKeepsHim)
                       ErasePerson({OpenLeague, machine, machine, Modified}, Skater, 2);
                   }),
                   failure::Overflow);
+        EXPECT_EQ(machine.Boxes(), std::vector(questions.begin(), questions.begin() + asked));
         EXPECT_THAT(machine.ToldNews(), IsEmpty());
         EXPECT_THAT(machine.ErasedPlayers(), IsEmpty());
     }

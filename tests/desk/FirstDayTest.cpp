@@ -47,7 +47,7 @@ TEST_F(FirstDayTest, TheJudgeRepairsAsAlways)
     WarnOfFirstDay(OpenWork(), Own, Side::Pro);
     ExpectedDay(Side::Pro).StartGoalie = 0;
     EXPECT_TRUE(IsAsExpected());
-    EXPECT_EQ(Machine.TakeBoxes().size(), 1U);
+    EXPECT_THAT(Machine.Boxes(), ElementsAre(Box{box::Warning, "Lines for Day #1 are Incomplete!"}));
 }
 
 TEST_F(FirstDayTest, AJudgementThatFailsIsToldAndWarnedOf)

@@ -70,7 +70,8 @@ TEST_F(LineCandidatesTest, ASkaterWithoutAPositionIsToldAndLeftOut)
                                                  Box{box::Critical, "Skater 9 has no position!"}));
     Players[9].Condition = 50;
     Visited(Side::Pro);
-    EXPECT_EQ(Machine.TakeBoxes().size(), 1U); // nobody asks for the position of somebody unfit
+    EXPECT_THAT(Machine.TakeBoxes(), ElementsAre(Box{box::Critical, "Skater 3 has no position!"}))
+        << "nobody asks for the position of somebody unfit";
 }
 
 TEST_F(LineCandidatesTest, WhenTheBoxFailsThoseBeforeHimHaveBeenVisited)

@@ -67,6 +67,7 @@ TEST_F(LineMakersTest, AWordThatIsNotTrueLeavesThemOpen)
     LeagueData.AutoRosterDisabled.SetWord(1);
     EXPECT_FALSE(AreMakersClosed(LeagueData));
     EXPECT_TRUE(MakeDay(OpenWork(), Own, 2, Side::Pro).Done);
+    EXPECT_THAT(Machine.Boxes(), ElementsAre(Box{box::Information, "Auto Lines Function has been run successfully."}));
 }
 
 TEST_F(LineMakersTest, AnIncompleteRosterIsRefusedByTheMaker)

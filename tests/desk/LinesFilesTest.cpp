@@ -30,6 +30,15 @@ protected:
     {
         SaveLines(OpenWork(), OpenFiles(), Machine, Own, [this] { EndWait(); });
     }
+    [[nodiscard]] Box Saved() const
+    {
+        return {box::Information, "Lines file for Harbour City successfully save at\r\n" + target};
+    }
+    void SaveWell()
+    {
+        Save();
+        EXPECT_THAT(Machine.TakeBoxes(), ElementsAre(Saved()));
+    }
     void Load(const std::string& path)
     {
         LoadLines(
@@ -53,8 +62,7 @@ protected:
 TEST_F(LinesFilesTest, ASaveIsToldWithItsPathWhenTheWaitScreenIsGone)
 {
     Save();
-    EXPECT_THAT(Machine.Boxes(),
-                ElementsAre(Box{box::Information, "Lines file for Harbour City successfully save at\r\n" + target}));
+    EXPECT_THAT(Machine.Boxes(), ElementsAre(Saved()));
     EXPECT_THAT(Machine.WaitAtBoxes(), ElementsAre(false));
     EXPECT_EQ(Machine.WaitCount, 1);
     EXPECT_EQ(ends, 1);
@@ -83,9 +91,8 @@ TEST_F(LinesFilesTest, TheFarmsFirstDayIsNotAskedFor)
 {
     LeagueData.FarmRosterRequired = true;
     Day(Side::Farm) = {};
-    Save();
+    SaveWell();
     EXPECT_TRUE(std::filesystem::exists(target));
-    (void)Machine.TakeBoxes();
 }
 
 TEST_F(LinesFilesTest, AWrongPasswordEndsIt)
@@ -124,8 +131,7 @@ TEST_F(LinesFilesTest, AnyOtherFailureIsThrownWithTheWaitScreenTakenAway)
 TEST_F(LinesFilesTest, ALoadBringsTheTeamBackShowsItAndTells)
 {
     Teams[Own].City = "Harbour City";
-    Save();
-    (void)Machine.TakeBoxes();
+    SaveWell();
     Remember();
     Teams[Own].City = "Elsewhere";
     Day(Side::Pro) = {};
@@ -164,8 +170,7 @@ TEST_F(LinesFilesTest, AFileThatDoesNotInflateLeavesTheWaitScreenUp)
 
 TEST_F(LinesFilesTest, AScreenThatCannotBeShownAnewFailsBehindTheWait)
 {
-    Save();
-    (void)Machine.TakeBoxes();
+    SaveWell();
     EXPECT_EQ(FailureOfCommand([&] {
                   LoadLines(
                       OpenWork(), OpenFiles(), Machine, Own, target, [this] { EndWait(); },

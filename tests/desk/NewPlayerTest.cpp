@@ -96,7 +96,7 @@ TEST_F(NewPlayerTest, AGoalieIsMadeOfItsTextsAndFlags)
     EXPECT_EQ(Goalies[20].Rookie.Word(), 0);
     EXPECT_TRUE(before.DiffersOnlyIn(Goalies[20]));
     EXPECT_THAT(Machine.TakeNews(), ElementsAre(News{"league", "Lenny Brisk was created."}));
-    (void)Machine.TakeBoxes();
+    EXPECT_THAT(Machine.Boxes(), ElementsAre(Box{box::Information, "Lenny Brisk was successfully created!"}));
 }
 
 TEST_F(NewPlayerTest, EveryTextIsNeeded)
@@ -123,16 +123,18 @@ TEST_F(NewPlayerTest, ASkaterNeeds15RatingsAndAGoalie13)
             NewRecord missing = Brisk;
             missing.Ratings[rating].clear();
             EXPECT_FALSE(CreatePlayer(OpenWork(), {isGoalie, 20}, missing, [] {})) << rating;
+            EXPECT_THAT(Machine.TakeBoxes(), ElementsAre(Box{box::Warning, "Missing Field!"})) << rating;
         }
         NewRecord few = Brisk;
         few.Ratings.resize(needed - 1);
         EXPECT_FALSE(CreatePlayer(OpenWork(), {isGoalie, 20}, few, [] {}));
+        EXPECT_THAT(Machine.TakeBoxes(), ElementsAre(Box{box::Warning, "Missing Field!"}));
         EXPECT_TRUE(before.IsUntouched());
         few = Brisk;
         few.Ratings.resize(needed);
         EXPECT_TRUE(CreatePlayer(OpenWork(), {isGoalie, 20}, few, [] {}));
+        EXPECT_THAT(Machine.TakeBoxes(), ElementsAre(Box{box::Information, "Lenny Brisk was successfully created!"}));
     }
-    (void)Machine.TakeBoxes();
     Machine.TakeNews();
 }
 

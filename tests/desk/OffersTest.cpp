@@ -179,7 +179,7 @@ TEST_F(OffersTest, APersonWithoutAPlaceInTheTableFailsWith9)
         << "his limit was told by then";
     EXPECT_EQ(Salary("0", Skater(0)), Entered::NoChange);
     EXPECT_EQ(Salary("x", Skater(0)), Entered::Refused);
-    (void)Machine.TakeBoxes();
+    EXPECT_THAT(Machine.Boxes(), ElementsAre(Box{box::Warning, "No Valid Input!"}));
 }
 
 // ---- The salary ------------------------------------------------------------------------------------------------------
@@ -200,14 +200,13 @@ TEST_F(OffersTest, ASalaryOfZeroChangesNothing)
 {
     Salary("750000");
     for (const char* text : {"0", "00", "-0", "-", "--5", "0-7"}) {
-        (void)Machine.TakeBoxes();
         const bool isNumber = std::string_view(text).find_first_of("0123456789") != std::string_view::npos;
         EXPECT_TRUE(
             ChangesNothing([&] { EXPECT_EQ(Salary(text), isNumber ? Entered::NoChange : Entered::Refused) << text; }));
-        EXPECT_EQ(Machine.Boxes().empty(), isNumber) << text;
+        const Box told{box::Warning, "No Valid Input!"};
+        EXPECT_EQ(Machine.TakeBoxes(), isNumber ? std::vector<Box>{} : std::vector{told}) << text;
         EXPECT_THAT(Instead, IsEmpty());
     }
-    (void)Machine.TakeBoxes();
     EXPECT_EQ(First().Salary, 750000);
 }
 
@@ -420,7 +419,8 @@ TEST_F(OffersTest, AnOfferChangesNoByteOfTheLeague)
     Bonus("1");
     Comment("Come");
     EXPECT_EQ(std::memcmp(before.get(), &OpenLeague, sizeof(Tables)), 0);
-    (void)Machine.TakeBoxes();
+    EXPECT_THAT(Machine.Boxes(), ElementsAre(Box{box::Warning, "Maximum Salary is $10,000,000"},
+                                             Box{box::Warning, "Maximum Contract Duration is 9 years."}));
 }
 
 // ---- What it comes to ------------------------------------------------------------------------------------------------

@@ -55,9 +55,11 @@ TEST_F(PasswordCheckTest, ATypedBlankIsPartOfThePassword)
 
 TEST_F(PasswordCheckTest, CancelIsTheEmptyTextAndIsJudgedLikeAnyOther)
 {
+    Machine.Type("");
     EXPECT_FALSE(CheckPassword(5));
     EXPECT_THAT(Machine.TakeBoxes(), ElementsAre(Box{48, "Password is incorrect!"}));
     Teams[5].Password = "d41d8cd98f00b204e9800998ecf8427e"; // of the empty text
+    Machine.Type("");
     EXPECT_TRUE(CheckPassword(5));
     EXPECT_THAT(Machine.Boxes(), IsEmpty());
 }
@@ -85,6 +87,7 @@ TEST_F(PasswordCheckTest, ADamagedPasswordOfAnyOtherLengthIsNone)
 TEST_F(PasswordCheckTest, AnyThirtyTwoCharactersAreAPasswordEvenWhenNoDigestLooksSo)
 {
     Teams[5].Password = std::string(32, 'z');
+    Machine.Type("z");
     EXPECT_FALSE(CheckPassword(5));
     EXPECT_THAT(Machine.Boxes(), ElementsAre(Box{48, "Password is incorrect!"}));
 }
@@ -96,6 +99,7 @@ TEST_F(PasswordCheckTest, ASuccessIsNotRemembered)
     EXPECT_TRUE(CheckPassword(5));
     EXPECT_FALSE(CheckPassword(5));
     EXPECT_EQ(Machine.Questions().size(), 2U);
+    EXPECT_THAT(Machine.Boxes(), ElementsAre(Box{48, "Password is incorrect!"}));
 }
 
 TEST_F(PasswordCheckTest, ATeamOutside1To100FailsTheIntegrityCheck)
@@ -131,6 +135,7 @@ TEST_F(PasswordCheckTest, AFailingDigestIsToldAndIsNoPasswordEither)
         std::array<std::uint8_t, 16> Md5(std::string_view /*bytes*/) override { Fail(failure::OutOfMemory); }
     } machine;
     UseMachine(machine);
+    machine.Type("a");
     EXPECT_FALSE(CheckPassword(5));
     EXPECT_THAT(machine.Boxes(), ElementsAre(Box{16, "7 - Out of memory in Digest Str To HexStr Function!"},
                                              Box{48, "Password is incorrect!"}));

@@ -53,7 +53,7 @@ TEST_F(ReleaseTest, AGoalieIsAskedAboutAsAGoaler)
     EXPECT_EQ(Five.Cash, 5000000);
     EXPECT_EQ(Goalies[1].Team, 0);
     EXPECT_EQ(Players[1].Team, 5);
-    (void)Machine.TakeBoxes();
+    EXPECT_THAT(Machine.Boxes(), ElementsAre(Box{box::YesNo, "Are you sure you want to release Goalie 1?"}));
     Machine.TakeNews();
 }
 
@@ -65,7 +65,8 @@ TEST_F(ReleaseTest, MoreThanAllIsAllAndLessThanNothingIsNothing)
     Machine.Type("-250");
     EXPECT_TRUE(ReleasePerson(OpenWork(), 5, Keeper));
     EXPECT_EQ(Five.Cash, 2000000);
-    (void)Machine.TakeBoxes();
+    EXPECT_THAT(Machine.Boxes(), ElementsAre(Box{box::YesNo, "Are you sure you want to release Skater 1?"},
+                                             Box{box::YesNo, "Are you sure you want to release Goalie 1?"}));
     Machine.TakeNews();
 }
 
@@ -73,7 +74,7 @@ TEST_F(ReleaseTest, NoReleasesNobody)
 {
     Machine.Answer(button::No);
     EXPECT_FALSE(ReleasePerson(OpenWork(), 5, Skater));
-    (void)Machine.TakeBoxes();
+    EXPECT_THAT(Machine.Boxes(), ElementsAre(Box{box::YesNo, "Are you sure you want to release Skater 1?"}));
     EXPECT_THAT(Machine.Questions(), IsEmpty());
     EXPECT_THAT(Machine.TakeNews(), IsEmpty());
     EXPECT_EQ(Players[1].Team, 5);
@@ -87,7 +88,7 @@ TEST_F(ReleaseTest, APriceThatTheCashCannotHoldLeavesHimOnTheTeam)
     EXPECT_THROW(ReleasePerson(OpenWork(), 5, Skater), Failure);
     EXPECT_EQ(Players[1].Team, 5);
     EXPECT_EQ(Five.Cash, -2147000000);
-    (void)Machine.TakeBoxes();
+    EXPECT_THAT(Machine.Boxes(), ElementsAre(Box{box::YesNo, "Are you sure you want to release Skater 1?"}));
 }
 
 } // namespace

@@ -113,7 +113,7 @@ TEST_F(RosterMovesTest, WhoIsNotSentToWaiversStays)
     EXPECT_EQ(Players[1].Status, status::Pro);
     EXPECT_EQ(Players[1].Suspension, 0);
     EXPECT_FALSE(Modified);
-    (void)Machine.TakeBoxes();
+    EXPECT_THAT(Machine.Boxes(), ElementsAre(Box{box::YesNo, "Do you want to send this player to waiver?"}));
 }
 
 TEST_F(RosterMovesTest, TheOverallShownLastAndTheDeadlineKeepOffTheFarm)
