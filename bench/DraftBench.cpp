@@ -8,6 +8,7 @@
 #include "bench/FullLeague.h"
 #include "bench/ScreenBench.h"
 #include "screens/market/frmDraft.h"
+#include "session/OpenMarket.h"
 
 #include <benchmark/benchmark.h>
 
@@ -35,7 +36,7 @@ public:
         CurrentTeam = Own;
         OpenDraft();
         for (int rank = 0; rank <= DraftRanking::last; ++rank)
-            Draft().DraftList[rank] = rank + 1;
+            OpenMarket().Ranking[rank] = rank + 1;
         Draft().PlaceOffer();
     }
 

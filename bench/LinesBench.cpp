@@ -78,13 +78,13 @@ public:
         const int next = 1 + days->value() % DayStrip::Days;
         QTest::mouseClick(days, Qt::LeftButton, {}, days->CellOf(next).center());
         Screen().grab();
-        Demand(Screen().Day == next);
+        Demand(Screen().Day() == next);
     }
 
 private:
     frmLine& Screen() { return On<frmLine>(Window::Line); }
     SlotLabel* Slot() { return Screen().TabLine->SlotAt(LineField::NormalForward, 1, 1).Label; }
-    long long Standing() { return Teams[Own].ProLines[Screen().Day].NormalForward(1, 1); }
+    long long Standing() { return Teams[Own].ProLines[Screen().Day()].NormalForward(1, 1); }
     void Pick()
     {
         PickList* list = Screen().lstPlayer;

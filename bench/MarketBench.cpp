@@ -8,6 +8,7 @@
 #include "bench/FullLeague.h"
 #include "bench/ScreenBench.h"
 #include "screens/market/frmFreeAgentClient.h"
+#include "session/OpenMarket.h"
 
 #include <benchmark/benchmark.h>
 #include <QTest>
@@ -43,7 +44,7 @@ public:
         OpenOffers();
         // The last goalie can be listed and not be shown, so the search goes for the one before him.
         for (int id = 3; id <= OfferTable::last; id += 500) {
-            FreeAgentOffer& offer = Offers().FreeAgentOffers[id];
+            FreeAgentOffer& offer = OpenMarket().Offers[id];
             offer.Id = id;
             offer.Salary = 750000;
             offer.Duration = 2;

@@ -2,6 +2,7 @@
 
 #include "OnStage.h"
 #include "screens/market/frmDraft.h"
+#include "session/OpenMarket.h"
 #include "support/FailingBoxes.h"
 
 namespace dravik {
@@ -80,7 +81,8 @@ protected:
     std::vector<long long> Ranking()
     {
         std::vector<long long> ids;
-        for (const Int16& id : Draft().DraftList) {
+        Draft(); // which begins without one
+        for (const Int16& id : OpenMarket().Ranking) {
             if (id == 0)
                 break;
             ids.push_back(id);
@@ -95,7 +97,7 @@ protected:
             PutSkater(index, 0, position::Center, status::Farm);
         frmDraft& draft = Draft();
         for (int rank = 0; rank <= 1000; ++rank)
-            draft.DraftList[rank] = rank + 1;
+            OpenMarket().Ranking[rank] = rank + 1;
         draft.PlaceOffer();
     }
 };

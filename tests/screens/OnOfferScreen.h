@@ -2,6 +2,7 @@
 
 #include "OnStage.h"
 #include "screens/market/frmFreeAgentClient.h"
+#include "session/OpenMarket.h"
 #include "support/FailingBoxes.h"
 
 namespace dravik {
@@ -54,7 +55,7 @@ protected:
         return Offers();
     }
     frmFreeAgentClient& Offers() { return *static_cast<frmFreeAgentClient*>(TheStage.Find("FreeAgent")); }
-    FreeAgentOffer& OfferOf(int id) { return Offers().FreeAgentOffers[id]; }
+    FreeAgentOffer& OfferOf(int id) { return OpenMarket().Offers[id]; }
 
     // An offer that is worth saving, without the screen's help.
     void Offer(int id)

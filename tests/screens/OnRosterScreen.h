@@ -110,7 +110,8 @@ protected:
 
     std::vector<long long> Counters()
     {
-        return {Roster().StatusCount[0], Roster().StatusCount[1], Roster().StatusCount[2], Roster().StatusCount[3]};
+        const RosterCounts& counts = Roster().StatusCount();
+        return {counts[0], counts[1], counts[2], counts[3]};
     }
 
     // Chooses a person as a click on his entry does, wherever he stands.

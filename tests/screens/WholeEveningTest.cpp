@@ -133,7 +133,7 @@ protected:
     {
         QTest::mouseClick(screen.vscDay, Qt::LeftButton, {}, screen.vscDay->CellOf(day).center());
         Settle();
-        ASSERT_EQ(screen.Day, day);
+        ASSERT_EQ(screen.Day(), day);
     }
     static void GoToPageOf(LinesScreen& screen, const QWidget* widget)
     {

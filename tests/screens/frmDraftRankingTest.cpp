@@ -91,7 +91,7 @@ TEST_F(DraftRankingTest, NoCommandOfTheRankingTouchesModified)
             EXPECT_EQ(Modified, before) << command->objectName().toStdString();
         }
         EXPECT_EQ(Draft().lstDraftList->count(), 2) << "each of them did something";
-        Draft().DraftList = {};
+        OpenMarket().Ranking = {};
         Draft().PlaceOffer();
     }
     EXPECT_THAT(Machine.Boxes(), IsEmpty());
@@ -120,16 +120,16 @@ TEST_F(DraftRankingTest, AThousandAndOneFillTheListAndOneMoreChangesAndSaysNothi
 {
     FillRanking();
     frmDraft& draft = Draft();
-    draft.DraftList[1000] = 0;
+    OpenMarket().Ranking[1000] = 0;
     draft.PlaceOffer();
     draft.ShowPlayer();
     Choose({1000});
-    EXPECT_EQ(draft.DraftList[1000], 1001);
+    EXPECT_EQ(OpenMarket().Ranking[1000], 1001);
     EXPECT_EQ(Of(draft.lblTotal), "1001 Players List");
-    const DraftRanking before = draft.DraftList;
+    const DraftRanking before = OpenMarket().Ranking;
     Choose({1001});
     for (long long rank = 0; rank <= 1000; ++rank)
-        EXPECT_EQ(draft.DraftList[rank], before[rank]);
+        EXPECT_EQ(OpenMarket().Ranking[rank], before[rank]);
     EXPECT_EQ(draft.lstDraftList->count(), 1001);
     EXPECT_EQ(Of(draft.lblTotal), "1001 Players List");
     EXPECT_THAT(Machine.Boxes(), IsEmpty());
@@ -170,10 +170,10 @@ TEST_F(DraftRankingTest, RemovingFromAFullListLeavesTheLastRankAsItIs)
     frmDraft& draft = Draft();
     ClickEntry(draft.lstDraftList, 998);
     Click(draft.cmdRemove);
-    EXPECT_EQ(draft.DraftList[997], 998);
-    EXPECT_EQ(draft.DraftList[998], 1000);
-    EXPECT_EQ(draft.DraftList[999], 1001);
-    EXPECT_EQ(draft.DraftList[1000], 1001);
+    EXPECT_EQ(OpenMarket().Ranking[997], 998);
+    EXPECT_EQ(OpenMarket().Ranking[998], 1000);
+    EXPECT_EQ(OpenMarket().Ranking[999], 1001);
+    EXPECT_EQ(OpenMarket().Ranking[1000], 1001);
     EXPECT_EQ(draft.lstDraftList->count(), 1001);
 }
 
@@ -183,7 +183,7 @@ TEST_F(DraftRankingTest, TheLastEntryOfAFullListCannotBeRemoved)
     frmDraft& draft = Draft();
     ClickEntry(draft.lstDraftList, 1000);
     Click(draft.cmdRemove);
-    EXPECT_EQ(draft.DraftList[1000], 1001);
+    EXPECT_EQ(OpenMarket().Ranking[1000], 1001);
     EXPECT_EQ(draft.lstDraftList->count(), 1001);
     EXPECT_THAT(Machine.Boxes(), IsEmpty());
 }
@@ -255,26 +255,26 @@ TEST_F(DraftRankingTest, TheLastRankOfAFullListMovesUpAndNoFurtherDown)
     Click(draft.cmdDown);
     EXPECT_THAT(Machine.TakeBoxes(), ElementsAre(AtTheEdge));
     Click(draft.cmdUp);
-    EXPECT_EQ(draft.DraftList[999], 1001);
-    EXPECT_EQ(draft.DraftList[1000], 1000);
+    EXPECT_EQ(OpenMarket().Ranking[999], 1001);
+    EXPECT_EQ(OpenMarket().Ranking[1000], 1000);
     Click(draft.cmdDown);
-    EXPECT_EQ(draft.DraftList[1000], 1001);
+    EXPECT_EQ(OpenMarket().Ranking[1000], 1001);
 }
 
 TEST_F(DraftRankingTest, NobodySwapsWithAFreeSlot)
 {
     Choose({0, 1});
     frmDraft& draft = Draft();
-    draft.DraftList[0] = 0; // as no command leaves it
+    OpenMarket().Ranking[0] = 0; // as no command leaves it
     ClickEntry(draft.lstDraftList, 1);
     Click(draft.cmdUp);
-    EXPECT_EQ(draft.DraftList[0], 0);
-    EXPECT_EQ(draft.DraftList[1], 8);
-    draft.DraftList[0] = 7;
-    draft.DraftList[1] = 0;
+    EXPECT_EQ(OpenMarket().Ranking[0], 0);
+    EXPECT_EQ(OpenMarket().Ranking[1], 8);
+    OpenMarket().Ranking[0] = 7;
+    OpenMarket().Ranking[1] = 0;
     ClickEntry(draft.lstDraftList, 0);
     Click(draft.cmdDown);
-    EXPECT_EQ(draft.DraftList[0], 7);
+    EXPECT_EQ(OpenMarket().Ranking[0], 7);
     EXPECT_THAT(Machine.Boxes(), IsEmpty());
 }
 
@@ -326,9 +326,10 @@ protected:
         for (int index = 11; index <= 15; ++index)
             PutSkater(index, 0, position::Center, status::Farm).Name = "Skater " + std::to_string(index);
         LeagueData.FantasyDraft = true;
+        frmDraft& draft = Draft();
         for (int rank = 0; rank < 5; ++rank)
-            Draft().DraftList[rank] = 11 + rank;
-        Draft().PlaceOffer();
+            OpenMarket().Ranking[rank] = 11 + rank;
+        draft.PlaceOffer();
         Settle();
     }
 
@@ -468,7 +469,7 @@ TEST_F(DraftDrag, EveryDragHasTheEffectOfRepeatedUpOrDown)
         for (int to = 0; to < 5; ++to) {
             const auto reset = [this, from] {
                 for (int rank = 0; rank < 5; ++rank)
-                    Draft().DraftList[rank] = 11 + rank;
+                    OpenMarket().Ranking[rank] = 11 + rank;
                 Draft().PlaceOffer();
                 Draft().lstDraftList->setCurrentRow(from);
             };

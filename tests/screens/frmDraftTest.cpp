@@ -225,8 +225,8 @@ TEST_F(frmDraftTest, UnknownIdsAreFailuresOfPlaceOffer)
 {
     frmDraft& draft = Draft();
     for (const int id : {-1, 11001, 20301}) {
-        draft.DraftList = {};
-        draft.DraftList[0] = id;
+        OpenMarket().Ranking = {};
+        OpenMarket().Ranking[0] = id;
         draft.PlaceOffer();
         EXPECT_THAT(Machine.TakeBoxes(), ElementsAre(Box{16, "9 - Subscript out of range in PlaceOffer!"})) << id;
         EXPECT_EQ(draft.lstDraftList->count(), 0);

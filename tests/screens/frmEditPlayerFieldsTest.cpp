@@ -1,12 +1,23 @@
 #include "OnViewer.h"
 
+#include "screens/RosterEntry.h"
+
 namespace dravik {
 namespace {
 
 using ::testing::ElementsAre;
 using ::testing::IsEmpty;
 
-class ViewerFields : public OnViewer {};
+class ViewerFields : public OnViewer {
+protected:
+    // Chooses the entry of the person shown with another position digit behind his number.
+    void ChooseWithDigit(frmEditPlayer& viewer, int digit)
+    {
+        viewer.lstPlayer->item(0)->setData(entry::NumberRole, EntryNumber(SelectedPlayer, digit));
+        viewer.lstPlayer_Click();
+        EXPECT_THAT(Machine.TakeBoxes(), ElementsAre(Box{16, "Integrity Check Failed!"}));
+    }
+};
 
 TEST_F(ViewerFields, AgeAndWeightBelowOneBecomeOne)
 {
@@ -190,7 +201,7 @@ TEST_F(ViewerFields, AnEmptyBoxIsRestoredFromTheRecord)
         EXPECT_FALSE(Modified) << box->objectName().toStdString();
         viewer.cmdExit->setFocus();
     }
-    EXPECT_FALSE(viewer.Changed);
+    EXPECT_FALSE(viewer.Changed());
     EXPECT_THAT(Machine.Boxes(), IsEmpty());
 }
 
@@ -244,7 +255,7 @@ TEST_F(ViewerFields, BoxesOfANewRecordAreJudgedAndKeptForTheSave)
 {
     for (const bool isGoalie : {false, true}) {
         frmEditPlayer& viewer = Edit(7);
-        (isGoalie ? viewer.NewGoalieMode : viewer.NewPlayerMode) = true;
+        isGoalie ? viewer.cmdNewGoaler_Click() : viewer.cmdNewPlayer_Click();
         Enter(viewer.txtAge, "-4");
         EXPECT_EQ(Of(viewer.txtAge), "-4");
         Enter(viewer.txtAge, "");
@@ -265,8 +276,9 @@ TEST_F(ViewerFields, BoxesOfANewRecordAreJudgedAndKeptForTheSave)
 TEST_F(ViewerFields, AnotherPositionDigitFailsTheIntegrityCheckAndStoresNothing)
 {
     frmEditPlayer& viewer = Edit(7);
-    for (const int digit : {0, 6, -1}) {
-        viewer.PlayerPosition = digit;
+    for (const int digit : {0, 6, 9}) {
+        ChooseWithDigit(viewer, digit);
+        viewer.txtStats[3]->show();
         for (EditBox* box :
              {viewer.txtName, viewer.txtCountry, viewer.txtAge, viewer.txtWeight, viewer.txtHeight, viewer.txtCondition,
               viewer.txtInjury, viewer.txtContract, viewer.txtSalary, viewer.txtSuspension, viewer.txtStats[3]}) {
@@ -292,7 +304,8 @@ TEST_F(ViewerFields, AnotherPositionDigitFailsTheIntegrityCheckAndStoresNothing)
 TEST_F(ViewerFields, AValueIsLimitedInItsBoxBeforeTheIntegrityCheckFails)
 {
     frmEditPlayer& viewer = Edit(7);
-    viewer.PlayerPosition = 6;
+    ChooseWithDigit(viewer, 6);
+    viewer.txtStats[3]->show();
     struct Limited {
         EditBox* Box;
         const char* Typed;
@@ -344,7 +357,7 @@ TEST_F(ViewerFields, ValuesBeyondTheirFieldAreFailuresOfTheirBox)
 TEST_F(ViewerFields, AFailureBehindAnotherPositionDigitIsToldInOneBox)
 {
     frmEditPlayer& viewer = Edit(7);
-    viewer.PlayerPosition = 6;
+    ChooseWithDigit(viewer, 6);
     Enter(viewer.txtHeight, "99999999999");
     EXPECT_THAT(Machine.Boxes(), ElementsAre(Box{16, "6 - Overflow in txtHeight!"}));
     EXPECT_EQ(Of(viewer.txtHeight), "99999999999");

@@ -55,7 +55,7 @@ TEST_F(ViewerHealth, ConditionBelow95InjuresAndTakesOutOfTheLines)
     EXPECT_TRUE(viewer.txtInjury->hasFocus());
     EXPECT_EQ(Of(viewer.txtInjury), "");
     EXPECT_EQ(Tilton().Injury.Trimmed(), "Unknown");
-    EXPECT_TRUE(viewer.Changed);
+    EXPECT_TRUE(viewer.Changed());
     EXPECT_EQ(Tilton().Status, 1);
     EXPECT_EQ(Teams[5].ProLines[2].PenaltyShot[2], 0);
     EXPECT_EQ(Teams[5].ProLines[2].PenaltyShot[1], 107);
@@ -96,7 +96,7 @@ TEST_F(ViewerHealth, ConditionFallingFurtherBelow95ChangesNothingElse)
     EXPECT_EQ(Tilton().Condition, 80);
     EXPECT_EQ(Tilton().Injury.Trimmed(), "Knee");
     EXPECT_EQ(Tilton().Status, 2);
-    EXPECT_FALSE(viewer.Changed);
+    EXPECT_FALSE(viewer.Changed());
 }
 
 TEST_F(ViewerHealth, OnlyAStatusOfTwoBecomesOne)
@@ -105,7 +105,7 @@ TEST_F(ViewerHealth, OnlyAStatusOfTwoBecomesOne)
     frmEditPlayer& viewer = Edit(7);
     Enter(viewer.txtCondition, "0");
     EXPECT_EQ(Tilton().Status, 0);
-    EXPECT_TRUE(viewer.Changed);
+    EXPECT_TRUE(viewer.Changed());
 }
 
 TEST_F(ViewerHealth, ConditionOf95HealsAndClearsTheInjury)
@@ -120,7 +120,7 @@ TEST_F(ViewerHealth, ConditionOf95HealsAndClearsTheInjury)
     EXPECT_EQ(Of(viewer.txtInjury), "");
     EXPECT_FALSE(viewer.txtInjury->isEnabled());
     EXPECT_EQ(Tilton().Status, 1);
-    EXPECT_FALSE(viewer.Changed);
+    EXPECT_FALSE(viewer.Changed());
 }
 
 TEST_F(ViewerHealth, AnyConditionOf95OrMoreClearsTheInjuryWhereverItComesFrom)
@@ -137,7 +137,7 @@ TEST_F(ViewerHealth, AnyConditionOf95OrMoreClearsTheInjuryWhereverItComesFrom)
         EXPECT_FALSE(viewer.txtInjury->isEnabled());
     }
     EXPECT_EQ(Tilton().Status, 2);
-    EXPECT_FALSE(viewer.Changed);
+    EXPECT_FALSE(viewer.Changed());
 }
 
 TEST_F(ViewerHealth, AHealedGoalieLosesHisInjury)
@@ -172,7 +172,7 @@ TEST_F(ViewerHealth, ASuspensionBenchesAndTakesOutOfTheLines)
     frmEditPlayer& viewer = Edit(7);
     Enter(viewer.txtSuspension, "3");
     EXPECT_EQ(Tilton().Suspension, 3);
-    EXPECT_TRUE(viewer.Changed);
+    EXPECT_TRUE(viewer.Changed());
     EXPECT_EQ(Tilton().Status, 1);
     EXPECT_EQ(Teams[5].ProLines[2].PenaltyShot[2], 0);
     EXPECT_EQ(Teams[5].ProLines[2].PenaltyShot[1], 107);
@@ -197,7 +197,7 @@ TEST_F(ViewerHealth, ALongerSuspensionAndItsEndChangeNothingElse)
     Enter(viewer.txtSuspension, "0");
     EXPECT_EQ(Tilton().Suspension, 0);
     EXPECT_EQ(Tilton().Status, 2);
-    EXPECT_FALSE(viewer.Changed);
+    EXPECT_FALSE(viewer.Changed());
 }
 
 TEST_F(ViewerHealth, WithoutATeamThereAreNoLinesToLeave)
@@ -207,7 +207,7 @@ TEST_F(ViewerHealth, WithoutATeamThereAreNoLinesToLeave)
     Enter(viewer.txtSuspension, "3");
     Enter(viewer.txtCondition, "40");
     EXPECT_EQ(Tilton().Status, 1);
-    EXPECT_TRUE(viewer.Changed);
+    EXPECT_TRUE(viewer.Changed());
     EXPECT_THAT(Machine.Boxes(), IsEmpty());
 }
 

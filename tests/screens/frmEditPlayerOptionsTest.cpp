@@ -13,23 +13,24 @@ TEST_F(ViewerOptions, AnotherPositionGoesIntoRecordAndEntry)
     EXPECT_EQ(Tilton().Position, 4);
     EXPECT_EQ(Entry(viewer, 0), "Ward Tilton (D)");
     EXPECT_EQ(NumberAt(viewer, 0), 74);
-    EXPECT_EQ(viewer.PlayerPosition, 4);
+    EXPECT_EQ(viewer.PlayerPosition(), 4);
 }
 
 TEST_F(ViewerOptions, PositionsAreLeftAloneWhileTheScreenSetsThemAndInNewRecords)
 {
     frmEditPlayer& viewer = Edit(7);
-    viewer.PositionEventsOn = false;
+    Tilton().Position = 4;
+    viewer.lstPlayer_Click(); // ticks it
+    EXPECT_EQ(Entry(viewer, 0), "Ward Tilton (LW)");
+    Tilton().Position = 2;
+    viewer.lstPlayer_Click();
+    viewer.cmdNewPlayer_Click();
     viewer.optPosition_Click(4);
-    viewer.PositionEventsOn = true;
-    viewer.NewPlayerMode = true;
+    viewer.cmdNewGoaler_Click();
     viewer.optPosition_Click(4);
-    viewer.NewPlayerMode = false;
-    viewer.NewGoalieMode = true;
-    viewer.optPosition_Click(4);
-    viewer.NewGoalieMode = false;
     EXPECT_EQ(Tilton().Position, 2);
     EXPECT_EQ(Entry(viewer, 0), "Ward Tilton (LW)");
+    EXPECT_FALSE(Modified);
 }
 
 TEST_F(ViewerOptions, FlagsCopyThemselvesToTheRecord)
@@ -71,10 +72,9 @@ TEST_F(ViewerOptions, FlagsOfAGoalieAreHisAndAreShown)
 TEST_F(ViewerOptions, FlagsWaitForTheSaveOfANewRecord)
 {
     frmEditPlayer& viewer = Edit(7);
-    viewer.NewGoalieMode = true;
+    viewer.cmdNewGoaler_Click();
     Press(viewer.chkRookie, Qt::Key_Space);
-    viewer.NewGoalieMode = false;
-    viewer.NewPlayerMode = true;
+    viewer.cmdNewPlayer_Click();
     Press(viewer.chkNoTrade, Qt::Key_Space);
     EXPECT_TRUE(viewer.chkRookie->isChecked());
     EXPECT_TRUE(viewer.chkNoTrade->isChecked());

@@ -39,7 +39,7 @@ protected:
             box->clear();
             save();
             EXPECT_THAT(Machine.TakeBoxes(), ElementsAre(Box{48, "Missing Field!"})) << box->objectName().toStdString();
-            EXPECT_TRUE(viewer.NewPlayerMode || viewer.NewGoalieMode);
+            EXPECT_TRUE(viewer.NewPlayerMode() || viewer.NewGoalieMode());
             box->setText(text);
         }
     }
@@ -116,8 +116,8 @@ TEST_F(ViewerRecords, ANewPlayerBeginsWithClearBoxesInTheFirstFreeSlot)
     frmEditPlayer& viewer = Edit(7);
     viewer.chkEdit->setChecked(false);
     viewer.cmdNewPlayer_Click();
-    EXPECT_TRUE(viewer.NewPlayerMode);
-    EXPECT_EQ(viewer.FreeSlot, 2);
+    EXPECT_TRUE(viewer.NewPlayerMode());
+    EXPECT_EQ(viewer.FreeSlot(), 2);
     EXPECT_EQ(viewer.cmdNewPlayer->text(), "Save Player");
     EXPECT_TRUE(viewer.chkEdit->isChecked());
     EXPECT_TRUE(viewer.cmdErase->isEnabled());
@@ -177,7 +177,7 @@ TEST_F(ViewerRecords, ANewPlayerIsSavedWithItsBoxes)
     EXPECT_EQ(NumberAt(viewer, 1), 13);
     EXPECT_EQ(viewer.lstPlayer->currentRow(), 1);
     EXPECT_EQ(SelectedPlayer, 1);
-    EXPECT_FALSE(viewer.NewPlayerMode);
+    EXPECT_FALSE(viewer.NewPlayerMode());
     EXPECT_EQ(viewer.cmdNewPlayer->text(), "New Player");
     EXPECT_TRUE(Modified);
 }
@@ -202,8 +202,8 @@ TEST_F(ViewerRecords, ANewGoalieIsSavedWithItsBoxes)
     Goalies[1].Suspension = 4;
     frmEditPlayer& viewer = Edit(7);
     viewer.cmdNewGoaler_Click();
-    EXPECT_TRUE(viewer.NewGoalieMode);
-    EXPECT_EQ(viewer.FreeSlot, 1);
+    EXPECT_TRUE(viewer.NewGoalieMode());
+    EXPECT_EQ(viewer.FreeSlot(), 1);
     EXPECT_EQ(viewer.cmdNewGoaler->text(), "Save Goalie");
     EXPECT_THAT(Rows(viewer),
                 ElementsAre("SK ", "DU ", "ST ", "SZ ", "AG ", "RB ", "SC ", "HS ", "RT ", "EX ", "LD ", "MO ", "PO "));
@@ -233,8 +233,8 @@ TEST_F(ViewerRecords, ANewGoalieIsSavedWithItsBoxes)
         EXPECT_EQ(made.Stats[row], 50 + row);
     EXPECT_EQ(Entry(viewer, 1), "Lenny Brisk (G)");
     EXPECT_EQ(NumberAt(viewer, 1), 15);
-    EXPECT_EQ(viewer.PlayerPosition, 5);
-    EXPECT_FALSE(viewer.NewGoalieMode);
+    EXPECT_EQ(viewer.PlayerPosition(), 5);
+    EXPECT_FALSE(viewer.NewGoalieMode());
     EXPECT_EQ(viewer.cmdNewGoaler->text(), "New Goalie");
     EXPECT_TRUE(Modified);
     EXPECT_FALSE(Players[1].InUse);
@@ -245,7 +245,7 @@ TEST_F(ViewerRecords, TheBoxOfASaveComesBehindTheModeAndBeforeModifiedAndTheCapt
     frmEditPlayer& viewer = Edit(7);
     for (const bool isGoalie : {false, true}) {
         const auto press = [&] { isGoalie ? viewer.cmdNewGoaler_Click() : viewer.cmdNewPlayer_Click(); };
-        const bool& mode = isGoalie ? viewer.NewGoalieMode : viewer.NewPlayerMode;
+        const auto mode = [&] { return isGoalie ? viewer.NewGoalieMode() : viewer.NewPlayerMode(); };
         const QPushButton* command = isGoalie ? viewer.cmdNewGoaler : viewer.cmdNewPlayer;
         press();
         Fill(viewer, isGoalie ? 13 : 15);
@@ -253,7 +253,7 @@ TEST_F(ViewerRecords, TheBoxOfASaveComesBehindTheModeAndBeforeModifiedAndTheCapt
         bool isUp = false;
         AtNextBox([&] {
             isUp = true;
-            EXPECT_FALSE(mode);
+            EXPECT_FALSE(mode());
             EXPECT_FALSE(Modified);
             EXPECT_EQ(command->text(), isGoalie ? "Save Goalie" : "Save Player");
             EXPECT_EQ(viewer.lstPlayer->currentRow(), viewer.lstPlayer->count() - 1);
@@ -275,8 +275,8 @@ TEST_F(ViewerRecords, ANewRecordIsShownFromItsEntry)
     viewer.cmdNewPlayer_Click();
     EXPECT_EQ(Of(viewer.txtName), "Lenny Brisk");
     EXPECT_EQ(Of(viewer.txtInjury), "Knee");
-    EXPECT_EQ(viewer.PlayerPosition, 1);
-    EXPECT_EQ(viewer.ListPosition, 1);
+    EXPECT_EQ(viewer.PlayerPosition(), 1);
+    EXPECT_EQ(viewer.ListPosition(), 1);
 }
 
 TEST_F(ViewerRecords, ANewRecordHoldsThreeCharactersOfItsCountry)
@@ -311,7 +311,7 @@ TEST_F(ViewerRecords, EveryFieldOfANewRecordIsRequiredButInjurySuspensionAndTeam
     viewer.cmdNewPlayer_Click();
     Fill(viewer, 15);
     ExpectEveryFieldRequired(viewer, 15, [&] { viewer.cmdNewPlayer_Click(); });
-    EXPECT_TRUE(viewer.NewPlayerMode);
+    EXPECT_TRUE(viewer.NewPlayerMode());
     EXPECT_FALSE(Players[1].InUse);
     viewer.txtSuspension->clear();
     viewer.cmdNewPlayer_Click();
@@ -324,7 +324,7 @@ TEST_F(ViewerRecords, AGoalieNeedsTheSameFieldsAndThirteenRatings)
     viewer.cmdNewGoaler_Click();
     Fill(viewer, 13);
     ExpectEveryFieldRequired(viewer, 13, [&] { viewer.cmdNewGoaler_Click(); });
-    EXPECT_TRUE(viewer.NewGoalieMode);
+    EXPECT_TRUE(viewer.NewGoalieMode());
     EXPECT_FALSE(Goalies[1].InUse);
     viewer.cmdNewGoaler_Click();
     EXPECT_THAT(Machine.TakeBoxes(), ElementsAre(Box{64, "Lenny Brisk was successfully created!"}));
@@ -338,12 +338,12 @@ TEST_F(ViewerRecords, Slot10000IsNeverGivenOut)
     viewer.cmdNewPlayer_Click();
     EXPECT_THAT(Machine.TakeBoxes(), ElementsAre(Box{48, "You have reach the maximum number of available players!\r\n"
                                                          "Please erase some before creating new ones."}));
-    EXPECT_FALSE(viewer.NewPlayerMode);
+    EXPECT_FALSE(viewer.NewPlayerMode());
     EXPECT_EQ(viewer.cmdNewPlayer->text(), "New Player");
     EXPECT_EQ(Of(viewer.txtName), "Ward Tilton");
     Players[9999].InUse = false;
     viewer.cmdNewPlayer_Click();
-    EXPECT_EQ(viewer.FreeSlot, 9999);
+    EXPECT_EQ(viewer.FreeSlot(), 9999);
     EXPECT_THAT(Machine.TakeBoxes(), IsEmpty());
 }
 
@@ -355,7 +355,7 @@ TEST_F(ViewerRecords, GoalieSlot1000IsNeverGivenOut)
     viewer.cmdNewGoaler_Click();
     EXPECT_THAT(Machine.TakeBoxes(), ElementsAre(Box{48, "You have reach the maximum number of available goalies!\r\n"
                                                          "Please erase some before creating new ones."}));
-    EXPECT_FALSE(viewer.NewGoalieMode);
+    EXPECT_FALSE(viewer.NewGoalieMode());
 }
 
 TEST_F(ViewerRecords, ThePressOfTheOtherButtonLeavesTheFirstMode)
@@ -363,13 +363,13 @@ TEST_F(ViewerRecords, ThePressOfTheOtherButtonLeavesTheFirstMode)
     frmEditPlayer& viewer = Edit(7);
     viewer.cmdNewPlayer_Click();
     viewer.cmdNewGoaler_Click();
-    EXPECT_FALSE(viewer.NewPlayerMode);
+    EXPECT_FALSE(viewer.NewPlayerMode());
     EXPECT_EQ(viewer.cmdNewPlayer->text(), "New Player");
-    EXPECT_TRUE(viewer.NewGoalieMode);
+    EXPECT_TRUE(viewer.NewGoalieMode());
     viewer.cmdNewPlayer_Click();
-    EXPECT_FALSE(viewer.NewGoalieMode);
+    EXPECT_FALSE(viewer.NewGoalieMode());
     EXPECT_EQ(viewer.cmdNewGoaler->text(), "New Goalie");
-    EXPECT_TRUE(viewer.NewPlayerMode);
+    EXPECT_TRUE(viewer.NewPlayerMode());
 }
 
 TEST_F(ViewerRecords, ANewRecordThatDoesNotFitIsReportedAndKeepsWhatWasStored)
@@ -380,7 +380,7 @@ TEST_F(ViewerRecords, ANewRecordThatDoesNotFitIsReportedAndKeepsWhatWasStored)
     viewer.txtWeight->setText("40000");
     viewer.cmdNewPlayer_Click();
     EXPECT_THAT(Machine.TakeBoxes(), ElementsAre(Box{16, "6 - Overflow in cmdNewPlayer!"}));
-    EXPECT_TRUE(viewer.NewPlayerMode);
+    EXPECT_TRUE(viewer.NewPlayerMode());
     EXPECT_TRUE(Players[1].InUse);
     EXPECT_EQ(Players[1].Age, 19);
     EXPECT_EQ(Players[1].Weight, 0);

@@ -31,8 +31,8 @@ TEST_F(PlayerViewer, OpensOnASkaterWithHisWholeRecord)
     EXPECT_EQ(Entry(viewer, 0), "Ward Tilton (LW)");
     EXPECT_EQ(NumberAt(viewer, 0), 72);
     EXPECT_EQ(viewer.lstPlayer->currentRow(), 0);
-    EXPECT_EQ(viewer.ListPosition, 0);
-    EXPECT_EQ(viewer.PlayerPosition, 2);
+    EXPECT_EQ(viewer.ListPosition(), 0);
+    EXPECT_EQ(viewer.PlayerPosition(), 2);
     EXPECT_EQ(Of(viewer.txtName), "Ward Tilton");
     EXPECT_EQ(Of(viewer.txtCountry), "CAN");
     EXPECT_EQ(Of(viewer.txtAge), "27");
@@ -53,7 +53,8 @@ TEST_F(PlayerViewer, OpensOnASkaterWithHisWholeRecord)
     EXPECT_FALSE(viewer.chkNoTrade->isChecked());
     EXPECT_TRUE(viewer.chkNoApplyRerate->isChecked());
     EXPECT_FALSE(ListEventGuard);
-    EXPECT_TRUE(viewer.PositionEventsOn);
+    viewer.optPosition[3]->setChecked(true);
+    EXPECT_EQ(Tilton().Position, 3) << "the positions are heard again";
     EXPECT_THAT(Machine.Boxes(), IsEmpty());
 }
 
@@ -64,7 +65,7 @@ TEST_F(PlayerViewer, OpensOnAGoalieWithHisWholeRecord)
     ASSERT_EQ(viewer.lstPlayer->count(), 1);
     EXPECT_EQ(Entry(viewer, 0), "Piet Vos (G)");
     EXPECT_EQ(NumberAt(viewer, 0), 75);
-    EXPECT_EQ(viewer.PlayerPosition, 5);
+    EXPECT_EQ(viewer.PlayerPosition(), 5);
     EXPECT_EQ(Of(viewer.txtName), "Piet Vos");
     EXPECT_EQ(Of(viewer.txtCountry), "NED");
     EXPECT_EQ(Of(viewer.txtSalary), "900000");
@@ -324,8 +325,8 @@ TEST_F(PlayerViewer, ChoosingAnEntryShowsItsRecord)
     frmEditPlayer& viewer = Edit(0);
     viewer.lstPlayer->setCurrentRow(1);
     EXPECT_EQ(SelectedPlayer, 7);
-    EXPECT_EQ(viewer.PlayerPosition, 5);
-    EXPECT_EQ(viewer.ListPosition, 1);
+    EXPECT_EQ(viewer.PlayerPosition(), 5);
+    EXPECT_EQ(viewer.ListPosition(), 1);
     EXPECT_EQ(Of(viewer.txtName), "Piet Vos");
     EXPECT_EQ(Rows(viewer).size(), 14U);
     Press(viewer.lstPlayer, Qt::Key_Up);
@@ -339,7 +340,7 @@ TEST_F(PlayerViewer, AClickWithoutAnEntryHidesTheRatingsAndKeepsTheSelection)
     viewer.lstPlayer->setCurrentRow(-1);
     EXPECT_THAT(Rows(viewer), IsEmpty());
     EXPECT_EQ(SelectedPlayer, 7);
-    EXPECT_EQ(viewer.PlayerPosition, 2);
+    EXPECT_EQ(viewer.PlayerPosition(), 2);
     EXPECT_EQ(Of(viewer.txtName), "Ward Tilton");
     EXPECT_FALSE(ListEventGuard);
     EXPECT_THAT(Machine.Boxes(), IsEmpty());
@@ -414,7 +415,9 @@ TEST_P(ViewerReturns, ToWhoOpenedItAndTellsWhetherSomethingChanged)
         Screen& opener = *TheStage.Find(name);
         TheStage.Open("EditPlayer", opener);
         EXPECT_FALSE(opener.isVisible());
-        Viewer().Changed = changed;
+        Settle();
+        if (changed)
+            Enter(Viewer().txtSuspension, "3");
         Click(Viewer().cmdExit);
         EXPECT_EQ(TheStage.Find("EditPlayer"), nullptr);
         EXPECT_TRUE(opener.isVisible());

@@ -17,7 +17,7 @@ TEST_F(Viewing, ARepairIsNoChangeThatTheOpenerMustRebuildFor)
     PutSkater(20, 9, 0, status::Pro);
     const frmEditPlayer& viewer = Show(7);
     EXPECT_EQ(Players[20].Position, 1);
-    EXPECT_FALSE(viewer.Changed);
+    EXPECT_FALSE(viewer.Changed());
 }
 
 TEST_F(Viewing, ViewingChangesNoByteOfTheTables)
@@ -40,7 +40,7 @@ TEST_F(Viewing, ViewingChangesNoByteOfTheTables)
         for (QWidget* control : ClosedControls(viewer))
             if (control->isVisible())
                 Click(control);
-        EXPECT_FALSE(viewer.Changed);
+        EXPECT_FALSE(viewer.Changed());
         Click(viewer.cmdExit);
         EXPECT_TRUE(tables() == before) << isGoalie;
     }

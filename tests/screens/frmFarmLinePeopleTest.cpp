@@ -212,7 +212,7 @@ TEST_F(frmFarmLinePeopleTest, APickShowsTheSkatersRatingsAndHisSlotsOnTheFarm)
     frmFarmLine& farm = FarmLine();
     Pick(farm, Center, position::Center);
     EXPECT_EQ(SelectedPlayer, Center);
-    EXPECT_EQ(farm.SelectedPosition, position::Center);
+    EXPECT_EQ(farm.SelectedPosition(), position::Center);
     EXPECT_FALSE(SelectedIsGoalie);
     EXPECT_EQ(Of(farm.frmStat->lblStat[0]), "C");
     EXPECT_FALSE(farm.frmStat->lblStatLabel[0]->isHidden());
@@ -229,7 +229,7 @@ TEST_F(frmFarmLinePeopleTest, AGoalieShowsNoSlots)
     Pick(farm, Keeper, position::Goalie);
     EXPECT_EQ(SelectedPlayer, Keeper);
     EXPECT_TRUE(SelectedIsGoalie);
-    EXPECT_EQ(farm.SelectedPosition, position::Goalie);
+    EXPECT_EQ(farm.SelectedPosition(), position::Goalie);
     EXPECT_EQ(Of(farm.frmStat->lblStat[0]), "G");
     EXPECT_EQ(RowOf(1).substr(0, 3), "SK ");
     EXPECT_EQ(RowOf(14).substr(0, 3), "OV ");
@@ -267,7 +267,7 @@ TEST_F(frmFarmLinePeopleTest, PickingUnknownPlayerHidesTheStatRowsAndShowsNothin
     const QString caption = farm.frmStat->title();
     Pick(farm, 32000, position::Center);
     EXPECT_EQ(SelectedPlayer, 0);
-    EXPECT_EQ(farm.SelectedPosition, position::Center);
+    EXPECT_EQ(farm.SelectedPosition(), position::Center);
     EXPECT_FALSE(SelectedIsGoalie);
     ExpectRatingsHidden();
     EXPECT_FALSE(farm.frmStat->lblStat[0]->isHidden());
@@ -280,7 +280,7 @@ TEST_F(frmFarmLinePeopleTest, PickingUnknownGoalieIsAGoalieWithoutANumber)
     frmFarmLine& farm = FarmLine();
     Pick(farm, 32000, position::Goalie);
     EXPECT_EQ(SelectedPlayer, 0);
-    EXPECT_EQ(farm.SelectedPosition, position::Goalie);
+    EXPECT_EQ(farm.SelectedPosition(), position::Goalie);
     EXPECT_TRUE(SelectedIsGoalie);
     ExpectRatingsHidden();
 }

@@ -66,7 +66,7 @@ TEST_F(frmFarmLineScheduleTest, WithSevenGamesLeftTheDaysStopAtSeven)
     PutGames(7, true);
     ExpectGames(7, 7);
     FarmLine().vscDay->setValue(10);
-    EXPECT_EQ(FarmLine().Day, 7);
+    EXPECT_EQ(FarmLine().Day(), 7);
 }
 
 TEST_F(frmFarmLineScheduleTest, TenGamesLeaveTenDays)
@@ -197,7 +197,7 @@ TEST_F(frmFarmLineScheduleTest, AChangeOfDayShowsThatDayAndGoesBackToTheFirstTab
     Modified = false;
     QTest::mouseClick(farm.vscDay, Qt::LeftButton, {}, farm.vscDay->CellOf(3).center());
     Settle();
-    EXPECT_EQ(farm.Day, 3);
+    EXPECT_EQ(farm.Day(), 3);
     EXPECT_EQ(farm.TabLine->currentIndex(), 0);
     EXPECT_EQ(Of(SlotOn(farm, LineField::NormalForward, 1)), "Skater 20");
     EXPECT_EQ(Of(SlotOn(farm, LineField::NormalForward, 2)), "Unknown Player");
@@ -210,7 +210,7 @@ TEST_F(frmFarmLineScheduleTest, ADayThatOnlyTheCalendarCutsOffCannotBeReached)
     frmFarmLine& farm = FarmLine();
     QTest::mouseClick(farm.vscDay, Qt::LeftButton, {}, farm.vscDay->CellOf(5).center());
     Settle();
-    EXPECT_EQ(farm.Day, 1);
+    EXPECT_EQ(farm.Day(), 1);
 }
 
 TEST_F(frmFarmLineScheduleTest, AnOpponentOutOfTheTableFailsInPlaceAndTheScreenStaysOpen)

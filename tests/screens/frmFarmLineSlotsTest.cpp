@@ -20,6 +20,13 @@ protected:
     static constexpr int Keeper = 4;
     static constexpr int Placeholder = 32000;
 
+    // Shows a day that is not there, as no path of the program does.
+    static void GoBeyondTheLastDay(frmFarmLine& farm)
+    {
+        farm.vscDay->setMaximum(11);
+        farm.vscDay->setValue(11);
+    }
+
     // What is picked in the list, and what lands in a slot.
     struct Kind {
         int Id;
@@ -205,13 +212,12 @@ TEST_F(frmFarmLineSlotsTest, CheckMarksTheChangeFirstAndJudgesLast)
     LeagueData.FarmRosterRequired = true;
     FarmDay().StartGoalie = 0;
     Modified = false;
-    farm.Day = 11;
-    farm.Check();
-    EXPECT_THAT(Machine.Boxes(), ElementsAre(Box{16, "9 - Subscript out of range in Check!"}));
+    GoBeyondTheLastDay(farm);
+    EXPECT_THAT(Machine.Boxes(), ElementsAre(Box{16, "9 - Subscript out of range in Place!"},
+                                             Box{16, "9 - Subscript out of range in Check!"}));
     EXPECT_TRUE(Modified);
     EXPECT_EQ(Of(farm.lblComplete), "Lines are Complete");
-    farm.Day = 1;
-    farm.Check();
+    farm.vscDay->setValue(1);
     EXPECT_EQ(Of(farm.lblComplete), "Lines are Incomplete");
     EXPECT_TRUE(farm.cmdDebug->isEnabled());
 }
@@ -316,7 +322,9 @@ TEST_F(frmFarmLineSlotsTest, FailuresOfSlotsAndHeadingsAreToldUnderTheirNames)
 {
     frmFarmLine& farm = FarmLine();
     Pick(farm, Center, position::Center);
-    farm.Day = 11;
+    GoBeyondTheLastDay(farm);
+    EXPECT_THAT(Machine.TakeBoxes(), ElementsAre(Box{16, "9 - Subscript out of range in Place!"},
+                                                 Box{16, "9 - Subscript out of range in Check!"}));
     const auto expectFailure = [&](QWidget* pressed, const std::string& name) {
         ClickOn(farm, pressed);
         EXPECT_THAT(Machine.TakeBoxes(), ElementsAre(Box{16, "9 - Subscript out of range in " + name + "!"}));

@@ -32,7 +32,7 @@ TEST_F(frmFarmLineTest, OpeningShowsTheFarmsNameInBothTitles)
     EXPECT_EQ(farm.windowTitle(), "Dravik Hockey Simulator Client - Pebble Creek Ducks - Lines");
     EXPECT_EQ(Of(farm.lblTeamName), "Lines for Pebble Creek Ducks ");
     EXPECT_EQ(Of(farm.lblComplete), "Lines are Complete");
-    EXPECT_EQ(farm.Day, 1);
+    EXPECT_EQ(farm.Day(), 1);
     EXPECT_EQ(farm.TabLine->currentIndex(), 0);
 }
 

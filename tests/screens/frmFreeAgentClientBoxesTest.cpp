@@ -242,7 +242,7 @@ TEST_F(OfferBoxes, ARefusedTextKeepsItsPersonShown)
     TypeInto(Offers().txtOffer, "x");
     ClickEntry(1);
     EXPECT_THAT(Machine.TakeBoxes(), ElementsAre(Box{48, "No Valid Input!"}));
-    EXPECT_EQ(Offers().OfferIndex, 1);
+    EXPECT_EQ(Offers().OfferIndex(), 1);
     EXPECT_EQ(Offers().lstPlayers->currentRow(), 0);
     EXPECT_EQ(Of(Offers().txtOffer), "x");
     EXPECT_TRUE(Offers().txtOffer->hasFocus());
@@ -292,8 +292,10 @@ TEST_F(OfferBoxes, ClosingTheWindowLetsTheBoxAct)
 
 TEST_F(OfferBoxes, FailuresOfSalaryAndDurationAreReportedWithAFullStop)
 {
+    Players[1].InUse = Players[2].InUse = false; // nobody to choose
     Open();
-    Offers().OfferIndex = 0;
+    ASSERT_EQ(Offers().OfferIndex(), 0);
+    Offers().txtComment->setEnabled(true); // as no path of the program does
     Enter(Offers().txtOffer, "600000");
     EXPECT_THAT(Machine.TakeBoxes(), ElementsAre(Box{16, "9 - Subscript out of range in txtOffer LostFocus."}));
     Enter(Offers().txtDuration, "3");

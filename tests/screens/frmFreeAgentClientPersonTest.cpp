@@ -97,7 +97,7 @@ TEST_F(OfferPerson, ShowingSomebodyGivesHisOfferItsId)
     EXPECT_EQ(OfferOf(10003).Id, 0);
     ClickEntry(1);
     EXPECT_EQ(OfferOf(10003).Id, 10003);
-    EXPECT_EQ(Offers().OfferIndex, 10003);
+    EXPECT_EQ(Offers().OfferIndex(), 10003);
 }
 
 TEST_F(OfferPerson, TheBoxesShowHisOffer)
@@ -249,15 +249,15 @@ TEST_F(OfferPerson, ArrowsAndLettersChooseAsAClickDoes)
     PickList* list = Offers().lstPlayers;
     list->setFocus();
     Press(list, Qt::Key_Down);
-    EXPECT_EQ(Offers().OfferIndex, 2);
+    EXPECT_EQ(Offers().OfferIndex(), 2);
     Press(list, Qt::Key_End);
-    EXPECT_EQ(Offers().OfferIndex, 3);
+    EXPECT_EQ(Offers().OfferIndex(), 3);
     Press(list, Qt::Key_Home);
-    EXPECT_EQ(Offers().OfferIndex, 1);
+    EXPECT_EQ(Offers().OfferIndex(), 1);
     QTest::keyClick(list, 'o');
     QTest::keyClick(list, 'l');
     Settle();
-    EXPECT_EQ(Offers().OfferIndex, 3);
+    EXPECT_EQ(Offers().OfferIndex(), 3);
 }
 
 using OfferSearch = OnOfferScreen;
@@ -272,7 +272,7 @@ TEST_F(OfferSearch, AsksAndChoosesTheFirstEntryThatContainsTheAnswer)
     Click(Offers().cmdSearch);
     EXPECT_THAT(Machine.Questions(), ElementsAre(Question{"Complete or Part of the Player Name?", "Player Search"}));
     EXPECT_EQ(Offers().lstPlayers->currentRow(), 1);
-    EXPECT_EQ(Offers().OfferIndex, 2);
+    EXPECT_EQ(Offers().OfferIndex(), 2);
     EXPECT_THAT(Machine.Boxes(), IsEmpty());
 }
 
@@ -283,7 +283,7 @@ TEST_F(OfferSearch, LooksAtTheWholeTextOfAnEntry)
     Open();
     Machine.Type(")-rfa");
     Click(Offers().cmdSearch);
-    EXPECT_EQ(Offers().OfferIndex, 2);
+    EXPECT_EQ(Offers().OfferIndex(), 2);
 }
 
 TEST_F(OfferSearch, TellsWhenNobodyFits)
@@ -306,7 +306,7 @@ TEST_F(OfferSearch, ACancelledSearchChoosesTheFirstEntry)
     ClickEntry(1);
     Click(Offers().cmdSearch);
     EXPECT_EQ(Offers().lstPlayers->currentRow(), 0);
-    EXPECT_EQ(Offers().OfferIndex, 1);
+    EXPECT_EQ(Offers().OfferIndex(), 1);
 }
 
 TEST_F(OfferSearch, FindsNobodyInAnEmptyList)

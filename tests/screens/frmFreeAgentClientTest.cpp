@@ -114,7 +114,7 @@ TEST_F(OfferOpening, EveryOpeningStartsWithoutAnOffer)
     OfferOf(1).Comment = "Come";
     OfferOf(11000).Bonus = 5;
     Offers().FormLoad();
-    for (const FreeAgentOffer& offer : Offers().FreeAgentOffers)
+    for (const FreeAgentOffer& offer : OpenMarket().Offers)
         ASSERT_TRUE(offer.Salary == 0 && offer.Duration == 0 && offer.Bonus == 0 && offer.Team == 0 &&
                     offer.Comment.Raw() == std::string(1000, '\0'));
     EXPECT_THAT(Boxes(), ElementsAre("0", "0", "0", ""));
@@ -262,7 +262,7 @@ TEST_F(OfferList, TheFirstEntryIsChosenAndShown)
     Open();
     EXPECT_EQ(Offers().lstPlayers->currentRow(), 0);
     EXPECT_THAT(Offers().lstPlayers->selectedItems(), SizeIs(1));
-    EXPECT_EQ(Offers().OfferIndex, 7);
+    EXPECT_EQ(Offers().OfferIndex(), 7);
     EXPECT_EQ(Of(Offers().txtSalary), "123456");
 }
 
@@ -298,10 +298,10 @@ TEST_F(OfferList, WithTheTickOnlyThoseWithAnOfferAreListed)
     OfferOf(4).Duration = 1;
     Click(Offers().chkShowPlayerWithOffer);
     EXPECT_EQ(Listed(), (Entries{{"Skater 3 (C)", 3}, {"Skater 4 (C)", 4}, {"Goalie 3 (G)", 10003}}));
-    EXPECT_EQ(Offers().OfferIndex, 3);
+    EXPECT_EQ(Offers().OfferIndex(), 3);
     Click(Offers().chkShowPlayerWithOffer);
     EXPECT_EQ(Offers().lstPlayers->count(), 6);
-    EXPECT_EQ(Offers().OfferIndex, 1);
+    EXPECT_EQ(Offers().OfferIndex(), 1);
 }
 
 } // namespace

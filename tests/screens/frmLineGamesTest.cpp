@@ -42,7 +42,7 @@ TEST_F(LineGames, WithoutAGameThereIsOneDay)
     EXPECT_TRUE(line.cmdCopyAll->isEnabled());
     EXPECT_EQ(Of(line.lblGame), "Next Day Information Unavailable");
     ClickDay(line, 2);
-    EXPECT_EQ(line.Day, 1);
+    EXPECT_EQ(line.Day(), 1);
 }
 
 TEST_F(LineGames, OneGameMakesOneDay)
@@ -68,11 +68,11 @@ TEST_F(LineGames, WithSevenGamesTheDaysStopAtSeven)
     frmLine& line = Line();
     EXPECT_EQ(line.vscDay->maximum(), 7);
     line.vscDay->setValue(9);
-    EXPECT_EQ(line.Day, 7);
+    EXPECT_EQ(line.Day(), 7);
     ClickDay(line, 8);
-    EXPECT_EQ(line.Day, 7);
+    EXPECT_EQ(line.Day(), 7);
     ClickDay(line, 6);
-    EXPECT_EQ(line.Day, 6);
+    EXPECT_EQ(line.Day(), 6);
 }
 
 TEST_F(LineGames, TenGamesMakeTenDays)
@@ -173,7 +173,7 @@ TEST_F(LineGames, AChangeOfDayShowsTheDayGoesBackToTheFirstTabAndJudges)
     line.TabLine->setCurrentIndex(5);
     Modified = false;
     ClickDay(line, 3);
-    EXPECT_EQ(line.Day, 3);
+    EXPECT_EQ(line.Day(), 3);
     EXPECT_EQ(line.TabLine->currentIndex(), 0);
     EXPECT_EQ(Of(line.lblComplete), "Lines are Complete");
     EXPECT_TRUE(Modified);
@@ -189,13 +189,13 @@ TEST_F(LineGames, ArrowKeysGoFromDayToDay)
     frmLine& line = Line();
     line.vscDay->setFocus();
     Press(line.vscDay, Qt::Key_Right);
-    EXPECT_EQ(line.Day, 2);
+    EXPECT_EQ(line.Day(), 2);
     Press(line.vscDay, Qt::Key_End);
-    EXPECT_EQ(line.Day, 3);
+    EXPECT_EQ(line.Day(), 3);
     Press(line.vscDay, Qt::Key_Left);
-    EXPECT_EQ(line.Day, 2);
+    EXPECT_EQ(line.Day(), 2);
     Press(line.vscDay, Qt::Key_Home);
-    EXPECT_EQ(line.Day, 1);
+    EXPECT_EQ(line.Day(), 1);
 }
 
 TEST_F(LineGames, AllTenDaysAreOneClickAway)
@@ -204,7 +204,7 @@ TEST_F(LineGames, AllTenDaysAreOneClickAway)
     frmLine& line = Line();
     for (int day = 10; day >= 1; --day) {
         ClickDay(line, day);
-        EXPECT_EQ(line.Day, day);
+        EXPECT_EQ(line.Day(), day);
         EXPECT_EQ(Of(line.lblGame),
                   "Lines " + std::to_string(day) + " - For Game " + std::to_string(day + 100) + " vs Ironport Foxes");
     }

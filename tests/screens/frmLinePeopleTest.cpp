@@ -134,7 +134,7 @@ TEST_F(LinePeople, PickingASkaterShowsHisNamePositionRatingsAndSlots)
     Pick(line, id, digit);
     EXPECT_EQ(SelectedPlayer, id);
     EXPECT_FALSE(SelectedIsGoalie);
-    EXPECT_EQ(line.SelectedPosition, digit);
+    EXPECT_EQ(line.SelectedPosition(), digit);
     EXPECT_EQ(line.frmStat->title(), QString::fromUtf8("\xC3\x89mile && Co")); // the eye sees one "&"
     EXPECT_EQ(Of(line.frmStat->lblStat[0]), "C");
     EXPECT_FALSE(line.frmStat->lblStatLabel[0]->isHidden());

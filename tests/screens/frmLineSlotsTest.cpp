@@ -68,9 +68,10 @@ INSTANTIATE_TEST_SUITE_P(OfAllPositions, EverySlot, ::testing::Values(1, 2, 3, 4
 TEST_F(LineSlots, WithNoSelectionNoSlotDoesAnything)
 {
     frmLine& line = Line();
-    SelectedPlayer = Pro.Skaters[0];
-    SelectedIsGoalie = false;
-    line.SelectedPosition = position::Center;
+    Pick(line, Pro.Skaters[0], position::Center);
+    line.ShowPlayer(); // lists everybody anew, and nobody chosen
+    ASSERT_EQ(line.lstPlayer->Chosen(), nullptr);
+    ASSERT_EQ(SelectedPlayer, Pro.Skaters[0]);
     const Lines before = ProDay();
     EachLabel([&](const LabelRow& row, int index) { ClickOn(line, LabelOf(row, index)); });
     EXPECT_TRUE(AreSame(ProDay(), before));

@@ -356,7 +356,7 @@ TEST_F(LineStrategy, ADayClickedWithAGoodTextStoresItInTheDayThatWasShown)
     frmLine& line = Strategy();
     TypeInto(line.txtPullGoalerMinGoal, "6");
     QTest::mouseClick(line.vscDay, Qt::LeftButton, {}, line.vscDay->CellOf(2).center());
-    EXPECT_EQ(line.Day, 2);
+    EXPECT_EQ(line.Day(), 2);
     EXPECT_EQ(ProDay(1).PullGoalerMinGoal, 6);
     EXPECT_EQ(ProDay(2).PullGoalerMinGoal, 0);
 }
@@ -369,7 +369,7 @@ TEST_F(LineStrategy, ARefusedTextHoldsTheClickOnADayBack)
     QTest::mouseClick(line.vscDay, Qt::LeftButton, {}, line.vscDay->CellOf(2).center());
     Settle();
     EXPECT_THAT(Machine.Boxes(), ElementsAre(Box{48, "No Valid Input!"}));
-    EXPECT_EQ(line.Day, 1);
+    EXPECT_EQ(line.Day(), 1);
     EXPECT_TRUE(line.txtPullGoalerMinGoal->hasFocus());
 }
 
@@ -404,7 +404,7 @@ TEST_F(LineStrategy, ARefusedTextHoldsTheSecondPressOfADoubleClickBackToo)
         EXPECT_TRUE(box->hasFocus()) << widget->objectName().toStdString();
     }
     EXPECT_EQ(ProDay().Strategy[0], 0);
-    EXPECT_EQ(line.Day, 1);
+    EXPECT_EQ(line.Day(), 1);
     EXPECT_EQ(line.lstPlayer->Chosen(), nullptr);
     EXPECT_TRUE(line.chkPosition[position::Defense]->isChecked());
 }

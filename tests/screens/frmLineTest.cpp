@@ -54,7 +54,7 @@ TEST_F(frmLineTest, OpeningShowsTitlesTheFirstDayAndItsVerdict)
     const frmLine& line = Line();
     EXPECT_EQ(line.windowTitle(), "Dravik Hockey Simulator Client - Harbour City Gulls - Lines");
     EXPECT_EQ(Of(line.lblTeamName), "Lines for Harbour City Gulls ");
-    EXPECT_EQ(line.Day, 1);
+    EXPECT_EQ(line.Day(), 1);
     EXPECT_EQ(line.TabLine->currentIndex(), 0);
     EXPECT_EQ(Of(line.lblComplete), "Lines are Complete");
     EXPECT_FALSE(line.cmdDebug->isEnabled());

@@ -156,10 +156,10 @@ TEST_F(frmRosterMovesTest, ThreeFarmEntriesWithOnePlaceLeftMoveOneThenAreRefused
 TEST_F(frmRosterMovesTest, LeavingTheFarmGoesByTheCounterAndNotByAFreshCount)
 {
     PutSkaters(1, status::Farm);
-    PutSkater(4, 5, position::Center, status::Pro);
     LeagueData.MaxProPlayers = 1;
     ClickEntry(0, 0);
-    Roster().StatusCount[3] = 0;
+    PutSkater(4, 5, position::Center, status::Pro); // whom the screen has not counted
+    EXPECT_THAT(Counters(), ElementsAre(0, 1, 0, 0));
     Click(Roster().cmdToScratchesFromFarm);
     EXPECT_EQ(Players[1].Status, 1);
 }
@@ -321,7 +321,10 @@ TEST_F(frmRosterMovesTest, WithNobodyChosenTheDeadlineAndTheLimitsAreNoMatter)
     PassDeadline();
     LeagueData.FarmMaxOverall = 0;
     LeagueData.MaxProPlayers = 0;
-    Roster().PlayerOverall = 99;
+    ClickEntry(1, 0);
+    ClickEntry(1, 0, Qt::ControlModifier);
+    ASSERT_THAT(ChosenRows(1), IsEmpty());
+    ASSERT_GT(Roster().PlayerOverall(), LeagueData.FarmMaxOverall);
     (void)Machine.TakeBoxes();
     Modified = false;
     for (void (frmRoster::*command)() :

@@ -33,7 +33,7 @@ TEST_F(frmRosterStatsTest, StatPanelShowsAllRatingsOfASkaterWithHisOverallBehind
     EXPECT_THAT(PanelRows(),
                 ElementsAre("CK 41", "FG 42", "DI 43", "SK 44", "ST 45", "DU 46", "PH 47", "FO 48", "PA 49", "SC 50",
                             "DF 51", "EX 52", "LD 53", "MO 54", "PO 55", "OV " + std::to_string(overall)));
-    EXPECT_EQ(Roster().PlayerOverall, overall);
+    EXPECT_EQ(Roster().PlayerOverall(), overall);
 }
 
 TEST_F(frmRosterStatsTest, StatPanelShowsTheGroupsOfAGoalieWithHisOverallInTheEighthRow)
@@ -46,7 +46,7 @@ TEST_F(frmRosterStatsTest, StatPanelShowsTheGroupsOfAGoalieWithHisOverallInTheEi
     const int overall = CalculateOverall(position::Goalie, 1);
     EXPECT_THAT(PanelRows(), ElementsAre("PH 43", "RD 46", "SC 47", "HS 48", "RT 49", "ME 51", "PO 53",
                                          "OV " + std::to_string(overall)));
-    EXPECT_EQ(Roster().PlayerOverall, overall);
+    EXPECT_EQ(Roster().PlayerOverall(), overall);
 }
 
 TEST_F(frmRosterStatsTest, TheOverallHasNoRowWhereTheLeagueHidesItButTheScreenKnowsIt)
@@ -56,10 +56,10 @@ TEST_F(frmRosterStatsTest, TheOverallHasNoRowWhereTheLeagueHidesItButTheScreenKn
     PutGoalie(1, 5, status::Pro, 55);
     ClickEntry(2, 0);
     EXPECT_EQ(PanelRows().size(), 15U);
-    EXPECT_EQ(Roster().PlayerOverall, CalculateOverall(position::Center, 1));
+    EXPECT_EQ(Roster().PlayerOverall(), CalculateOverall(position::Center, 1));
     ClickEntry(2, 1);
     EXPECT_EQ(PanelRows().size(), 13U);
-    EXPECT_EQ(Roster().PlayerOverall, CalculateOverall(position::Goalie, 1));
+    EXPECT_EQ(Roster().PlayerOverall(), CalculateOverall(position::Goalie, 1));
 }
 
 TEST_F(frmRosterStatsTest, NumbersOfTheStatPanelStandAtTheRight)
@@ -78,7 +78,7 @@ TEST_F(frmRosterStatsTest, AGoalieNumberOutOfRangeEndsTheStatPanel)
         Roster().ShowStats();
         EXPECT_THAT(Machine.TakeBoxes(), ElementsAre(Box{16, "Integrity Check Failed!"})) << id;
     }
-    EXPECT_EQ(Roster().PlayerOverall, CalculateOverall(position::Center, 1));
+    EXPECT_EQ(Roster().PlayerOverall(), CalculateOverall(position::Center, 1));
 }
 
 TEST_F(frmRosterStatsTest, ASkaterNumberOutOfRangeIsAFailureOfTheStatPanel)
@@ -176,7 +176,7 @@ TEST_F(frmRosterStatsTest, TheRatingsStandThereBeforeTheOverallIsWorkedOut)
     EXPECT_THAT(Machine.Boxes(), ElementsAre(Box{16, "Integrity Check Failed!"}));
     EXPECT_EQ(rowsAtBox, 15U);
     EXPECT_EQ(PanelRows().back(), "OV 0");
-    EXPECT_EQ(Roster().PlayerOverall, 0);
+    EXPECT_EQ(Roster().PlayerOverall(), 0);
 }
 
 TEST_F(frmRosterStatsTest, MoreRowsThanRatingsAreAFailureThatLeavesTheRatings)
@@ -184,13 +184,13 @@ TEST_F(frmRosterStatsTest, MoreRowsThanRatingsAreAFailureThatLeavesTheRatings)
     PutSkater(1, 5, position::Center, status::Pro, 66);
     ClickEntry(2, 0);
     Roster().HidePlayerDetails();
-    const long long overall = Roster().PlayerOverall;
+    const long long overall = Roster().PlayerOverall();
     Players[1].Stats[skater::CK] = 99;
     PlayerStatCount = 16;
     Roster().ShowStats();
     EXPECT_THAT(Machine.Boxes(), ElementsAre(Box{16, "9 - Subscript out of range in ShowStats!"}));
     EXPECT_EQ(PanelRows().size(), 15U);
-    EXPECT_EQ(Roster().PlayerOverall, overall);
+    EXPECT_EQ(Roster().PlayerOverall(), overall);
 }
 
 } // namespace

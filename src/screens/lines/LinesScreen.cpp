@@ -37,7 +37,7 @@ void LinesScreen::FormLoad()
             CloseMakers();
         const QString name = ToQString(Kind.NameOf(Teams[CurrentTeam]));
         SetTitle(ToQString(ProgramTitle) + " - " + name + " - Lines");
-        Day = 1;
+        day = 1;
         FindGames();
         lblTeamName->setText("Lines for " + name + " ");
         ShowPlayer();
@@ -114,7 +114,7 @@ void LinesScreen::lstPlayer_Click()
         if (chosen == nullptr)
             return;
         const int number = chosen->data(entry::NumberRole).toInt();
-        SelectedPosition = EntryPosition(number);
+        selectedPosition = EntryPosition(number);
         SelectPerson(EntryPerson(number));
         lblPlaying->clear();
         ShowPicked();
@@ -125,7 +125,7 @@ void LinesScreen::lstPlayer_Click()
 void LinesScreen::ShowPicked()
 {
     frmStat->HideRows(); // a goalie has fewer rows than a skater
-    frmStat->ShowPosition(ToQString(PositionName[SelectedPosition]));
+    frmStat->ShowPosition(ToQString(PositionName[selectedPosition]));
     OnPerson(OpenLeague, SelectedPerson(),
              [this](const auto& person) { ShowPickedName(ToQString(person.Name.Trimmed())); });
     frmStat->ShowRows(StatRowsOf(SelectedPerson()));
@@ -150,9 +150,9 @@ void LinesScreen::Place()
 
 void LinesScreen::ShowGame()
 {
-    const bool isAway = static_cast<bool>(GameIsAway[Day]);
-    const NextGame game = GameInRow(OpenLeague, Kind.Side, GameRow[Day], isAway);
-    lblGame->setText("Lines " + Shown(Day) + " - For Game " + Shown(game.GameDay) + " vs " +
+    const bool isAway = static_cast<bool>(GameIsAway[day]);
+    const NextGame game = GameInRow(OpenLeague, Kind.Side, GameRow[day], isAway);
+    lblGame->setText("Lines " + Shown(day) + " - For Game " + Shown(game.GameDay) + " vs " +
                      ToQString(Kind.NameOf(Teams[game.Opponent])));
 }
 
@@ -210,7 +210,7 @@ void LinesScreen::RefreshPlaying()
 
 void LinesScreen::vscDay_Change()
 {
-    Day = vscDay->value();
+    day = vscDay->value();
     Place();
     TabLine->setCurrentIndex(0);
     Check();

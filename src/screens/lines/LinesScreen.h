@@ -74,9 +74,10 @@ public:
     void cmdDebug_Click();
     void cmdExit_Click();
 
-    Int16 Day = 1;          // 1..10
-    Int16 SelectedPosition; // of the person picked last, 1..5
-    Int16 PointsLeft;       // strategy points not given out
+    // The shown day (1..10), and the position (1..5) of the person picked last.
+    [[nodiscard]] Int16 Day() const { return day; }
+    [[nodiscard]] Int16 SelectedPosition() const { return selectedPosition; }
+    Int16 PointsLeft; // strategy points not given out
     bool StrategyReady = false;
     Row<Int16, 1, 10> GameRow; // rows of the calendar with the team's next games, 0 behind the last
     Row<Boolean, 1, 10> GameIsAway;
@@ -120,7 +121,7 @@ protected:
     std::function<void()> AsDayStep(const QString& words, std::function<void()> change);
 
     // The day at hand.
-    [[nodiscard]] int ShownDay() const { return static_cast<int>(Day); }
+    [[nodiscard]] int ShownDay() const { return static_cast<int>(day); }
 
     const LinesKind& Kind;
     QHBoxLayout* Commands = nullptr; // the row of commands on the lines
@@ -164,6 +165,8 @@ private:
     // Goes back to a box whose text was refused, on whatever page it is.
     void ReturnTo(EditBox* box);
 
+    Int16 day = 1;
+    Int16 selectedPosition;
     LineVerdict said;                  // by the judge about the day as it is shown
     const QObject* heldBack = nullptr; // what was pressed while a text box kept the focus
     quint64 pull = 0;                  // how often a bar of the strategy was taken

@@ -17,7 +17,7 @@ namespace dravik {
 bool LinesScreen::TakesPicked(const BoardSlot& slot) const
 {
     return lstPlayer->Chosen() != nullptr &&
-           TakesSomebody(slot.Slot, Kind.Side, SelectedPerson(), static_cast<int>(SelectedPosition));
+           TakesSomebody(slot.Slot, Kind.Side, SelectedPerson(), static_cast<int>(selectedPosition));
 }
 
 QString LinesScreen::WordsOfPlacing(int index) const
@@ -32,7 +32,7 @@ void LinesScreen::Slot_Click(int index)
     BoardSlot& slot = TabLine->Slots[static_cast<std::size_t>(index)];
     RunEvent(slot.Name, [&] {
         if (lstPlayer->Chosen() == nullptr || !PlaceOnLine(OpenWork(), OwnNumber(), ShownDay(), Kind.Side, slot.Slot,
-                                                           SelectedPerson(), static_cast<int>(SelectedPosition)))
+                                                           SelectedPerson(), static_cast<int>(selectedPosition)))
             return;
         ShowIn(slot, SelectedPlayer);
         Check();

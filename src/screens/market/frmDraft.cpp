@@ -51,7 +51,7 @@ void frmDraft::PlaceOffer()
 {
     Reporting(Machine(), " in PlaceOffer!", [this] {
         lstDraftList->clear();
-        EachRanked(OpenLeague, DraftList, [this](int id, const std::string& name) {
+        EachRanked(OpenLeague, ranking, [this](int id, const std::string& name) {
             lstDraftList->Add(ToQString(name), id, {QString::number(lstDraftList->count() + 1)});
         });
         lblTotal->setText(QString::number(lstDraftList->count()) + " Players List");
@@ -84,7 +84,7 @@ void frmDraft::cmdChoose_Click()
         std::optional<int> id;
         if (const QListWidgetItem* chosen = lstPlayers->Chosen())
             id = chosen->data(entry::NumberRole).toInt();
-        if (RankLast(OpenWork(), DraftList, id))
+        if (RankLast(OpenWork(), ranking, id))
             PlaceOffer();
     });
 }
@@ -100,14 +100,14 @@ std::optional<int> frmDraft::ChosenRank() const
 void frmDraft::cmdRemove_Click()
 {
     Reporting(Machine(), " in cmdRemove!", [this] {
-        if (Unrank(OpenWork(), DraftList, ChosenRank()))
+        if (Unrank(OpenWork(), ranking, ChosenRank()))
             PlaceOffer();
     });
 }
 
 void frmDraft::MoveChosen(RankStep step, QPushButton* command)
 {
-    const auto rank = MoveRank(OpenWork(), DraftList, ChosenRank(), step, lstDraftList->count());
+    const auto rank = MoveRank(OpenWork(), ranking, ChosenRank(), step, lstDraftList->count());
     if (!rank)
         return;
     PlaceOffer();
@@ -127,7 +127,7 @@ void frmDraft::cmdDown_Click()
 
 void frmDraft::lstDraftList_Dropped(int from, int to)
 {
-    const int rank = MoveRankTo(DraftList, from, to);
+    const int rank = MoveRankTo(ranking, from, to);
     PlaceOffer();
     lstDraftList->setCurrentRow(rank);
 }
@@ -157,7 +157,7 @@ void frmDraft::lstPlayers_DblClick()
 void frmDraft::lstDraftList_DblClick()
 {
     if (const QListWidgetItem* chosen = lstDraftList->Chosen())
-        OpenViewer(static_cast<int>(DraftList[lstDraftList->row(chosen)]));
+        OpenViewer(static_cast<int>(ranking[lstDraftList->row(chosen)]));
 }
 
 void frmDraft::cmdSaveToFile_Click()
@@ -167,7 +167,7 @@ void frmDraft::cmdSaveToFile_Click()
             return;
         std::optional<std::string> saved;
         BehindWait([&] {
-            saved = SaveRanking(OpenLeague, OpenFiles(), OwnNumber(), DraftList, DraftType);
+            saved = SaveRanking(OpenLeague, OpenFiles(), OwnNumber(), ranking, DraftType);
             return saved.has_value();
         });
         if (saved)

@@ -41,8 +41,7 @@ public:
     void cmdSaveToFile_Click();
     void cmdExit_Click();
 
-    std::string DraftType;   // "Fantasy Draft" or "Entry Draft"; empty when there is no draft
-    DraftRanking& DraftList; // that of the open market
+    std::string DraftType; // "Fantasy Draft" or "Entry Draft"; empty when there is no draft
 
     EntryList* lstPlayers = nullptr;
     RankList* lstDraftList = nullptr;
@@ -62,6 +61,8 @@ private:
     [[nodiscard]] std::optional<int> ChosenRank() const;
     void MoveChosen(RankStep step, QPushButton* command);
     void OpenViewer(int id);
+
+    DraftRanking& ranking; // that of the open market
 };
 
 } // namespace dravik

@@ -15,9 +15,9 @@ constexpr const char* FilterCaption[] = {"C", "LW", "RW", "DF", "G"};
 
 } // namespace
 
-frmDraft::frmDraft(Stage& stage) : Screen(stage, "frmDraft"), DraftList(OpenMarket().Ranking)
+frmDraft::frmDraft(Stage& stage) : Screen(stage, "frmDraft"), ranking(OpenMarket().Ranking)
 {
-    DraftList = {};
+    RunStep("Begin a new draft list", [this] { ranking = {}; }); // of an empty one nothing is a step
     MakeControls();
 
     auto* content = new QWidget(this);

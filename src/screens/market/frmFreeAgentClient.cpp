@@ -81,7 +81,7 @@ void frmFreeAgentClient::FormLoad()
         }
         lblInfo->setText("Don't use a comma, a period or a dollar sign ($) in the salary, duration and bonus text box. "
                          "-- You need to fill the salary and duration textbox for a offer to be save.");
-        OpenOffers(OpenWork(), OwnNumber(), FreeAgentOffers);
+        OpenOffers(OpenWork(), OwnNumber(), offers);
         lblMaxOffer->setText(ToQString(OfferLimitWords(LeagueData)));
         ShowTally();
         SetTitle(ToQString(ProgramTitle) + " - Free Agent Client");
@@ -94,9 +94,9 @@ void frmFreeAgentClient::ShowPlayer()
 {
     Reporting(Machine(), " in ShowPlayer!", [this] {
         lstPlayers->Empty();
-        EachFreeAgent(OpenLeague, FreeAgentOffers, {.WithOfferOnly = chkShowPlayerWithOffer->isChecked()},
+        EachFreeAgent(OpenLeague, offers, {.WithOfferOnly = chkShowPlayerWithOffer->isChecked()},
                       [this](const FreeAgent& agent) {
-                          lstPlayers->addItem(new Entry(ToQString(agent.Text), agent.Id, FreeAgentOffers));
+                          lstPlayers->addItem(new Entry(ToQString(agent.Text), agent.Id, offers));
                       });
         if (lstPlayers->count() > 0)
             Choose(0);
@@ -151,9 +151,9 @@ void frmFreeAgentClient::lstPlayers_Click()
         const QListWidgetItem* current = lstPlayers->currentItem();
         if (current == nullptr)
             return;
-        OfferIndex = current->data(entry::NumberRole).toInt();
-        OpenHistory().Watch(static_cast<int>(OfferIndex));
-        if (const auto who = FreeAgentOf(OpenLeague, static_cast<int>(OfferIndex)))
+        offerIndex = current->data(entry::NumberRole).toInt();
+        OpenHistory().Watch(static_cast<int>(offerIndex));
+        if (const auto who = FreeAgentOf(OpenLeague, static_cast<int>(offerIndex)))
             ShowPerson(*who);
         else
             Tell([] { Machine().ShowIntegrityFailure(); });
@@ -170,7 +170,7 @@ void frmFreeAgentClient::ShowPerson(PersonId who)
         txtSalary->setToolTip(ToQString(Money(person.Salary)));
     });
     lblStatus->setText(IsRestricted(OpenLeague, who) ? "Status : RFA" : "Status : UFA");
-    const FreeAgentOffer* offer = TakeOffer(OpenLeague, OwnNumber(), FreeAgentOffers, who);
+    const FreeAgentOffer* offer = TakeOffer(OpenLeague, OwnNumber(), offers, who);
     if (offer == nullptr) {
         EnableOffer(false);
         for (EditBox* box : {txtOffer, txtDuration, txtBonus})
@@ -247,8 +247,8 @@ bool frmFreeAgentClient::IsTaken(LeavingBox& box, Entered entered)
 
 OfferTable& frmFreeAgentClient::OffersAtHand()
 {
-    TakeOffer(OpenLeague, OwnNumber(), FreeAgentOffers, PersonAtHand());
-    return FreeAgentOffers;
+    TakeOffer(OpenLeague, OwnNumber(), offers, PersonAtHand());
+    return offers;
 }
 
 void frmFreeAgentClient::txtOffer_LostFocus()
@@ -303,7 +303,7 @@ void frmFreeAgentClient::cmdSaveToFile_Click()
             return;
         std::optional<std::string> report;
         BehindWait([&] {
-            report = SaveOffers(OpenWork(), OpenFiles(), OwnNumber(), FreeAgentOffers);
+            report = SaveOffers(OpenWork(), OpenFiles(), OwnNumber(), offers);
             return report.has_value();
         });
         for (const std::string& page : ReportPages(report.value_or("")))
@@ -315,7 +315,7 @@ void frmFreeAgentClient::cmdExit_Click() { Unload(); }
 
 void frmFreeAgentClient::ShowTally()
 {
-    const OffersTally tally = TallyOffers(OpenLeague, OwnNumber(), FreeAgentOffers);
+    const OffersTally tally = TallyOffers(OpenLeague, OwnNumber(), offers);
     lblOffersMade->Tell(QString("%1 of %2 offers to others made")
                             .arg(tally.ToOthers)
                             .arg(static_cast<long long>(LeagueData.OffersLeft)),

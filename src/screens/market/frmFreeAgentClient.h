@@ -46,8 +46,8 @@ public:
     void cmdSaveToFile_Click();
     void cmdExit_Click();
 
-    OfferTable& FreeAgentOffers; // those of the open market
-    Int16 OfferIndex;            // id of the person shown
+    // The id of the person shown.
+    [[nodiscard]] Int16 OfferIndex() const { return offerIndex; }
 
     QLabel *lblTeam = nullptr, *lblInfo = nullptr, *lblMaxOffer = nullptr, *lblPlayer = nullptr, *lblStatus = nullptr;
     PickList* lstPlayers = nullptr;
@@ -85,7 +85,7 @@ private:
     void ShowNobody();
     void ShowPerson(PersonId who);
     void EnableOffer(bool enabled);
-    [[nodiscard]] PersonId PersonAtHand() const { return PersonOf(static_cast<int>(OfferIndex)); }
+    [[nodiscard]] PersonId PersonAtHand() const { return PersonOf(static_cast<int>(offerIndex)); }
     // The offers, of which the one at hand is its person's also where undoing took that back.
     OfferTable& OffersAtHand();
     // Whether the text of a box was taken; a refused one gets the focus back.
@@ -98,6 +98,8 @@ private:
     // What the offers come to so far.
     void ShowTally();
 
+    OfferTable& offers; // those of the open market
+    Int16 offerIndex;
     bool isPressed = false; // the list is being told of a press
     std::function<void()> waitingBox;
     QTimer secondPress;

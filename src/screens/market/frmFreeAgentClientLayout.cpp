@@ -25,8 +25,7 @@ QLabel* PlainLabel(QLabel* label, const char* name)
 
 } // namespace
 
-frmFreeAgentClient::frmFreeAgentClient(Stage& stage) :
-    Screen(stage, "frmFreeAgentClient"), FreeAgentOffers(OpenMarket().Offers)
+frmFreeAgentClient::frmFreeAgentClient(Stage& stage) : Screen(stage, "frmFreeAgentClient"), offers(OpenMarket().Offers)
 {
     MakeControls();
 

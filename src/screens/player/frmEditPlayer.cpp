@@ -69,7 +69,7 @@ void frmEditPlayer::ListPeople()
         if (isEverybody)
             return;
         MakeCurrent(lstPlayer->count() - 1);
-        PlayerPosition = position;
+        playerPosition = position;
         for (QPushButton* command : {cmdNewPlayer, cmdNewGoaler, cmdErase})
             command->hide();
     };
@@ -90,12 +90,12 @@ void frmEditPlayer::AddEntry(const std::string& name, int id, int position)
 
 void frmEditPlayer::RewriteEntry()
 {
-    QListWidgetItem* item = lstPlayer->item(ListPosition);
+    QListWidgetItem* item = lstPlayer->item(listPosition);
     const auto person = ShownPerson();
     if (item == nullptr || !person)
         return;
-    item->setText(ToQString(NameAndPosition(TextOf(OpenLeague, *person, TextField::Name), PlayerPosition)));
-    item->setData(entry::NumberRole, EntryNumber(person->Slot, PlayerPosition));
+    item->setText(ToQString(NameAndPosition(TextOf(OpenLeague, *person, TextField::Name), playerPosition)));
+    item->setData(entry::NumberRole, EntryNumber(person->Slot, playerPosition));
 }
 
 void frmEditPlayer::MakeCurrent(int entry)
@@ -112,7 +112,7 @@ void frmEditPlayer::Choose(int entry)
 
 bool frmEditPlayer::IsPersonShown() const
 {
-    return PlayerPosition >= position::Center && PlayerPosition <= position::Goalie;
+    return playerPosition >= position::Center && playerPosition <= position::Goalie;
 }
 
 std::optional<PersonId> frmEditPlayer::ShownPerson() const
@@ -121,7 +121,7 @@ std::optional<PersonId> frmEditPlayer::ShownPerson() const
         Machine().ShowIntegrityFailure();
         return std::nullopt;
     }
-    return PersonWith(PlayerPosition);
+    return PersonWith(playerPosition);
 }
 
 void frmEditPlayer::lstPlayer_Click()
@@ -132,8 +132,8 @@ void frmEditPlayer::lstPlayer_Click()
         if (current != nullptr) {
             const int number = current->data(entry::NumberRole).toInt();
             SelectedPlayer = EntryId(number);
-            PlayerPosition = EntryPosition(number);
-            ListPosition = lstPlayer->currentRow();
+            playerPosition = EntryPosition(number);
+            listPosition = lstPlayer->currentRow();
         }
         ratings->Hide();
         if (current == nullptr)
@@ -165,19 +165,19 @@ void frmEditPlayer::ShowRecord(PersonId person)
 
 void frmEditPlayer::ClearPositions()
 {
-    PositionEventsOn = false;
+    positionEventsOn = false;
     positions->setExclusive(false);
     for (QAbstractButton* option : positions->buttons())
         option->setChecked(false);
     positions->setExclusive(true);
-    PositionEventsOn = true;
+    positionEventsOn = true;
 }
 
 void frmEditPlayer::TickPosition(QRadioButton* option)
 {
-    PositionEventsOn = false;
+    positionEventsOn = false;
     option->setChecked(true);
-    PositionEventsOn = true;
+    positionEventsOn = true;
 }
 
 void frmEditPlayer::ShowRatings(PersonId person)
@@ -205,12 +205,12 @@ void frmEditPlayer::ShowRow(int row, std::string_view label, int rating)
 // Shows the overall anew after a rating has changed.
 void frmEditPlayer::ShowOverall()
 {
-    const StatRows rows = StatRowsOf(PersonWith(PlayerPosition));
+    const StatRows rows = StatRowsOf(PersonWith(playerPosition));
     if (rows.OverallRow)
         SetRow(static_cast<int>(rows.Ratings.size()) + 1, *rows.OverallRow);
 }
 
-void frmEditPlayer::FormUnload() { Owner.ViewerClosed(Changed); }
+void frmEditPlayer::FormUnload() { Owner.ViewerClosed(isChanged); }
 
 void frmEditPlayer::cmdExit_Click() { Unload(); }
 

@@ -74,13 +74,15 @@ public:
     QPushButton *cmdSearch = nullptr, *cmdNewPlayer = nullptr, *cmdNewGoaler = nullptr;
     QPushButton *cmdErase = nullptr, *cmdExit = nullptr;
 
-    int PlayerPosition = 0; // position digit of the shown person, 5 for a goalie
-    int ListPosition = -1;  // index of the current entry of the list
-    bool NewPlayerMode = false;
-    bool NewGoalieMode = false;
-    int FreeSlot = 0;             // where the new record goes
-    bool PositionEventsOn = true; // false while the screen chooses a position itself
-    bool Changed = false;         // something that the opener must rebuild for
+    // The position digit of the shown person, 5 for a goalie; the index of the current entry of the list.
+    [[nodiscard]] int PlayerPosition() const { return playerPosition; }
+    [[nodiscard]] int ListPosition() const { return listPosition; }
+    // Whether a new record is being typed, and where it goes.
+    [[nodiscard]] bool NewPlayerMode() const { return newPlayerMode; }
+    [[nodiscard]] bool NewGoalieMode() const { return newGoalieMode; }
+    [[nodiscard]] int FreeSlot() const { return freeSlot; }
+    // Whether there is something that the opener must rebuild for.
+    [[nodiscard]] bool Changed() const { return isChanged; }
 
 protected:
     void changeEvent(QEvent* event) override;
@@ -138,6 +140,13 @@ private:
     void CloseEditor();
     void ShadeClosedControls();
 
+    int playerPosition = 0;
+    int listPosition = -1;
+    bool newPlayerMode = false;
+    bool newGoalieMode = false;
+    int freeSlot = 0;
+    bool positionEventsOn = true; // false while the screen chooses a position itself
+    bool isChanged = false;
     QButtonGroup* positions = nullptr;
     RatingRows* ratings = nullptr;
 };

@@ -52,7 +52,7 @@ void frmEditPlayer::LeaveBox(EditBox* box, InputMode mode, const std::function<v
             box->TakeFocusBack();
             return;
         }
-        if (NewPlayerMode || NewGoalieMode)
+        if (newPlayerMode || newGoalieMode)
             return;
         if (text.empty()) {
             if (const auto person = ShownPerson())
@@ -119,10 +119,10 @@ void frmEditPlayer::ShowTurn(HealthTurn turn)
     case HealthTurn::Injured:
         txtInjury->setEnabled(true);
         txtInjury->setFocus();
-        Changed = true;
+        isChanged = true;
         break;
     case HealthTurn::Suspended:
-        Changed = true;
+        isChanged = true;
         break;
     }
 }
@@ -146,13 +146,13 @@ void frmEditPlayer::txtStats_LostFocus(int index)
 void frmEditPlayer::optPosition_Click(int index)
 {
     Reporting(Machine(), " in optPosition!", [&] {
-        if (!PositionEventsOn || NewPlayerMode || NewGoalieMode)
+        if (!positionEventsOn || newPlayerMode || newGoalieMode)
             return;
         const auto person = ShownPerson();
         if (!person || person->IsGoalie)
             return;
         SetPosition(OpenWork(), person->Slot, index);
-        PlayerPosition = index;
+        playerPosition = index;
         RewriteEntry();
     });
 }
@@ -160,7 +160,7 @@ void frmEditPlayer::optPosition_Click(int index)
 void frmEditPlayer::CopyFlag(FlagField field, const QCheckBox* box)
 {
     Reporting(Machine(), Ending(box->objectName()), [&] {
-        if (NewPlayerMode || NewGoalieMode)
+        if (newPlayerMode || newGoalieMode)
             return;
         if (const auto person = ShownPerson())
             SetFlag(OpenWork(), *person, field, box->isChecked());

@@ -12,29 +12,29 @@ namespace dravik {
 
 void frmEditPlayer::LeaveNewPlayerMode()
 {
-    NewPlayerMode = false;
+    newPlayerMode = false;
     cmdNewPlayer->setText("New Player");
 }
 
 void frmEditPlayer::LeaveNewGoalieMode()
 {
-    NewGoalieMode = false;
+    newGoalieMode = false;
     cmdNewGoaler->setText("New Goalie");
 }
 
 void frmEditPlayer::cmdNewPlayer_Click()
 {
     Reporting(Machine(), " in cmdNewPlayer!", [this] {
-        if (NewPlayerMode) {
-            SaveRecord({false, FreeSlot});
+        if (newPlayerMode) {
+            SaveRecord({false, freeSlot});
             return;
         }
         LeaveNewGoalieMode();
         const int slot = FreeSlotFor(OpenWork(), false);
         if (slot == 0)
             return;
-        FreeSlot = slot;
-        NewPlayerMode = true;
+        freeSlot = slot;
+        newPlayerMode = true;
         BeginRecord({false, slot});
         cmdNewPlayer->setText("Save Player");
     });
@@ -43,16 +43,16 @@ void frmEditPlayer::cmdNewPlayer_Click()
 void frmEditPlayer::cmdNewGoaler_Click()
 {
     Reporting(Machine(), " in cmdNewGoaler!", [this] {
-        if (NewGoalieMode) {
-            SaveRecord({true, FreeSlot});
+        if (newGoalieMode) {
+            SaveRecord({true, freeSlot});
             return;
         }
         LeaveNewPlayerMode();
         const int slot = FreeSlotFor(OpenWork(), true);
         if (slot == 0)
             return;
-        FreeSlot = slot;
-        NewGoalieMode = true;
+        freeSlot = slot;
+        newGoalieMode = true;
         BeginRecord({true, slot});
         cmdNewGoaler->setText("Save Goalie");
     });
@@ -116,7 +116,7 @@ void frmEditPlayer::SaveRecord(PersonId person)
                  person.IsGoalie ? position::Goalie : record.Position);
         FitList(); // a second entry makes it a list to choose from
         Choose(lstPlayer->count() - 1);
-        (person.IsGoalie ? NewGoalieMode : NewPlayerMode) = false;
+        (person.IsGoalie ? newGoalieMode : newPlayerMode) = false;
     });
     if (!isCreated)
         return;
@@ -150,12 +150,12 @@ void frmEditPlayer::cmdErase_Click()
         if (lstPlayer->currentItem() == nullptr)
             return;
         const auto person = ShownPerson();
-        if (!person || !ErasePerson(OpenWork(), *person, PlayerPosition))
+        if (!person || !ErasePerson(OpenWork(), *person, playerPosition))
             return;
         const QSignalBlocker quiet(lstPlayer);
         delete lstPlayer->takeItem(lstPlayer->currentRow());
         lstPlayer->Unchoose();
-        ListPosition = -1; // whoever moved up in the list is not the one on show
+        listPosition = -1; // whoever moved up in the list is not the one on show
         cmdErase->setEnabled(false);
     });
 }

@@ -84,7 +84,7 @@ void frmRoster::ShowPlayer(bool noCheck)
     Reporting(Machine(), " in ShowPlayer!", [&] {
         for (PickList* list : lstPlayer)
             list->Empty();
-        StatusCount = {};
+        statusCount = {};
         OwnTeam().ProtectedCount = 0;
         EachOfTeam(Players, OwnNumber(), [this](Player& player, int index) { ListPerson(player, index); });
         EachOfTeam(Goalies, OwnNumber(), [this](Goalie& keeper, int index) { ListPerson(keeper, index); });
@@ -106,9 +106,9 @@ void frmRoster::ListPerson(Person& person, int index)
     const PersonId who = PersonIn<Person>(index);
     if (person.Status == status::Farm)
         KeepOffFarm(OpenWork(), who);
-    ++StatusCount[person.Status];
+    ++statusCount[person.Status];
     if (person.Status > status::Farm && IsFit(person))
-        ++StatusCount[3];
+        ++statusCount[3];
     const int position = PositionOf(person);
     if (!who.IsGoalie && (position < position::Center || position > position::Defense)) {
         Machine().ShowBox(name + " has no position!", box::Warning);
@@ -244,7 +244,7 @@ void frmRoster::ShowRatings(PersonId who)
     else
         TellSkaterRatings(OpenLeague, who.Slot, count, show);
     const int overall = CalculateOverall(OpenLeague, Machine(), who);
-    PlayerOverall = overall;
+    playerOverall = overall;
     if (LeagueData.ShowOverall)
         Stats->ShowRow(count + 1,
                        who.IsGoalie ? GoalieOverallRow(LeagueData, overall) : SkaterOverallRow(LeagueData, overall));
@@ -290,7 +290,7 @@ void frmRoster::Change(int from, int to, int id, int position, bool& done)
             return;
         }
         const PersonId who{.IsGoalie = position == position::Goalie, .Slot = id};
-        if (!MoveOnRoster(OpenWork(), OwnNumber(), who, from, to, StatusCount))
+        if (!MoveOnRoster(OpenWork(), OwnNumber(), who, from, to, statusCount))
             return;
         for (QPushButton* move : {cmdToFarm, cmdToPro, cmdToScratchesFromFarm, cmdToScratchesFromPro})
             move->setEnabled(false);

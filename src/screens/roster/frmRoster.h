@@ -62,9 +62,9 @@ public:
     void cmdExit_Click();
 
     // People of the team by `Status`, listed or not; entry 3 counts those off the farm who are fit to dress.
-    RosterCounts StatusCount;
+    [[nodiscard]] const RosterCounts& StatusCount() const { return statusCount; }
     // The overall of the person whom ShowStats showed last.
-    Int16 PlayerOverall;
+    [[nodiscard]] Int16 PlayerOverall() const { return playerOverall; }
 
     Row<PickList*, 0, 2> lstPlayer;
     Row<QLabel*, 0, 2> lblPlayer;
@@ -116,6 +116,9 @@ private:
     QListWidgetItem* CurrentEntry();
     // Takes the person chosen from the pro list to the scratches. False when something stands against it.
     bool ScratchSelected();
+
+    RosterCounts statusCount;
+    Int16 playerOverall;
 };
 
 } // namespace dravik

@@ -60,9 +60,9 @@ void frmRoster::MoveChosen(int from, int to, Permission (frmRoster::*mayMove)())
 }
 
 // The overall of the person shown last decides for everybody chosen.
-Permission frmRoster::MayGoToFarm() { return dravik::MayGoToFarm(OpenWork(), PlayerOverall); }
+Permission frmRoster::MayGoToFarm() { return dravik::MayGoToFarm(OpenWork(), playerOverall); }
 
-Permission frmRoster::MayLeaveFarm() { return dravik::MayLeaveFarm(OpenWork(), StatusCount); }
+Permission frmRoster::MayLeaveFarm() { return dravik::MayLeaveFarm(OpenWork(), statusCount); }
 
 void frmRoster::cmdToFarm_Click()
 {
