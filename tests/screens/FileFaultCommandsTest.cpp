@@ -61,7 +61,7 @@ protected:
 
     void ExpectEnding(const std::function<void()>& command, const Ending& ending)
     {
-        (void)Machine.TakeBoxes();
+        Machine.ClearSeenBoxes();
         Machine.CloseWait();
         command();
         // A box that comes while the wait screen stays comes before it; any other comes after its end.
@@ -119,6 +119,8 @@ TEST_F(TeamFileFaults, LoadingLinesTellsEveryFaultAndWorksAgain)
     for (const bool plain : {false, true}) {
         Machine.Settings["SkipZIPClient"] = plain ? "YES" : "No";
         Click(office.cmdSaveToFile);
+        EXPECT_THAT(Machine.TakeBoxes(),
+                    ::testing::ElementsAre(Box{64, "Lines file for Harbour City successfully save at\r\n" + Target}));
         const auto prepare = [&] { WriteWhole(TempFile, {'o', 'l', 'd'}); };
         const auto load = [&] {
             Own().City = "Elsewhere";

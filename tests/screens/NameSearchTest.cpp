@@ -28,6 +28,7 @@ protected:
 TEST_F(NameSearch, AsksUnderItsOwnTitleWithNothingTyped)
 {
     SearchFor("x");
+    EXPECT_THAT(Machine.Boxes(), ElementsAre(Box{64, "Player not found!"}));
     EXPECT_THAT(Machine.Questions(),
                 ElementsAre(Question{"Complete or Part of the Player Name?", "Player Search", ""}));
 }
@@ -51,13 +52,15 @@ TEST_F(NameSearch, StartsAtTheFirstEntryWhateverIsChosen)
 TEST_F(NameSearch, AnEmptyOrCancelledAnswerIsInTheFirstEntry)
 {
     EXPECT_EQ(SearchFor(""), 0);
-    EXPECT_EQ(SearchPlayer(List), 0);
+    EXPECT_EQ(SearchPlayer(List), 0); // with no answer in the script
+    EXPECT_EQ(Machine.Questions().size(), 2U);
     EXPECT_THAT(Machine.Boxes(), IsEmpty());
 }
 
 TEST_F(NameSearch, ABlankIsAnAnswerLikeAnyOther)
 {
     EXPECT_EQ(SearchFor("  "), -1);
+    EXPECT_THAT(Machine.TakeBoxes(), ElementsAre(Box{64, "Player not found!"}));
     EXPECT_EQ(SearchFor(" "), 0);
 }
 

@@ -13,7 +13,7 @@ using ::testing::Pair;
 
 class RosterNews : public OnRosterScreen {
 protected:
-    // Skater 1, Ward Tilton, scratched, chosen on the screen; what opening told is forgotten.
+    // Skater 1, Ward Tilton, scratched, chosen on the screen; the news of opening is forgotten.
     Player& Tilton()
     {
         Player& player = PutSkater(1, 5, position::Center, status::Scratch);
@@ -35,6 +35,7 @@ TEST_F(RosterNews, AReleaseIsToldToTheLeagueAndToTheTeam)
     Click(Roster().cmdRelease);
     const std::string line = "Ward Tilton was released by Harbour City Gulls for $1,000,000.00";
     EXPECT_THAT(Machine.TakeNews(), ElementsAre(News{"league", line}, News{"team 5", line}));
+    EXPECT_THAT(Machine.Boxes(), ElementsAre(Box{36, "Are you sure you want to release Ward Tilton?"}));
 }
 
 TEST_F(RosterNews, AReleasedGoalieIsToldOfInTheSameWords)
@@ -47,6 +48,7 @@ TEST_F(RosterNews, AReleasedGoalieIsToldOfInTheSameWords)
     Click(Roster().cmdRelease);
     const std::string line = "Piet Vos was released by Harbour City Gulls for $0.00";
     EXPECT_THAT(Machine.TakeNews(), ElementsAre(News{"league", line}, News{"team 5", line}));
+    EXPECT_THAT(Machine.Boxes(), ElementsAre(Box{36, "Are you sure you want to release Piet Vos?"}));
 }
 
 TEST_F(RosterNews, AReleaseThatIsTakenBackIsNoNews)
@@ -55,6 +57,7 @@ TEST_F(RosterNews, AReleaseThatIsTakenBackIsNoNews)
     Machine.Answer(button::No);
     Click(Roster().cmdRelease);
     EXPECT_THAT(Machine.TakeNews(), IsEmpty());
+    EXPECT_THAT(Machine.Boxes(), ElementsAre(Box{36, "Are you sure you want to release Ward Tilton?"}));
 }
 
 TEST_F(RosterNews, TheCaptainIsToldToTheTeam)
@@ -62,10 +65,13 @@ TEST_F(RosterNews, TheCaptainIsToldToTheTeam)
     Tilton();
     Click(Roster().cmdCaptain);
     EXPECT_THAT(Machine.TakeNews(), ElementsAre(News{"team 5", "Ward Tilton has been selected as captain."}));
+    EXPECT_THAT(Machine.Boxes(),
+                ElementsAre(Box{64, "Ward Tilton has been selected as captain for Harbour City Gulls."}));
 }
 
 TEST_F(RosterNews, AnAssistantIsToldToTheTeamInTheSameWordsOnEitherPlace)
 {
+    const Box question{35, "Do you want Ward Tilton to be assistant #1 (Yes) or assistant #2 (No)?"};
     for (const int answer : {button::Yes, button::No}) {
         Own().Assistant[1] = 0;
         Own().Assistant[2] = 0;
@@ -73,12 +79,16 @@ TEST_F(RosterNews, AnAssistantIsToldToTheTeamInTheSameWordsOnEitherPlace)
         Machine.Answer(answer);
         Click(Roster().cmdAssistant);
         EXPECT_THAT(Machine.TakeNews(), ElementsAre(News{"team 5", "Ward Tilton has been selected as assistant."}));
+        const std::string place = answer == button::Yes ? "#1" : "#2";
+        EXPECT_THAT(Machine.TakeBoxes(), ElementsAre(question, Box{64, "Ward Tilton has been selected as assistant " +
+                                                                           place + " for Harbour City Gulls."}));
     }
     Own().Assistant[2] = 0;
     Choose(1, position::Center);
     Machine.Answer(button::Cancel);
     Click(Roster().cmdAssistant);
     EXPECT_THAT(Machine.TakeNews(), IsEmpty());
+    EXPECT_THAT(Machine.Boxes(), ElementsAre(question));
 }
 
 TEST_F(RosterNews, OfficesThatAreRefusedAreNoNews)
@@ -87,6 +97,8 @@ TEST_F(RosterNews, OfficesThatAreRefusedAreNoNews)
     Roster().cmdCaptain_Click();
     Roster().cmdAssistant_Click();
     EXPECT_THAT(Machine.TakeNews(), IsEmpty());
+    EXPECT_THAT(Machine.Boxes(),
+                ElementsAre(Box{64, "Farm Player cannot be Captain!"}, Box{64, "Farm Player cannot be Assistant!"}));
 }
 
 TEST_F(RosterNews, WaiversAreNoNews)
@@ -95,6 +107,7 @@ TEST_F(RosterNews, WaiversAreNoNews)
     Roster().cmdSendToWaiver_Click();
     EXPECT_EQ(player.Suspension, 99);
     EXPECT_THAT(Machine.TakeNews(), IsEmpty());
+    EXPECT_THAT(Machine.Boxes(), ElementsAre(Box{64, "Ward Tilton was sent to Waiver."}));
 }
 
 class TeamNewsLines : public OnTeamScreen {
@@ -133,6 +146,7 @@ TEST_F(TeamNewsLines, ANameThatIsRefusedIsNoNews)
 {
     Enter(QuietOffice().txtTeamName, "");
     EXPECT_THAT(Machine.TakeNews(), IsEmpty());
+    EXPECT_THAT(Machine.Boxes(), ElementsAre(Box{48, "No Valid Input!"}));
 }
 
 TEST_F(TeamNewsLines, AnotherGeneralManagerIsFiredAndHired)
@@ -170,6 +184,8 @@ TEST_F(TeamNewsLines, AFiredCoachIsToldToTheLeagueAndToTheTeam)
     Office().cmdFireFarm_Click();
     EXPECT_THAT(Machine.TakeNews(), ElementsAre(News{"league", "Pebble Creek Ducks fired Marek Zelinka."},
                                                 News{"team 5", "Pebble Creek Ducks fired Marek Zelinka."}));
+    EXPECT_THAT(Machine.Boxes(), ElementsAre(Box{36, "Are you sure you wants to fire Tor Lindqvist?"},
+                                             Box{36, "Are you sure you wants to fire Marek Zelinka?"}));
 }
 
 TEST_F(TeamNewsLines, ACoachWhoStaysAndOtherTextsAreNoNews)
@@ -182,28 +198,34 @@ TEST_F(TeamNewsLines, ACoachWhoStaysAndOtherTextsAreNoNews)
     Enter(Office().txtAbbre, "WXC");
     Enter(Office().txtProMorale, "77");
     EXPECT_THAT(Machine.TakeNews(), IsEmpty());
+    EXPECT_THAT(Machine.Boxes(), ElementsAre(Box{36, "Are you sure you wants to fire Tor Lindqvist?"}));
 }
 
 class ViewerNews : public OnViewer {
 protected:
-    // Erases the person shown, who belongs to a team and `retires` or is released.
-    void Erase(frmEditPlayer& viewer, int retires)
+    // Erases the person shown, a `kind` of that name who belongs to a team and `retires` or is released.
+    void Erase(frmEditPlayer& viewer, const std::string& name, const std::string& kind, int retires)
     {
         Machine.TakeNews();
         Machine.Answer(button::Yes);
         Machine.Answer(button::Yes);
         Machine.Answer(retires);
         viewer.cmdErase_Click();
+        EXPECT_THAT(
+            Machine.TakeBoxes(),
+            ElementsAre(Box{36, "Are you sure you want to erase " + name + "?"},
+                        Box{36, name + " is hired by Harbour City Gulls! Do you want release the " + kind + "?"},
+                        Box{36, "Is " + name + " retiring?"}));
     }
 };
 
 TEST_F(ViewerNews, AnErasedSkaterIsToldOfAndHandedOnWithHisPosition)
 {
-    Erase(Edit(7), button::Yes);
+    Erase(Edit(7), "Ward Tilton", "player", button::Yes);
     const std::string retired = "Ward Tilton retired from Harbour City Gulls";
     EXPECT_THAT(Machine.TakeNews(), ElementsAre(News{"league", retired}, News{"team 5", retired}));
     EXPECT_THAT(Machine.ErasedPlayers(), ElementsAre(Pair(7, 2)));
-    Erase(Edit(7), button::No);
+    Erase(Edit(7), "Ward Tilton", "player", button::No);
     const std::string released = "Ward Tilton was released by Harbour City Gulls";
     EXPECT_THAT(Machine.TakeNews(), ElementsAre(News{"league", released}, News{"team 5", released}));
     EXPECT_THAT(Machine.ErasedPlayers(), ElementsAre(Pair(7, 2), Pair(7, 2)));
@@ -211,7 +233,7 @@ TEST_F(ViewerNews, AnErasedSkaterIsToldOfAndHandedOnWithHisPosition)
 
 TEST_F(ViewerNews, AnErasedGoalieIsToldOfAndHandedOnWithHisPosition)
 {
-    Erase(Edit(7, true), button::No);
+    Erase(Edit(7, true), "Piet Vos", "goalie", button::No);
     const std::string released = "Piet Vos was released by Harbour City Gulls";
     EXPECT_THAT(Machine.TakeNews(), ElementsAre(News{"league", released}, News{"team 5", released}));
     EXPECT_THAT(Machine.ErasedPlayers(), ElementsAre(Pair(7, 5)));
@@ -226,6 +248,7 @@ TEST_F(ViewerNews, WhoBelongsToNobodyIsErasedWithoutNews)
     viewer.cmdErase_Click();
     EXPECT_THAT(Machine.TakeNews(), IsEmpty());
     EXPECT_THAT(Machine.ErasedPlayers(), ElementsAre(Pair(7, 2)));
+    EXPECT_THAT(Machine.Boxes(), ElementsAre(Box{36, "Are you sure you want to erase Ward Tilton?"}));
 }
 
 TEST_F(ViewerNews, AnErasureThatIsTakenBackTellsAndHandsOnNothing)
@@ -239,6 +262,10 @@ TEST_F(ViewerNews, AnErasureThatIsTakenBackTellsAndHandsOnNothing)
     viewer.cmdErase_Click();
     EXPECT_THAT(Machine.TakeNews(), IsEmpty());
     EXPECT_THAT(Machine.ErasedPlayers(), IsEmpty());
+    const Box question{36, "Are you sure you want to erase Ward Tilton?"};
+    EXPECT_THAT(Machine.Boxes(),
+                ElementsAre(question, question,
+                            Box{36, "Ward Tilton is hired by Harbour City Gulls! Do you want release the player?"}));
 }
 
 TEST_F(ViewerNews, ASuspensionThatBeginsIsToldToTheLeague)
@@ -281,6 +308,8 @@ TEST_F(ViewerNews, ACreatedPersonIsToldToTheLeague)
     fill(viewer, "Tor Lindqvist", 13);
     viewer.cmdNewGoaler_Click();
     EXPECT_THAT(Machine.TakeNews(), ElementsAre(News{"league", "Tor Lindqvist was created."}));
+    EXPECT_THAT(Machine.Boxes(), ElementsAre(Box{64, "Nils Ekdahl was successfully created!"},
+                                             Box{64, "Tor Lindqvist was successfully created!"}));
 }
 
 } // namespace

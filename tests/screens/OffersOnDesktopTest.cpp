@@ -169,6 +169,7 @@ TEST_F(SecondPress, IsNoLongerWaitedForOnceAnythingElseIsAskedFor)
     };
     askFor([this] { ClickEntry(0); });
     askFor([this] { Click(Offers().cmdSearch); });
+    EXPECT_EQ(Machine.Questions().size(), 1U);
     askFor([this] { Click(Offers().cmdSaveToFile); });
     askFor([this] { Click(Offers().chkShowPlayerWithOffer); });
     Click(Offers().chkShowPlayerWithOffer);

@@ -26,7 +26,7 @@ protected:
         LeagueData.FantasyDraft = true;
     }
 
-    // Opens a screen of team 5, the main screen included; what opening told is forgotten.
+    // Opens a screen of team 5, the main screen included, which tells nothing.
     Screen& OpenScreen(const std::string& name)
     {
         frmMain& main = MainWithLeague();
@@ -39,7 +39,7 @@ protected:
             OpenTeam(5);
         TheStage.Open(name, name == "Ticket" ? static_cast<Screen&>(*TeamScreen()) : main);
         Settle();
-        (void)Machine.TakeBoxes();
+        EXPECT_THAT(Machine.TakeBoxes(), ::testing::IsEmpty());
         return *TheStage.Find(name);
     }
     void CloseScreen(Screen& screen)

@@ -29,7 +29,7 @@ protected:
     static Lines& ProDay(int day = 1) { return Own().ProLines[day]; }
     static Lines& FarmDay(int day = 1) { return Own().Farm.FarmLines[day]; }
 
-    // The screens, opened from the main screen; what opening told is forgotten.
+    // The screens, opened from the main screen, which tells nothing.
     frmLine& Line() { return Opened<frmLine>("Line"); }
     frmFarmLine& FarmLine() { return Opened<frmFarmLine>("FarmLine"); }
     template <class T>
@@ -37,7 +37,7 @@ protected:
     {
         if (TheStage.Find(name) == nullptr) {
             OpenFrom(MainWithLeague(), name, "Main");
-            (void)Machine.TakeBoxes();
+            EXPECT_THAT(Machine.TakeBoxes(), ::testing::IsEmpty());
             Modified = false;
         }
         return *static_cast<T*>(TheStage.Find(name));

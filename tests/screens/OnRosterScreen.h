@@ -52,12 +52,14 @@ protected:
         LeagueData.TradeDeadlineInForce = true;
     }
 
-    // The screen, opened from the main screen; what opening told is forgotten.
-    frmRoster& Roster()
+    // The screen, opened from the main screen, which tells `told` and then what the roster lacks.
+    frmRoster& Roster(std::vector<Box> told = {})
     {
         if (RosterScreen() == nullptr) {
             OpenFrom(MainWithLeague(), "Main");
-            (void)Machine.TakeBoxes();
+            if (const std::string lacks = LastRosterText(); !lacks.empty())
+                told.push_back({box::Warning, lacks});
+            EXPECT_EQ(Machine.TakeBoxes(), told);
             Modified = false;
         }
         return *RosterScreen();

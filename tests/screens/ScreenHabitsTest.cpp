@@ -75,6 +75,7 @@ TEST_F(TeamFinance, AFigureThatIsNotReachedKeepsWhatItShowed)
     office.UpdateFinance();
     EXPECT_EQ(Of(office.lblHGLeft), "39");
     EXPECT_EQ(Of(office.lblEstimatedRevenue), "$20,000");
+    EXPECT_THAT(Machine.Boxes(), ElementsAre(Box{16, "6 - Overflow in UpdateFinance!"}));
 }
 
 TEST_F(TeamFinance, HiddenAveragesShowAnAttendanceOfPlainZero)
@@ -310,6 +311,7 @@ TEST_F(FailingScreens, AScreenThatWantedToCloseBeforeItFailedIsClosed)
     Open("load and unload");
     EXPECT_EQ(TheStage.Find("Draft"), nullptr);
     EXPECT_TRUE(Main().isVisible());
+    EXPECT_THAT(Machine.Boxes(), ElementsAre(Box{16, "6 - Overflow in Form_Load!"}));
 }
 
 TEST_F(FailingScreens, TheOpenerHidesEvenWhenTheScreenFailsInFront)

@@ -46,6 +46,8 @@ TEST_F(TitleBars, TheTeamScreenShowsTheSignsOfFileAndTeam)
     EXPECT_EQ(TitleBarOf("Team"), Program + "Cup [*] - " + Name);
     Enter(TeamScreen()->txtTeamName, "Owls * of [ Ellery");
     EXPECT_EQ(Own().Name.Trimmed(), Name) << "a bracket cannot be typed";
+    EXPECT_THAT(Machine.Boxes(),
+                ::testing::ElementsAre(Box{48, "Only numbers, letters and spaces are allowed in that textbox!"}));
 }
 
 TEST_F(TitleBars, EveryScreenOfTheTeamShowsTheSignsOfItsName)

@@ -253,6 +253,7 @@ TEST_F(frmDraftTest, ACancelledSearchSelectsTheFirstEntry)
     Click(draft.cmdSearch);
     EXPECT_EQ(draft.lstPlayers->currentRow(), 0);
     EXPECT_NE(draft.lstPlayers->Chosen(), nullptr);
+    EXPECT_THAT(Machine.Questions(), ElementsAre(Question{"Complete or Part of the Player Name?", "Player Search"}));
 }
 
 TEST_F(frmDraftTest, ASearchInVainKeepsTheChoice)

@@ -65,6 +65,10 @@ TEST_F(ViewerErasure, NobodyIsChosenInThePlaceOfWhoIsErased)
     EXPECT_EQ(Of(viewer.txtName), "Ward Tilton");
     EXPECT_FALSE(viewer.cmdErase->isEnabled());
     EXPECT_TRUE(Modified);
+    EXPECT_THAT(Machine.Boxes(),
+                ElementsAre(Box{36, "Are you sure you want to erase Ward Tilton?"},
+                            Box{36, "Ward Tilton is hired by Harbour City Gulls! Do you want release the player?"},
+                            Box{36, "Is Ward Tilton retiring?"}));
 }
 
 TEST_F(ViewerErasure, EraseAsksOnceWithoutATeam)
@@ -79,13 +83,16 @@ TEST_F(ViewerErasure, EraseAsksOnceWithoutATeam)
 TEST_F(ViewerErasure, AnythingButYesKeepsTheEntry)
 {
     frmEditPlayer& viewer = Edit(7);
+    const Box first{36, "Are you sure you want to erase Ward Tilton?"};
     Machine.Answer(button::No);
     viewer.cmdErase_Click();
-    EXPECT_EQ(Machine.TakeBoxes().size(), 1U);
+    EXPECT_THAT(Machine.TakeBoxes(), ElementsAre(first));
     Machine.Answer(button::Yes);
     Machine.Answer(button::Cancel);
     viewer.cmdErase_Click();
-    EXPECT_EQ(Machine.TakeBoxes().size(), 2U);
+    EXPECT_THAT(
+        Machine.TakeBoxes(),
+        ElementsAre(first, Box{36, "Ward Tilton is hired by Harbour City Gulls! Do you want release the player?"}));
     EXPECT_EQ(viewer.lstPlayer->count(), 1);
     EXPECT_TRUE(viewer.cmdErase->isEnabled());
     EXPECT_FALSE(Modified);

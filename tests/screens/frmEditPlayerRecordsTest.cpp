@@ -98,6 +98,7 @@ TEST_F(ViewerRecords, ACancelledSearchFindsTheFirstEntry)
     viewer.cmdSearch_Click();
     EXPECT_EQ(viewer.lstPlayer->currentRow(), 0);
     EXPECT_THAT(Machine.Boxes(), IsEmpty());
+    EXPECT_THAT(Machine.Questions(), ElementsAre(Question{"Complete or Part of the Player's Name?", "Player Search"}));
 }
 
 TEST_F(ViewerRecords, AFailureOfTheSearchIsReported)
@@ -194,6 +195,7 @@ TEST_F(ViewerRecords, ANewPlayerIsSavedWithAllHisFlagsAndInNoTeam)
         EXPECT_EQ(flag.Word(), -1);
     EXPECT_EQ(Players[1].Team, 0);
     EXPECT_EQ(Of(viewer.txtTeam), "");
+    EXPECT_THAT(Machine.Boxes(), ElementsAre(Box{64, "Lenny Brisk was successfully created!"}));
 }
 
 TEST_F(ViewerRecords, ANewGoalieIsSavedWithItsBoxes)
@@ -260,6 +262,7 @@ TEST_F(ViewerRecords, TheBoxOfASaveComesBehindTheModeAndBeforeModifiedAndTheCapt
         });
         press();
         EXPECT_TRUE(isUp);
+        EXPECT_THAT(Machine.TakeBoxes(), ElementsAre(Box{64, "Lenny Brisk was successfully created!"}));
         EXPECT_TRUE(Modified);
         EXPECT_EQ(command->text(), isGoalie ? "New Goalie" : "New Player");
     }
@@ -277,6 +280,7 @@ TEST_F(ViewerRecords, ANewRecordIsShownFromItsEntry)
     EXPECT_EQ(Of(viewer.txtInjury), "Knee");
     EXPECT_EQ(viewer.PlayerPosition(), 1);
     EXPECT_EQ(viewer.ListPosition(), 1);
+    EXPECT_THAT(Machine.Boxes(), ElementsAre(Box{64, "Lenny Brisk was successfully created!"}));
 }
 
 TEST_F(ViewerRecords, ANewRecordHoldsThreeCharactersOfItsCountry)
@@ -288,6 +292,7 @@ TEST_F(ViewerRecords, ANewRecordHoldsThreeCharactersOfItsCountry)
     viewer.cmdNewGoaler_Click();
     EXPECT_EQ(Goalies[1].Country.Raw(), "Swe");
     EXPECT_EQ(Of(viewer.txtCountry), "Swe");
+    EXPECT_THAT(Machine.Boxes(), ElementsAre(Box{64, "Lenny Brisk was successfully created!"}));
 }
 
 TEST_F(ViewerRecords, ASecondEntryMakesTheTitleAListToChooseFrom)
@@ -303,6 +308,7 @@ TEST_F(ViewerRecords, ASecondEntryMakesTheTitleAListToChooseFrom)
     EXPECT_TRUE(viewer.lstPlayer->item(1)->isSelected());
     Press(viewer.lstPlayer, Qt::Key_Home);
     EXPECT_EQ(Of(viewer.txtName), "Ward Tilton");
+    EXPECT_THAT(Machine.Boxes(), ElementsAre(Box{64, "Lenny Brisk was successfully created!"}));
 }
 
 TEST_F(ViewerRecords, EveryFieldOfANewRecordIsRequiredButInjurySuspensionAndTeam)

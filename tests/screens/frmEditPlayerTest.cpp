@@ -96,6 +96,7 @@ TEST_F(PlayerViewer, TheTitleSpeaksOfEditingWhileTheScreenLoads)
     AtNextBox([&] { title = Viewer().windowTitle(); });
     EXPECT_EQ(Show(7).windowTitle(), CaptionOfViewer);
     EXPECT_EQ(title, CaptionWhileLoading);
+    EXPECT_THAT(Machine.Boxes(), ElementsAre(Box{48, "Skater 20 has no position! He's now center."}));
 }
 
 TEST_F(PlayerViewer, AFailureWhileOpeningIsReportedAndLeavesTheEditorClosed)
@@ -125,7 +126,7 @@ TEST_F(PlayerViewer, OpeningOnAnyPlayerRepairsEverySkaterWithoutPosition)
     Viewer().close();
     Settle();
     EXPECT_EQ(Players[20].Position, 1);
-    (void)Machine.TakeBoxes();
+    EXPECT_THAT(Machine.TakeBoxes(), IsEmpty());
     Show(7);
     EXPECT_THAT(Machine.Boxes(), IsEmpty());
 }
@@ -155,6 +156,7 @@ TEST_F(PlayerViewer, ARepairedSkaterIsListedAsACentre)
     EXPECT_EQ(Entry(viewer, 0), "Ward Tilton (C)");
     EXPECT_EQ(NumberAt(viewer, 0), 71);
     EXPECT_TRUE(viewer.optPosition[1]->isChecked());
+    EXPECT_THAT(Machine.Boxes(), ElementsAre(Box{48, "Ward Tilton has no position! He's now center."}));
 }
 
 TEST_F(PlayerViewer, OpeningOnAGoalieWithoutTheGoalieMarkListsTheSkaterOfThatNumber)

@@ -18,6 +18,7 @@ TEST_F(Viewing, ARepairIsNoChangeThatTheOpenerMustRebuildFor)
     const frmEditPlayer& viewer = Show(7);
     EXPECT_EQ(Players[20].Position, 1);
     EXPECT_FALSE(viewer.Changed());
+    EXPECT_THAT(Machine.Boxes(), ::testing::ElementsAre(Box{48, "Skater 20 has no position! He's now center."}));
 }
 
 TEST_F(Viewing, ViewingChangesNoByteOfTheTables)

@@ -139,7 +139,7 @@ TEST_F(frmFarmLinePeopleTest, ASkaterWithoutAPositionIsToldWhateverTheFilterSays
     frmFarmLine& farm = FarmLine();
     for (QCheckBox* filter : farm.chkPosition)
         filter->setChecked(false);
-    (void)Machine.TakeBoxes();
+    EXPECT_THAT(Machine.TakeBoxes(), IsEmpty());
     Players[Center].Position = 6;
     farm.ShowPlayer();
     EXPECT_THAT(Machine.Boxes(), ElementsAre(Box{16, "Skater 19 has no position!"}));

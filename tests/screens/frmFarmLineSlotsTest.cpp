@@ -428,6 +428,7 @@ TEST_F(frmFarmLineSlotsTest, EventsAreHeldBackWhileTheFocusGoesBackToARefusedTex
         TypeInto(box, "x");
         EXPECT_THAT(GuardWhileFocusGoesTo(box, [&] { Press(box, Qt::Key_Tab); }), ElementsAre(true));
         EXPECT_FALSE(ListEventGuard);
+        EXPECT_THAT(Machine.TakeBoxes(), ElementsAre(Box{48, "No Valid Input!"}));
         TypeInto(box, "1");
     }
 }

@@ -123,6 +123,7 @@ TEST_F(frmFarmLineTest, AutoLinesFillsTheShownDayOnly)
     EXPECT_EQ(FarmDay(2).NormalForward(1, 1), 0);
     EXPECT_TRUE(AreAlike(FarmDay(1), first));
     EXPECT_TRUE(AreProLinesUntouched());
+    EXPECT_THAT(Machine.Boxes(), ElementsAre(Box{64, "Auto Lines Function has been run successfully."}));
 }
 
 TEST_F(frmFarmLineTest, WipingLeavesTheProLinesOfTheDayAlone)
@@ -145,6 +146,7 @@ TEST_F(frmFarmLineTest, WipingLeavesTheOtherDaysOfTheFarmAlone)
     const Lines second = FarmDay(2);
     Click(FarmLine().cmdWipeLines);
     EXPECT_TRUE(AreAlike(FarmDay(2), second));
+    EXPECT_THAT(Machine.Boxes(), ElementsAre(Box{36, "Are you sure you want to wipe your lines?"}));
 }
 
 TEST_F(frmFarmLineTest, WipingTheSecondDayLeavesTheFirstAlone)
@@ -159,6 +161,7 @@ TEST_F(frmFarmLineTest, WipingTheSecondDayLeavesTheFirstAlone)
         EXPECT_EQ(slot.In(FarmDay(2)), 0) << slot.Name;
     EXPECT_TRUE(AreAlike(FarmDay(1), first));
     EXPECT_TRUE(AreProLinesUntouched());
+    EXPECT_THAT(Machine.Boxes(), ElementsAre(Box{36, "Are you sure you want to wipe your lines?"}));
 }
 
 TEST_F(frmFarmLineTest, NoToTheQuestionWipesNothing)
@@ -170,6 +173,7 @@ TEST_F(frmFarmLineTest, NoToTheQuestionWipesNothing)
     Click(farm.cmdWipeLines);
     EXPECT_TRUE(AreAlike(FarmDay(), before));
     EXPECT_FALSE(Modified);
+    EXPECT_THAT(Machine.Boxes(), ElementsAre(Box{36, "Are you sure you want to wipe your lines?"}));
 }
 
 TEST_F(frmFarmLineTest, TheReasonsOfAnIncompleteDayAreShownOnCommand)

@@ -249,6 +249,7 @@ TEST_F(OfferBoxes, ARefusedTextKeepsItsPersonShown)
     Click(Offers().chkShowPlayerWithOffer);
     EXPECT_FALSE(Offers().chkShowPlayerWithOffer->isChecked());
     EXPECT_EQ(Offers().lstPlayers->count(), 2);
+    EXPECT_THAT(Machine.Boxes(), ElementsAre(Box{48, "No Valid Input!"}));
 }
 
 TEST_F(OfferBoxes, ARefusedTextKeepsItsPersonShownWhenTheFilterIsAskedForByItsKey)
@@ -279,6 +280,7 @@ TEST_F(OfferBoxes, ACommandThatTakesNoFocusFirstLetsTheBoxAct)
     const std::size_t asked = Machine.Questions().size();
     Offers().cmdSearch->click();
     EXPECT_EQ(Machine.Questions().size(), asked) << "a refused text holds the command back";
+    EXPECT_THAT(Machine.Boxes(), ElementsAre(Box{48, "Only numbers, letters and spaces are allowed in that textbox!"}));
 }
 
 TEST_F(OfferBoxes, ClosingTheWindowLetsTheBoxAct)

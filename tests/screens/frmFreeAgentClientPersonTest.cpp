@@ -140,7 +140,8 @@ TEST_F(OfferPerson, NothingIsWrittenForABlockedPlayer)
 {
     FreeSkater(1, 6, 21);
     Open();
-    (void)Machine.TakeBoxes();
+    EXPECT_THAT(Machine.TakeBoxes(),
+                ElementsAre(Box{48, "Skater 1 is not allowed to sign with another team that Pebble Creek Ducks."}));
     OfferOf(1).Salary = 750000;
     OfferOf(1).Duration = 3;
     Click(Offers().cmdSaveToFile);
@@ -307,11 +308,13 @@ TEST_F(OfferSearch, ACancelledSearchChoosesTheFirstEntry)
     Click(Offers().cmdSearch);
     EXPECT_EQ(Offers().lstPlayers->currentRow(), 0);
     EXPECT_EQ(Offers().OfferIndex(), 1);
+    EXPECT_THAT(Machine.Questions(), ElementsAre(Question{"Complete or Part of the Player Name?", "Player Search"}));
 }
 
 TEST_F(OfferSearch, FindsNobodyInAnEmptyList)
 {
     Open();
+    Machine.Type("");
     Click(Offers().cmdSearch);
     EXPECT_THAT(Machine.Boxes(), ElementsAre(Box{64, "Player not found!"}));
 }

@@ -28,7 +28,7 @@ protected:
 
     std::vector<Box> Save()
     {
-        (void)Machine.TakeBoxes();
+        Machine.ClearSeenBoxes();
         Click(Offers().cmdSaveToFile);
         WaitAtBoxes = Machine.WaitAtBoxes();
         return Machine.TakeBoxes();

@@ -242,6 +242,7 @@ TEST_F(OfferList, TakesTheNumberOfARecordForItsId)
     FreeGoalie(1).Number = 88;
     Open();
     EXPECT_THAT(Listed(), ElementsAre(std::pair("Skater 1 (C)-RFA", 77), std::pair("Goalie 1 (G)*", 10088)));
+    EXPECT_THAT(Machine.Boxes(), ElementsAre(Box{16, "Integrity Check Failed!"}));
 }
 
 TEST_F(OfferList, ASkaterWithoutAPositionEndsTheListWithAReport)

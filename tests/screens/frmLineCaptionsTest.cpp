@@ -22,7 +22,7 @@ protected:
     {
         visit(static_cast<LinesScreen&>(Line()), true);
         Click(Line().cmdExit);
-        (void)Machine.TakeBoxes();
+        EXPECT_THAT(Machine.TakeBoxes(), IsEmpty());
         visit(static_cast<LinesScreen&>(FarmLine()), false);
     }
 
@@ -304,6 +304,12 @@ TEST_F(LineCaptions, ACopyLeavesTheOtherSidesDaysAndModifiedAlone)
         EXPECT_FALSE(Modified);
         Click(screen.cmdCopyAll);
         EXPECT_FALSE(Modified);
+        EXPECT_THAT(
+            Machine.TakeBoxes(),
+            ElementsAre(Box{36, "Are you want to you want to copy the lines from day 1 to day 2?"},
+                        Box{64, "Lines 1 was successfully copy to Lines 2."},
+                        Box{36, "Are you want to you want to copy the lines from day 1 to day all the others day?"},
+                        Box{64, "Lines 1 was successfully copy to day all the others day."}));
         for (int day = 1; day <= 10; ++day) {
             EXPECT_TRUE(AreSame(isPro ? FarmDay(day) : ProDay(day), isPro ? farm[day] : pro[day])) << day;
             EXPECT_EQ((isPro ? ProDay(day) : FarmDay(day)).NormalForward(1, 1),

@@ -29,7 +29,7 @@ TEST_F(LineCommands, AutoLinesFillTheShownDayAndSaySo)
     PutGames(5);
     frmLine& line = Line();
     line.vscDay->setValue(4);
-    (void)Machine.TakeBoxes();
+    EXPECT_THAT(Machine.TakeBoxes(), IsEmpty());
     Click(line.cmdAutoLines);
     EXPECT_THAT(Machine.Boxes(), ElementsAre(Box{64, "Auto Lines Function has been run successfully."}));
     EXPECT_EQ(Of(line.lblComplete), "Lines are Complete");
@@ -48,6 +48,7 @@ TEST_F(LineCommands, PartialLinesKeepWhatStandsAndFillTheRest)
     EXPECT_EQ(ProDay().NormalForward(1, 1), kept);
     EXPECT_NE(ProDay().NormalForward(2, 1), 0);
     EXPECT_NE(Of(SlotOn(line, LineField::NormalForward, 2, 1)), "");
+    EXPECT_THAT(Machine.Boxes(), ElementsAre(Box{64, "Auto Lines Partial Function has been run successfully."}));
 }
 
 TEST_F(LineCommands, ALeagueWithoutAutomaticRostersHasNoMakers)
@@ -76,7 +77,7 @@ TEST_F(LineCommands, WipingAsksAndEmptiesTheShownDay)
     EXPECT_EQ(Of(line.lblComplete), "Lines are Complete");
     Machine.Answer(button::Yes);
     Click(line.cmdWipeLines);
-    EXPECT_EQ(Machine.TakeBoxes().size(), 1U);
+    EXPECT_THAT(Machine.TakeBoxes(), ElementsAre(Box{36, "Are you sure you want to wipe your lines?"}));
     EXPECT_TRUE(CheckLineEmpty(OpenLeague, Machine, 5, 1));
     EXPECT_EQ(Of(SlotOn(line, LineField::NormalForward, 1, 1)), "");
     EXPECT_EQ(Of(line.lblComplete), "Lines are Incomplete");
@@ -97,6 +98,7 @@ TEST_F(LineCommands, WipingTheSecondDayLeavesTheFirstAlone)
     EXPECT_TRUE(AreSame(ProDay(1), first));
     EXPECT_EQ(Of(SlotOn(line, LineField::NormalForward, 1, 1)), "");
     EXPECT_EQ(Of(line.lblComplete), "Lines are Incomplete");
+    EXPECT_THAT(Machine.Boxes(), ElementsAre(Box{36, "Are you sure you want to wipe your lines?"}));
 }
 
 TEST_F(LineCommands, TheReasonsAreTheJudgesAndStandBesideTheVerdict)
@@ -162,7 +164,8 @@ TEST_F(LineCommands, ANoLeavesTheOtherDayAlone)
     Machine.Type("3");
     Machine.Answer(button::No);
     Click(line.cmdCopy);
-    EXPECT_EQ(Machine.Boxes().size(), 1U);
+    EXPECT_THAT(Machine.Boxes(),
+                ElementsAre(Box{36, "Are you want to you want to copy the lines from day 1 to day 3?"}));
     EXPECT_EQ(ProDay(3).StartGoalie, 0);
 }
 
@@ -182,6 +185,7 @@ TEST_F(LineCommands, CancellingTheInputBoxCountsAsZero)
     PutGames(2);
     Click(Line().cmdCopy);
     EXPECT_THAT(Machine.Boxes(), ElementsAre(Box{48, "Please entry a number between 1 and 2."}));
+    EXPECT_THAT(Machine.Questions(), ElementsAre(Question{"What day do you have to copy your lines?"}));
 }
 
 TEST_F(LineCommands, TheTypedDayIsRoundedTiesToEven)
@@ -239,7 +243,9 @@ TEST_F(LineCommands, ANoToAllLeavesAllDaysAlone)
     frmLine& line = Line();
     Machine.Answer(button::No);
     Click(line.cmdCopyAll);
-    EXPECT_EQ(Machine.Boxes().size(), 1U);
+    EXPECT_THAT(
+        Machine.Boxes(),
+        ElementsAre(Box{36, "Are you want to you want to copy the lines from day 1 to day all the others day?"}));
     for (int day = 2; day <= 10; ++day)
         EXPECT_EQ(ProDay(day).StartGoalie, 0);
 }

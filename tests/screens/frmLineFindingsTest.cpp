@@ -86,6 +86,7 @@ TEST_F(LineFindings, AGoalieWhoIsHisOwnBackupIsMarkedInBothSlotsOfEitherScreen)
     };
     expectMarks(Line());
     Click(Line().cmdExit);
+    EXPECT_THAT(Machine.TakeBoxes(), ElementsAre(Box{48, "Lines for Day #1 are Incomplete!"}));
     expectMarks(FarmLine());
 }
 
@@ -143,7 +144,8 @@ TEST_F(LineFindings, SomebodyBeyondTheTableIsMarkedAndThoseFoundBeforeHimToo)
     ProDay().NormalForward(1, 2) = ProDay().NormalForward(1, 1);
     ProDay().NormalForward(2, 1) = 20000;
     OpenFrom(MainWithLeague(), "Line", "Main");
-    (void)Machine.TakeBoxes();
+    const Box failed{16, "9 - Subscript out of range in CheckLine!"};
+    EXPECT_THAT(Machine.TakeBoxes(), ElementsAre(Box{16, "9 - Subscript out of range in Place!"}, failed, failed));
     EXPECT_THAT(Marked(Line(), Mark::Refused), ElementsAre("lblNormalTrioC(2)"));
     EXPECT_EQ(Marked(Line(), Mark::Twice).size(), 2U);
 }

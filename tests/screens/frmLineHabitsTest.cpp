@@ -140,7 +140,7 @@ TEST_F(LineHabits, ARefusedTextHoldsADragBack)
     drag.MoveTo(line.TabLine);
     drag.LetGo();
     EXPECT_TRUE(line.txtPullGoalerMinGoal->hasFocus());
-    EXPECT_EQ(Machine.Boxes().size(), 1U);
+    EXPECT_THAT(Machine.Boxes(), ::testing::ElementsAre(Box{48, "No Valid Input!"}));
 }
 
 TEST_F(LineHabits, BothScreensFitASmallDisplayWithAllTheirWords)

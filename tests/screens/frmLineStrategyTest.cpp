@@ -263,6 +263,7 @@ TEST_F(LineStrategy, EventsAreHeldBackWhileTheFocusGoesBackToARefusedText)
         TypeInto(box, "x");
         EXPECT_THAT(GuardWhileFocusGoesTo(box, [&] { Press(box, Qt::Key_Tab); }), ElementsAre(true));
         EXPECT_FALSE(ListEventGuard);
+        EXPECT_THAT(Machine.TakeBoxes(), ElementsAre(Box{48, "No Valid Input!"}));
         TypeInto(box, "1");
     }
 }
@@ -276,6 +277,7 @@ TEST_F(LineStrategy, EventsAreHeldBackWhileTheFocusGoesBackToAPageThatWasLeft)
     EXPECT_THAT(guards, ElementsAre(true));
     EXPECT_TRUE(box->hasFocus());
     EXPECT_FALSE(ListEventGuard);
+    EXPECT_THAT(Machine.Boxes(), ElementsAre(Box{48, "No Valid Input!"}));
 }
 
 TEST_F(LineStrategy, ANumberBeyondSixteenBitsIsAFailureAndStoresNothing)
@@ -378,7 +380,7 @@ TEST_F(LineStrategy, ARefusedTextHoldsTheArrowsOfTheScrollBarsBack)
     frmLine& line = Strategy();
     TypeInto(line.txtPullGoalerMinGoal, "x");
     ClickArrow(line.hscStats[0], true);
-    EXPECT_EQ(Machine.TakeBoxes().size(), 1U);
+    EXPECT_THAT(Machine.TakeBoxes(), ElementsAre(Box{48, "No Valid Input!"}));
     EXPECT_EQ(ProDay().Strategy[0], 0);
     EXPECT_TRUE(line.txtPullGoalerMinGoal->hasFocus());
     TypeInto(line.txtPullGoalerMinGoal, "2");
@@ -400,7 +402,9 @@ TEST_F(LineStrategy, ARefusedTextHoldsTheSecondPressOfADoubleClickBackToo)
         TypeInto(box, "x");
         QTest::mouseClick(widget, Qt::LeftButton, {}, point);
         PressAgain(widget, point);
-        EXPECT_EQ(Machine.TakeBoxes().size(), 2U) << widget->objectName().toStdString(); // one a press
+        const Box refusal{48, "No Valid Input!"};
+        EXPECT_THAT(Machine.TakeBoxes(), ElementsAre(refusal, refusal)) // one a press
+            << widget->objectName().toStdString();
         EXPECT_TRUE(box->hasFocus()) << widget->objectName().toStdString();
     }
     EXPECT_EQ(ProDay().Strategy[0], 0);
@@ -421,6 +425,7 @@ TEST_F(LineStrategy, ARefusedTextHoldsTheSecondPressOnASlotBack)
     PressAgain(label, label->rect().center());
     EXPECT_EQ(ProDay().NormalForward(4, 1), before);
     EXPECT_TRUE(line.txtPullGoalerMinGoal->hasFocus());
+    EXPECT_THAT(Machine.Boxes(), ElementsAre(Box{48, "No Valid Input!"}));
 }
 
 TEST_F(LineStrategy, BothPressesOfADoubleClickOnAnArrowGiveAPoint)

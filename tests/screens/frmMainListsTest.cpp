@@ -42,7 +42,7 @@ TEST_F(MainLists, ADoubleClickWithAWrongPasswordTakesItsTeamThoughTheListsAreNot
     PutTeam(13, 7);
     Teams[8].Password = DigestOfA;
     Main().PlaceTeam();
-    (void)Machine.TakeBoxes();
+    EXPECT_THAT(Machine.TakeBoxes(), ElementsAre(Box{16, "9 - Subscript out of range in PlaceTeam!"}));
     Machine.Type("b");
     DoubleClickEntry(2, 1);
     EXPECT_THAT(Machine.Boxes(), ElementsAre(Box{48, "Password is incorrect!"}));

@@ -40,6 +40,7 @@ TEST_F(MainMenus, TeamCommandsWithAWrongPasswordEndWithoutAFurtherWord)
         EXPECT_THAT(Machine.TakeBoxes(), ElementsAre(Box{48, "Password is incorrect!"}))
             << command->objectName().toStdString();
     }
+    EXPECT_EQ(Machine.Questions(), std::vector(6, Question{"Password Required!"}));
     EXPECT_EQ(CallerScreen, "");
 }
 
@@ -195,6 +196,7 @@ TEST_F(MainMenus, ACancelledOpenIsDroppedSilently)
     EXPECT_THAT(Machine.Boxes(), IsEmpty());
     EXPECT_THAT(Machine.FileOperations(), IsEmpty());
     EXPECT_TRUE(Teams[1].InUse);
+    EXPECT_EQ(Machine.Dialogs().size(), 1U);
 }
 
 TEST_F(MainMenus, OpenShowsTheChosenLeague)

@@ -66,6 +66,10 @@ TEST_F(frmRosterCaptionsTest, AfterAnOfficeGivenByKeyTheFocusIsOnTheListAgain)
     }
     EXPECT_EQ(Own().Captain, 1);
     EXPECT_EQ(Own().Assistant[1], 2);
+    EXPECT_THAT(Machine.Boxes(),
+                ElementsAre(Box{64, "Skater 1 has been selected as captain for Harbour City Gulls."},
+                            Box{35, "Do you want Skater 2 to be assistant #1 (Yes) or assistant #2 (No)?"},
+                            Box{64, "Skater 2 has been selected as assistant #1 for Harbour City Gulls."}));
 }
 
 TEST_F(frmRosterCaptionsTest, AStarRefusedForNoTradeClosesItsCommandAndGivesTheFocusBack)
@@ -76,6 +80,7 @@ TEST_F(frmRosterCaptionsTest, AStarRefusedForNoTradeClosesItsCommandAndGivesTheF
     PressByKey(Roster().cmdTradeAvailable);
     EXPECT_FALSE(Roster().cmdTradeAvailable->isEnabled());
     EXPECT_TRUE(Roster().lstPlayer[2]->hasFocus());
+    EXPECT_THAT(Machine.Boxes(), ElementsAre(Box{16, "Integrity Check Failed!"}));
 }
 
 TEST_F(frmRosterCaptionsTest, AMoveByKeyGivesTheFocusBackToItsList)

@@ -101,6 +101,7 @@ TEST_F(frmRosterChangeTest, ASkaterWhoNeedsWaiversIsAskedAboutAndPlacedOnThem)
     EXPECT_TRUE(Move(1, 0, 1, 1));
     EXPECT_EQ(Players[1].Status, 0);
     EXPECT_EQ(Players[1].Suspension, 99);
+    EXPECT_THAT(Machine.Boxes(), ElementsAre(Box{36, "Do you want to send this player to waiver?"}));
 }
 
 TEST_F(frmRosterChangeTest, AGoalieWhoNeedsWaiversIsAskedAboutAndGoesDownWithoutThem)
@@ -116,6 +117,7 @@ TEST_F(frmRosterChangeTest, AGoalieWhoNeedsWaiversIsAskedAboutAndGoesDownWithout
     EXPECT_TRUE(Move(1, 0, 1, 5));
     EXPECT_EQ(Goalies[1].Status, 0);
     EXPECT_EQ(Goalies[1].Suspension, 0);
+    EXPECT_THAT(Machine.Boxes(), ElementsAre(Box{36, "Do you want to send this goalie to waiver?"}));
 }
 
 TEST_F(frmRosterChangeTest, ChangeTakesThePersonOffTheLinesAndWritesStatusAndChanges)
@@ -162,6 +164,7 @@ TEST_F(frmRosterChangeTest, ChangeShowsTheVerdictWithoutThePayrollAndHidesTheDet
     LeagueData.SalaryCapMode = 1;
     LeagueData.SalaryCap = 1;
     LeagueData.ProDressedSkaters = 19;
+    Roster({Box{48, "Team 5 is over the salary cap by $20,999,999.00!"}});
     ClickEntry(1, 0);
     EXPECT_EQ(Of(Roster().lblComplete), "Roster Is Incomplete");
     EXPECT_TRUE(Move(1, 2, 900, 1));

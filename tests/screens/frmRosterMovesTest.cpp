@@ -266,6 +266,7 @@ TEST_F(frmRosterMovesTest, TheCurrentEntryStaysCurrentWhenItIsRefused)
     EXPECT_THAT(Listed(1), ElementsAre(Entry{"Skater 1", 11}));
     EXPECT_EQ(Roster().lstPlayer[2]->currentRow(), 1);
     EXPECT_THAT(ChosenRows(2), ElementsAre(1));
+    EXPECT_THAT(Machine.Boxes(), ElementsAre(Box{48, "Cannot Move an Injured Player!"}));
 }
 
 TEST_F(frmRosterMovesTest, TheArrowAfterAMoveGoesOnWhereTheMovedEntryStood)
@@ -325,7 +326,7 @@ TEST_F(frmRosterMovesTest, WithNobodyChosenTheDeadlineAndTheLimitsAreNoMatter)
     ClickEntry(1, 0, Qt::ControlModifier);
     ASSERT_THAT(ChosenRows(1), IsEmpty());
     ASSERT_GT(Roster().PlayerOverall(), LeagueData.FarmMaxOverall);
-    (void)Machine.TakeBoxes();
+    EXPECT_THAT(Machine.TakeBoxes(), IsEmpty());
     Modified = false;
     for (void (frmRoster::*command)() :
          {&frmRoster::cmdToFarm_Click, &frmRoster::cmdToPro_Click, &frmRoster::cmdToScratchesFromPro_Click,

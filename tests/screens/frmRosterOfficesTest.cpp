@@ -39,6 +39,9 @@ TEST_F(frmRosterOfficesTest, ACaptainFreesHisOwnSlotAndLeavesTheOtherAssistantAl
         Own().Assistant[other] = 3;
         Choose(2, 1);
         Click(Roster().cmdCaptain);
+        EXPECT_THAT(Machine.TakeBoxes(),
+                    ElementsAre(Box{64, "Skater 2 has been selected as captain for Harbour City Gulls."}))
+            << slot;
         EXPECT_EQ(Own().Captain, 2) << slot;
         EXPECT_EQ(Own().Assistant[slot], 0) << slot;
         EXPECT_EQ(Own().Assistant[other], 3) << slot;
@@ -252,6 +255,8 @@ TEST_F(frmRosterOfficesTest, UntickingARefusedProtectionLowersTheCountAndNeverBe
     Click(Roster().chkProtected);
     Click(Roster().chkProtected);
     EXPECT_EQ(Own().ProtectedCount, 0);
+    EXPECT_THAT(Machine.Boxes(), ElementsAre(Box{64, "Maximum Number of Protected Players Reached!"},
+                                             Box{64, "Maximum Number of Protected Players Reached!"}));
 }
 
 TEST_F(frmRosterOfficesTest, FlagsDoNothingWhileEventsAreHeldBack)
@@ -351,6 +356,10 @@ TEST_F(frmRosterOfficesTest, AScratchMayBeCaptainAndAssistant)
     EXPECT_EQ(Own().Captain, 1);
     EXPECT_EQ(Own().Assistant[1], 2);
     EXPECT_THAT(Listed(1), ElementsAre(Entry{"Skater 1 (C)", 11}, Entry{"Skater 2 (A)", 21}));
+    EXPECT_THAT(Machine.Boxes(),
+                ElementsAre(Box{64, "Skater 1 has been selected as captain for Harbour City Gulls."},
+                            Box{35, "Do you want Skater 2 to be assistant #1 (Yes) or assistant #2 (No)?"},
+                            Box{64, "Skater 2 has been selected as assistant #1 for Harbour City Gulls."}));
 }
 
 TEST_F(frmRosterOfficesTest, OfficesAreNewsOfTheTeam)
@@ -371,6 +380,13 @@ TEST_F(frmRosterOfficesTest, OfficesAreNewsOfTheTeam)
     Machine.Answer(button::Cancel);
     Click(Roster().cmdAssistant);
     EXPECT_THAT(Machine.TakeNews(), IsEmpty());
+    EXPECT_THAT(Machine.Boxes(),
+                ElementsAre(Box{64, "Skater 1 has been selected as captain for Harbour City Gulls."},
+                            Box{35, "Do you want Skater 2 to be assistant #1 (Yes) or assistant #2 (No)?"},
+                            Box{64, "Skater 2 has been selected as assistant #1 for Harbour City Gulls."},
+                            Box{35, "Do you want Skater 3 to be assistant #1 (Yes) or assistant #2 (No)?"},
+                            Box{64, "Skater 3 has been selected as assistant #2 for Harbour City Gulls."},
+                            Box{35, "Do you want Skater 3 to be assistant #1 (Yes) or assistant #2 (No)?"}));
 }
 
 // Where more than one list has a current entry, as only code makes them.

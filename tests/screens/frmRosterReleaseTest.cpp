@@ -12,6 +12,7 @@ using ::testing::IsEmpty;
 using Entry = std::pair<std::string, int>;
 
 const Box Integrity{16, "Integrity Check Failed!"};
+const Box Asked{36, "Are you sure you want to release Skater 1?"};
 const Box DeadlinePassed{64, "Trade Deadline is Passed!"};
 
 class frmRosterReleaseTest : public OnRosterScreen {
@@ -152,6 +153,7 @@ TEST_F(frmRosterReleaseTest, ReleaseWithoutASeasonChargesTheFullContract)
     Own().SeasonGames = 0;
     Release(50);
     EXPECT_EQ(Own().Cash, 3500000);
+    EXPECT_THAT(Machine.Boxes(), ElementsAre(Asked));
 }
 
 TEST_F(frmRosterReleaseTest, ReleaseOfAGoalieAsksForTheGoalerAndTakesHimOffTheLines)
@@ -159,7 +161,7 @@ TEST_F(frmRosterReleaseTest, ReleaseOfAGoalieAsksForTheGoalerAndTakesHimOffTheLi
     const TeamMaker made = CompleteTeam(5);
     const int keeper = made.GoalieIds[0];
     Choose(keeper, 5);
-    (void)Machine.TakeBoxes();
+    EXPECT_THAT(Machine.TakeBoxes(), IsEmpty());
     Machine.Type("0");
     Roster().cmdRelease_Click();
     EXPECT_THAT(Machine.Questions(),
@@ -167,6 +169,7 @@ TEST_F(frmRosterReleaseTest, ReleaseOfAGoalieAsksForTheGoalerAndTakesHimOffTheLi
                                      .Default = "0"}));
     EXPECT_EQ(Own().ProLines[1].StartGoalie, 0);
     EXPECT_EQ(Goalies[keeper].Team, 0);
+    EXPECT_THAT(Machine.Boxes(), ElementsAre(Box{36, "Are you sure you want to release Goalie 1?"}));
 }
 
 TEST_F(frmRosterReleaseTest, APercentThatIsNoNumberOrACancelledBoxReleasesForNothing)
@@ -181,6 +184,7 @@ TEST_F(frmRosterReleaseTest, APercentThatIsNoNumberOrACancelledBoxReleasesForNot
         PutSkater(1, 5, position::Center, status::Scratch);
         Roster().ShowPlayer(true);
     }
+    EXPECT_THAT(Machine.Boxes(), ElementsAre(Asked, Asked));
 }
 
 TEST_F(frmRosterReleaseTest, APercentIsHeldBetweenZeroAndAHundred)
@@ -194,6 +198,7 @@ TEST_F(frmRosterReleaseTest, APercentIsHeldBetweenZeroAndAHundred)
     Release(-5);
     EXPECT_EQ(Own().Cash, 5000000);
     EXPECT_EQ(again.Team, 0);
+    EXPECT_THAT(Machine.Boxes(), ElementsAre(Asked, Asked));
 }
 
 TEST_F(frmRosterReleaseTest, APercentIsRoundedTiesToEven)
@@ -202,6 +207,7 @@ TEST_F(frmRosterReleaseTest, APercentIsRoundedTiesToEven)
     Machine.Type("2.5 or so");
     Roster().cmdRelease_Click();
     EXPECT_EQ(Own().Cash, 4950000);
+    EXPECT_THAT(Machine.Boxes(), ElementsAre(Asked));
 }
 
 TEST_F(frmRosterReleaseTest, NoReleasesNobodyAndStillCountsAsModified)
@@ -213,6 +219,7 @@ TEST_F(frmRosterReleaseTest, NoReleasesNobodyAndStillCountsAsModified)
     EXPECT_EQ(Players[1].Team, 5);
     EXPECT_EQ(Own().Cash, 5000000);
     EXPECT_TRUE(Modified);
+    EXPECT_THAT(Machine.Boxes(), ElementsAre(Asked));
 }
 
 TEST_F(frmRosterReleaseTest, AContractBeyondThirtyTwoBitsIsAFailureThatReleasesNobody)
@@ -221,7 +228,7 @@ TEST_F(frmRosterReleaseTest, AContractBeyondThirtyTwoBitsIsAFailureThatReleasesN
     player.Salary = 2000000000;
     Own().SeasonGames = 0;
     Release(0);
-    EXPECT_EQ(Machine.Boxes().back(), (Box{16, "6 - Overflow in cmdRelease!"}));
+    EXPECT_THAT(Machine.Boxes(), ElementsAre(Asked, Box{16, "6 - Overflow in cmdRelease!"}));
     EXPECT_EQ(player.Team, 5);
     EXPECT_FALSE(Modified);
 }
@@ -230,7 +237,7 @@ TEST_F(frmRosterReleaseTest, APercentBeyondSixteenBitsFailsBeforeItIsCut)
 {
     const Player& player = PutExpensive();
     Release(40000);
-    EXPECT_EQ(Machine.Boxes().back(), (Box{16, "6 - Overflow in cmdRelease!"}));
+    EXPECT_THAT(Machine.Boxes(), ElementsAre(Asked, Box{16, "6 - Overflow in cmdRelease!"}));
     EXPECT_EQ(player.Team, 5);
 }
 
@@ -295,6 +302,7 @@ TEST_F(frmRosterReleaseTest, ReleaseOfAGoalieClearsHisFlagsAndContractAndLeavesH
     EXPECT_TRUE(RosterChangesGoalie[4].TradeAvailable);
     EXPECT_THAT(Listed(1), IsEmpty());
     EXPECT_TRUE(Modified);
+    EXPECT_THAT(Machine.Boxes(), ElementsAre(Box{36, "Are you sure you want to release Goalie 4?"}));
 }
 
 TEST_F(frmRosterReleaseTest, ContractYearsAheadBeyondThirtyTwoBitsAreAFailureThatReleasesNobody)
@@ -305,6 +313,7 @@ TEST_F(frmRosterReleaseTest, ContractYearsAheadBeyondThirtyTwoBitsAreAFailureTha
     Own().GamesPlayed = 82;
     Release(0);
     EXPECT_EQ(Players[1].Team, 0);
+    EXPECT_THAT(Machine.Boxes(), ElementsAre(Asked));
 }
 
 TEST_F(frmRosterReleaseTest, ARestBeyondThirtyTwoBitsIsAFailureThatReleasesNobodyEvenForNothing)
@@ -334,6 +343,7 @@ TEST_F(frmRosterReleaseTest, TheRestIsRoundedTiesToEvenBeforeThePercentIsTaken)
         PutSkater(1, 5, position::Center, status::Scratch);
         Roster().ShowPlayer(true);
     }
+    EXPECT_THAT(Machine.Boxes(), ElementsAre(Asked, Asked));
 }
 
 // What is left is rounded, not what is paid.
@@ -350,6 +360,7 @@ TEST_F(frmRosterReleaseTest, TheAccountAfterABuyOutIsRoundedTiesToEven)
         PutSkater(1, 5, position::Center, status::Scratch);
         Roster().ShowPlayer(true);
     }
+    EXPECT_THAT(Machine.Boxes(), ElementsAre(Asked, Asked));
 }
 
 TEST_F(frmRosterReleaseTest, AnInjuredProSkaterGoesOnWaiversFromTheProList)
@@ -391,6 +402,7 @@ TEST_F(frmRosterReleaseTest, AReleasedSkaterLeavesTheLinesAndHisOfficeToTheGoali
     EXPECT_EQ(Own().Assistant[1], 1);
     EXPECT_EQ(Goalies[2].Team, 5);
     EXPECT_THAT(Listed(2), ElementsAre(Entry{"Skater 1 (A)", 11}, Entry{"Goalie 2", 25}));
+    EXPECT_THAT(Machine.Boxes(), ElementsAre(Box{36, "Are you sure you want to release Skater 2?"}));
 }
 
 TEST_F(frmRosterReleaseTest, AReleasedGoalieLeavesTheSkaterOfHisNumberAsHeIs)
@@ -409,6 +421,7 @@ TEST_F(frmRosterReleaseTest, AReleasedGoalieLeavesTheSkaterOfHisNumberAsHeIs)
     EXPECT_EQ(day.BackupGoalie, 0);
     EXPECT_EQ(Own().Captain, 2);
     EXPECT_EQ(Goalies[2].Team, 0);
+    EXPECT_THAT(Machine.Boxes(), ElementsAre(Box{36, "Are you sure you want to release Goalie 2?"}));
 }
 
 TEST_F(frmRosterReleaseTest, AReleaseIsNewsOfTheLeagueAndOfTheTeam)
@@ -417,6 +430,7 @@ TEST_F(frmRosterReleaseTest, AReleaseIsNewsOfTheLeagueAndOfTheTeam)
     Release(50);
     const std::string news = "Skater 1 was released by Harbour City Gulls for $1,250,000.00";
     EXPECT_THAT(Machine.ToldNews(), ElementsAre(News{"league", news}, News{"team 5", news}));
+    EXPECT_THAT(Machine.Boxes(), ElementsAre(Asked));
 }
 
 TEST_F(frmRosterReleaseTest, WhoIsNotReleasedIsNoNews)
@@ -425,6 +439,7 @@ TEST_F(frmRosterReleaseTest, WhoIsNotReleasedIsNoNews)
     Machine.Answer(button::No);
     Roster().cmdRelease_Click();
     EXPECT_THAT(Machine.ToldNews(), IsEmpty());
+    EXPECT_THAT(Machine.Boxes(), ElementsAre(Asked));
 }
 
 } // namespace

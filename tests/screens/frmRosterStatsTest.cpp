@@ -166,7 +166,8 @@ TEST_F(frmRosterStatsTest, GoalieNumbersAtBothEndsOfTheTableAreShown)
 TEST_F(frmRosterStatsTest, TheRatingsStandThereBeforeTheOverallIsWorkedOut)
 {
     PutSkater(1, 5, 0, status::Pro);
-    Roster();
+    Roster({Box{48, "Skater 1 has no position!"}, Box{16, "Skater 1 has no position!"},
+            Box{16, "Skater 1 has no position!"}});
     SelectedPlayer = 1;
     SelectedIsGoalie = false;
     std::size_t rowsAtBox = 0;

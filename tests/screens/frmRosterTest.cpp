@@ -201,9 +201,8 @@ TEST_F(frmRosterTest, ClosingJudgesAndTellsThenShowsTheMainScreen)
 {
     Roster();
     Click(Roster().cmdExit);
-    ASSERT_EQ(Machine.Boxes().size(), 1U);
-    EXPECT_EQ(Machine.Boxes()[0].Kind, 48);
-    EXPECT_EQ(Machine.Boxes()[0].Text.substr(0, 35), "Harbour City Gulls Roster Error : \r");
+    EXPECT_THAT(Machine.Boxes(), ElementsAre(Box{48, LastRosterText()}));
+    EXPECT_EQ(LastRosterText().substr(0, 35), "Harbour City Gulls Roster Error : \r");
     EXPECT_EQ(RosterScreen(), nullptr);
     EXPECT_TRUE(Main().isVisible());
 }
@@ -442,6 +441,9 @@ TEST_F(frmRosterTest, ARefusedTeamLeavesEveryByteOfTheTables)
     const auto before = tables();
     for (const int team : {-1, 0, 101}) {
         OpenFrom(Main(), "Main", team);
+        EXPECT_THAT(Machine.TakeBoxes(),
+                    ElementsAre(Box{16, "Integrity Check Failed!"}, Box{16, "Integrity Check Failed!"}))
+            << team;
         EXPECT_EQ(RosterScreen(), nullptr) << team;
         EXPECT_TRUE(tables() == before) << team;
     }

@@ -21,12 +21,13 @@ protected:
         target = Machine.InFolder("HarbourCity.dvl");
     }
 
-    // Saves the lines file and takes the boxes away.
+    // Saves the lines file.
     void Save()
     {
         Click(Office().cmdSaveToFile);
         ASSERT_TRUE(std::filesystem::exists(target));
-        (void)Machine.TakeBoxes();
+        EXPECT_THAT(Machine.TakeBoxes(),
+                    ElementsAre(Box{64, "Lines file for Harbour City successfully save at\r\n" + target}));
     }
 
     std::string target;
@@ -98,7 +99,7 @@ TEST_F(LinesFileCommands, SaveTestsTheProDay1Only)
     Own().Farm.FarmLines[1] = {};
     Own().ProLines[2] = {};
     office.cmdSaveToFile_Click();
-    EXPECT_EQ(Machine.Boxes().back().Kind, 64);
+    EXPECT_THAT(Machine.Boxes(), ElementsAre(Box{64, "Lines file for Harbour City successfully save at\r\n" + target}));
     EXPECT_TRUE(std::filesystem::exists(target));
 }
 
@@ -121,6 +122,8 @@ TEST_F(LinesFileCommands, IncompleteLinesAreToldBeforeThePasswordIsAsked)
     Own().ProLines[1].StartGoalie = 0;
     office.cmdSaveToFile_Click();
     EXPECT_THAT(Machine.Questions(), IsEmpty());
+    EXPECT_THAT(Machine.Boxes(), ElementsAre(Box{48, "Lines #1 are incomplete!\r\nYou will not be able to save league "
+                                                     "files unless lines for the next day are complete!"}));
 }
 
 // The first two file operations of a save look for an old work file and an old target; the third makes the new one.
@@ -193,7 +196,8 @@ TEST_F(LinesFileCommands, LoadAsksForNoPassword)
     Machine.Choose(target);
     Click(Office().cmdLoadFile);
     EXPECT_THAT(Machine.Questions(), IsEmpty());
-    EXPECT_EQ(Machine.Boxes().front().Kind, 64);
+    EXPECT_THAT(Machine.Boxes(),
+                ElementsAre(Box{64, "Lines file for Harbour City successfully load from\r\n" + target}));
     EXPECT_EQ(Own().Password.Trimmed(), ""); // the record of the file, password included
 }
 
@@ -222,7 +226,7 @@ TEST_F(LinesFileCommands, AFileOfAnotherLeagueOrKindIsRefused)
     code[client_file::Slot] ^= 1U;
     for (const ByteVector& bytes : {start, code}) {
         WriteWhole(target, bytes);
-        (void)Machine.TakeBoxes();
+        EXPECT_THAT(Machine.TakeBoxes(), IsEmpty());
         Machine.Choose(target);
         Click(Office().cmdLoadFile);
         EXPECT_THAT(Machine.Boxes(),
@@ -332,6 +336,7 @@ TEST_F(LinesFileCommands, TheJudgesDoNotRunWhileTheWaitScreenStaysNorAfterACance
     frmTeam& office = Office();
     Own().Farm.FarmLines[1].StartGoalie = 20000;
     office.cmdLoadFile_Click(); // cancelled
+    EXPECT_EQ(Machine.Dialogs().size(), 1U);
     EXPECT_THAT(Machine.Boxes(), IsEmpty());
     Machine.FailFileOperation(3, failure::DiskFull);
     office.cmdSaveToFile_Click();
@@ -353,6 +358,8 @@ TEST_F(LinesFileCommands, WhatTheJudgesSayShowsBehindTheBox)
     Machine.OnEvent = nullptr;
     EXPECT_THAT(seen, ElementsAre(Pair("wait up", false), Pair("wait down", false), Pair("box", false)));
     EXPECT_TRUE(office.cmdSaveToFile->isEnabled());
+    EXPECT_THAT(Machine.Boxes(),
+                ElementsAre(Box{64, "Lines file for Harbour City successfully load from\r\n" + target}));
 }
 
 } // namespace

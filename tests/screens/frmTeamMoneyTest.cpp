@@ -11,6 +11,8 @@ using ::testing::IsEmpty;
 
 class TeamMoney : public OnTeamScreen {};
 
+const Box WantsToChange{36, "Do you want to change the password for Harbour City Gulls"};
+
 TEST_F(TeamMoney, PasswordAsksFirstWithoutAQuestionMark)
 {
     Machine.Answer(button::No);
@@ -43,6 +45,7 @@ TEST_F(TeamMoney, APasswordWithASpaceInItIsDigestedWithTheSpace)
     Office().cmdPassword_Click();
     EXPECT_EQ(Own().Password.Raw(), DigestStrToHexStr("a b"));
     EXPECT_NE(Own().Password.Raw(), DigestStrToHexStr("ab"));
+    EXPECT_THAT(Machine.Boxes(), ElementsAre(WantsToChange, Box{64, "New Password was successfully set!"}));
 }
 
 TEST_F(TeamMoney, TwoEmptyPasswordsEraseItAndTheNextCheckDoesNotAsk)
@@ -52,7 +55,7 @@ TEST_F(TeamMoney, TwoEmptyPasswordsEraseItAndTheNextCheckDoesNotAsk)
     Office();
     Modified = false;
     Office().cmdPassword_Click();
-    EXPECT_EQ(Machine.Boxes().back(), (Box{64, "Password was erased!"}));
+    EXPECT_THAT(Machine.Boxes(), ElementsAre(WantsToChange, Box{64, "Password was erased!"}));
     EXPECT_EQ(Own().Password.Raw(), std::string(32, ' '));
     EXPECT_TRUE(Modified);
     const std::size_t asked = Machine.Questions().size();
@@ -67,7 +70,7 @@ TEST_F(TeamMoney, PasswordsThatDifferInLetterCaseDoNotMatch)
     Machine.Type("Gulls");
     Machine.Type("gulls");
     Office().cmdPassword_Click();
-    EXPECT_EQ(Machine.Boxes().back(), (Box{48, "Password does not match!"}));
+    EXPECT_THAT(Machine.Boxes(), ElementsAre(WantsToChange, Box{48, "Password does not match!"}));
     EXPECT_EQ(Own().Password.Trimmed(), "");
     EXPECT_TRUE(Modified);
 }
@@ -77,7 +80,7 @@ TEST_F(TeamMoney, OneEmptyPasswordDoesNotMatchTheOther)
     Machine.Type("");
     Machine.Type("gulls");
     Office().cmdPassword_Click();
-    EXPECT_EQ(Machine.Boxes().back(), (Box{48, "Password does not match!"}));
+    EXPECT_THAT(Machine.Boxes(), ElementsAre(WantsToChange, Box{48, "Password does not match!"}));
     EXPECT_EQ(Own().Password.Trimmed(), "");
 }
 
@@ -108,6 +111,8 @@ TEST_F(TeamMoney, AnEmptyAmountEndsTheCommand)
     EXPECT_EQ(Own().Cash, 1000);
     EXPECT_FALSE(Modified);
     EXPECT_THAT(Machine.Boxes(), IsEmpty());
+    EXPECT_THAT(Machine.Questions(), ElementsAre(Question{"How much to add/remove?"},
+                                                 Question{"How much to add/remove? Current Payroll Bonus is $0.00"}));
 }
 
 TEST_F(TeamMoney, TheLeadingMinusIsSetAsideForTheCheck)
@@ -257,6 +262,7 @@ TEST_F(TeamMoney, ACoachWhoIsNotToBeFiredStays)
     EXPECT_EQ(Own().ProCoach, 7);
     EXPECT_EQ(Of(Office().lblCoach), "Tor Lindqvist");
     EXPECT_FALSE(Modified);
+    EXPECT_THAT(Machine.Boxes(), ElementsAre(Box{36, "Are you sure you wants to fire Tor Lindqvist?"}));
 }
 
 TEST_F(TeamMoney, WithoutACoachNobodyIsFired)

@@ -313,10 +313,10 @@ TEST_F(frmTeamTest, ABoxActsOnceForEachLeaving)
 {
     TypeInto(Office().txtAbbre, "HC");
     Press(Office().txtAbbre, Qt::Key_Tab);
-    EXPECT_EQ(Machine.TakeBoxes().size(), 1U);
+    EXPECT_THAT(Machine.TakeBoxes(), ElementsAre(Box{48, "Abbreviation must be 3 characters long!"}));
     EXPECT_TRUE(Office().txtAbbre->hasFocus());
     Press(Office().txtAbbre, Qt::Key_Tab);
-    EXPECT_EQ(Machine.TakeBoxes().size(), 1U);
+    EXPECT_THAT(Machine.TakeBoxes(), ElementsAre(Box{48, "Abbreviation must be 3 characters long!"}));
 }
 
 TEST_F(frmTeamTest, LinesCommandsOpenTheLinesScreensAndNoteTheTeamScreenAsTheirCaller)
@@ -383,10 +383,8 @@ TEST_F(frmTeamTest, LinesAreRefusedWhileThePayrollIsAboveTheCap)
     LeagueData.SalaryCapMode = 1;
     LeagueData.SalaryCap = 1;
     Click(Office().cmdLines);
-    EXPECT_EQ(Machine.Boxes().size(), 1U);
-    EXPECT_EQ(Machine.Boxes().front().Kind, 48);
-    EXPECT_EQ(Machine.Boxes().front().Text,
-              "Roster is incomplete!\r\nYou cannot make your lines if your roster is incomplete!");
+    EXPECT_THAT(Machine.Boxes(), ElementsAre(Box{48, "Roster is incomplete!\r\nYou cannot make your lines if your "
+                                                     "roster is incomplete!"}));
 }
 TEST_F(frmTeamTest, StandsInTheMiddleOfTheScreen)
 {
@@ -436,6 +434,8 @@ TEST_F(frmTeamTest, ThePayrollsFollowAMoveOnTheRoster)
     ASSERT_EQ(Of(office.lblProPayRoll), "$500,000");
     ASSERT_EQ(Of(office.lblFarmPayRoll), "$0");
     Click(office.CmdRoster);
+    const Box lacks{48, LastRosterText()};
+    EXPECT_THAT(Machine.TakeBoxes(), ElementsAre(lacks));
     auto& roster = *static_cast<frmRoster*>(TheStage.Find("Roster"));
     bool done = false;
     roster.Change(status::Scratch, status::Farm, 7, position::Center, done);
@@ -444,6 +444,7 @@ TEST_F(frmTeamTest, ThePayrollsFollowAMoveOnTheRoster)
     EXPECT_EQ(FarmPayroll(OpenLeague, Machine, 5), 50000);
     roster.close();
     Settle();
+    EXPECT_THAT(Machine.TakeBoxes(), ElementsAre(lacks));
     EXPECT_EQ(Of(office.lblProPayRoll), "$0");
     EXPECT_EQ(Of(office.lblFarmPayRoll), "$50,000");
 }

@@ -346,8 +346,7 @@ TEST_F(frmTicketTest, AFailureOfOpeningIsNamedAfterTheScreen)
     TheStage.Open("Ticket", office);
     Settle();
     UseMachine(Machine);
-    ASSERT_FALSE(machine.Boxes().empty());
-    EXPECT_EQ(machine.Boxes().front(), (Box{16, "6 - Overflow in FormLoad FrmTicket!"}));
+    EXPECT_THAT(machine.Boxes(), ElementsAre(Box{16, "6 - Overflow in FormLoad FrmTicket!"}));
 }
 
 TEST_F(frmTicketTest, StandsInTheMiddleOfTheScreen)
