@@ -114,5 +114,43 @@ TEST_F(UndoDraft, ARankingComesBackStepByStep)
     EXPECT_EQ(Ranking(), ranked);
 }
 
+TEST_F(UndoDraft, ARankingThatIsBegunAnewComesBackByAStepOfItsOwn)
+{
+    Choose({0, 1});
+    const auto ranked = Ranking();
+    Click(Draft().cmdExit);
+    EXPECT_THAT(Of(Draft().lstDraftList), IsEmpty());
+    EXPECT_EQ(UndoWords(Draft()), "Undo: Begin a new draft list");
+    Undo(Draft());
+    EXPECT_EQ(Ranking(), ranked);
+    EXPECT_EQ(Of(Draft().lstDraftList).size(), 2U);
+}
+
+TEST_F(UndoDraft, AnEmptyRankingBegunAnewIsNoStep)
+{
+    Draft();
+    Click(Draft().cmdExit);
+    EXPECT_EQ(UndoWords(Draft()), "");
+}
+
+TEST_F(UndoOffers, OffersThatAreBegunAnewComeBackByAStepOfTheirOwn)
+{
+    FreeSkater(1);
+    Open();
+    EXPECT_EQ(UndoWords(Offers()), "");
+    ClickEntry(0);
+    Enter(Offers().txtOffer, "900000");
+    Enter(Offers().txtDuration, "3");
+    Click(Offers().cmdExit);
+    Open();
+    EXPECT_EQ(OfferOf(1).Salary, 0);
+    Offers().lstPlayers->setFocus();
+    EXPECT_EQ(UndoWords(Offers()), "Undo: Begin new offers");
+    Undo(Offers());
+    EXPECT_EQ(OfferOf(1).Salary, 900000);
+    EXPECT_EQ(OfferOf(1).Duration, 3);
+    EXPECT_THAT(Boxes(), ElementsAre("900000", "3", "0", ""));
+}
+
 } // namespace
 } // namespace dravik

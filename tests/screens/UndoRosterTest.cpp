@@ -28,7 +28,7 @@ TEST_F(UndoRoster, AMoveOfSeveralIsOneStepAndTheListsShowIt)
     Undo(roster);
     EXPECT_TRUE(AllTables() == before);
     EXPECT_EQ(Listed(status::Scratch), scratches);
-    EXPECT_EQ(roster.StatusCount[status::Pro], 2);
+    EXPECT_EQ(roster.StatusCount()[status::Pro], 2);
     Redo(roster);
     EXPECT_EQ(Listed(status::Pro).size(), 4U);
     EXPECT_THAT(Machine.Boxes(), IsEmpty());

@@ -15,6 +15,8 @@ namespace dravik {
 
 void frmDraft::FormLoad()
 {
+    // A ranking that is given up is a step, so that the way back leads to it.
+    RunStep("Begin a new draft list", [this] { ranking = {}; });
     Reporting(Machine(), " in FormLoad frmFantasyEntryDraftClient!", [this] {
         CentreOnScreen();
         if (!TeamTable::Has(CurrentTeam)) {

@@ -17,7 +17,6 @@ constexpr const char* FilterCaption[] = {"C", "LW", "RW", "DF", "G"};
 
 frmDraft::frmDraft(Stage& stage) : Screen(stage, "frmDraft"), ranking(OpenMarket().Ranking)
 {
-    RunStep("Begin a new draft list", [this] { ranking = {}; }); // of an empty one nothing is a step
     MakeControls();
 
     auto* content = new QWidget(this);

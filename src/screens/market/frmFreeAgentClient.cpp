@@ -81,13 +81,23 @@ void frmFreeAgentClient::FormLoad()
         }
         lblInfo->setText("Don't use a comma, a period or a dollar sign ($) in the salary, duration and bonus text box. "
                          "-- You need to fill the salary and duration textbox for a offer to be save.");
-        OpenOffers(OpenWork(), OwnNumber(), offers);
+        BeginOffers();
         lblMaxOffer->setText(ToQString(OfferLimitWords(LeagueData)));
         ShowTally();
         SetTitle(ToQString(ProgramTitle) + " - Free Agent Client");
         lblTeam->setText("Free Agents Offer For : " + ToQString(OwnTeam().Name.Trimmed()));
         ShowPlayer();
     });
+}
+
+// Offers that are given up are a step, so that the way back leads to them.
+void frmFreeAgentClient::BeginOffers()
+{
+    const auto begin = [this] { OpenOffers(OpenWork(), OwnNumber(), offers); };
+    if (TallyOffers(OpenLeague, OwnNumber(), offers).Count > 0)
+        RunStep("Begin new offers", begin);
+    else
+        begin();
 }
 
 void frmFreeAgentClient::ShowPlayer()

@@ -82,6 +82,7 @@ private:
 
     // Makes an entry the current one, which counts as a click.
     void Choose(int row);
+    void BeginOffers();
     void ShowNobody();
     void ShowPerson(PersonId who);
     void EnableOffer(bool enabled);
