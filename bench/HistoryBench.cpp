@@ -9,6 +9,7 @@
 #include "desk/CopyLines.h"
 #include "desk/History.h"
 #include "files/LinesFile.h"
+#include "rules/WipeLines.h"
 
 #include <array>
 #include <cstring>
@@ -49,20 +50,20 @@ void EmptyTeam()
 {
     ScratchEverybody();
     for (int day = 1; day <= 10; ++day) {
-        WipesLines(Own, day, true);
-        WipesLines(Own, day, false);
+        WipesLines(OpenLeague, Machine(), Own, day, true);
+        WipesLines(OpenLeague, Machine(), Own, day, false);
     }
 }
 // And nobody's status is known to the list of changes, as when no lines file has been loaded or saved yet.
 void ForgetTeam()
 {
     EmptyTeam();
-    MarkRosterChangesUntouched();
+    MarkRosterChangesUntouched(OpenLeague);
 }
 void EmptyOtherDays()
 {
     for (int day = 2; day <= 10; ++day)
-        WipesLines(Own, day, true);
+        WipesLines(OpenLeague, Machine(), Own, day, true);
 }
 
 struct Case {
@@ -101,7 +102,7 @@ void CloseAStep(benchmark::State& state, const Case& row)
         past.Undo();
         step.reset(new OpenStep(past.Open({.Words = row.Name, .Where = "Bench", .Team = Own})));
         row.Command(*evening);
-        evening->Machine.TakeBoxes();
+        evening->Machine.ForgetBoxes("what a command tells is not measured");
     };
     const auto target = MakeTables();
     const auto copy = [&] {

@@ -39,6 +39,14 @@ QString OverallOf(PersonId who)
     return QString::number(CalculateOverall(OpenLeague, Machine(), who));
 }
 
+QString NameOf(PersonId who)
+{
+    QString name;
+    if (who.HasSlot())
+        OnPerson(OpenLeague, who, [&name](const auto& person) { name = ToQString(person.Name.Trimmed()); });
+    return name;
+}
+
 StatRows StatRowsOf(PersonId who)
 {
     return who.IsGoalie ? GoalieStatRows(OpenLeague, Machine(), who.Slot, static_cast<int>(GoalieStatCount))

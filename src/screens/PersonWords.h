@@ -16,6 +16,9 @@ QStringList AsideOf(PersonId who);
 // the tables. No box is shown.
 QString OverallOf(PersonId who);
 
+// The name of a skater or goalie; nothing for somebody outside the tables.
+QString NameOf(PersonId who);
+
 // The rows of his ratings, as many as the windows show. Somebody outside the tables fails with 9.
 StatRows StatRowsOf(PersonId who);
 

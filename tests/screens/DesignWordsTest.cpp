@@ -114,6 +114,8 @@ TEST_F(DesignWordsTest, OfTheTeamScreen)
         {"cmdPassword", "Change &Password ..."},
         {"cmdProspect", "Prospects"},
         {"cmdExit", "E&xit"},
+        {"cmdUndo", "\u21B6", "Nothing to undo"},
+        {"cmdRedo", "\u21B7", "Nothing to redo"},
     };
     const auto screen = std::make_unique<frmTeam>(TheStage); // too large for a stack
     EXPECT_THAT(DesignWordsOf(*screen), UnorderedElementsAreArray(expected));
@@ -159,6 +161,8 @@ TEST_F(DesignWordsTest, OfTheRoster)
         {"cmdAutoRoster", "&Auto Made Roster"},
         {"cmdAutoRosterPartial", "Partial A&uto Made Roster"},
         {"cmdExit", "E&xit"},
+        {"cmdUndo", "\u21B6", "Nothing to undo"},
+        {"cmdRedo", "\u21B7", "Nothing to redo"},
     };
     AddElements(expected, "lblStat", 0, 16);
     AddElements(expected, "lblStatLabel", 1, 16);
@@ -249,6 +253,8 @@ TEST_F(DesignWordsTest, OfTheTickets)
         {"", "Total Capacity :"},
         {"lblArenaCapacityTotal", ""},
         {"cmdExit", "E&xit"},
+        {"cmdUndo", "\u21B6", "Nothing to undo"},
+        {"cmdRedo", "\u21B7", "Nothing to redo"},
     };
     const auto screen = std::make_unique<frmTicket>(TheStage); // too large for a stack
     EXPECT_THAT(DesignWordsOf(*screen), UnorderedElementsAreArray(expected));
@@ -287,6 +293,8 @@ TEST_F(DesignWordsTest, OfTheOffers)
         {"cmdSearch", "Sea&rch Player"},
         {"cmdSaveToFile", "Save to &File"},
         {"cmdExit", "E&xit"},
+        {"cmdUndo", "\u21B6", "Nothing to undo"},
+        {"cmdRedo", "\u21B7", "Nothing to redo"},
     };
     AddElements(expected, "txtStats", 0, 16);
     AddElements(expected, "lblStatLabel", 1, 16);
@@ -320,6 +328,8 @@ TEST_F(DesignWordsTest, OfTheDraftList)
         {"cmdSearch", "Search &Player"},
         {"cmdSaveToFile", "&Save to File"},
         {"cmdExit", "E&xit"},
+        {"cmdUndo", "\u21B6", "Nothing to undo"},
+        {"cmdRedo", "\u21B7", "Nothing to redo"},
     };
     const auto screen = std::make_unique<frmDraft>(TheStage); // too large for a stack
     EXPECT_THAT(DesignWordsOf(*screen), UnorderedElementsAreArray(expected));

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "OnStage.h"
+#include "rules/RosterJudge.h"
 #include "screens/roster/frmRoster.h"
 #include "screens/RosterEntry.h"
 #include "support/FailingBoxes.h"
@@ -52,12 +53,22 @@ protected:
         LeagueData.TradeDeadlineInForce = true;
     }
 
+    // What a judge finds on the roster once more, in its words. It is a copy that is judged, and nothing is shown.
+    static std::string WhatItLacks(int team = 5)
+    {
+        const auto copy = Copy(OpenLeague);
+        MuteVoice mute;
+        bool modified = false;
+        const Work work{*copy, mute, dravik::Machine(), modified};
+        return TextOf(*copy, team, CheckRoster(work, team, false, true, false));
+    }
+
     // The screen, opened from the main screen, which tells `told` and then what the roster lacks.
     frmRoster& Roster(std::vector<Box> told = {})
     {
         if (RosterScreen() == nullptr) {
             OpenFrom(MainWithLeague(), "Main");
-            if (const std::string lacks = LastRosterText(); !lacks.empty())
+            if (const std::string lacks = WhatItLacks(); !lacks.empty())
                 told.push_back({box::Warning, lacks});
             EXPECT_EQ(Machine.TakeBoxes(), told);
             Modified = false;

@@ -8,6 +8,7 @@
 namespace dravik {
 namespace {
 
+using ::testing::ElementsAre;
 using ::testing::IsEmpty;
 
 class UndoRoster : public OnRosterScreen {
@@ -41,6 +42,8 @@ TEST_F(UndoRoster, APersonsCommandsNameHim)
     const auto before = AllTables();
     ClickEntry(status::Pro, 0);
     Click(roster.cmdCaptain);
+    EXPECT_THAT(Machine.TakeBoxes(),
+                ElementsAre(Box{64, "Ward Tilton has been selected as captain for Harbour City Gulls."}));
     EXPECT_EQ(UndoWords(roster), "Undo: Make Captain: Ward Tilton");
     ClickEntry(status::Pro, 0);
     Click(roster.cmdTradeAvailable);

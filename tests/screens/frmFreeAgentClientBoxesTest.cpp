@@ -297,13 +297,13 @@ TEST_F(OfferBoxes, FailuresOfSalaryAndDurationAreReportedWithAFullStop)
     Players[1].InUse = Players[2].InUse = false; // nobody to choose
     Open();
     ASSERT_EQ(Offers().OfferIndex(), 0);
-    Offers().txtComment->setEnabled(true); // as no path of the program does
     Enter(Offers().txtOffer, "600000");
     EXPECT_THAT(Machine.TakeBoxes(), ElementsAre(Box{16, "9 - Subscript out of range in txtOffer LostFocus."}));
     Enter(Offers().txtDuration, "3");
     EXPECT_THAT(Machine.TakeBoxes(), ElementsAre(Box{16, "9 - Subscript out of range in txtDuration LostFocus."}));
     Enter(Offers().txtBonus, "3");
     EXPECT_THAT(Machine.TakeBoxes(), ElementsAre(Box{16, "9 - Subscript out of range in txtBonus_LostFocus!"}));
+    Offers().txtComment->setEnabled(true); // as no path of the program does
     EnterComment("Come");
     EXPECT_THAT(Machine.TakeBoxes(), ElementsAre(Box{16, "9 - Subscript out of range in txtComment_LostFocus!"}));
 }

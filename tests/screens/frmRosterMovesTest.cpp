@@ -159,7 +159,7 @@ TEST_F(frmRosterMovesTest, LeavingTheFarmGoesByTheCounterAndNotByAFreshCount)
     LeagueData.MaxProPlayers = 1;
     ClickEntry(0, 0);
     PutSkater(4, 5, position::Center, status::Pro); // whom the screen has not counted
-    EXPECT_THAT(Counters(), ElementsAre(0, 1, 0, 0));
+    EXPECT_THAT(Counters(), ElementsAre(1, 0, 0, 0));
     Click(Roster().cmdToScratchesFromFarm);
     EXPECT_EQ(Players[1].Status, 1);
 }

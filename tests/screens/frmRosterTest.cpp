@@ -156,6 +156,7 @@ TEST_F(frmRosterTest, ProtectionShowsOnlyInTheOffSeason)
     EXPECT_FALSE(IsShown(Roster().chkProtected));
     EXPECT_FALSE(IsShown(Roster().lblProtectedTotal));
     Click(Roster().cmdExit);
+    EXPECT_THAT(Machine.TakeBoxes(), ElementsAre(Box{48, WhatItLacks()}));
     LeagueData.OffSeason = true;
     EXPECT_TRUE(IsShown(Roster().chkProtected));
     EXPECT_TRUE(IsShown(Roster().lblProtectedTotal));
@@ -179,6 +180,7 @@ TEST_F(frmRosterTest, AutomaticRostersAreClosedWhereTheLeagueForbidsThem)
     EXPECT_TRUE(Roster().cmdAutoRoster->isEnabled());
     EXPECT_TRUE(Roster().cmdAutoRosterPartial->isEnabled());
     Click(Roster().cmdExit);
+    EXPECT_THAT(Machine.TakeBoxes(), ElementsAre(Box{48, WhatItLacks()}));
     LeagueData.AutoRosterDisabled = true;
     EXPECT_FALSE(Roster().cmdAutoRoster->isEnabled());
     EXPECT_FALSE(Roster().cmdAutoRosterPartial->isEnabled());
@@ -201,8 +203,8 @@ TEST_F(frmRosterTest, ClosingJudgesAndTellsThenShowsTheMainScreen)
 {
     Roster();
     Click(Roster().cmdExit);
-    EXPECT_THAT(Machine.Boxes(), ElementsAre(Box{48, LastRosterText()}));
-    EXPECT_EQ(LastRosterText().substr(0, 35), "Harbour City Gulls Roster Error : \r");
+    EXPECT_THAT(Machine.Boxes(), ElementsAre(Box{48, WhatItLacks()}));
+    EXPECT_EQ(WhatItLacks().substr(0, 35), "Harbour City Gulls Roster Error : \r");
     EXPECT_EQ(RosterScreen(), nullptr);
     EXPECT_TRUE(Main().isVisible());
 }

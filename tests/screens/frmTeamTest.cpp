@@ -1,4 +1,5 @@
 #include "OnTeamScreen.h"
+#include "support/Routines.h"
 
 #include "rules/Finance.h"
 #include "screens/roster/frmRoster.h"
@@ -434,6 +435,7 @@ TEST_F(frmTeamTest, ThePayrollsFollowAMoveOnTheRoster)
     ASSERT_EQ(Of(office.lblProPayRoll), "$500,000");
     ASSERT_EQ(Of(office.lblFarmPayRoll), "$0");
     Click(office.CmdRoster);
+    CheckRoster(5, false, true, false);
     const Box lacks{48, LastRosterText()};
     EXPECT_THAT(Machine.TakeBoxes(), ElementsAre(lacks));
     auto& roster = *static_cast<frmRoster*>(TheStage.Find("Roster"));

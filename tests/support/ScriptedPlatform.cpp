@@ -20,10 +20,6 @@ namespace dravik {
 
 namespace fs = std::filesystem;
 
-// Set by the floors whose tests are ready for it.
-extern bool MachinesAreStrict;
-bool MachinesAreStrict = false;
-
 namespace {
 
 class CountedFile final : public File {
@@ -100,7 +96,7 @@ void FailOver(const std::vector<std::string>& left)
 {
     constexpr std::size_t most = 20; // of the thousands of a property test
     // Outside of a test, as in a bench, there is nobody to fail.
-    if (!MachinesAreStrict || ::testing::UnitTest::GetInstance()->current_test_info() == nullptr)
+    if (::testing::UnitTest::GetInstance()->current_test_info() == nullptr)
         return;
     for (std::size_t place = 0; place < std::min(left.size(), most); ++place)
         ADD_FAILURE() << "On the scripted machine " << left[place];

@@ -149,6 +149,7 @@ TEST_F(SampleLeagueTest, ThePublishedPasswordsProve)
         EXPECT_TRUE(CheckPassword(password.Team)) << password.Team;
         Machine.Type(std::string(password.Password) + "x");
         EXPECT_FALSE(CheckPassword(password.Team)) << password.Team;
+        EXPECT_THAT(Machine.TakeBoxes(), ::testing::ElementsAre(Box{box::Warning, "Password is incorrect!"}));
     }
     EXPECT_EQ(Machine.Questions().size(), 6U);
     EXPECT_EQ(Teams[3].Password.Raw(), "73b6e28698dde5b14a573cf24a57a421");  // "puck"

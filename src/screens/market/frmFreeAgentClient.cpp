@@ -226,12 +226,7 @@ void frmFreeAgentClient::ShowAnew()
         lstPlayers_Click();
 }
 
-QString frmFreeAgentClient::Subject() const
-{
-    QString name;
-    OnPerson(OpenLeague, PersonAtHand(), [&name](const auto& person) { name = ToQString(person.Name.Trimmed()); });
-    return ": " + name;
-}
+QString frmFreeAgentClient::Subject() const { return ": " + NameOf(PersonAtHand()); }
 
 void frmFreeAgentClient::chkShowPlayerWithOffer_Click()
 {
@@ -257,7 +252,8 @@ bool frmFreeAgentClient::IsTaken(LeavingBox& box, Entered entered)
 
 OfferTable& frmFreeAgentClient::OffersAtHand()
 {
-    TakeOffer(OpenLeague, OwnNumber(), offers, PersonAtHand());
+    if (PersonAtHand().HasSlot())
+        TakeOffer(OpenLeague, OwnNumber(), offers, PersonAtHand());
     return offers;
 }
 

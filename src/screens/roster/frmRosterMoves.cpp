@@ -4,6 +4,7 @@
 #include "desk/RosterMoves.h"
 #include "machine/Reporting.h"
 #include "makers/Makers.h"
+#include "screens/PersonWords.h"
 #include "screens/platform/CodePage.h"
 #include "screens/roster/frmRoster.h"
 #include "screens/RosterEntry.h"
@@ -14,12 +15,7 @@ namespace dravik {
 
 std::function<void()> frmRoster::AsPersonStep(const QString& words, std::function<void()> change)
 {
-    const auto withName = [words] {
-        QString name;
-        OnPerson(OpenLeague, SelectedPerson(),
-                 [&name](const auto& person) { name = ToQString(person.Name.Trimmed()); });
-        return words + ": " + name;
-    };
+    const auto withName = [words] { return words + ": " + NameOf(SelectedPerson()); };
     return AsStep(withName, std::move(change));
 }
 
