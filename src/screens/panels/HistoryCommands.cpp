@@ -14,6 +14,9 @@ QToolButton* MakeArrow(const QString& name, QChar arrow, QWidget* parent)
     auto* command = new QToolButton(parent);
     command->setObjectName(name);
     command->setText(arrow);
+    QFont large = command->font(); // the signs are drawn smaller than letters
+    large.setPointSizeF(large.pointSizeF() * 1.5);
+    command->setFont(large);
     command->setAutoRaise(true);
     command->setFocusPolicy(Qt::NoFocus);
     return command;
