@@ -14,7 +14,7 @@ namespace {
 
 // Whether nothing stands against the move of a person, and his waivers are settled.
 template <class Person>
-bool MayMove(const Work& work, int team, PersonId who, const Person& person, int to)
+bool MayMove(const Work& work, int team, PersonId who, const Person& person, status::Number to)
 {
     const std::string kind = who.IsGoalie ? "Goalie" : "Player";
     Voice& says = work.Says;
@@ -83,7 +83,8 @@ void KeepOffFarm(const Work& work, PersonId who)
     });
 }
 
-bool MoveOnRoster(const Work& work, int team, PersonId who, int from, int to, RosterCounts& counts)
+bool MoveOnRoster(const Work& work, int team, PersonId who, status::Number from, status::Number to,
+                  RosterCounts& counts)
 {
     return OnPerson(work.League, who, [&](auto& person) {
         if (!MayMove(work, team, who, person, to))

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "league/PersonId.h"
+#include "league/Positions.h"
 #include "machine/Work.h"
 
 #include <functional>
@@ -26,7 +27,8 @@ void KeepOffFarm(const Work& work, PersonId who);
 // Moves a person of `team` (1..100) from one status to another and counts him there. What stands against it is told in a
 // warning box, in this order: he is hurt, suspended, without a contract, too dear for the farm. Sending him down may ask for
 // waivers first. He leaves all lines. True when he moved.
-bool MoveOnRoster(const Work& work, int team, PersonId who, int from, int to, RosterCounts& counts);
+bool MoveOnRoster(const Work& work, int team, PersonId who, status::Number from, status::Number to,
+                  RosterCounts& counts);
 
 // Sends a person of `team` to waivers and tells it. One who stands on the pro team is taken to the scratches first: `scratch`
 // does it and says whether he moved; where he did not, "Integrity Check Failed!" is shown, and he goes from where he stands.

@@ -6,13 +6,10 @@
 
 namespace dravik {
 
-// Numbers of the positions. A goalie has no position field; 5 stands for it.
+// Numbers of the positions. A goalie has no position field; 5 stands for it. A record may hold any other number, so what is read
+// from one stays a plain number.
 namespace position {
-inline constexpr int Center = 1;
-inline constexpr int LeftWing = 2;
-inline constexpr int RightWing = 3;
-inline constexpr int Defense = 4;
-inline constexpr int Goalie = 5;
+enum Number : int { Center = 1, LeftWing, RightWing, Defense, Goalie };
 } // namespace position
 
 inline constexpr Row<std::string_view, 1, 5> PositionName = [] {
@@ -23,11 +20,9 @@ inline constexpr Row<std::string_view, 1, 5> PositionName = [] {
     return names;
 }();
 
-// Where a person stands.
+// Where a person stands. A record may hold any other number here too.
 namespace status {
-inline constexpr int Farm = 0;
-inline constexpr int Scratch = 1;
-inline constexpr int Pro = 2;
+enum Number : int { Farm, Scratch, Pro };
 } // namespace status
 
 // What one number carrying both kinds adds for a goalie, and for a prospect.

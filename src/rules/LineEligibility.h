@@ -11,7 +11,7 @@
 namespace dravik {
 
 // The status of those who may stand in the lines of a side.
-constexpr int StatusOn(Side side) { return side == Side::Pro ? status::Pro : status::Farm; }
+constexpr status::Number StatusOn(Side side) { return side == Side::Pro ? status::Pro : status::Farm; }
 
 // What stands against a person in the lines of `team`, pro or farm: he is a stranger there or unfit. Nothing when he may
 // stand in them.

@@ -96,7 +96,7 @@ TEST_F(PlayerHealthTest, FurtherBelowNothingFollows)
 
 TEST_F(PlayerHealthTest, OnlyTheDressedAreBenched)
 {
-    for (const int standing : {status::Farm, status::Scratch, 3}) {
+    for (const int standing : {int{status::Farm}, int{status::Scratch}, 3}) {
         Tilton.Status = standing;
         Tilton.Condition = 100;
         EXPECT_THAT(TurnsAt(Skater, NumberField::Condition, "50"), ElementsAre(HealthTurn::Injured));

@@ -19,8 +19,8 @@ inline constexpr int Own = 1;
 struct Command {
     int Number;
     PersonId Who;
-    int From;
-    int To;
+    status::Number From;
+    status::Number To;
     bool Tick;
 };
 inline constexpr int CommandCount = 9;
@@ -75,8 +75,8 @@ inline Command RollCommand(Dice& dice)
     const bool isGoalie = dice.Chance(20);
     return {.Number = static_cast<int>(dice.Roll(0, CommandCount - 1)),
             .Who = {.IsGoalie = isGoalie, .Slot = static_cast<int>(dice.Roll(1, isGoalie ? 18 : 150))},
-            .From = static_cast<int>(dice.Roll(0, 2)),
-            .To = static_cast<int>(dice.Roll(0, 2)),
+            .From = static_cast<status::Number>(dice.Roll(0, 2)),
+            .To = static_cast<status::Number>(dice.Roll(0, 2)),
             .Tick = dice.Chance(50)};
 }
 

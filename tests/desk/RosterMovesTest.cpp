@@ -18,7 +18,10 @@ protected:
         LeagueData.WaiverAllowed = false;
     }
 
-    bool Move(PersonId who, int from, int to) { return MoveOnRoster(OpenWork(), 5, who, from, to, Counts); }
+    bool Move(PersonId who, status::Number from, status::Number to)
+    {
+        return MoveOnRoster(OpenWork(), 5, who, from, to, Counts);
+    }
 
     RosterCounts Counts{};
     PersonId Skater{.IsGoalie = false, .Slot = 1};

@@ -106,7 +106,7 @@ void RandomTeam::FillForLines()
     const int dressed = Between(18, static_cast<int>(league.ProDressedSkaters));
     const int defenseShare = Between(0, 9);
     const int firstForward = Between(1, 3);
-    const auto anyPosition = [&] {
+    const auto anyPosition = [&]() -> int {
         if (Between(0, 9) < defenseShare)
             return position::Defense;
         return OneIn(3) ? Between(1, 3) : firstForward;

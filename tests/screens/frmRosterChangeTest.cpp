@@ -14,7 +14,7 @@ protected:
     bool Move(int from, int to, int id, int position)
     {
         bool done = true;
-        Roster().Change(from, to, id, position, done);
+        Roster().Change(static_cast<status::Number>(from), static_cast<status::Number>(to), id, position, done);
         return done;
     }
 };

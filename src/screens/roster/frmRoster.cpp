@@ -281,7 +281,7 @@ void frmRoster::ShowStats()
     });
 }
 
-void frmRoster::Change(int from, int to, int id, int position, bool& done)
+void frmRoster::Change(status::Number from, status::Number to, int id, int position, bool& done)
 {
     done = false;
     Reporting(Machine(), " in Change!", [&] {

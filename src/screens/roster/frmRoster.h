@@ -38,7 +38,7 @@ public:
     void ShowStats();
     // Moves a person between two lists in the tables; his entry is up to the caller, when `done` says that he moved. What
     // stands against it is told in a warning box; sending him down may ask for waivers first.
-    void Change(int from, int to, int id, int position, bool& done);
+    void Change(status::Number from, status::Number to, int id, int position, bool& done);
     void HidePlayerDetails();
     void ShowListTotals();
 
@@ -104,14 +104,14 @@ private:
 
     // A change of the person at hand as a step, and a move of whoever is chosen in a list.
     std::function<void()> AsPersonStep(const QString& words, std::function<void()> change);
-    std::function<void()> AsMove(const QString& words, int from, std::function<void()> change);
+    std::function<void()> AsMove(const QString& words, status::Number from, std::function<void()> change);
 
     // Moves every chosen entry of a list that `mayMove` lets pass.
-    void MoveChosen(int from, int to, Permission (frmRoster::*mayMove)());
+    void MoveChosen(status::Number from, status::Number to, Permission (frmRoster::*mayMove)());
     Permission MayMoveFreely() { return Permission::Given; }
     Permission MayGoToFarm();
     Permission MayLeaveFarm();
-    void MoveEntry(int from, int to, int row);
+    void MoveEntry(status::Number from, status::Number to, int row);
     // The entry at the current index of the first list that has one, or none.
     QListWidgetItem* CurrentEntry();
     // Takes the person chosen from the pro list to the scratches. False when something stands against it.

@@ -19,7 +19,7 @@ std::function<void()> frmRoster::AsPersonStep(const QString& words, std::functio
     return AsStep(withName, std::move(change));
 }
 
-std::function<void()> frmRoster::AsMove(const QString& words, int from, std::function<void()> change)
+std::function<void()> frmRoster::AsMove(const QString& words, status::Number from, std::function<void()> change)
 {
     const auto withNames = [this, words, from] {
         const QList<QListWidgetItem*> chosen = lstPlayer[from]->selectedItems();
@@ -29,13 +29,13 @@ std::function<void()> frmRoster::AsMove(const QString& words, int from, std::fun
     return AsStep(withNames, std::move(change));
 }
 
-void frmRoster::MoveEntry(int from, int to, int row)
+void frmRoster::MoveEntry(status::Number from, status::Number to, int row)
 {
     lstPlayer[to]->TakeFrom(*lstPlayer[from], row);
     ShowListTotals();
 }
 
-void frmRoster::MoveChosen(int from, int to, Permission (frmRoster::*mayMove)())
+void frmRoster::MoveChosen(status::Number from, status::Number to, Permission (frmRoster::*mayMove)())
 {
     PickList* list = lstPlayer[from];
     for (int row = 0; row < list->count(); ++row) {
