@@ -27,6 +27,7 @@ Platform* TheMachine = nullptr;
 }
 
 int OwnNumber() { return static_cast<int>(CurrentTeam); }
+Team& OwnTeam() { return Teams[CurrentTeam]; }
 
 PersonId SelectedPerson() { return {.IsGoalie = SelectedIsGoalie, .Slot = static_cast<int>(SelectedPlayer)}; }
 

@@ -54,6 +54,7 @@ inline constexpr int FarmTeam = 3;
 
 // The chosen team, as the floors below take it.
 int OwnNumber();
+Team& OwnTeam();
 
 // The chosen person in one, and the choice of another one. A slot beyond 16 bits fails with 6.
 PersonId SelectedPerson();

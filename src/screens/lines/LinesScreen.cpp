@@ -35,7 +35,7 @@ void LinesScreen::FormLoad()
         }
         if (AreMakersClosed(LeagueData))
             CloseMakers();
-        const QString name = ToQString(Kind.NameOf(Teams[CurrentTeam]));
+        const QString name = ToQString(Kind.NameOf(OwnTeam()));
         SetTitle(ToQString(ProgramTitle) + " - " + name + " - Lines");
         day = 1;
         FindGames();

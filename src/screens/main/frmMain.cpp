@@ -289,7 +289,7 @@ void frmMain::ShowChosenTeam()
         lblChosenPlace->clear();
         return;
     }
-    const Team& team = Teams[CurrentTeam];
+    const Team& team = OwnTeam();
     lblChosen->setText(Shown(team.Name));
     QStringList place;
     if (decltype(LeagueData.Division)::Has(team.Division)) {

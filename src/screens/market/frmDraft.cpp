@@ -25,7 +25,7 @@ void frmDraft::FormLoad()
         }
         DraftType = DraftTypeOf(LeagueData);
         SetTitle(ToQString(std::string(ProgramTitle) + " - " + DraftType + " Client"));
-        lblTeam->setText("Draft List For : " + ToQString(Teams[CurrentTeam].Name.Trimmed()));
+        lblTeam->setText("Draft List For : " + ToQString(OwnTeam().Name.Trimmed()));
         ShowPlayer();
     });
 }

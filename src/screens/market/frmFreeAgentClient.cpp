@@ -24,8 +24,6 @@ namespace dravik {
 
 namespace {
 
-Team& OwnTeam() { return Teams[CurrentTeam]; }
-
 std::string Money(long long amount) { return Machine().CurrencyNoDecimals(static_cast<double>(amount)); }
 
 // Shows in a box the number that is taken in the place of its own.

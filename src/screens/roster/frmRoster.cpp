@@ -22,8 +22,6 @@ namespace dravik {
 
 namespace {
 
-Team& OwnTeam() { return Teams[CurrentTeam]; }
-
 QStringList LinesOf(const std::string& text) { return ToQString(text).split("\r\n", Qt::SkipEmptyParts); }
 
 // The findings of a roster judgement without the heading and the closing words of its box. A judgement that broke off got

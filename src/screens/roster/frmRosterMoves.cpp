@@ -155,7 +155,7 @@ void frmRoster::cmdTradeAvailable_Click()
             // Here the star follows whatever stands there without a blank; a list made anew sets it apart from a mark.
             const std::string name =
                 OnPerson(OpenLeague, who, [](const auto& person) { return person.Name.Trimmed(); });
-            const std::string mark = OfficeMark(Teams[OwnNumber()], who);
+            const std::string mark = OfficeMark(OwnTeam(), who);
             current->setText(isAvailable ? ToQString(name + mark) : current->text() + "*");
         }
         SetTradeAvailable(OpenWork(), who, !isAvailable);
@@ -168,7 +168,7 @@ void frmRoster::chkProtected_Click()
         return;
     Reporting(Machine(), " in chkProtected!", [this] {
         SetProtected(OpenWork(), OwnNumber(), SelectedPerson(), chkProtected->isChecked());
-        lblProtectedTotal->setText(" Total Protected Players: " + QString::number(Teams[OwnNumber()].ProtectedCount));
+        lblProtectedTotal->setText(" Total Protected Players: " + QString::number(OwnTeam().ProtectedCount));
     });
 }
 

@@ -31,8 +31,6 @@ QString ShownHalves(double number)
 
 QString ShownMoney(double amount) { return ToQString(Machine().CurrencyNoDecimals(amount)); }
 
-Team& OwnTeam() { return Teams[CurrentTeam]; }
-
 // Takes the wait screen away. That brings the team screen to the front, once the command has told what it has to tell: the
 // judges that run then may have boxes of their own.
 class WaitEnd {

@@ -12,12 +12,6 @@
 // What the title and the boxes of the team screen show, and what a box does when the focus leaves it.
 namespace dravik {
 
-namespace {
-
-Team& OwnTeam() { return Teams[CurrentTeam]; }
-
-} // namespace
-
 void frmTeam::ShowName(const Team& team)
 {
     SetTitle(ToQString(WindowTitle + " - ") + Shown(team.Name));

@@ -22,8 +22,6 @@ constexpr QSize DefaultSize(560, 360);
 constexpr int DigitIndent = 4; // of the digits in a box
 constexpr const char* LevelCaption[] = {"Level 1 :", "Level 2 :", "Level 3 :", "Level 4 :", "Luxury Box :"};
 
-Team& OwnTeam() { return Teams[CurrentTeam]; }
-
 // A box whose text was refused gets the focus back, without an event of its own.
 void Refuse(EditBox* box)
 {
