@@ -51,13 +51,10 @@ void LinesScreen::FormUnload() { WarnOfFirstDay(OpenWork(), OwnNumber(), Kind.Si
 
 void LinesScreen::ShowAnew()
 {
-    const QListWidgetItem* chosen = lstPlayer->Chosen();
-    const int number = chosen != nullptr ? chosen->data(entry::NumberRole).toInt() : 0;
+    const std::optional<int> chosen = NumberOf(lstPlayer->Chosen());
     ShowPlayer();
-    Place();
-    if (const int row = chosen != nullptr ? lstPlayer->RowOf(number) : -1; row >= 0)
-        lstPlayer->setCurrentRow(row);
-    Check();
+    lstPlayer->Choose(chosen);
+    ShowDayAnew();
 }
 
 QString LinesScreen::Subject() const { return ", day " + QString::number(ShownDay()); }

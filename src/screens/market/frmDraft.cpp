@@ -83,10 +83,7 @@ void frmDraft::chkPosition_Click(int /*position*/) { ShowPlayer(); }
 void frmDraft::cmdChoose_Click()
 {
     Reporting(Machine(), " in cmdChoose!", [this] {
-        std::optional<int> id;
-        if (const QListWidgetItem* chosen = lstPlayers->Chosen())
-            id = chosen->data(entry::NumberRole).toInt();
-        if (RankLast(OpenWork(), ranking, id))
+        if (RankLast(OpenWork(), ranking, NumberOf(lstPlayers->Chosen())))
             PlaceOffer();
     });
 }

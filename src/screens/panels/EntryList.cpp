@@ -159,6 +159,13 @@ QVariant EntryItem::data(int role) const
     return QString((QStringList(text()) + data(entry::AsideRole).toStringList()).join(", "));
 }
 
+std::optional<int> NumberOf(const QListWidgetItem* item)
+{
+    if (item == nullptr)
+        return std::nullopt;
+    return item->data(entry::NumberRole).toInt();
+}
+
 EntryList::EntryList(QWidget* parent) : QListWidget(parent)
 {
     setItemDelegate(new EntryDelegate(this));

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <algorithm>
+#include <optional>
 #include <QListWidget>
 #include <QStyledItemDelegate>
 
@@ -12,6 +13,9 @@ namespace entry {
 inline constexpr int NumberRole = Qt::UserRole;
 inline constexpr int AsideRole = Qt::UserRole + 1;
 } // namespace entry
+
+// The number of an entry; none of no entry.
+std::optional<int> NumberOf(const QListWidgetItem* item);
 
 // An entry, which says its secondary words to a screen reader as well.
 class EntryItem : public QListWidgetItem {

@@ -51,6 +51,12 @@ int PickList::RowOf(int number) const
     return -1;
 }
 
+void PickList::Choose(std::optional<int> number)
+{
+    if (const int row = number ? RowOf(*number) : -1; row >= 0)
+        setCurrentRow(row);
+}
+
 int PickList::FirstChoice() const { return currentRow() >= 0 ? currentRow() : std::min(gapRow, count() - 1); }
 
 bool PickList::viewportEvent(QEvent* event)

@@ -3,6 +3,7 @@
 #include "screens/panels/EntryList.h"
 
 #include <functional>
+#include <optional>
 
 namespace dravik {
 
@@ -21,6 +22,8 @@ public:
 
     // The row of the entry with that number, or -1.
     [[nodiscard]] int RowOf(int number) const;
+    // Chooses the entry with that number, if there is one and the list has it.
+    void Choose(std::optional<int> number);
     [[nodiscard]] bool IsChosen(int row) const { return item(row)->isSelected(); }
     [[nodiscard]] int ChosenCount() const { return static_cast<int>(selectedItems().size()); }
 

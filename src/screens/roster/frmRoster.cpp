@@ -68,13 +68,10 @@ void frmRoster::FormUnload() { CheckRoster(OpenWork(), OwnNumber(), false, true,
 
 void frmRoster::ShowAnew()
 {
-    const QListWidgetItem* current = CurrentEntry();
-    const int number = current != nullptr ? current->data(entry::NumberRole).toInt() : 0;
-    const bool wasChosen = current != nullptr;
+    const std::optional<int> current = NumberOf(CurrentEntry());
     ShowPlayer(false);
     for (PickList* list : lstPlayer)
-        if (const int row = wasChosen ? list->RowOf(number) : -1; row >= 0)
-            list->setCurrentRow(row);
+        list->Choose(current);
 }
 
 void frmRoster::ShowPlayer(bool noCheck)
