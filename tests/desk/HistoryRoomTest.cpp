@@ -20,7 +20,15 @@ protected:
     {
         std::memset(static_cast<void*>(&GameSchedule), with, bytes);
     }
-    static std::size_t SizeOfAPayment(History& of) { return of.ToUndo()->Held(); }
+    // The same for three payments and a half.
+    std::size_t ShadowAndThreePayments()
+    {
+        Pay(99);
+        const std::size_t one = history.ToUndo()->Held();
+        history.Undo();
+        history.Begin();
+        return ShadowAnd(3 * one + one / 2);
+    }
 };
 
 TEST_F(HistoryRoomTest, AStepTakesTwiceWhatChangedAndAFewBytes)
@@ -37,11 +45,7 @@ TEST_F(HistoryRoomTest, AStepTakesTwiceWhatChangedAndAFewBytes)
 
 TEST_F(HistoryRoomTest, TheOldestStepsGoFirst)
 {
-    Pay(99);
-    const std::size_t one = SizeOfAPayment(history);
-    history.Undo();
-    history.Begin();
-    History small(OpenLeague, ShadowAnd(3 * one + one / 2));
+    History small(OpenLeague, ShadowAndThreePayments());
     for (const int cash : {90, 80, 70, 60, 50})
         PayIn(small, cash);
     for (const int cash : {60, 70, 80}) {
@@ -115,11 +119,7 @@ TEST_F(HistoryRoomTest, WithoutRoomForTheBeginningThereIsNoHistory)
 
 TEST_F(HistoryRoomTest, StepsThatWereUndoneGoBehindThoseThatCanBeUndone)
 {
-    Pay(99);
-    const std::size_t one = SizeOfAPayment(history);
-    history.Undo();
-    history.Begin();
-    History small(OpenLeague, ShadowAnd(3 * one + one / 2));
+    History small(OpenLeague, ShadowAndThreePayments());
     for (const int cash : {90, 80, 70})
         PayIn(small, cash);
     small.Undo();
