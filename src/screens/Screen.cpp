@@ -39,6 +39,24 @@ bool RunEvent(const QString& name, const std::function<void()>& routine)
 
 namespace {
 
+// What was done for another team is shown to nobody who works on this one, and not turned by him.
+bool IsOwn(const Step* step) { return step != nullptr && step->Label.Team == OwnNumber(); }
+
+// What became of a step, in front of its words.
+std::string_view Outcome(Turned turned, bool back)
+{
+    switch (turned) {
+    case Turned::Done:
+        return back ? "Undone: " : "Done again: ";
+    case Turned::Changed:
+        return "What it would replace has changed since: ";
+    case Turned::NoRoom:
+        return "There is no room for it: ";
+    default:
+        return "Not now: ";
+    }
+}
+
 // A layout within a layout keeps an older hint until what it lies in is activated: inner ones first.
 void WorkOutHints(const QWidget& window)
 {
@@ -215,8 +233,8 @@ void Screen::RunStep(const QString& words, const std::function<void()>& change, 
 QWidget* Screen::MakeHistoryCommands()
 {
     history = new HistoryCommands(this);
-    const auto undo = [this] { Turn(&History::Undo); };
-    const auto redo = [this] { Turn(&History::Redo); };
+    const auto undo = [this] { Turn(Way::Back); };
+    const auto redo = [this] { Turn(Way::Again); };
     connect(history, &HistoryCommands::Undo, this, undo);
     connect(history, &HistoryCommands::Redo, this, redo);
     connect(new QShortcut(QKeySequence("Ctrl+Z"), this), &QShortcut::activated, this, undo);
@@ -230,23 +248,28 @@ void Screen::ShowHistory()
     if (history == nullptr)
         return;
     const std::string_view here = Owner.NameOf(*this);
-    history->Show(ToQString(OpenHistory().UndoWords(here)), ToQString(OpenHistory().RedoWords(here)));
+    const History& past = OpenHistory();
+    history->Show(IsOwn(past.ToUndo()) ? ToQString(past.UndoWords(here)) : QString(),
+                  IsOwn(past.ToRedo()) ? ToQString(past.RedoWords(here)) : QString(),
+                  past.IsOutOfRoom() ? ToQString(History::OutOfRoomWords) : QString());
 }
 
-// What was changed behind the step belongs to it by now.
-void Screen::Turn(Turned (History::*turn)())
+void Screen::Turn(Way way)
 {
     if (!SettleFocus())
         return;
-    const bool isUndo = turn == &History::Undo;
-    RunEvent("History", [this, turn, isUndo] {
-        OpenHistory().Fold();
-        const Step* step = isUndo ? OpenHistory().ToUndo() : OpenHistory().ToRedo();
-        const QString words = step != nullptr ? ToQString(step->Label.Words) : QString();
-        if ((OpenHistory().*turn)() != Turned::Done)
+    RunEvent("History", [this, way] {
+        History& past = OpenHistory();
+        past.Fold(); // what was changed behind the step belongs to it by now
+        const bool back = way == Way::Back;
+        const Step* step = back ? past.ToUndo() : past.ToRedo();
+        if (!IsOwn(step))
             return;
-        Owner.ShowAnew();
-        history->Tell((isUndo ? "Undone: " : "Done again: ") + words);
+        const QString words = ToQString(step->Label.Words);
+        const Turned turned = back ? past.Undo() : past.Redo();
+        if (turned == Turned::Done)
+            Owner.ShowAnew();
+        history->Tell(ToQString(Outcome(turned, back)) + words);
     });
     ShowHistory();
 }

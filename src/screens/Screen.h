@@ -11,10 +11,8 @@ namespace dravik {
 
 class EditBox;
 class EntryList;
-class History;
 class HistoryCommands;
 class Stage;
-enum class Turned;
 
 // What all screens have in common. A screen is made and loaded by the stage, shown, hidden while another one that it
 // opened is up, and unloaded when it closes. It knows the stage and no other screen.
@@ -87,8 +85,10 @@ protected:
     Stage& Owner;
 
 private:
-    // Puts back the last step, or puts the next one again.
-    void Turn(Turned (History::*turn)());
+    // Which way the history goes.
+    enum class Way { Back, Again };
+    // Puts back the last step, or puts the next one again, and says which it was, or why it was not.
+    void Turn(Way way);
 
     // Lets the text box that has the focus act; false when it keeps the focus.
     bool SettleFocus();

@@ -13,7 +13,6 @@
 #include "screens/roster/frmRoster.h"
 #include "screens/team/frmTeam.h"
 #include "screens/team/frmTicket.h"
-#include "session/OpenMarket.h"
 #include "session/Session.h"
 
 #include <algorithm>
@@ -151,13 +150,11 @@ std::string_view Stage::NameOf(const Screen& screen) const
 void Stage::ShowAnew()
 {
     const auto kept = Copy(OpenLeague);
-    const auto market = std::make_unique<Market>(OpenMarket());
     const bool wasModified = Modified;
     const bool messagesWereAllowed = std::exchange(Machine().MessagesAllowed, false);
     for (const auto& [window, screen] : screens) {
         RunEvent("ShowAnew", [&showing = *screen] { showing.ShowAnew(); });
         OpenLeague = *kept;
-        OpenMarket() = *market;
     }
     Machine().MessagesAllowed = messagesWereAllowed;
     Modified = wasModified;

@@ -1,6 +1,5 @@
 #include "session/OpenHistory.h"
 
-#include "session/OpenMarket.h"
 #include "session/Session.h"
 
 #include <memory>
@@ -13,13 +12,15 @@ std::unique_ptr<History> TheHistory;
 
 History& OpenHistory()
 {
-    if (!TheHistory) {
+    if (!TheHistory)
         TheHistory = std::make_unique<History>(OpenLeague);
-        TheHistory->Join(OpenMarket());
-    }
     return *TheHistory;
 }
 
-void ForgetHistory() { TheHistory.reset(); }
+void BeginHistory()
+{
+    if (TheHistory)
+        TheHistory->Begin();
+}
 
 } // namespace dravik

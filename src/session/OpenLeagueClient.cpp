@@ -10,6 +10,7 @@
 #include "rules/StatRows.h"
 #include "rules/Waivers.h"
 #include "session/OpenHistory.h"
+#include "session/OpenMarket.h"
 #include "session/Session.h"
 
 #include <cmath>
@@ -106,7 +107,6 @@ void ShowLeague(const std::string& path, bool damaged, MainWindow& window)
 void OpenLeagueClient(const std::string& path, MainWindow& window)
 {
     Reporting(Machine(), " in OpenLeagueClient!", [&] {
-        ForgetHistory();
         EmptyLeagueTables(OpenLeague);
         if (!FileExist(Machine(), path)) {
             TellCritical("Cannot find last client league file!");
@@ -129,6 +129,8 @@ void OpenLeagueClient(const std::string& path, MainWindow& window)
         GoalieStatCount = shown.Goalie;
         ShowLeague(path, outcome.File == SlotFileRead::Damaged, window);
     });
+    EmptyOpenMarket(); // offers and ranks of another league's people
+    BeginHistory();
 }
 
 } // namespace dravik

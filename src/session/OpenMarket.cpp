@@ -1,5 +1,7 @@
 #include "session/OpenMarket.h"
 
+#include "session/OpenHistory.h"
+
 namespace dravik {
 
 namespace {
@@ -8,8 +10,10 @@ std::unique_ptr<Market> TheMarket;
 
 Market& OpenMarket()
 {
-    if (!TheMarket)
+    if (!TheMarket) {
         TheMarket = MakeMarket();
+        OpenHistory().Join(*TheMarket);
+    }
     return *TheMarket;
 }
 

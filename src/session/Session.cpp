@@ -52,7 +52,7 @@ void ResetClientVariables()
     ListEventGuard = false;
     ViewerReturnMode = 0;
     EmptyOpenMarket();
-    ForgetHistory();
+    BeginHistory();
 }
 
 Platform& Machine()

@@ -52,7 +52,7 @@ inline constexpr int ProTeam = 2;
 inline constexpr int FarmTeam = 3;
 } // namespace return_mode
 
-// The chosen team, as the floors below take it.
+// The chosen team: its number as the floors below take it, and its record; a number out of range fails with 9.
 int OwnNumber();
 Team& OwnTeam();
 

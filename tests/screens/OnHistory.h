@@ -8,6 +8,7 @@
 #include <QTest>
 #include <QTextDocument>
 #include <QToolButton>
+#include <QToolTip>
 #include <string>
 
 namespace dravik {
@@ -26,6 +27,15 @@ inline std::string WordsOn(const Screen& screen, const char* name)
 }
 inline std::string UndoWords(const Screen& screen) { return WordsOn(screen, "cmdUndo"); }
 inline std::string RedoWords(const Screen& screen) { return WordsOn(screen, "cmdRedo"); }
+
+// The words of a tooltip, and what the commands said last of what they did.
+inline std::string Plain(const QString& rich)
+{
+    QTextDocument text;
+    text.setHtml(rich);
+    return text.toPlainText().toStdString();
+}
+inline std::string HistoryTold() { return Plain(QToolTip::text()); }
 
 // Presses a key of the history, wherever the focus is on the screen.
 inline void PressHistoryKey(Screen& screen, Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::ControlModifier)

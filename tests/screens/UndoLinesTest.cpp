@@ -5,9 +5,8 @@
 #include "OnLineScreen.h"
 #include "session/OpenHistory.h"
 #include "session/OpenLeagueClient.h"
+#include "session/OpenMarket.h"
 #include "support/LeagueImage.h"
-
-#include <QToolTip>
 
 namespace dravik {
 namespace {
@@ -18,13 +17,6 @@ using ::testing::IsEmpty;
 class UndoLines : public OnLineScreen {
 protected:
     const Box MayWipe{box::YesNo, "Are you sure you want to wipe your lines?"};
-
-    static std::string Plain(const QString& rich)
-    {
-        QTextDocument text;
-        text.setHtml(rich);
-        return text.toPlainText().toStdString();
-    }
 
     void Wipe(LinesScreen& screen)
     {
@@ -53,13 +45,13 @@ TEST_F(UndoLines, AWipedDayComesBackAndGoesAgain)
     EXPECT_EQ(Of(line.lblComplete), "Lines are Complete");
     EXPECT_EQ(UndoWords(line), "");
     EXPECT_EQ(RedoWords(line), "Redo: Wipe Lines, day 1");
-    EXPECT_EQ(Plain(QToolTip::text()), "Undone: Wipe Lines, day 1");
+    EXPECT_EQ(HistoryTold(), "Undone: Wipe Lines, day 1");
 
     Redo(line);
     EXPECT_TRUE(AllTables() == wiped);
     EXPECT_EQ(SlotOn(line, LineField::NormalForward, 1)->text(), "");
     EXPECT_EQ(Of(line.lblComplete), "Lines are Incomplete");
-    EXPECT_EQ(Plain(QToolTip::text()), "Done again: Wipe Lines, day 1");
+    EXPECT_EQ(HistoryTold(), "Done again: Wipe Lines, day 1");
 
     Undo(line);
     PressHistoryKey(line, Qt::Key_Y);
@@ -213,8 +205,12 @@ TEST_F(UndoLines, ALeagueThatIsOpenedEndsIt)
     frmLine& line = Line();
     Wipe(line);
     ASSERT_NE(OpenHistory().ToUndo(), nullptr);
+    OpenMarket().Offers[1].Salary = 900000;
+    OpenMarket().Ranking[0] = 20001;
     OpenLeagueClient(Machine.InFolder("none.dvs"), Main());
     EXPECT_EQ(OpenHistory().ToUndo(), nullptr);
+    EXPECT_EQ(OpenMarket().Offers[1].Salary, 0) << "nobody of the new league";
+    EXPECT_EQ(OpenMarket().Ranking[0], 0);
     EXPECT_THAT(Machine.TakeBoxes(), ElementsAre(Box{box::Critical, "Cannot find last client league file!"}));
 }
 

@@ -91,6 +91,39 @@ TEST_F(UndoOffers, WhatIsOfferedBehindAnUndoIsStillAnOfferToThatPerson)
     EXPECT_EQ(RedoWords(Offers()), "");
 }
 
+TEST_F(UndoOffers, WhomOneLooksAtStopsNoWayBack)
+{
+    FreeSkater(1);
+    FreeSkater(2);
+    Open();
+    Enter(Offers().txtOffer, "900000");
+    ClickEntry(1);
+    Enter(Offers().txtOffer, "800000");
+    Offers().lstPlayers->setFocus();
+    Undo(Offers());
+    Undo(Offers());
+    ClickEntry(0);
+    ClickEntry(1);
+    Redo(Offers());
+    Redo(Offers());
+    EXPECT_EQ(OfferOf(1).Salary, 900000);
+    EXPECT_EQ(OfferOf(2).Salary, 800000);
+    EXPECT_EQ(OfferOf(2).Id, 2);
+}
+
+TEST_F(UndoOffers, WhatCannotBePutAgainIsTold)
+{
+    FreeSkater(1).Name = "Ward Tilton";
+    Open();
+    Enter(Offers().txtOffer, "900000");
+    Offers().lstPlayers->setFocus();
+    Undo(Offers());
+    OfferOf(1).Salary = 700000;
+    Redo(Offers());
+    EXPECT_EQ(OfferOf(1).Salary, 700000);
+    EXPECT_EQ(HistoryTold(), "What it would replace has changed since: Change Salary: Ward Tilton");
+}
+
 using UndoDraft = OnDraftScreen;
 
 TEST_F(UndoDraft, ARankingComesBackStepByStep)

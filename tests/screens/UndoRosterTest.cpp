@@ -3,6 +3,7 @@
 #include "OnHistory.h"
 #include "OnRosterScreen.h"
 #include "session/OpenHistory.h"
+#include "support/FailingAllocation.h"
 #include "support/LeagueImage.h"
 
 namespace dravik {
@@ -86,6 +87,43 @@ TEST_F(UndoRoster, AnAutomaticRosterComesBackInOne)
     EXPECT_TRUE(AllTables() == made);
 }
 
+TEST_F(UndoRoster, WhatWasDoneForATeamWaitsUntilSheIsChosenAgain)
+{
+    ClickEntry(status::Scratch, 0);
+    Click(Roster().cmdToPro);
+    Undo(Roster());
+    TeamMaker other(6);
+    Click(Roster().cmdExit);
+    EXPECT_EQ(Machine.TakeBoxes().size(), 1U) << "an incomplete roster is told of";
+    OpenFrom(Main(), "Main", 6);
+    EXPECT_EQ(Machine.TakeBoxes().size(), 1U);
+    EXPECT_EQ(RedoWords(*RosterScreen()), "");
+    Redo(*RosterScreen());
+    EXPECT_EQ(Players[1].Status, status::Scratch);
+    Click(RosterScreen()->cmdExit);
+    EXPECT_EQ(Machine.TakeBoxes().size(), 1U);
+    OpenFrom(Main(), "Main", 5);
+    EXPECT_EQ(Machine.TakeBoxes().size(), 1U);
+    EXPECT_EQ(RedoWords(*RosterScreen()), "Redo: To Pro: " + Players[1].Name.Trimmed());
+    Redo(*RosterScreen());
+    EXPECT_EQ(Players[1].Status, status::Pro);
+}
+
+TEST_F(UndoRoster, WithoutRoomTheCommandSaysSo)
+{
+    Roster();
+    {
+        const FailingAllocation first(1);
+        OpenHistory().Begin();
+    }
+    Roster().ShowHistory();
+    EXPECT_EQ(UndoWords(Roster()), "");
+    EXPECT_EQ(HistoryCommand(Roster(), "cmdUndo")->accessibleName().toStdString(), History::OutOfRoomWords);
+    ClickEntry(status::Scratch, 0);
+    Click(Roster().cmdToPro);
+    EXPECT_EQ(UndoWords(Roster()), "Undo: To Pro: " + Players[1].Name.Trimmed()) << "there is room again";
+}
+
 TEST_F(UndoRoster, TheFirstCommandForAnotherTeamEndsTheWayBack)
 {
     frmRoster& roster = Roster();
@@ -97,7 +135,9 @@ TEST_F(UndoRoster, TheFirstCommandForAnotherTeamEndsTheWayBack)
     EXPECT_EQ(Machine.TakeBoxes().size(), 1U) << "an incomplete roster is told of";
     OpenFrom(Main(), "Main", 6);
     EXPECT_EQ(Machine.TakeBoxes().size(), 1U);
-    EXPECT_EQ(UndoWords(*RosterScreen()), "Undo: To Pro: " + Players[1].Name.Trimmed());
+    EXPECT_EQ(UndoWords(*RosterScreen()), "") << "another manager's";
+    Undo(*RosterScreen());
+    EXPECT_EQ(Players[1].Status, status::Pro);
     ClickEntry(status::Scratch, 0);
     Click(RosterScreen()->cmdToPro);
     EXPECT_EQ(UndoWords(*RosterScreen()), "Undo: To Pro: " + Players[20].Name.Trimmed());

@@ -160,11 +160,12 @@ void frmFreeAgentClient::lstPlayers_Click()
         if (current == nullptr)
             return;
         offerIndex = current->data(entry::NumberRole).toInt();
-        OpenHistory().Watch(static_cast<int>(offerIndex));
         if (const auto who = FreeAgentOf(OpenLeague, static_cast<int>(offerIndex)))
             ShowPerson(*who);
         else
             Tell([] { Machine().ShowIntegrityFailure(); });
+        // That the offer is his is no change: whom one looks at stands in no step, and stops no way back.
+        OpenHistory().Watch(static_cast<int>(offerIndex));
     });
 }
 
@@ -189,10 +190,15 @@ void frmFreeAgentClient::ShowPerson(PersonId who)
     }
     if (!txtOffer->isEnabled())
         EnableOffer(true);
-    txtOffer->setText(QString::number(offer->Salary));
-    txtDuration->setText(QString::number(offer->Duration));
-    txtBonus->setText(QString::number(offer->Bonus));
-    txtComment->setPlainText(ToQString(offer->Comment.Trimmed()));
+    ShowOffer(*offer);
+}
+
+void frmFreeAgentClient::ShowOffer(const FreeAgentOffer& offer)
+{
+    txtOffer->setText(QString::number(offer.Salary));
+    txtDuration->setText(QString::number(offer.Duration));
+    txtBonus->setText(QString::number(offer.Bonus));
+    txtComment->setPlainText(ToQString(offer.Comment.Trimmed()));
 }
 
 void frmFreeAgentClient::EnableOffer(bool enabled)
@@ -214,14 +220,13 @@ void frmFreeAgentClient::lstPlayers_DblClick()
     });
 }
 
-// Somebody barred is not told of once more.
 void frmFreeAgentClient::ShowAnew()
 {
     ShowTally();
     if (chkShowPlayerWithOffer->isChecked())
         ShowPlayer();
     else if (txtOffer->isEnabled())
-        lstPlayers_Click();
+        ShowOffer(offers[offerIndex]);
 }
 
 QString frmFreeAgentClient::Subject() const { return ": " + NameOf(PersonAtHand()); }

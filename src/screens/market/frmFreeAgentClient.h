@@ -85,6 +85,7 @@ private:
     void BeginOffers();
     void ShowNobody();
     void ShowPerson(PersonId who);
+    void ShowOffer(const FreeAgentOffer& offer);
     void EnableOffer(bool enabled);
     [[nodiscard]] PersonId PersonAtHand() const { return PersonOf(static_cast<int>(offerIndex)); }
     // The offers, of which the one at hand is its person's also where undoing took that back.

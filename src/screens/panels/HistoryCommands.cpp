@@ -46,9 +46,9 @@ HistoryCommands::HistoryCommands(QWidget* parent) :
     Show({}, {});
 }
 
-void HistoryCommands::Show(const QString& undo, const QString& redo)
+void HistoryCommands::Show(const QString& undo, const QString& redo, const QString& whyNothing)
 {
-    Describe(*cmdUndo, undo, "Nothing to undo", "Ctrl+Z");
+    Describe(*cmdUndo, undo, whyNothing.isEmpty() ? "Nothing to undo" : whyNothing, "Ctrl+Z");
     Describe(*cmdRedo, redo, "Nothing to redo", "Ctrl+Shift+Z");
 }
 

@@ -13,8 +13,8 @@ class HistoryCommands : public QWidget {
 public:
     explicit HistoryCommands(QWidget* parent = nullptr);
 
-    // Shows what both would do, in words; without words there is nothing to do.
-    void Show(const QString& undo, const QString& redo);
+    // Shows what both would do, in words; without words there is nothing to do, and `whyNothing` says why where that is known.
+    void Show(const QString& undo, const QString& redo, const QString& whyNothing = {});
 
     // Says for a moment, beside the commands, what was done: it may be on another day, or on another screen.
     void Tell(const QString& words);
