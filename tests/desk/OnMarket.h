@@ -2,7 +2,7 @@
 
 #include "desk/Market.h"
 #include "league/PersonId.h"
-#include "support/SmallLeague.h"
+#include "support/FreeAgents.h"
 
 #include <cstring>
 
@@ -25,21 +25,6 @@ protected:
     }
     ~OnMarket() override { EXPECT_FALSE(Modified); }
 
-    // A skater or goalie whose contract is out.
-    static Player& FreeSkater(int index, int team = 6, int age = 25)
-    {
-        Player& player = PutSkater(index, team, position::Center, status::Farm);
-        player.Contract = 0;
-        player.Age = age;
-        return player;
-    }
-    static Goalie& FreeGoalie(int index, int team = 6, int age = 25)
-    {
-        Goalie& keeper = PutGoalie(index, team, status::Farm);
-        keeper.Contract = 0;
-        keeper.Age = age;
-        return keeper;
-    }
     static PersonId Skater(int slot) { return {.IsGoalie = false, .Slot = slot}; }
     static PersonId Keeper(int slot) { return {.IsGoalie = true, .Slot = slot}; }
 

@@ -4,6 +4,7 @@
 #include "screens/market/frmFreeAgentClient.h"
 #include "session/OpenMarket.h"
 #include "support/FailingBoxes.h"
+#include "support/FreeAgents.h"
 
 namespace dravik {
 
@@ -29,22 +30,6 @@ protected:
     ~OnOfferScreen() override { QApplication::setDoubleClickInterval(usualInterval); }
 
     static Team& Own() { return Teams[5]; }
-
-    // A skater or goalie whose contract is out.
-    static Player& FreeSkater(int index, int team = 6, int age = 25)
-    {
-        Player& player = PutSkater(index, team, position::Center, status::Farm);
-        player.Contract = 0;
-        player.Age = age;
-        return player;
-    }
-    static Goalie& FreeGoalie(int index, int team = 6, int age = 25)
-    {
-        Goalie& keeper = PutGoalie(index, team, status::Farm);
-        keeper.Contract = 0;
-        keeper.Age = age;
-        return keeper;
-    }
 
     // The screen, opened from the main screen for the team at hand.
     frmFreeAgentClient& Open(int team = 5)
