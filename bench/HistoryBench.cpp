@@ -78,7 +78,7 @@ constexpr std::array Cases{
          [](const Evening&) { CopyLinesToAllDays(OpenWork(), Own, Side::Pro, 1); }},
     Case{"LoadLines", EverybodyLimit, ForgetTeam,
          [](const Evening& evening) {
-             Demand(ReadLinesFile(OpenLeague, OpenFiles(), Own, evening.LinesPath) == LinesFileRead::Loaded);
+             Demand(ReadLinesFile(OpenLeague, OpenFiles(), Own, evening.LinesPath) == TeamFileRead::Loaded);
          }},
 };
 

@@ -46,13 +46,13 @@ void RunTarget(Input input)
     TempFile = InFolder("ClientTemp.dvt");
     const Team before = Teams[1];
 
-    LinesFileRead result = LinesFileRead::Loaded;
+    TeamFileRead result = TeamFileRead::Loaded;
     const bool ended = Reporting(Machine(), " in cmdLoadFile!",
                                  [&] { result = ReadLinesFile(OpenLeague, OpenFiles(), 1, InFolder("Lines.dvl")); });
     Require(machine.Files.size() == 1 && machine.Files.count(InFolder("Lines.dvl")) == 1);
-    Require(ended && machine.BoxCount == (result == LinesFileRead::NotDecompressed ? 1 : 0));
+    Require(ended && machine.BoxCount == (result == TeamFileRead::NotDecompressed ? 1 : 0));
     Require(StatusesAreKnown(Players) && StatusesAreKnown(Goalies));
-    if (result == LinesFileRead::NotDecompressed)
+    if (result == TeamFileRead::NotDecompressed)
         Require(std::memcmp(&before, &Teams[1], sizeof before) == 0);
 }
 

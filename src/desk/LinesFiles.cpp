@@ -50,11 +50,11 @@ void LoadLines(const Work& work, const FileAccess& files, Platform& machine, int
                const std::function<void()>& endWait, const std::function<void()>& showAnew)
 {
     BehindWait(machine, endWait, [&] {
-        const LinesFileRead outcome = ReadLinesFile(work.League, files, team, path);
-        if (outcome == LinesFileRead::NotDecompressed)
+        const TeamFileRead outcome = ReadLinesFile(work.League, files, team, path);
+        if (outcome == TeamFileRead::NotDecompressed)
             return; // told, and the wait screen stays
         endWait();
-        const bool loaded = outcome == LinesFileRead::Loaded;
+        const bool loaded = outcome == TeamFileRead::Loaded;
         if (loaded)
             showAnew();
         work.Says.ShowBox((loaded ? "Lines file for " : "File for ") + work.League.Teams[team].Name.Trimmed() +

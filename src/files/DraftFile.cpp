@@ -3,6 +3,7 @@
 #include "files/ReplacedFile.h"
 #include "files/SlotFile.h"
 #include "files/TeamFilePath.h"
+#include "league/Positions.h"
 #include "machine/Paths.h"
 
 namespace dravik {
@@ -16,6 +17,24 @@ constexpr std::int64_t RecordCount = 3 + (DraftRanking::last + 1) + 1;
 constexpr std::int64_t FileLength = SlotFileLength(RecordCount, MagicLength(EndMagic), DraftSlot);
 
 static_assert(DraftSlot == 12 && RecordCount == 1005 && FileLength == 12060);
+
+// Whether somebody can have a number.
+bool IsAnId(long long id)
+{
+    return PlayerTable::Has(id) || GoalieTable::Has(id - GoalieOffset) || ProspectTable::Has(id - ProspectOffset);
+}
+
+// Takes all ranks. False at one that no draft file has: a number that nobody can have, or a person behind an empty rank.
+bool ReadRanks(SlotReader& slots, DraftRanking& ranking)
+{
+    bool ended = false;
+    for (Int16& id : ranking) {
+        if (!slots.Read(id) || (id != 0 && (ended || !IsAnId(id))))
+            return false;
+        ended = id == 0;
+    }
+    return true;
+}
 
 } // namespace
 
@@ -41,6 +60,18 @@ bool WriteDraftFile(const Tables& league, const FileAccess& access, int team, co
         return false;
     old.Replaced();
     return true;
+}
+
+TeamFileRead ReadDraftFile(const Tables& league, const FileAccess& access, int team, const std::string& path,
+                           DraftRanking& ranking)
+{
+    const auto takeBack = [&] { ranking = {}; };
+    takeBack();
+    const auto read = [&](SlotReader& slots) {
+        return ReadTeamFileHead(slots, StartMagic, league, team) && ReadRanks(slots, ranking) &&
+               slots.ReadMagic(EndMagic);
+    };
+    return ReadTeamFile(access, path, DraftSlot, read, takeBack);
 }
 
 } // namespace dravik

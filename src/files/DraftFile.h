@@ -1,6 +1,6 @@
 #pragma once
 
-#include "files/FileAccess.h"
+#include "files/TeamFileRead.h"
 #include "league/Tables.h"
 
 #include <string>
@@ -21,5 +21,11 @@ std::string DraftFilePath(const Tables& league, Disk& disk, int team);
 // compression, which is told; any other failure is thrown.
 bool WriteDraftFile(const Tables& league, const FileAccess& access, int team, const DraftRanking& ranking,
                     const std::string& target);
+
+// Reads the draft file `path` of `team` (1..100), plain or compressed as the settings say, into `ranking`. It has to be as
+// WriteDraftFile writes one: of this league and this team, with 1001 ranks without gaps and ids that somebody can have. One that
+// is not is refused whole. Failures are thrown; `ranking` is empty unless it was loaded.
+TeamFileRead ReadDraftFile(const Tables& league, const FileAccess& access, int team, const std::string& path,
+                           DraftRanking& ranking);
 
 } // namespace dravik

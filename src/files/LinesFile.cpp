@@ -38,18 +38,9 @@ long long ReadChanges(SlotReader& slots, Changes& changes)
     return Changes::last;
 }
 
-bool ReadHead(SlotReader& slots, const Tables& league, int team)
-{
-    if (!slots.ReadMagic(StartMagic))
-        return false;
-    decltype(League::LeagueCode) code;
-    Int16 number;
-    return slots.Read(code) && code.Raw() == league.LeagueData.LeagueCode.Raw() && slots.Read(number) && number == team;
-}
-
 void ReadContent(SlotReader& slots, Content& content, const Tables& league, int team)
 {
-    content.HeadFits = ReadHead(slots, league, team);
+    content.HeadFits = ReadTeamFileHead(slots, StartMagic, league, team);
     if (!content.HeadFits)
         return;
     content.HasTeam = slots.Read(content.Team);
@@ -111,24 +102,24 @@ bool WriteLinesFile(Tables& league, const FileAccess& access, int team, const st
     return true;
 }
 
-LinesFileRead ReadLinesFile(Tables& league, const FileAccess& access, int team, const std::string& path)
+TeamFileRead ReadLinesFile(Tables& league, const FileAccess& access, int team, const std::string& path)
 {
     DeleteIfExists(access.Disk, access.WorkFile);
     if (!FileExist(access.Disk, path))
-        return LinesFileRead::Refused;
+        return TeamFileRead::Refused;
     const auto content = std::make_unique<Content>();
     const auto read = [&](SlotReader& slots) { ReadContent(slots, *content, league, team); };
     const auto takeBack = [&] { *content = {}; };
     if (ReadSlotFile(SlotFilesOf(access), ExistingPath(access.Disk, path), read, SlotLength, takeBack) ==
         SlotFileRead::NotDecompressed)
-        return LinesFileRead::NotDecompressed;
+        return TeamFileRead::NotDecompressed;
     if (!content->HeadFits)
-        return LinesFileRead::Refused;
+        return TeamFileRead::Refused;
     if (content->HasTeam)
         league.Teams[team] = content->Team;
     TakeOver(content->Players, content->PlayerCount, team, league.RosterChanges, league.Players);
     TakeOver(content->Goalies, content->GoalieCount, team, league.RosterChangesGoalie, league.Goalies);
-    return content->EndFits ? LinesFileRead::Loaded : LinesFileRead::Refused;
+    return content->EndFits ? TeamFileRead::Loaded : TeamFileRead::Refused;
 }
 
 } // namespace dravik

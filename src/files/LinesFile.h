@@ -1,6 +1,6 @@
 #pragma once
 
-#include "files/FileAccess.h"
+#include "files/TeamFileRead.h"
 #include "league/Tables.h"
 
 #include <string>
@@ -17,15 +17,9 @@ std::string LinesFilePath(const Tables& league, Disk& disk, int team);
 // old one is deleted. False after a failed compression, which is told; any other failure is thrown.
 bool WriteLinesFile(Tables& league, const FileAccess& access, int team, const std::string& target);
 
-enum class LinesFileRead {
-    Loaded,         // everything taken over
-    Refused,        // not a lines file of this league and this team, or its end is wrong
-    NotDecompressed // told already
-};
-
 // Reads the lines file `path`, found whatever the case of its name, over the record of `team` (1..100) and over its people.
 // A wrong head leaves the tables untouched; after a wrong end, what is in the file stays taken over. A work file left
 // behind is deleted first. Failures are thrown.
-LinesFileRead ReadLinesFile(Tables& league, const FileAccess& access, int team, const std::string& path);
+TeamFileRead ReadLinesFile(Tables& league, const FileAccess& access, int team, const std::string& path);
 
 } // namespace dravik

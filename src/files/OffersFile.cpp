@@ -54,6 +54,22 @@ std::string ReportLine(const Tables& league, const Formats& shown, const FreeAge
            " year(s) with " + Money(shown, offer.Bonus) + " in bonus." + std::string(LineBreak);
 }
 
+// Takes the offers up to the end of the file. False at one that no offer file has.
+bool ReadOffers(SlotReader& slots, int team, std::vector<FreeAgentOffer>& offers)
+{
+    constexpr std::size_t most = RecordLimit - FirstOffer;
+    long long last = 0;
+    while (!slots.IsAtEnd()) {
+        FreeAgentOffer offer;
+        if (offers.size() == most || !slots.Read(offer) || offer.Id <= last || !OfferTable::Has(offer.Id) ||
+            offer.Team != team)
+            return false;
+        last = offer.Id;
+        offers.push_back(offer);
+    }
+    return !offers.empty();
+}
+
 } // namespace
 
 std::string OffersFilePath(const Tables& league, Disk& disk, int team)
@@ -111,6 +127,17 @@ SavedOffers WriteOffersFile(const Tables& league, const FileAccess& access, cons
     old.Replaced();
     saved.Outcome = OffersFileWrite::Saved;
     return saved;
+}
+
+TeamFileRead ReadOffersFile(const Tables& league, const FileAccess& access, int team, const std::string& path,
+                            std::vector<FreeAgentOffer>& offers)
+{
+    const auto takeBack = [&] { offers.clear(); };
+    takeBack();
+    const auto read = [&](SlotReader& slots) {
+        return ReadTeamFileHead(slots, StartMagic, league, team) && ReadOffers(slots, team, offers);
+    };
+    return ReadTeamFile(access, path, OfferSlot, read, takeBack);
 }
 
 } // namespace dravik

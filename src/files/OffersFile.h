@@ -1,11 +1,12 @@
 #pragma once
 
-#include "files/FileAccess.h"
+#include "files/TeamFileRead.h"
 #include "league/FreeAgentOffer.h"
 #include "league/Tables.h"
 #include "machine/Formats.h"
 
 #include <string>
+#include <vector>
 
 namespace dravik {
 
@@ -45,5 +46,11 @@ struct SavedOffers {
 // offer that the file takes becomes `team`. A failure that is not one of the compression is thrown.
 SavedOffers WriteOffersFile(const Tables& league, const FileAccess& access, const Formats& shown, int team,
                             const std::string& target, OfferTable& offers);
+
+// Reads the offer file `path` of `team` (1..100), plain or compressed as the settings say, into `offers`, in order of the ids. It
+// has to be as WriteOffersFile writes one: of this league and this team, with 1 to 996 whole offers of different people. One
+// that is not is refused whole. Failures are thrown; `offers` is empty unless it was loaded.
+TeamFileRead ReadOffersFile(const Tables& league, const FileAccess& access, int team, const std::string& path,
+                            std::vector<FreeAgentOffer>& offers);
 
 } // namespace dravik

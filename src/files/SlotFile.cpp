@@ -30,6 +30,12 @@ bool SlotReader::ReadMagic(std::string_view text)
     return ReadBytes(found.data(), found.size()) && found == wanted;
 }
 
+bool SlotReader::IsAtEnd()
+{
+    Skip();
+    return !Refill();
+}
+
 bool SlotReader::ReadBytes(unsigned char* to, std::size_t size)
 {
     Skip();

@@ -35,6 +35,9 @@ public:
     // Whether the next slot holds exactly the magic record with `text`.
     bool ReadMagic(std::string_view text);
 
+    // Whether the file has come to its end, but for what lies behind the last record in its slot.
+    [[nodiscard]] bool IsAtEnd();
+
 private:
     bool ReadBytes(unsigned char* to, std::size_t size);
     bool Refill();

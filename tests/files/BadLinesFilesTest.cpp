@@ -62,13 +62,13 @@ protected:
         RosterChangesGoalie[1000].Protected = true;
         const ByteVector before = LinesTables();
         WriteSparse(LinesPath, file);
-        const LinesFileRead result = ReadLinesFile(LinesPath);
-        EXPECT_EQ(result == LinesFileRead::NotDecompressed, nothing);
+        const TeamFileRead result = ReadLinesFile(LinesPath);
+        EXPECT_EQ(result == TeamFileRead::NotDecompressed, nothing);
         EXPECT_EQ(Machine.TakeBoxes(), nothing ? std::vector{NotDecompressed} : std::vector<Box>{});
         // More can come than is in the file: the zeros behind a cut stream decode to something too.
         const bool whole = came.size() >= slots.size() &&
                            std::equal(slots.end() - 39, slots.end(), came.begin() + (slots.end() - slots.begin()) - 39);
-        EXPECT_EQ(result == LinesFileRead::Loaded, whole);
+        EXPECT_EQ(result == TeamFileRead::Loaded, whole);
         const auto has = [&](std::size_t record, std::size_t length) {
             return came.size() >= client_file::Offset(record) + length;
         };
@@ -85,7 +85,7 @@ TEST_F(BadLinesFilesTest, ADirectoryIsNoLinesFile)
 {
     fs::create_directory(LinesPath);
     const ByteVector before = LinesTables();
-    EXPECT_EQ(ReadLinesFile(LinesPath), LinesFileRead::NotDecompressed);
+    EXPECT_EQ(ReadLinesFile(LinesPath), TeamFileRead::NotDecompressed);
     EXPECT_THAT(Machine.TakeBoxes(),
                 ElementsAre(Box{box::Critical, "75 - Path/File access error in Zlib Decompress!"}));
     Machine.Settings["SkipZIPClient"] = "YES";
@@ -146,9 +146,9 @@ TEST_F(BadLinesFilesTest, AFlippedLinesFileNeverTouchesPeopleOfOtherTeamsAndNeve
         const ByteVector skater = ImageOf(Players[50]);
         ASSERT_EQ(Players[50].Team, 6);
         const ByteVector team = ImageOf(Teams[6]);
-        const LinesFileRead result = ReadLinesFile(LinesPath);
+        const TeamFileRead result = ReadLinesFile(LinesPath);
         const bool nothing = Unwrapped(flipped).empty();
-        EXPECT_EQ(result == LinesFileRead::NotDecompressed, nothing) << at;
+        EXPECT_EQ(result == TeamFileRead::NotDecompressed, nothing) << at;
         EXPECT_EQ(Machine.TakeBoxes(), nothing ? std::vector{NotDecompressed} : std::vector<Box>{}) << at;
         EXPECT_TRUE(ImageOf(Players[50]) == skater) << at;
         EXPECT_TRUE(ImageOf(Teams[6]) == team) << at;
@@ -164,7 +164,7 @@ TEST_F(BadLinesFilesTest, ADamagedLinesFileLoadsWithoutAWord)
     for (const ByteVector& file : {WithWrongChecksum(wrapper), ByteVector(wrapper.begin(), wrapper.end() - 4)}) {
         WriteWhole(LinesPath, file);
         Teams[5].Cash = 77;
-        EXPECT_EQ(ReadLinesFile(LinesPath), LinesFileRead::Loaded);
+        EXPECT_EQ(ReadLinesFile(LinesPath), TeamFileRead::Loaded);
         EXPECT_EQ(Teams[5].Cash, 0);
         EXPECT_THAT(Machine.Boxes(), IsEmpty());
     }
@@ -173,7 +173,7 @@ TEST_F(BadLinesFilesTest, ADamagedLinesFileLoadsWithoutAWord)
 TEST_F(BadLinesFilesTest, AGoodLinesFileIsReadOnce)
 {
     WriteWhole(LinesPath, Wrapped(LinesSlots(5), 9));
-    EXPECT_EQ(ReadLinesFile(LinesPath), LinesFileRead::Loaded);
+    EXPECT_EQ(ReadLinesFile(LinesPath), TeamFileRead::Loaded);
     const auto operations = Machine.FileOperations();
     EXPECT_EQ(std::count(operations.begin(), operations.end(), "open"), 1);
 }
@@ -184,7 +184,7 @@ TEST_F(BadLinesFilesTest, MemoryStaysSmallWhateverAFileClaims)
 {
     const std::string path = Machine.InFolder("Endless");
     WriteEndless(path);
-    EXPECT_LT(PeakKiBOf([&] { EXPECT_EQ(ReadLinesFile(path), LinesFileRead::Refused); }), 8192);
+    EXPECT_LT(PeakKiBOf([&] { EXPECT_EQ(ReadLinesFile(path), TeamFileRead::Refused); }), 8192);
     EXPECT_LT(PeakKiBOf([&] { EXPECT_TRUE(ZlibDecompress(Machine, Machine, path, Machine.InFolder("out"))); }), 8192);
     EXPECT_EQ(fs::file_size(Machine.InFolder("out")), 240000000U);
     EXPECT_LT(PeakKiBOf([&] { EXPECT_TRUE(WriteLinesFile(5, LinesPath)); }), 8192);

@@ -21,7 +21,7 @@ TEST_P(FileFaultLoadTest, ALoadOfLinesChangesEverythingOrNothing)
         change.Protected.SetWord(static_cast<std::int16_t>(random() % 30000));
     RosterChanges[1].Status = Players[1].Status;
     const std::string path = Write("Team5.dvl", LinesSlots(5));
-    ASSERT_EQ(ReadLinesFile(path), LinesFileRead::Loaded);
+    ASSERT_EQ(ReadLinesFile(path), TeamFileRead::Loaded);
     const ByteVector loaded = Tables();
     const auto soil = [] {
         Teams[5].Cash = 77;
@@ -33,7 +33,7 @@ TEST_P(FileFaultLoadTest, ALoadOfLinesChangesEverythingOrNothing)
     const ByteVector before = Tables();
     const auto load = [&] {
         soil();
-        return ReadLinesFile(path) == LinesFileRead::Loaded;
+        return ReadLinesFile(path) == TeamFileRead::Loaded;
     };
     const auto check = [&](const Outcome& outcome, const std::string& operation, std::size_t n) {
         if (outcome.Killed)

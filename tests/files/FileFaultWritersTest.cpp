@@ -226,8 +226,8 @@ TEST_P(FileFaultWritersOnceTest, WhateverComesAfterAKilledSaveRemovesWhatItLeft)
     OpenedWindow window;
     const std::pair<const char*, Work> others[] = {
         {"an open", [&] { return OpenLeagueClient(client, window), !window.Calls.empty(); }},
-        {"a load", [&] { return ReadLinesFile(lines) == LinesFileRead::Loaded; }},
-        {"a load of nothing", [&] { return ReadLinesFile(Machine.InFolder("Nothing.dvl")) == LinesFileRead::Refused; }},
+        {"a load", [&] { return ReadLinesFile(lines) == TeamFileRead::Loaded; }},
+        {"a load of nothing", [&] { return ReadLinesFile(Machine.InFolder("Nothing.dvl")) == TeamFileRead::Refused; }},
         {"a save of lines", [&] { return Save(Writer::Lines); }},
         {"a save of a draft", [&] { return Save(Writer::Draft); }},
         {"a save of offers", [&] { return Save(Writer::Offers); }},

@@ -47,7 +47,7 @@ protected:
         return all;
     }
 
-    LinesFileRead LoadPlain(const ByteVector& slots)
+    TeamFileRead LoadPlain(const ByteVector& slots)
     {
         Plain();
         WriteSparse(Path, slots);
@@ -149,7 +149,7 @@ TEST_F(LinesFileTest, ReservedBytesOfTheTeamSurviveARoundTrip)
     Teams[5] = noisy[1];
     EXPECT_TRUE(WriteLinesFile(5, Path));
     Teams[5] = {};
-    EXPECT_EQ(ReadLinesFile(Path), LinesFileRead::Loaded);
+    EXPECT_EQ(ReadLinesFile(Path), TeamFileRead::Loaded);
     EXPECT_TRUE(ImageOf(Teams[5]) == ImageOf(noisy[1]));
 }
 
@@ -206,7 +206,7 @@ TEST_F(LinesFileTest, ALoadBringsTheWholeTeamBack)
         Teams[5].Password = "";
         Teams[5].Cash = -5;
         Teams[5].ProLines[1].StartGoalie = 99;
-        EXPECT_EQ(ReadLinesFile(Path), LinesFileRead::Loaded);
+        EXPECT_EQ(ReadLinesFile(Path), TeamFileRead::Loaded);
         EXPECT_TRUE(ImageOf(Teams[5]) == saved) << "password and finance figures included";
     }
     EXPECT_THAT(Machine.Boxes(), IsEmpty());
@@ -219,7 +219,7 @@ TEST_F(LinesFileTest, AFileOfAnOlderLeagueFileIsAcceptedAsLongAsTheCodeIsTheSame
     LeagueData.Name = "A later league file";
     LeagueData.FileDate = 46000;
     Teams[5].Name = "New Name";
-    EXPECT_EQ(ReadLinesFile(Path), LinesFileRead::Loaded);
+    EXPECT_EQ(ReadLinesFile(Path), TeamFileRead::Loaded);
     EXPECT_EQ(Teams[5].Name.Trimmed(), "Old Name");
 }
 
@@ -228,7 +228,7 @@ TEST_F(LinesFileTest, AFileOfAnotherTeamIsRefusedEvenWithARightLeagueCode)
     EXPECT_TRUE(WriteLinesFile(6, Path));
     Teams[6].Name = "Changed";
     const ByteVector before = Tables();
-    EXPECT_EQ(ReadLinesFile(Path), LinesFileRead::Refused);
+    EXPECT_EQ(ReadLinesFile(Path), TeamFileRead::Refused);
     EXPECT_TRUE(Tables() == before);
     EXPECT_THAT(Machine.Boxes(), IsEmpty()) << "the screen tells it";
 }
@@ -239,7 +239,7 @@ TEST_F(LinesFileTest, AFileOfAnotherLeagueIsRefused)
     for (const char* code : {"OTHER", "small", "SMAL", "SMALX"}) {
         LeagueData.LeagueCode = code;
         const ByteVector before = Tables();
-        EXPECT_EQ(ReadLinesFile(Path), LinesFileRead::Refused) << code;
+        EXPECT_EQ(ReadLinesFile(Path), TeamFileRead::Refused) << code;
         EXPECT_TRUE(Tables() == before);
     }
 }
@@ -250,10 +250,10 @@ TEST_F(LinesFileTest, TheLeagueCodeIsComparedAsFiveRawBytes)
     ByteVector slots = LinesSlots(5);
     const ByteVector before = Tables();
     LeagueData.LeagueCode = ""; // five blanks
-    EXPECT_EQ(LoadPlain(slots), LinesFileRead::Refused);
+    EXPECT_EQ(LoadPlain(slots), TeamFileRead::Refused);
     EXPECT_TRUE(Tables() == before);
     std::fill_n(slots.begin() + 3470, 5, ' ');
-    EXPECT_EQ(LoadPlain(slots), LinesFileRead::Loaded);
+    EXPECT_EQ(LoadPlain(slots), TeamFileRead::Loaded);
 }
 
 TEST_F(LinesFileTest, AWrongStartMagicLeavesTheTablesUntouched)
@@ -265,7 +265,7 @@ TEST_F(LinesFileTest, AWrongStartMagicLeavesTheTablesUntouched)
     for (const std::size_t at : {0U, 1U, 2U, 30U, 40U}) {
         ByteVector bad = slots;
         bad[at] ^= 1U;
-        EXPECT_EQ(LoadPlain(bad), LinesFileRead::Refused) << at;
+        EXPECT_EQ(LoadPlain(bad), TeamFileRead::Refused) << at;
         EXPECT_TRUE(Tables() == before) << at;
     }
 }
@@ -278,7 +278,7 @@ TEST_F(LinesFileTest, AWrongEndMagicKeepsEverythingReadSoFar)
     ByteVector slots = LinesSlots(5);
     slots.back() ^= 1U;
     Teams[5].Cash = 2;
-    EXPECT_EQ(LoadPlain(slots), LinesFileRead::Refused);
+    EXPECT_EQ(LoadPlain(slots), TeamFileRead::Refused);
     EXPECT_EQ(Teams[5].Cash, 1);
     EXPECT_EQ(Players[1].Status, 1);
 }
@@ -298,7 +298,7 @@ TEST_F(LinesFileTest, OnlyPeopleOfTheTeamTakeTheirWordFromTheFile)
     for (auto& change : RosterChanges)
         change.Protected = change.TradeAvailable = false;
     Players[2].Protected = true;
-    EXPECT_EQ(LoadPlain(slots), LinesFileRead::Loaded);
+    EXPECT_EQ(LoadPlain(slots), TeamFileRead::Loaded);
 
     EXPECT_EQ(Players[1].Status, 1);
     EXPECT_TRUE(Players[1].Protected);
@@ -321,7 +321,7 @@ TEST_F(LinesFileTest, APlayerWhoHasLeftTheTeamIsNotChanged)
     const ByteVector slots = LinesSlots(5);
     Players[1].Team = 6;
     const ByteVector before = ImageOf(Players[1]);
-    EXPECT_EQ(LoadPlain(slots), LinesFileRead::Loaded);
+    EXPECT_EQ(LoadPlain(slots), TeamFileRead::Loaded);
     EXPECT_TRUE(ImageOf(Players[1]) == before);
     EXPECT_EQ(RosterChanges[1].Status, 0);
 }
@@ -334,7 +334,7 @@ TEST_F(LinesFileTest, StatusTenInARecordDoesNotChangeTheStatus)
     RosterChanges[4].Status = 2;
     const ByteVector slots = LinesSlots(5);
     Players[4].Status = 0;
-    EXPECT_EQ(LoadPlain(slots), LinesFileRead::Loaded);
+    EXPECT_EQ(LoadPlain(slots), TeamFileRead::Loaded);
     EXPECT_EQ(Players[1].Status, 2);
     EXPECT_EQ(Players[2].Status, 2);
     EXPECT_EQ(Players[3].Status, 2);
@@ -356,7 +356,7 @@ TEST_F(LinesFileTest, ARecordWithAStrangeStatusStillBringsItsTwoWords)
     RosterChangesGoalie[1].Protected = true;
     Goalies[1].Status = 0;
     Goalies[1].Protected = false;
-    EXPECT_EQ(LoadPlain(LinesSlots(5)), LinesFileRead::Loaded);
+    EXPECT_EQ(LoadPlain(LinesSlots(5)), TeamFileRead::Loaded);
     for (const int id : {1, 2, 3}) {
         EXPECT_EQ(Players[id].Status, 1) << id;
         EXPECT_TRUE(Players[id].Protected) << id;
@@ -370,7 +370,7 @@ TEST_F(LinesFileTest, LoadingAfterSavingChangesNothing)
 {
     EXPECT_TRUE(WriteLinesFile(5, Path));
     const ByteVector before = Tables();
-    EXPECT_EQ(ReadLinesFile(Path), LinesFileRead::Loaded);
+    EXPECT_EQ(ReadLinesFile(Path), TeamFileRead::Loaded);
     EXPECT_TRUE(Tables() == before);
 }
 
@@ -378,7 +378,7 @@ TEST_F(LinesFileTest, AMissingFileIsRefusedWithoutAWord)
 {
     const ByteVector before = Tables();
     WriteWhole(TempFile, {1});
-    EXPECT_EQ(ReadLinesFile(Machine.InFolder("gone.dvl")), LinesFileRead::Refused);
+    EXPECT_EQ(ReadLinesFile(Machine.InFolder("gone.dvl")), TeamFileRead::Refused);
     EXPECT_TRUE(Tables() == before);
     EXPECT_THAT(Machine.Boxes(), IsEmpty());
     EXPECT_TRUE(fs::is_empty(Machine.Folder())) << "a work file left behind is deleted";
@@ -387,14 +387,14 @@ TEST_F(LinesFileTest, AMissingFileIsRefusedWithoutAWord)
 TEST_F(LinesFileTest, TheFileIsFoundWhateverItsCase)
 {
     EXPECT_TRUE(WriteLinesFile(5, Machine.InFolder("NEWYORK.DVL")));
-    EXPECT_EQ(ReadLinesFile(Machine.InFolder("newyork.dvl")), LinesFileRead::Loaded);
+    EXPECT_EQ(ReadLinesFile(Machine.InFolder("newyork.dvl")), TeamFileRead::Loaded);
 }
 
 TEST_F(LinesFileTest, AFileThatDoesNotDecompressIsToldAndChangesNothing)
 {
     const ByteVector before = Tables();
     WriteWhole(Path, {1, 2, 3, 4, 5, 6});
-    EXPECT_EQ(ReadLinesFile(Path), LinesFileRead::NotDecompressed);
+    EXPECT_EQ(ReadLinesFile(Path), TeamFileRead::NotDecompressed);
     EXPECT_THAT(Machine.Boxes(), ElementsAre(Box{box::Critical, "9 - Subscript out of range in Zlib Decompress!"}));
     EXPECT_TRUE(Tables() == before);
 }
@@ -404,11 +404,11 @@ TEST_F(LinesFileTest, PlainReadAsWrappedAndTheReverse)
     const ByteVector before = Tables();
     const ByteVector slots = LinesSlots(5);
     WriteSparse(Path, slots);
-    EXPECT_EQ(ReadLinesFile(Path), LinesFileRead::NotDecompressed);
+    EXPECT_EQ(ReadLinesFile(Path), TeamFileRead::NotDecompressed);
     EXPECT_THAT(Machine.TakeBoxes(), ElementsAre(Box{16, "9 - Subscript out of range in Zlib Decompress!"}));
     WriteWhole(Path, Wrapped(slots, 1));
     Plain();
-    EXPECT_EQ(ReadLinesFile(Path), LinesFileRead::Refused);
+    EXPECT_EQ(ReadLinesFile(Path), TeamFileRead::Refused);
     EXPECT_THAT(Machine.Boxes(), IsEmpty());
     EXPECT_TRUE(Tables() == before);
 }
@@ -449,7 +449,7 @@ TEST_F(LinesFileTest, WhatAShortFileLacksIsNotApplied)
         for (auto& keeper : Goalies)
             keeper.Status = 2;
         EXPECT_EQ(LoadPlain(ByteVector(slots.begin(), slots.begin() + static_cast<std::ptrdiff_t>(cut.Length))),
-                  LinesFileRead::Refused);
+                  TeamFileRead::Refused);
         EXPECT_EQ(Teams[5].Cash, cut.Cash) << cut.Length;
         for (int i = 1; i <= 18; ++i)
             EXPECT_EQ(Players[i].Status, i <= cut.Skaters ? 1 : 2) << cut.Length << " skater " << i;

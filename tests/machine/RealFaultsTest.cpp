@@ -31,7 +31,7 @@ TEST_F(RealFaultsTest, ALinesFileThatMayNotBeReadChangesNothing)
     for (const bool plain : {false, true}) {
         const std::string path = Secret(Machine, "Team5.dvl", plain, slots);
         const ReadOnly folder(Machine.Folder());
-        const Outcome outcome = Run([&] { return ReadLinesFile(path) == LinesFileRead::Loaded; });
+        const Outcome outcome = Run([&] { return ReadLinesFile(path) == TeamFileRead::Loaded; });
         EXPECT_FALSE(outcome.Done);
         EXPECT_EQ(outcome.Thrown, plain ? failure::PermissionDenied : 0);
         EXPECT_EQ(outcome.Boxes, plain ? Nothing() : Critical("70 - Permission denied in Zlib Decompress!"));

@@ -40,7 +40,7 @@ inline bool WriteLinesFile(int team, const std::string& target)
 {
     return WriteLinesFile(OpenLeague, OpenFiles(), team, target);
 }
-inline LinesFileRead ReadLinesFile(const std::string& path)
+inline TeamFileRead ReadLinesFile(const std::string& path)
 {
     return ReadLinesFile(OpenLeague, OpenFiles(), OwnNumber(), path);
 }
