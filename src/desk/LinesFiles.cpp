@@ -1,6 +1,7 @@
 #include "desk/LinesFiles.h"
 
 #include "desk/Password.h"
+#include "desk/TakenIn.h"
 #include "files/LinesFile.h"
 #include "machine/Message.h"
 #include "rules/LineJudge.h"
@@ -57,9 +58,7 @@ void LoadLines(const Work& work, const FileAccess& files, Platform& machine, int
         const bool loaded = outcome == TeamFileRead::Loaded;
         if (loaded)
             showAnew();
-        work.Says.ShowBox((loaded ? "Lines file for " : "File for ") + work.League.Teams[team].Name.Trimmed() +
-                              (loaded ? " successfully load from" : " unsuccessfully load from") +
-                              std::string(LineBreak) + path,
+        work.Says.ShowBox(LoadedWords(outcome, "Lines file", work.League.Teams[team].Name.Trimmed(), path),
                           loaded ? box::Information : box::Critical);
     });
 }

@@ -6,6 +6,8 @@
 #include "machine/InputCheck.h"
 #include "machine/Message.h"
 
+#include <set>
+
 namespace dravik {
 
 namespace {
@@ -18,6 +20,40 @@ std::string Money(const Formats& shown, long long amount)
 bool IsNumber(const Work& work, std::string_view text)
 {
     return CheckInput(work.Says, text, InputMode::Numbers, false);
+}
+
+constexpr int MostYears = 9;
+std::string YearsLimitWords() { return "Maximum Contract Duration is " + std::to_string(MostYears) + " years."; }
+
+// An offer says nothing as long as it is nobody's.
+bool IsWritten(const FreeAgentOffer& offer)
+{
+    if (offer.Id == 0)
+        return false;
+    return offer.Salary != 0 || offer.Duration != 0 || offer.Bonus != 0 || !offer.Comment.Trimmed().empty();
+}
+
+// Brings an offer that was made elsewhere within the limits that hold where one is typed, and tells of it.
+void HoldToLimits(const Work& work, PersonId who, FreeAgentOffer& offer, std::vector<std::string>& told)
+{
+    const League& rules = work.League.LeagueData;
+    const auto tell = [&](const std::string& words) {
+        told.push_back(NameOfNumber(work.League, who.CommonId()) + ": " + words);
+    };
+    const auto take = [&](const char* words, long long limit) {
+        offer.Salary = limit;
+        tell(words + Money(work.Shown, limit));
+    };
+    if (offer.Salary > rules.MaxSalary)
+        take("Maximum Salary is ", rules.MaxSalary);
+    if (offer.Salary != 0 && offer.Salary < rules.MinSalary)
+        take("Minimum Salary is ", rules.MinSalary);
+    if (offer.Duration > MostYears) {
+        offer.Duration = MostYears;
+        tell(YearsLimitWords());
+    }
+    if (offer.Duration < 0)
+        offer.Duration = 0;
 }
 
 } // namespace
@@ -82,10 +118,9 @@ Entered OfferDuration(const Work& work, OfferTable& offers, PersonId who, std::s
         instead(limit);
         years = limit;
     };
-    constexpr int most = 9;
-    if (years > most) {
-        work.Says.ShowBox("Maximum Contract Duration is " + std::to_string(most) + " years.", box::Warning);
-        take(most);
+    if (years > MostYears) {
+        work.Says.ShowBox(YearsLimitWords(), box::Warning);
+        take(MostYears);
     }
     if (years < 0)
         take(0);
@@ -138,6 +173,58 @@ std::optional<std::string> SaveOffers(const Work& work, const FileAccess& files,
     }
     return saved.Report + "Client league file save for " + work.League.Teams[team].Name.Trimmed() + " succesfully at " +
            target + std::string(LineBreak);
+}
+
+std::vector<FreeAgentOffer> WrittenOffers(const OfferTable& offers)
+{
+    std::vector<FreeAgentOffer> written;
+    for (const FreeAgentOffer& offer : offers)
+        if (IsWritten(offer))
+            written.push_back(offer);
+    return written;
+}
+
+TakenIn TakeInOffers(const Work& work, int team, OfferTable& offers, const std::vector<FreeAgentOffer>& written,
+                     const std::function<void(int)>& watch)
+{
+    std::set<int> listed;
+    EachFreeAgent(work.League, offers, {}, [&](const FreeAgent& agent) { listed.insert(agent.Id); });
+    for (int id = 1; id <= OfferTable::last; ++id) {
+        if (!IsWritten(offers[id]))
+            continue;
+        watch(id);
+        offers[id] = {};
+    }
+    TakenIn taken;
+    for (const FreeAgentOffer& offer : written) {
+        const auto id = static_cast<int>(offer.Id);
+        const auto who = listed.count(id) != 0 ? FreeAgentOf(work.League, id) : std::nullopt;
+        if (!who) {
+            taken.Told.push_back(NameOfNumber(work.League, id) + " can no longer be made an offer.");
+            continue;
+        }
+        if (IsBarred(work.League, team, *who)) {
+            taken.Told.push_back(BarredWords(work.League, *who));
+            continue;
+        }
+        watch(id);
+        offers[id] = offer;
+        HoldToLimits(work, *who, offers[id], taken.Told);
+        ++taken.Count;
+    }
+    return taken;
+}
+
+LoadedFile LoadOffers(const Work& work, const FileAccess& files, int team, const std::string& path, OfferTable& offers,
+                      const std::function<void(int)>& watch)
+{
+    LoadedFile loaded;
+    std::vector<FreeAgentOffer> written;
+    loaded.Outcome = ReadOffersFile(work.League, files, team, path, written);
+    loaded.Words = LoadedWords(loaded.Outcome, "Offers file", work.League.Teams[team].Name.Trimmed(), path);
+    if (loaded.Outcome == TeamFileRead::Loaded)
+        loaded.TakenIn = TakeInOffers(work, team, offers, written, watch);
+    return loaded;
 }
 
 } // namespace dravik

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "desk/TakenIn.h"
 #include "files/FileAccess.h"
 #include "league/FreeAgentOffer.h"
 #include "league/PersonId.h"
@@ -9,6 +10,7 @@
 #include <optional>
 #include <string>
 #include <string_view>
+#include <vector>
 
 namespace dravik {
 
@@ -50,5 +52,19 @@ std::string OfferInShort(const Tables& league, const Formats& shown, const Offer
 // are more to others than are left, is told in a warning box. The report of what was saved, empty when nothing was; none when
 // the file could not be compressed, which is told. Fails as the disk does.
 std::optional<std::string> SaveOffers(const Work& work, const FileAccess& files, int team, OfferTable& offers);
+
+// Every offer that says something, complete or not, in order of the ids.
+std::vector<FreeAgentOffer> WrittenOffers(const OfferTable& offers);
+
+// Puts `written`, offers of different people, in the place of all that are there. Whoever can no longer be made an offer by
+// `team` is left out; a salary beyond the league's limits, and years beyond 9, become the limit. `watch` is told of each common
+// number before its offer changes.
+TakenIn TakeInOffers(const Work& work, int team, OfferTable& offers, const std::vector<FreeAgentOffer>& written,
+                     const std::function<void(int)>& watch);
+
+// Takes in the offer file `path` of `team`. A file that is none of this league and this team changes nothing. Fails as the disk
+// does.
+LoadedFile LoadOffers(const Work& work, const FileAccess& files, int team, const std::string& path, OfferTable& offers,
+                      const std::function<void(int)>& watch);
 
 } // namespace dravik

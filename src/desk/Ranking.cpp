@@ -4,6 +4,7 @@
 #include "machine/Message.h"
 
 #include <algorithm>
+#include <set>
 #include <utility>
 
 namespace dravik {
@@ -95,6 +96,41 @@ std::optional<std::string> SaveRanking(const Tables& league, const FileAccess& f
         return std::nullopt;
     return type + " File save for " + league.Teams[team].Name.Trimmed() + " succesfully at" + std::string(LineBreak) +
            target;
+}
+
+TakenIn TakeInRanking(const Tables& league, DraftRanking& ranking, const DraftRanking& from)
+{
+    std::set<int> candidates;
+    PositionFilter all;
+    for (bool& shown : all)
+        shown = true;
+    EachDraftCandidate(league, all, [&](const DraftCandidate& candidate) { candidates.insert(candidate.Id); });
+    std::set<int> ranked;
+    DraftRanking list;
+    TakenIn taken;
+    for (const long long rank : from) {
+        const auto id = static_cast<int>(rank);
+        if (id == 0)
+            continue;
+        if (candidates.count(id) == 0)
+            taken.Told.push_back(NameOfNumber(league, id) + " can no longer be drafted.");
+        else if (ranked.insert(id).second)
+            list[taken.Count++] = id;
+    }
+    ranking = list;
+    return taken;
+}
+
+LoadedFile LoadRanking(const Tables& league, const FileAccess& files, int team, const std::string& path,
+                       DraftRanking& ranking)
+{
+    LoadedFile loaded;
+    DraftRanking read;
+    loaded.Outcome = ReadDraftFile(league, files, team, path, read);
+    loaded.Words = LoadedWords(loaded.Outcome, "Draft list", league.Teams[team].Name.Trimmed(), path);
+    if (loaded.Outcome == TeamFileRead::Loaded)
+        loaded.TakenIn = TakeInRanking(league, ranking, read);
+    return loaded;
 }
 
 } // namespace dravik

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "desk/TakenIn.h"
 #include "files/DraftFile.h"
 #include "files/FileAccess.h"
 #include "machine/Work.h"
@@ -43,5 +44,14 @@ bool MaySaveRanking(const Work& work, int count);
 // of an information box that tells it; none when the file could not be compressed, which is told. Fails as the disk does.
 std::optional<std::string> SaveRanking(const Tables& league, const FileAccess& files, int team,
                                        const DraftRanking& ranking, const std::string& type);
+
+// Puts the people of `from`, best first, in the place of all who are ranked. Whoever can no longer be drafted, and whoever stands
+// there a second time, is left out; the first are told.
+TakenIn TakeInRanking(const Tables& league, DraftRanking& ranking, const DraftRanking& from);
+
+// Takes in the draft file `path` of `team` (1..100). A file that is none of this league and this team changes nothing. Fails as
+// the disk does.
+LoadedFile LoadRanking(const Tables& league, const FileAccess& files, int team, const std::string& path,
+                       DraftRanking& ranking);
 
 } // namespace dravik
