@@ -6,7 +6,8 @@ namespace dravik {
 
 namespace {
 std::unique_ptr<Market> TheMarket;
-}
+KeptMarket TheKept;
+} // namespace
 
 Market& OpenMarket()
 {
@@ -17,8 +18,11 @@ Market& OpenMarket()
     return *TheMarket;
 }
 
+KeptMarket& KeptWork() { return TheKept; }
+
 void EmptyOpenMarket()
 {
+    TheKept = {};
     if (TheMarket)
         EmptyMarket(*TheMarket);
 }

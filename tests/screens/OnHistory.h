@@ -37,8 +37,8 @@ inline std::string Plain(const QString& rich)
 }
 inline std::string HistoryTold() { return Plain(QToolTip::text()); }
 
-// Presses a key of the history, wherever the focus is on the screen.
-inline void PressHistoryKey(Screen& screen, Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::ControlModifier)
+// Presses a key of the whole screen, wherever the focus is on it.
+inline void PressScreenKey(Screen& screen, Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::ControlModifier)
 {
     screen.activateWindow();
     ASSERT_TRUE(QTest::qWaitForWindowActive(&screen));
@@ -46,7 +46,7 @@ inline void PressHistoryKey(Screen& screen, Qt::Key key, Qt::KeyboardModifiers m
     QTest::keyClick(target, key, modifiers);
     QApplication::processEvents();
 }
-inline void Undo(Screen& screen) { PressHistoryKey(screen, Qt::Key_Z); }
-inline void Redo(Screen& screen) { PressHistoryKey(screen, Qt::Key_Z, Qt::ControlModifier | Qt::ShiftModifier); }
+inline void Undo(Screen& screen) { PressScreenKey(screen, Qt::Key_Z); }
+inline void Redo(Screen& screen) { PressScreenKey(screen, Qt::Key_Z, Qt::ControlModifier | Qt::ShiftModifier); }
 
 } // namespace dravik

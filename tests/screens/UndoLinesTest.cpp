@@ -54,7 +54,7 @@ TEST_F(UndoLines, AWipedDayComesBackAndGoesAgain)
     EXPECT_EQ(HistoryTold(), "Done again: Wipe Lines, day 1");
 
     Undo(line);
-    PressHistoryKey(line, Qt::Key_Y);
+    PressScreenKey(line, Qt::Key_Y);
     EXPECT_TRUE(AllTables() == wiped);
     Click(HistoryCommand(line, "cmdUndo"));
     EXPECT_TRUE(AllTables() == before);
@@ -163,7 +163,7 @@ TEST_F(UndoLines, ATextBoxKeepsItsOwnKey)
     const auto wiped = AllTables();
     line.TabLine->setCurrentIndex(line.TabLine->count() - 1);
     TypeInto(line.txtPullGoalerMinGoal, "12");
-    PressHistoryKey(line, Qt::Key_Z);
+    PressScreenKey(line, Qt::Key_Z);
     EXPECT_NE(line.txtPullGoalerMinGoal->text(), "12") << "the text is what the key takes back there";
     EXPECT_TRUE(AllTables() == wiped);
 }

@@ -68,6 +68,7 @@ private:
     void Leave(Window window, const Screen& behind, QPushButton* exit);
     // Makes the first two people an offer who may take one, looks at those with an offer alone, and saves the offer file.
     void MakeOffers();
+    void BringBackOffers();
 
     static void Fill(EditBox* box, const QString& text);
     void Photograph(Window window, const QString& name);

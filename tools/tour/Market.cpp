@@ -11,6 +11,7 @@
 #include <iostream>
 #include <QApplication>
 #include <QFileInfo>
+#include <QToolButton>
 
 // What the evening does beside the team: prices, offers, the draft, the ratings, the small screens.
 namespace dravik::tour {
@@ -137,6 +138,29 @@ void Evening::MakeOffers()
     QApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
     NoComplaints("the offers are saved");
     Require(stage.Find(Window::FreeAgent) == nullptr && Main().isVisible(), "the main screen comes back");
+    BringBackOffers();
+}
+
+// The screen begins without an offer; those of before come back by one press, and go again by one.
+void Evening::BringBackOffers()
+{
+    ExpectPassword();
+    answers.ConfirmAll(true);
+    Main().mnuFreeAgents->trigger();
+    QApplication::processEvents();
+    Require(Offers().cmdBringBack->isVisible(), "the offers of before can be brought back");
+    Photograph(Window::FreeAgent, "offers-kept");
+    Offers().cmdBringBack->click();
+    Offers().chkShowPlayerWithOffer->click();
+    Require(Offers().lstPlayers->count() == 2 && !Offers().cmdBringBack->isVisible(), "they are back");
+    Photograph(Window::FreeAgent, "offers-brought-back");
+    Offers().lstPlayers->setFocus();
+    Offers().findChild<QToolButton*>("cmdUndo")->click();
+    Require(Offers().lstPlayers->count() == 0 && Offers().cmdBringBack->isVisible(), "the step is undone");
+    Photograph(Window::FreeAgent, "offers-undone");
+    answers.ConfirmAll(false);
+    Leave(Window::FreeAgent, Main(), Offers().cmdExit);
+    NoComplaints("the offers are brought back");
 }
 
 void Evening::Fill(EditBox* box, const QString& text)

@@ -5,18 +5,24 @@
 #include "league/PersonId.h"
 #include "machine/Reporting.h"
 #include "screens/BehindWait.h"
+#include "screens/market/TellTakenIn.h"
 #include "screens/panels/NameSearch.h"
 #include "screens/platform/CodePage.h"
+#include "session/OpenMarket.h"
 #include "session/Session.h"
 
 #include <algorithm>
+#include <utility>
 
 namespace dravik {
 
 void frmDraft::FormLoad()
 {
-    // A ranking that is given up is a step, so that the way back leads to it.
-    RunStep("Begin a new draft list", [this] { ranking = {}; });
+    // A ranking of his own that is given up is a step, so that the way back leads to it.
+    if (std::exchange(KeptWork().RankingBy, OwnNumber()) == OwnNumber())
+        RunStep("Begin a new draft list", [this] { ranking = {}; });
+    else
+        ranking = {};
     Reporting(Machine(), " in FormLoad frmFantasyEntryDraftClient!", [this] {
         CentreOnScreen();
         if (!TeamTable::Has(CurrentTeam)) {
@@ -28,6 +34,25 @@ void frmDraft::FormLoad()
         lblTeam->setText("Draft List For : " + ToQString(OwnTeam().Name.Trimmed()));
         ShowPlayer();
     });
+    ShowKept();
+}
+
+void frmDraft::FormUnload()
+{
+    if (ranking[0] != 0)
+        KeptWork().Rankings[OwnNumber()] = ranking;
+}
+
+void frmDraft::ShowKept()
+{
+    const auto kept = KeptWork().Rankings.find(OwnNumber());
+    const bool has = kept != KeptWork().Rankings.end();
+    if (has) {
+        const auto count =
+            std::count_if(kept->second.begin(), kept->second.end(), [](long long id) { return id != 0; });
+        cmdBringBack->setText(QString("Bring &Back List of %1").arg(count));
+    }
+    cmdBringBack->setVisible(has && ranking[0] == 0);
 }
 
 void frmDraft::ShowPlayer()
@@ -60,6 +85,7 @@ void frmDraft::PlaceOffer()
         for (QPushButton* command : {cmdSaveToFile, cmdUp, cmdDown, cmdRemove})
             command->setEnabled(lstDraftList->count() >= 1);
     });
+    ShowKept();
 }
 
 void frmDraft::ShowAnew()
@@ -171,6 +197,24 @@ void frmDraft::cmdSaveToFile_Click()
         });
         if (saved)
             Machine().ShowBox(*saved, box::Information);
+    });
+}
+
+void frmDraft::cmdBringBack_Click()
+{
+    Reporting(Machine(), " in cmdBringBack!", [this] {
+        TellLeftOut(TakeInRanking(OpenLeague, ranking, KeptWork().Rankings[OwnNumber()]));
+        PlaceOffer();
+    });
+}
+
+void frmDraft::cmdLoad_Click()
+{
+    ReportingUnlessCancelled(Machine(), " in cmdLoad!", [this] {
+        const std::string path =
+            Machine().OpenFileDialog(Machine().ProgramFolder(), "DRVK Draft File (*.dvd) |*.dvd|All Files (*.*) | *.*");
+        TellLoaded(LoadBehindWait([&] { return LoadRanking(OpenLeague, OpenFiles(), OwnNumber(), path, ranking); }));
+        PlaceOffer();
     });
 }
 

@@ -13,13 +13,15 @@
 namespace dravik {
 
 // Ranks who is to be drafted, and saves the ranking to the draft file: everybody without a team in a fantasy draft, the
-// prospects of the league in an entry draft. The ranking lives in the screen alone and starts empty.
+// prospects of the league in an entry draft. The ranking begins empty with the screen; what was there when it closed is
+// kept until the program ends, and can be brought back.
 class frmDraft : public Screen {
 public:
     explicit frmDraft(Stage& stage);
 
     // Lists who can be drafted. A CurrentTeam out of range is told and leaves the screen empty.
     void FormLoad() override;
+    void FormUnload() override;
     // The ranking.
     void ShowAnew() override;
 
@@ -39,6 +41,9 @@ public:
     void cmdDown_Click();
     void cmdSearch_Click();
     void cmdSaveToFile_Click();
+    // Takes in the ranking that was there when the screen closed last, or that of a file.
+    void cmdBringBack_Click();
+    void cmdLoad_Click();
     void cmdExit_Click();
 
     std::string DraftType; // "Fantasy Draft" or "Entry Draft"; empty when there is no draft
@@ -49,6 +54,7 @@ public:
     Row<QCheckBox*, 1, 5> chkPosition;
     QPushButton *cmdChoose = nullptr, *cmdRemove = nullptr, *cmdUp = nullptr, *cmdDown = nullptr;
     QPushButton *cmdSearch = nullptr, *cmdSaveToFile = nullptr, *cmdExit = nullptr;
+    QPushButton *cmdLoad = nullptr, *cmdBringBack = nullptr;
 
 private:
     // A change of whoever is chosen in a list as a step.
@@ -61,6 +67,8 @@ private:
     [[nodiscard]] std::optional<int> ChosenRank() const;
     void MoveChosen(RankStep step, QPushButton* command);
     void OpenViewer(int id);
+    // Offers, as long as nobody is ranked, to bring back the ranking that was kept.
+    void ShowKept();
 
     DraftRanking& ranking; // that of the open market
 };

@@ -42,7 +42,7 @@ frmDraft::frmDraft(Stage& stage) : Screen(stage, "frmDraft"), ranking(OpenMarket
     column->addLayout(lists, 1);
     column->addSpacing(Gap);
 
-    SetPage(content, MakeFooter({cmdSearch}, {MakeHistoryCommands(), cmdSaveToFile, cmdExit}));
+    SetPage(content, MakeFooter({cmdSearch, cmdLoad, cmdBringBack}, {MakeHistoryCommands(), cmdSaveToFile, cmdExit}));
     SetTabOrder();
     resize(DefaultSize.expandedTo(content->minimumSizeHint()));
 }
@@ -97,6 +97,12 @@ void frmDraft::MakeControls()
     cmdSearch = MakeCommand("cmdSearch", "Search &Player", [this] { cmdSearch_Click(); });
     cmdSaveToFile = MakeCommand("cmdSaveToFile", "&Save to File", [this] { cmdSaveToFile_Click(); });
     cmdExit = MakeCommand("cmdExit", "E&xit", [this] { cmdExit_Click(); });
+    cmdLoad = MakeCommand("cmdLoad", "&Load List ...", AsStep("Load a draft list", [this] { cmdLoad_Click(); }));
+    cmdBringBack = MakeCommand("cmdBringBack", "Bring &Back List",
+                               AsStep("Bring back the draft list", [this] { cmdBringBack_Click(); }));
+    for (QPushButton* command : {cmdLoad, cmdBringBack})
+        command->setFocusPolicy(Qt::NoFocus); // the tab key goes its way as without them
+    cmdBringBack->hide();
 }
 
 QWidget* frmDraft::MakeListColumn(QLabel* heading, EntryList* list)

@@ -8,11 +8,13 @@
 #include "rules/StatRows.h"
 #include "screens/BehindWait.h"
 #include "screens/EventGuard.h"
+#include "screens/market/TellTakenIn.h"
 #include "screens/panels/NameSearch.h"
 #include "screens/PersonWords.h"
 #include "screens/platform/CodePage.h"
 #include "screens/Stage.h"
 #include "session/OpenHistory.h"
+#include "session/OpenMarket.h"
 #include "session/Session.h"
 
 #include <QApplication>
@@ -25,6 +27,8 @@ namespace dravik {
 namespace {
 
 std::string Money(long long amount) { return Machine().CurrencyNoDecimals(static_cast<double>(amount)); }
+
+void WatchOffer(int id) { OpenHistory().Watch(id); }
 
 // Shows in a box the number that is taken in the place of its own.
 TakesInstead Into(EditBox* box)
@@ -74,7 +78,8 @@ void frmFreeAgentClient::FormLoad()
         CentreOnScreen();
         if (!TeamTable::Has(CurrentTeam)) {
             Machine().ShowIntegrityFailure();
-            chkShowPlayerWithOffer->setEnabled(false); // the list stays empty
+            for (QWidget* closed : std::initializer_list<QWidget*>{chkShowPlayerWithOffer, cmdLoad})
+                closed->setEnabled(false); // the list stays empty
             return;
         }
         lblInfo->setText("Don't use a comma, a period or a dollar sign ($) in the salary, duration and bonus text box. "
@@ -92,10 +97,12 @@ void frmFreeAgentClient::FormLoad()
 void frmFreeAgentClient::BeginOffers()
 {
     const auto begin = [this] { OpenOffers(OpenWork(), OwnNumber(), offers); };
-    if (TallyOffers(OpenLeague, OwnNumber(), offers).Count > 0)
+    const bool areOwn = KeptWork().OffersBy == OwnNumber();
+    if (areOwn && !WrittenOffers(offers).empty())
         RunStep("Begin new offers", begin);
     else
         begin();
+    KeptWork().OffersBy = OwnNumber();
 }
 
 void frmFreeAgentClient::ShowPlayer()
@@ -133,7 +140,15 @@ void frmFreeAgentClient::ShowNobody()
     EnableOffer(false);
 }
 
-void frmFreeAgentClient::FormUnload() { ShowWaitingBox(); }
+void frmFreeAgentClient::FormUnload()
+{
+    ShowWaitingBox();
+    if (KeptWork().OffersBy != OwnNumber())
+        return;
+    std::vector<FreeAgentOffer> written = WrittenOffers(offers);
+    if (!written.empty())
+        KeptWork().Offers[OwnNumber()] = std::move(written);
+}
 
 void frmFreeAgentClient::Tell(std::function<void()> box)
 {
@@ -220,7 +235,9 @@ void frmFreeAgentClient::lstPlayers_DblClick()
     });
 }
 
-void frmFreeAgentClient::ShowAnew()
+void frmFreeAgentClient::ShowAnew() { ShowOffersAnew(); }
+
+void frmFreeAgentClient::ShowOffersAnew()
 {
     ShowTally();
     if (chkShowPlayerWithOffer->isChecked())
@@ -320,6 +337,27 @@ void frmFreeAgentClient::cmdSaveToFile_Click()
     });
 }
 
+void frmFreeAgentClient::cmdBringBack_Click()
+{
+    ShowWaitingBox();
+    Reporting(Machine(), " in cmdBringBack!", [this] {
+        TellLeftOut(TakeInOffers(OpenWork(), OwnNumber(), offers, KeptWork().Offers[OwnNumber()], WatchOffer));
+        ShowOffersAnew();
+    });
+}
+
+void frmFreeAgentClient::cmdLoad_Click()
+{
+    ShowWaitingBox();
+    ReportingUnlessCancelled(Machine(), " in cmdLoad!", [this] {
+        const std::string path = Machine().OpenFileDialog(Machine().ProgramFolder(),
+                                                          "DRVK Offers File (*.dvf) |*.dvf|All Files (*.*) | *.*");
+        TellLoaded(
+            LoadBehindWait([&] { return LoadOffers(OpenWork(), OpenFiles(), OwnNumber(), path, offers, WatchOffer); }));
+        ShowOffersAnew();
+    });
+}
+
 void frmFreeAgentClient::cmdExit_Click() { Unload(); }
 
 void frmFreeAgentClient::ShowTally()
@@ -333,6 +371,16 @@ void frmFreeAgentClient::ShowTally()
                                .arg(tally.Count)
                                .arg(ToQString(Money(tally.Salaries)), ToQString(Money(tally.Bonuses))));
     lstPlayers->viewport()->update();
+    ShowKept();
+}
+
+void frmFreeAgentClient::ShowKept()
+{
+    const auto kept = KeptWork().Offers.find(OwnNumber());
+    const bool has = kept != KeptWork().Offers.end();
+    if (has)
+        cmdBringBack->setText(QString("Bring Bac&k %1 Offers").arg(kept->second.size()));
+    cmdBringBack->setVisible(has && WrittenOffers(offers).empty());
 }
 
 bool frmFreeAgentClient::eventFilter(QObject* watched, QEvent* event)

@@ -18,7 +18,8 @@
 namespace dravik {
 
 // The offers of the chosen team to people without a contract or a team: who can be made one, what he is offered, and the
-// offer file that the simulator takes. Offers live as long as the screen does.
+// offer file that the simulator takes. They begin empty with the screen; what
+// was there when it closed is kept until the program ends, and can be brought back.
 class frmFreeAgentClient : public Screen {
 public:
     explicit frmFreeAgentClient(Stage& stage);
@@ -44,6 +45,9 @@ public:
 
     void cmdSearch_Click();
     void cmdSaveToFile_Click();
+    // Takes in the offers that were there when the screen closed last, or those of a file.
+    void cmdBringBack_Click();
+    void cmdLoad_Click();
     void cmdExit_Click();
 
     // The id of the person shown.
@@ -61,6 +65,7 @@ public:
     VerdictLabel* lblOffersMade = nullptr; // offers to others against what is left of them
     QLabel* lblOffersCost = nullptr;       // what all offers come to
     QPushButton *cmdSearch = nullptr, *cmdSaveToFile = nullptr, *cmdExit = nullptr;
+    QPushButton *cmdLoad = nullptr, *cmdBringBack = nullptr;
 
 protected:
     // Whom the offer at hand is made to.
@@ -99,6 +104,10 @@ private:
     void ShowWaitingBox();
     // What the offers come to so far.
     void ShowTally();
+    // Offers, as long as there are none, to bring back those that were kept.
+    void ShowKept();
+    // Shows the offers once more, behind a change of all of them.
+    void ShowOffersAnew();
 
     OfferTable& offers; // those of the open market
     Int16 offerIndex;

@@ -40,7 +40,7 @@ frmFreeAgentClient::frmFreeAgentClient(Stage& stage) : Screen(stage, "frmFreeAge
     column->addLayout(middle, 1);
     column->addLayout(MakeLimitRow());
 
-    SetPage(content, MakeFooter({cmdSearch}, {MakeHistoryCommands(), cmdSaveToFile, cmdExit}));
+    SetPage(content, MakeFooter({cmdSearch, cmdLoad, cmdBringBack}, {MakeHistoryCommands(), cmdSaveToFile, cmdExit}));
     SetTabOrder();
     resize(DefaultSize.expandedTo(content->minimumSizeHint()));
 }
@@ -101,6 +101,12 @@ void frmFreeAgentClient::MakeControls()
     cmdSearch = MakeCommand("cmdSearch", "Sea&rch Player", [this] { cmdSearch_Click(); });
     cmdSaveToFile = MakeCommand("cmdSaveToFile", "Save to &File", [this] { cmdSaveToFile_Click(); });
     cmdExit = MakeCommand("cmdExit", "E&xit", [this] { cmdExit_Click(); });
+    cmdLoad = MakeCommand("cmdLoad", "Load Off&ers ...", AsStep("Load offers", [this] { cmdLoad_Click(); }));
+    cmdBringBack = MakeCommand("cmdBringBack", "Bring Bac&k Offers",
+                               AsStep("Bring back offers", [this] { cmdBringBack_Click(); }));
+    for (QPushButton* command : {cmdLoad, cmdBringBack})
+        command->setFocusPolicy(Qt::NoFocus); // the tab key goes its way as without them
+    cmdBringBack->hide();
 }
 
 EditBox* frmFreeAgentClient::MakeFigure(const char* name, const QString& accessibleName)
