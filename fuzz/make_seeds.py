@@ -10,10 +10,15 @@ import zlib
 from pathlib import Path
 
 SLOT = 3470
+OFFER_SLOT = 1014
+DRAFT_SLOT = 12
 CLIENT_START = b"DRVK Client Files Version 1.12 - Start"
 CLIENT_END = b"DRVK Client Files Version 1.12 - End"
 LINES_START = b"DRVK Lineups Files Version 1.01 - Start"
 LINES_END = b"DRVK Lineups Files Version 1.01 - End"
+OFFERS_START = b"DRVK Free Agents Files Version 1 - Start"
+DRAFT_START = b"DRVKFDFV1S"
+DRAFT_END = b"DRVKFDFV1E"
 LEAGUE_CODE = b"FUZZ!"
 FILE_DATE = 501  # offset within the record of the league
 
@@ -91,6 +96,21 @@ def lines(end=11004):
             (4, 0, change), (5, 0, change), (10004, 0, change), (end, 0, magic(LINES_END))]
 
 
+def records(slot, *contents):
+    """One record a slot; the last one is not filled up."""
+    return b"".join(content.ljust(slot, b"\0") for content in contents[:-1]) + contents[-1]
+
+
+def offers(*numbers):
+    made = [struct.pack("<hhihi", number, 1, 750000, 3, 1000) + b"Come".ljust(1000) for number in numbers]
+    return records(OFFER_SLOT, magic(OFFERS_START), LEAGUE_CODE, struct.pack("<h", 1), *made)
+
+
+def draft(*numbers):
+    ranks = [struct.pack("<h", number) for number in numbers] + [bytes(2)] * (1001 - len(numbers))
+    return records(DRAFT_SLOT, magic(DRAFT_START), LEAGUE_CODE, struct.pack("<h", 1), *ranks, magic(DRAFT_END))
+
+
 def head(parts, count):
     return parts[:count]
 
@@ -106,6 +126,9 @@ def seeds():
     yield "client_wrapped", "stored", wrapper(slots(*head(client(), 1)), 0)
     yield "lines_wrapped", "head", wrapper(slots(*head(lines(), 6)))
     yield "lines_wrapped", "stored", wrapper(slots(*head(lines(), 3)), 0)
+    for name, content, kind in (("offers", offers(1, 40, 60, 10003), 0), ("draft", draft(60, 40, 10003, 20001), 1)):
+        yield "market_files", f"{name}_plain", bytes([kind + 2]) + content
+        yield "market_files", f"{name}_wrapped", bytes([kind]) + wrapper(content)
     text = b"Lines of ten days, one after the other, one after the other. " * 4
     yield "wrapper", "out", bytes([40]) + wrapper(text)
     yield "wrapper", "out_stored", bytes([4]) + wrapper(text, 0)
