@@ -98,7 +98,10 @@ void frmFreeAgentClient::BeginOffers()
 {
     const auto begin = [this] { OpenOffers(OpenWork(), OwnNumber(), offers); };
     const bool areOwn = KeptWork().OffersBy == OwnNumber();
-    if (areOwn && !WrittenOffers(offers).empty())
+    const std::vector<FreeAgentOffer> given = WrittenOffers(offers);
+    for (const FreeAgentOffer& offer : given) // a history that has begun since knows of none of them
+        WatchOffer(static_cast<int>(offer.Id));
+    if (areOwn && !given.empty())
         RunStep("Begin new offers", begin);
     else
         begin();
