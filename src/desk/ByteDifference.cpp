@@ -341,6 +341,46 @@ ByteDifference Then(const ByteDifference& first, const ByteDifference& second)
     return writer.Finish();
 }
 
+ByteDifference Reversed(const ByteDifference& difference)
+{
+    DifferenceWriter writer;
+    RunReader reader(difference.Stored());
+    while (const auto run = reader.Next())
+        writer.Add(run->Table, run->Offset, run->After, run->Before);
+    return writer.Finish();
+}
+
+ByteDifference Without(const ByteDifference& difference, const RecordBytes& bytes)
+{
+    DifferenceWriter writer;
+    RunReader reader(difference.Stored());
+    const std::size_t behind = bytes.First + bytes.Length;
+    for (auto run = reader.Next(); run;) {
+        const std::size_t inRecord = run->Offset % bytes.Record;
+        const bool isElsewhere = run->Table != bytes.Table;
+        const bool isInside = !isElsewhere && inRecord >= bytes.First && inRecord < behind;
+        std::size_t length = run->Before.size();
+        if (isInside)
+            length = std::min(length, behind - inRecord);
+        else if (!isElsewhere)
+            length = std::min(length, (inRecord < bytes.First ? 0 : bytes.Record) + bytes.First - inRecord);
+        if (!isInside)
+            writer.Add(run->Table, run->Offset, run->Before.first(length), run->After.first(length));
+        DropFront(run, length, reader);
+    }
+    return writer.Finish();
+}
+
+ByteDifference Within(const ByteDifference& difference, DeskTable first, DeskTable last)
+{
+    DifferenceWriter writer;
+    RunReader reader(difference.Stored());
+    while (const auto run = reader.Next())
+        if (run->Table >= first && run->Table <= last)
+            writer.Add(run->Table, run->Offset, run->Before, run->After);
+    return writer.Finish();
+}
+
 bool IsAt(const DeskContents& desk, const ByteDifference& difference, DifferenceEnd which)
 {
     RunReader reader(difference.Stored());

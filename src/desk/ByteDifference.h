@@ -132,6 +132,21 @@ void AddDifference(DifferenceWriter& to, DeskTable table, const unsigned char* b
 // The difference that comes of one and then another: what both take back of each other is gone.
 ByteDifference Then(const ByteDifference& first, const ByteDifference& second);
 
+// The way back over a difference.
+ByteDifference Reversed(const ByteDifference& difference);
+
+// Bytes that come again in every record of a table.
+struct RecordBytes {
+    DeskTable Table{};
+    std::size_t Record = 1; // how long a record is
+    std::size_t First = 0;  // where in it they begin
+    std::size_t Length = 0;
+};
+// What of a difference lies outside of them.
+ByteDifference Without(const ByteDifference& difference, const RecordBytes& bytes);
+// What of it lies in the tables from `first` to `last`.
+ByteDifference Within(const ByteDifference& difference, DeskTable first, DeskTable last);
+
 // The state of a desk before a difference, or the one behind it.
 enum class DifferenceEnd { Before, After };
 

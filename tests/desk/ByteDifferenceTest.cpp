@@ -297,5 +297,50 @@ TEST(ByteDifferenceTest, StandsOnTheDeskAtOneEndOfIt)
     EXPECT_FALSE(IsAt({*league}, difference, DifferenceEnd::Before)) << "without a market it is at neither end";
 }
 
+TEST(ByteDifferenceTest, ReversedIsTheWayBack)
+{
+    Dice dice(21);
+    for (int turn = 0; turn < 200; ++turn) {
+        const Desk desk = RollDesk(dice);
+        const Desk other = ChangedOften(dice, desk);
+        EXPECT_EQ(Written(Reversed(Between(desk, other))), Written(Between(other, desk)));
+    }
+}
+
+TEST(ByteDifferenceTest, WithoutSomeBytesOfEveryRecordTheOthersAreLeft)
+{
+    Dice dice(22);
+    for (int turn = 0; turn < 500; ++turn) {
+        const Desk desk = RollDesk(dice);
+        const ByteDifference difference = Between(desk, ChangedOften(dice, desk));
+        const auto record = static_cast<std::size_t>(dice.Roll(1, 60));
+        const auto first = static_cast<std::size_t>(dice.Roll(0, static_cast<long long>(record) - 1));
+        const auto length = static_cast<std::size_t>(dice.Roll(0, static_cast<long long>(record - first)));
+        std::vector<ByteTold> left = Told(difference);
+        std::erase_if(left, [&](const ByteTold& told) {
+            const std::size_t place = std::get<1>(told) % record;
+            return std::get<0>(told) == DeskTable::Teams && place >= first && place < first + length;
+        });
+        EXPECT_EQ(
+            Told(Without(difference, {.Table = DeskTable::Teams, .Record = record, .First = first, .Length = length})),
+            left)
+            << record << ' ' << first << ' ' << length;
+    }
+}
+
+TEST(ByteDifferenceTest, WithinSomeTablesTheirBytesAreLeft)
+{
+    Dice dice(23);
+    const Desk desk = RollDesk(dice);
+    const ByteDifference difference = Between(desk, ChangedOften(dice, desk));
+    std::vector<ByteTold> left = Told(difference);
+    std::erase_if(left, [](const ByteTold& told) {
+        return std::get<0>(told) < DeskTable::Teams || std::get<0>(told) > DeskTable::Offers;
+    });
+    EXPECT_FALSE(left.empty());
+    EXPECT_EQ(Told(Within(difference, DeskTable::Teams, DeskTable::Offers)), left);
+    EXPECT_TRUE(Within(difference, DeskTable::Players, DeskTable::Schedule).IsEmpty());
+}
+
 } // namespace
 } // namespace dravik
