@@ -1,12 +1,5 @@
+#include "AnyCommand.h"
 #include "desk/History.h"
-#include "desk/LinesFiles.h"
-#include "files/LinesFile.h"
-#include "LinesEvening.h"
-#include "makers/Makers.h"
-#include "MarketEvening.h"
-#include "OfficeEvening.h"
-#include "RecordEvening.h"
-#include "RosterEvening.h"
 #include "rules/LineJudge.h"
 #include "rules/RosterJudge.h"
 #include "support/LeagueImage.h"
@@ -32,8 +25,6 @@
 // DRAVIK_HISTORY_FIRST the number of the first league.
 namespace dravik {
 namespace {
-
-constexpr int Own = 1;
 
 int FromEnvironment(const char* name, int usual)
 {
@@ -105,44 +96,7 @@ private:
     }
 };
 
-// ---- The leagues -------------------------------------------------------------------------------------------------------------
-
-enum class Kind { Plain, Messy, Full, Noise };
-constexpr int KindCount = 4;
-
-void RollPlainLeague()
-{
-    SetOrdinaryRules();
-    for (int number = 1; number <= 3; ++number) {
-        TeamMaker team(number);
-        team.DressesFullRoster().FarmsFullRoster();
-        const std::vector<int> all = team.Skaters;
-        const std::vector<int> forwards(all.begin(), all.begin() + 12);
-        const std::vector<int> defense(all.begin() + 12, all.begin() + 18);
-        for (int day = 1; day <= 10; ++day)
-            FillLines(Teams[number].ProLines[day], forwards, defense, team.GoalieIds);
-    }
-}
-
-void RollAny(Dice& dice, Kind kind)
-{
-    ResetClientVariables();
-    switch (kind) {
-    case Kind::Plain:
-        return RollPlainLeague();
-    case Kind::Messy:
-        return market_evening::RollMarket(dice);
-    case Kind::Full:
-        return RollLeague(dice, {.Teams = 100, .Skaters = 10000, .Goalies = 1000, .Coaches = 500});
-    case Kind::Noise:
-        return ScrambleLeague(static_cast<unsigned>(dice.Roll(1, 1000000)));
-    }
-}
-
 // ---- The evening -------------------------------------------------------------------------------------------------------------
-
-// What is typed where a command asks.
-const std::vector<std::string> Typed = {"", "0", "1", "3", "50", "100", "33.5", "many", "-7", "40000", "Gulls"};
 
 class HistoryEvening {
 public:
@@ -160,15 +114,14 @@ public:
         history->TellTo(follower.get());
         TakeBeginning();
         states.push_back({.Digest = Now()});
-        linesFile = disk.InFolder("Some.dvl");
-        SaidOver(1, 0, Typed, [&](Voice& says) { WriteLinesFile(*Copy(*league), Files(says), Own, linesFile); });
+        commands.SaveSomeLines();
     }
 
-    void Play(int commands)
+    void Play(int turns)
     {
         if (dice.Chance(50))
             ChangeOutside();
-        for (int turn = 0; turn < commands && !HasFailed(); ++turn) {
+        for (int turn = 0; turn < turns && !HasFailed(); ++turn) {
             SCOPED_TRACE("turn " + std::to_string(turn));
             switch (dice.Roll(1, 24)) {
             case 1:
@@ -188,11 +141,11 @@ public:
                     ;
                 break;
             case 4: // a drag to somewhere and back
-                TakeStep(OfTick(), 3);
-                TakeStep(OfTick(), 3);
+                TakeStep(commands.OfTick(), 3);
+                TakeStep(commands.OfTick(), 3);
                 break;
             default:
-                TakeStep(RollCommand(), static_cast<std::uint64_t>(dice.Chance(30) ? dice.Roll(1, 2) : 0));
+                TakeStep(commands.Roll(), static_cast<std::uint64_t>(dice.Chance(30) ? dice.Roll(1, 2) : 0));
             }
         }
     }
@@ -223,100 +176,10 @@ public:
 
 private:
     static bool HasFailed() { return ::testing::Test::HasFailure(); }
-    FileAccess Files(Voice& says) { return {disk, says, disk, disk.InFolder("work")}; }
 
     // ---- What a manager does ----
 
-    // The league, lent to one of the evenings that the other models play.
-    template <class Evening>
-    class Lent {
-    public:
-        explicit Lent(std::unique_ptr<Tables>& lender) : owner(lender) { At.League = std::move(owner); }
-        Lent(const Lent&) = delete;
-        Lent& operator=(const Lent&) = delete;
-        ~Lent() { owner = std::move(At.League); }
-        Evening At{};
-
-    private:
-        std::unique_ptr<Tables>& owner;
-    };
-
-    // A command of any kind, given what it needs.
-    using Does = std::function<void(Voice& says)>;
-    template <class Evening, class Command>
-    Does OfEvening(const Command& command)
-    {
-        return [this, command](Voice& says) {
-            Lent<Evening> lent(league);
-            AtTheDesk(lent.At, says, shown, command);
-        };
-    }
-    Does RollCommand()
-    {
-        switch (dice.Roll(1, 14)) {
-        case 1:
-        case 2:
-        case 3:
-            return OfEvening<roster_evening::Evening>(roster_evening::RollCommand(dice));
-        case 4:
-        case 5:
-        case 6:
-            return OfEvening<lines_evening::Evening>(lines_evening::RollCommand(dice));
-        case 7:
-        case 8:
-            return OfEvening<office_evening::Office>(office_evening::RollCommand(dice));
-        case 9:
-        case 10:
-            return OfEvening<record_evening::Desk>(record_evening::RollCommand(dice));
-        case 11:
-        case 12:
-        case 13: {
-            int ranked = 0;
-            while (ranked <= DraftRanking::last && market->Ranking[ranked] != 0)
-                ++ranked;
-            return OnTheMarket(market_evening::RollCommand(dice, ranked));
-        }
-        default:
-            return OfTheWidest();
-        }
-    }
-    Does OnTheMarket(const market_evening::Command& command)
-    {
-        return [this, command](Voice& says) {
-            if (OfferTable::Has(command.Id)) {
-                history->Watch(command.Id);
-                touched.insert(command.Id);
-            }
-            Lent<market_evening::Evening> lent(league);
-            market_evening::Desk{lent.At, *market, disk}.Does(says, shown, command);
-        };
-    }
-    Does OfTheWidest()
-    {
-        const bool partial = dice.Chance(50);
-        if (dice.Chance(50))
-            return [this, partial](Voice& says) {
-                bool modified = false;
-                AutoRoster({*league, says, shown, modified}, Own, true, partial);
-            };
-        const std::size_t breaksOff = dice.Chance(40) ? static_cast<std::size_t>(dice.Roll(1, 400)) : 0;
-        return [this, breaksOff](Voice& says) {
-            bool modified = false;
-            if (breaksOff != 0)
-                disk.FailFileOperation(breaksOff, failure::PathAccess);
-            LoadLines(
-                {*league, says, shown, modified}, Files(says), disk, Own, linesFile, [] {}, [] {});
-        };
-    }
-
-    Does OfTick()
-    {
-        return [this](Voice& says) {
-            bool modified = false;
-            const PersonId first{.IsGoalie = false, .Slot = 1};
-            SetNoTrade({*league, says, shown, modified}, first, league->Players[1].NoTrade.Word() == 0);
-        };
-    }
+    using Does = AnyCommand::Does;
 
     // What a command says, whether it comes to its end or not; in a step, if one is given.
     void Run(const Does& does, const StepLabel* label)
@@ -389,7 +252,7 @@ private:
                 },
                 nullptr);
         case 2: // a command that nobody opened a step for
-            return Run(RollCommand(), nullptr);
+            return Run(commands.Roll(), nullptr);
         case 3: // somebody writes anywhere
             for (long long bytes = dice.Roll(1, 3); bytes > 0; --bytes)
                 reinterpret_cast<unsigned char*>(league.get())[dice.Roll(0, sizeof(Tables) - 1)] ^= 1U;
@@ -518,9 +381,12 @@ private:
     PlainFormats shown;
     std::unique_ptr<Tables> league;
     std::unique_ptr<Market> market = MakeMarket();
+    AnyCommand commands{dice, league, *market, disk, [this](int offer) {
+                            history->Watch(offer);
+                            touched.insert(offer);
+                        }};
     std::unique_ptr<Follower> follower;
     std::unique_ptr<History> history;
-    std::string linesFile;
     std::unique_ptr<Tables> beginning;
     std::unique_ptr<Market> beginningOfMarket;
     std::set<int> touched; // offers
