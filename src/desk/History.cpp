@@ -146,27 +146,27 @@ void History::Close() noexcept
         if (merges)
             AddToLast(change, true);
         else
-            Append(std::move(change));
+            Append({std::move(current), std::move(change)});
     } catch (const std::bad_alloc&) {
         EndWithoutRoom();
     }
 }
 
-void History::Append(ByteDifference change)
+void History::Append(Step step)
 {
-    if (!steps.empty() && steps.front().Label.Team != current.Team)
+    if (!steps.empty() && steps.front().Label.Team != step.Label.Team)
         Forget(HistoryEnd::OtherTeam);
     while (steps.size() > done)
         Drop(done);
-    steps.push_back({std::move(current), std::move(change)});
+    steps.push_back(std::move(step));
     ++done;
-    const Step& step = steps.back();
-    stepsHeld += step.Held();
-    shadow->Follow(step.Change, DifferenceEnd::After);
+    const Step& last = steps.back();
+    stepsHeld += last.Held();
+    shadow->Follow(last.Change, DifferenceEnd::After);
     dragGoesOn = true;
     outOfRoom = false;
     if (watcher != nullptr)
-        watcher->Closed(step);
+        watcher->Closed(last);
     Trim();
 }
 
@@ -246,6 +246,29 @@ Turned History::Turn(DifferenceEnd to) noexcept
             watcher->Redone(*step);
     }
     return Turned::Done;
+}
+
+Turned History::Replay(Step step) noexcept
+{
+    if (isOpen)
+        return Turned::StepIsOpen;
+    if (step.Change.IsEmpty())
+        return Turned::Nothing;
+    if (!IsAt(desk, step.Change, DifferenceEnd::Before))
+        return Turned::Changed;
+    Fold();
+    if (!shadow)
+        TakeBeginning();
+    Put(desk, step.Change, DifferenceEnd::After);
+    if (!shadow)
+        return Turned::NoRoom;
+    try {
+        Append(std::move(step));
+    } catch (const std::bad_alloc&) {
+        EndWithoutRoom();
+    }
+    dragGoesOn = false;
+    return outOfRoom ? Turned::NoRoom : Turned::Done;
 }
 
 const Step* History::ToUndo() const { return !isOpen && done > 0 ? &steps[done - 1] : nullptr; }

@@ -118,6 +118,11 @@ public:
     Turned Undo() noexcept;
     Turned Redo() noexcept;
 
+    // Does a step that was done on another day once more: puts its bytes where all of them are as before it, and takes it in
+    // behind the others, as one that was closed and that no drag goes on. A step without a change is none. Where there is no
+    // room the bytes are put all the same.
+    Turned Replay(Step step) noexcept;
+
     // The step that would be undone, and the one that would be redone; null for none, and while one is open.
     [[nodiscard]] const Step* ToUndo() const;
     [[nodiscard]] const Step* ToRedo() const;
@@ -138,7 +143,7 @@ private:
     friend class OpenStep;
 
     void Close() noexcept;
-    void Append(ByteDifference change);
+    void Append(Step step);
     void AddToLast(const ByteDifference& more, bool merges);
     void Trim() noexcept;
     void Forget(HistoryEnd why) noexcept;
