@@ -10,6 +10,7 @@
 #include "rules/StatRows.h"
 #include "rules/Waivers.h"
 #include "session/OpenHistory.h"
+#include "session/OpenJournal.h"
 #include "session/OpenMarket.h"
 #include "session/Session.h"
 
@@ -106,6 +107,7 @@ void ShowLeague(const std::string& path, bool damaged, MainWindow& window)
 
 void OpenLeagueClient(const std::string& path, MainWindow& window)
 {
+    bool isOpen = false;
     Reporting(Machine(), " in OpenLeagueClient!", [&] {
         EmptyLeagueTables(OpenLeague);
         if (!FileExist(Machine(), path)) {
@@ -124,6 +126,7 @@ void OpenLeagueClient(const std::string& path, MainWindow& window)
             return;
         }
         PrepareLeague(OpenLeague);
+        isOpen = true;
         const ShownRatings shown = RatingsShownBy(LeagueData);
         PlayerStatCount = shown.Skater;
         GoalieStatCount = shown.Goalie;
@@ -131,6 +134,12 @@ void OpenLeagueClient(const std::string& path, MainWindow& window)
     });
     EmptyOpenMarket(); // offers and ranks of another league's people
     BeginHistory();
+    if (isOpen)
+        BeginJournal();
+    else
+        EndJournal();
+    window.Tell(QuietLine::UnsavedWork, UnsavedWorkWords());
+    window.Tell(QuietLine::JournalUnwritten, JournalWords());
 }
 
 } // namespace dravik

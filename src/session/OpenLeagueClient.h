@@ -9,7 +9,9 @@ namespace dravik {
 enum class QuietLine {
     SettingsSetAside,  // the settings file could not be read
     SettingsUnwritten, // a setting could not be written
-    Damaged            // the open client file was damaged on its way
+    Damaged,           // the open client file was damaged on its way
+    UnsavedWork,       // what an earlier run did to the open league, and no saved file holds; with commands
+    JournalUnwritten   // what is done would not survive the end of the program
 };
 
 // What opening a client file does to the main window. `frmMain` is one; tests have another.
