@@ -82,6 +82,16 @@ class FormatsPageTest(unittest.TestCase):
         self.assertIn(f"slots are {length} bytes long", section)
         self.assertIn(f"(3 + n) x {length} bytes", section)
 
+    def test_the_tables_of_the_journal_are_as_long_as_their_rows(self):
+        section = re.search(r"^## The journal\n(.*?)(?=^## )", PAGE, re.S | re.M).group(1)
+        found = re.findall(r"^\| (\d+) \| `(\w+)`[^|]*\| (?:one|(\d+) to (\d+)) \| (\d+) \|", section, re.M)
+        self.assertEqual([int(number) for number, *_ in found], list(range(1, 11)))
+        for number, record, first, last, length in found:
+            rows_of_it = int(last) - int(first) + 1 if last else 1
+            self.assertEqual(int(length), rows_of_it * layouts()[record][0], number)
+        team = dict((name, (offset, width)) for name, offset, width in layouts()["Team"][1])
+        self.assertEqual(team["Password"], (247, 32))
+
 
 if __name__ == "__main__":
     unittest.main()
