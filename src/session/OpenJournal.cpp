@@ -141,8 +141,10 @@ void BeginJournal() noexcept
 
 void JournalSaved(SavedFile file, int team) noexcept
 {
-    if (TheJournals.Writer)
-        TheJournals.Writer->Saved(file, team);
+    if (!TheJournals.Writer)
+        return;
+    OpenHistory().Fold(); // what a save sets right is in the file
+    TheJournals.Writer->Saved(file, team);
 }
 
 std::string UnsavedWorkWords()

@@ -116,6 +116,17 @@ TEST_F(OpenJournalTest, SavedWorkIsNotTold)
     EXPECT_EQ(Offered(), "");
 }
 
+TEST_F(OpenJournalTest, WhatASaveSetsRightIsInItsFile)
+{
+    Pay(90);
+    RosterChanges[7].Status = 1; // not by the step
+    JournalSaved(SavedFile::Lines, Own);
+    OpenHistory().Undo();
+    OpenHistory().Redo();
+    Begin();
+    EXPECT_EQ(Offered(), "");
+}
+
 TEST_F(OpenJournalTest, WorkIsBroughtBackAndCanBeUndoneAndGoesOn)
 {
     Pay(90);
