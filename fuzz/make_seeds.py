@@ -115,7 +115,44 @@ def head(parts, count):
     return parts[:count]
 
 
+def text(words):
+    return struct.pack("<h", len(words)) + words
+
+
+def label(words, drag=0):
+    return text(words) + text(b"Team") + struct.pack("<iQ", 1, drag)
+
+
+def entry(kind, told=b""):
+    return bytes([kind]) + struct.pack("<H", len(told)) + told
+
+
+def change(table, before, after, offset=0):
+    """One byte in the first fourteen of a table."""
+    return bytes([table, offset << 4 | 1, before, after, 0])
+
+
+def journals():
+    """Entries of a journal over a league in which nothing stands at the beginning of the calendar."""
+    calendar, kept = 7, b"\0"
+    one, two = change(calendar, 0, 5), change(calendar, 5, 9)
+    step = entry(1, label(b"One") + one)
+    yield "step", step
+    yield "beginning", entry(4, change(calendar, 0, 1, 3)) + step
+    yield "drag", entry(1, label(b"One", 7) + one) + entry(2, label(b"Two", 7) + kept + two)
+    yield "gone", entry(1, label(b"One", 7) + one) + entry(2, label(b"Two", 7) + b"\1" + change(calendar, 5, 0))
+    yield "folded", step + entry(3, kept + two)
+    yield "undone", step + entry(5) + entry(6) + entry(1, label(b"Two") + two) + entry(5)
+    yield "ended", step + entry(7) + entry(1, label(b"Two") + two)
+    yield "saved", step + b"".join(entry(8, struct.pack("<Bi", file, 1)) for file in (1, 2, 3)) + entry(9)
+    yield "password", entry(1, label(b"Password")) + step + entry(9)
+    yield "offer", entry(1, label(b"Offer") + change(10, 0, 5, 4)) + entry(1, label(b"Rank") + change(11, 0, 5))
+    yield "misfit", entry(1, label(b"One") + two)
+
+
 def seeds():
+    for name, entries in journals():
+        yield "journal", name, b"\0" + entries
     yield "client_plain", "whole", pieces(*client())
     yield "client_plain", "head", pieces(*head(client(), 4))
     yield "client_plain", "wrong_end", pieces(*client(16901))
