@@ -1,8 +1,11 @@
+#include "machine/Clock.h"
 #include "machine/Platform.h"
 #include "screens/platform/Application.h"
 #include "screens/platform/DesktopLook.h"
+#include "screens/platform/JournalPlace.h"
 #include "screens/platform/QtPlatform.h"
 #include "screens/Stage.h"
+#include "session/OpenJournal.h"
 #include "session/Session.h"
 
 #include <QIcon>
@@ -32,6 +35,7 @@ int main(int argc, char** argv)
     const auto look = dravik::UseLookOfDesktop();
     dravik::QtPlatform platform;
     dravik::UseMachine(platform);
+    dravik::KeepJournals(dravik::JournalPlace(), dravik::LocalTime);
     dravik::Stage stage;
     return stage.Start() ? dravik::Application::exec() : 0;
 }

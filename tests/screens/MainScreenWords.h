@@ -50,6 +50,10 @@ inline std::vector<DesignWords> MainScreenWords(const std::string& title, const 
         {"lblSettingsSetAside", ""},
         {"lblSettingsUnwritten", ""},
         {"lblDamaged", ""},
+        {"lblUnsavedWork", ""},
+        {"cmdBringBack", "Bring Back"},
+        {"cmdForget", "Forget"},
+        {"lblJournalUnwritten", ""},
     };
 }
 

@@ -1,3 +1,4 @@
+#include "JournalKept.h"
 #include "OnDraftScreen.h"
 #include "OnTeamScreen.h"
 #include "support/ClientFileBytes.h"
@@ -42,6 +43,18 @@ TEST_F(DraftFileCommand, SavesTheRankingAndTellsWhere)
     EXPECT_EQ(Machine.WaitCount, 1);
     EXPECT_THAT(Machine.WaitAtBoxes(), ElementsAre(false));
     EXPECT_FALSE(Modified);
+}
+
+TEST_F(DraftFileCommand, ASavedRankingIsNoLongerUnsavedInTheJournal)
+{
+    const JournalKept journal(Machine.Folder());
+    Choose({0, 2});
+    EXPECT_TRUE(journal.HasUnsaved());
+    Click(Draft().cmdSaveToFile);
+    EXPECT_EQ(Machine.TakeBoxes().size(), 1U);
+    EXPECT_FALSE(journal.HasUnsaved());
+    Choose({1});
+    EXPECT_TRUE(journal.HasUnsaved());
 }
 
 TEST_F(DraftFileCommand, AnEntryDraftIsSavedUnderItsOwnName)

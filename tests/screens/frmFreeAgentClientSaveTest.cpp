@@ -1,3 +1,4 @@
+#include "JournalKept.h"
 #include "league/Failure.h"
 #include "OnOfferScreen.h"
 #include "support/ClientFileBytes.h"
@@ -41,6 +42,23 @@ protected:
     std::string Path;
     std::vector<bool> WaitAtBoxes; // of the last save
 };
+
+TEST_F(OfferSaving, SavedOffersAreNoLongerUnsavedInTheJournal)
+{
+    const JournalKept journal(Machine.Folder());
+    Open();
+    EXPECT_THAT(Save(), ElementsAre(Box{48, "No Offer to Save!"}));
+    Enter(Offers().txtOffer, "750000");
+    EXPECT_TRUE(journal.HasUnsaved());
+    EXPECT_THAT(Save(), ElementsAre(Box{48, "No Offer to Save!"}));
+    EXPECT_TRUE(journal.HasUnsaved());
+    Enter(Offers().txtDuration, "2");
+    Enter(Offers().txtBonus, "1000");
+    EXPECT_EQ(Save().size(), 1U);
+    EXPECT_FALSE(journal.HasUnsaved());
+    Enter(Offers().txtBonus, "1001");
+    EXPECT_TRUE(journal.HasUnsaved());
+}
 
 TEST_F(OfferSaving, TellsTheOffersAndThePath)
 {

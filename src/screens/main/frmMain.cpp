@@ -15,6 +15,7 @@
 #include "screens/platform/CodePage.h"
 #include "screens/Shown.h"
 #include "screens/Stage.h"
+#include "session/OpenJournal.h"
 #include "session/Session.h"
 
 #include <QMenuBar>
@@ -72,6 +73,9 @@ frmMain::frmMain(Stage& stage) : Screen(stage, "frmMain")
     emptySpaceBelow = new QWidget(content);
     column->addWidget(emptySpaceBelow, 1);
     quiet = new QuietLines(content);
+    cmdBringBack = MakeCommand("cmdBringBack", "Bring Back", [this] { cmdBringBack_Click(); });
+    cmdForget = MakeCommand("cmdForget", "Forget", [this] { cmdForget_Click(); });
+    quiet->AddCommands(QuietLine::UnsavedWork, {cmdBringBack, cmdForget});
     column->addWidget(quiet);
     setCentralWidget(content);
 
@@ -233,7 +237,11 @@ std::string frmMain::LastLeague()
     return {};
 }
 
-void frmMain::FormActivate() { ShowChosenTeam(); }
+void frmMain::FormActivate()
+{
+    ShowChosenTeam();
+    Tell(QuietLine::JournalUnwritten, JournalWords());
+}
 
 void frmMain::SetWindowCaption(const std::string& caption) { SetTitle(ToQString(caption)); }
 
@@ -411,6 +419,29 @@ void frmMain::mnuDraft_Click()
 {
     if (TeamIsProved())
         Open(Window::Draft);
+}
+
+void frmMain::TellOfJournal()
+{
+    Tell(QuietLine::UnsavedWork, UnsavedWorkWords());
+    Tell(QuietLine::JournalUnwritten, JournalWords());
+}
+
+void frmMain::cmdBringBack_Click()
+{
+    Reporting(Machine(), " in cmdBringBack!", [this] {
+        if (!BringBackWork())
+            return;
+        PlaceTeam(); // a team may have had another name
+        Owner.ShowAnew();
+    });
+    TellOfJournal();
+}
+
+void frmMain::cmdForget_Click()
+{
+    ForgetWork();
+    TellOfJournal();
 }
 
 void frmMain::mnuAbout_Click() { Open(Window::About); }

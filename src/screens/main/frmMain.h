@@ -47,6 +47,8 @@ public:
     void mnuDraft_Click();
     void mnuAbout_Click();
     void mnuOutputRatingCSV_Click();
+    void cmdBringBack_Click();
+    void cmdForget_Click();
 
     Row<EntryList*, 1, 6> lstDivision;
     Row<QLabel*, 1, 6> lblDivision;
@@ -68,11 +70,13 @@ private:
     void ShowChosenTeam();
     // Whether a team is chosen, which is told when not, and its password is proved.
     bool TeamIsProved();
+    // Tells whether there is work to be brought back, and whether what is done is kept.
+    void TellOfJournal();
 
     QLabel* lblTitle;
     QLabel* lblChosen = nullptr;
     QLabel* lblChosenPlace = nullptr;
-    QPushButton* cmdOpen;
+    QPushButton *cmdOpen, *cmdBringBack, *cmdForget;
     QWidget* lists; // the two conferences
     QWidget* teamBar;
     QuietLines* quiet;

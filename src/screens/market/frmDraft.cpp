@@ -8,6 +8,7 @@
 #include "screens/market/TellTakenIn.h"
 #include "screens/panels/NameSearch.h"
 #include "screens/platform/CodePage.h"
+#include "session/OpenJournal.h"
 #include "session/OpenMarket.h"
 #include "session/Session.h"
 
@@ -193,6 +194,8 @@ void frmDraft::cmdSaveToFile_Click()
         std::optional<std::string> saved;
         BehindWait([&] {
             saved = SaveRanking(OpenLeague, OpenFiles(), OwnNumber(), ranking, DraftType);
+            if (saved)
+                JournalSaved(SavedFile::Ranking, OwnNumber());
             return saved.has_value();
         });
         if (saved)

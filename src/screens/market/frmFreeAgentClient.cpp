@@ -14,6 +14,7 @@
 #include "screens/platform/CodePage.h"
 #include "screens/Stage.h"
 #include "session/OpenHistory.h"
+#include "session/OpenJournal.h"
 #include "session/OpenMarket.h"
 #include "session/Session.h"
 
@@ -333,6 +334,8 @@ void frmFreeAgentClient::cmdSaveToFile_Click()
         std::optional<std::string> report;
         BehindWait([&] {
             report = SaveOffers(OpenWork(), OpenFiles(), OwnNumber(), offers);
+            if (report && !report->empty())
+                JournalSaved(SavedFile::Offers, OwnNumber());
             return report.has_value();
         });
         for (const std::string& page : ReportPages(report.value_or("")))

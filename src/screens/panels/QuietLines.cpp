@@ -18,6 +18,8 @@ constexpr Kind Kinds[] = {
     {QuietLine::SettingsSetAside, "lblSettingsSetAside"},
     {QuietLine::SettingsUnwritten, "lblSettingsUnwritten"},
     {QuietLine::Damaged, "lblDamaged"},
+    {QuietLine::UnsavedWork, "lblUnsavedWork"},
+    {QuietLine::JournalUnwritten, "lblJournalUnwritten"},
 };
 
 // One line of muted words. Its text stays whole; what is painted of it ends where the window ends.
@@ -74,8 +76,15 @@ QuietLines::QuietLines(QWidget* parent) : QWidget(parent)
     for (const Kind& kind : Kinds) {
         auto* label = new QuietLabel(this);
         label->setObjectName(kind.Name);
-        column->addWidget(label);
+        auto* row = new QWidget(this);
+        auto* words = new QHBoxLayout(row);
+        words->setContentsMargins(0, 0, 0, 0);
+        words->setSpacing(Gap);
+        words->addWidget(label, 1);
+        row->hide();
+        column->addWidget(row);
         labels.push_back(label);
+        rows.push_back(row);
     }
     hide();
 }
@@ -84,11 +93,21 @@ void QuietLines::Tell(QuietLine line, const QString& text)
 {
     bool any = false;
     for (std::size_t i = 0; i < labels.size(); ++i) {
-        if (Kinds[i].Line == line)
+        if (Kinds[i].Line == line) {
             static_cast<QuietLabel*>(labels[i])->Say(text);
+            rows[i]->setVisible(!text.isEmpty());
+        }
         any = any || !labels[i]->text().isEmpty();
     }
     setVisible(any);
+}
+
+void QuietLines::AddCommands(QuietLine line, const std::vector<QWidget*>& commands)
+{
+    for (std::size_t i = 0; i < rows.size(); ++i)
+        if (Kinds[i].Line == line)
+            for (QWidget* command : commands)
+                rows[i]->layout()->addWidget(command);
 }
 
 } // namespace dravik

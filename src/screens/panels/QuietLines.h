@@ -16,9 +16,13 @@ public:
 
     // Says `text` in the line of its kind until it is told another; the empty text takes the line away.
     void Tell(QuietLine line, const QString& text);
+    // Puts commands behind the words of a kind, there as long as these are.
+    void AddCommands(QuietLine line, const std::vector<QWidget*>& commands);
 
 private:
-    std::vector<QLabel*> labels; // in the order of the kinds
+    // In the order of the kinds.
+    std::vector<QLabel*> labels;
+    std::vector<QWidget*> rows;
 };
 
 } // namespace dravik

@@ -12,6 +12,7 @@
 #include "screens/platform/CodePage.h"
 #include "screens/Shown.h"
 #include "screens/Stage.h"
+#include "session/OpenJournal.h"
 #include "session/Session.h"
 
 #include <cmath>
@@ -260,8 +261,10 @@ void frmTeam::cmdFarmChangeCoach_Click()
 void frmTeam::cmdSaveToFile_Click()
 {
     WaitEnd endWait;
-    Reporting(Machine(), " in cmdSaveToFile!",
-              [&] { SaveLines(OpenWork(), OpenFiles(), Machine(), OwnNumber(), std::ref(endWait)); });
+    Reporting(Machine(), " in cmdSaveToFile!", [&] {
+        SaveLines(OpenWork(), OpenFiles(), Machine(), OwnNumber(), std::ref(endWait),
+                  [] { JournalSaved(SavedFile::Lines, OwnNumber()); });
+    });
     if (endWait.Came())
         FormActivate();
 }
