@@ -273,7 +273,8 @@ JournalOutcome ReadJournal(std::string_view bytes)
         std::memcpy(&entry, rest.data(), sizeof entry);
         const std::size_t room = rest.size() - sizeof entry - SealSize;
         constexpr double behindLast = 2958466; // the last day of the year 9999
-        if (entry.Length < 0 || static_cast<std::size_t>(entry.Length) > room || !(entry.Time >= 0 && entry.Time < behindLast))
+        if (entry.Length < 0 || static_cast<std::size_t>(entry.Length) > room ||
+            !(entry.Time >= 0 && entry.Time < behindLast))
             break;
         const auto length = static_cast<std::size_t>(entry.Length);
         const Seal seal = SealOver(sealed, rest.substr(0, sizeof entry + length));

@@ -217,6 +217,23 @@ TEST_F(BringBackTest, NothingIsBroughtBackBehindAnotherStep)
     EXPECT_EQ(OwnTeam.Cash, 100);
 }
 
+TEST_F(BringBackTest, WithoutRoomForTheStepsTheWorkIsBackAllTheSame)
+{
+    Pay(90);
+    Pay(80);
+    Pay(70);
+    Pay(60);
+    history.Undo();
+    history.Undo();
+    StartAgain();
+    History small(OpenLeague, 100);
+    small.Join(*market);
+    EXPECT_EQ(BringBack(small, OpenLeague, *market, Read()), "");
+    EXPECT_EQ(OwnTeam.Cash, 80);
+    EXPECT_EQ(small.ToUndo(), nullptr);
+    EXPECT_TRUE(small.IsOutOfRoom());
+}
+
 // ---- A second death ------------------------------------------------------------------------------------------------------
 
 TEST_F(BringBackTest, TheJournalGoesOnBehindWhatWasBroughtBack)

@@ -574,5 +574,77 @@ TEST_F(HistoryTest, NobodyIsToldWhatNobodyAskedFor)
     EXPECT_THAT(notes.Heard, IsEmpty());
 }
 
+// ---- Steps of another day ------------------------------------------------------------------------------------------------
+
+class ReplayTest : public HistoryTest {
+protected:
+    // A step that leaves so much cash, from another history of the same league.
+    Step PaidBefore(int cash)
+    {
+        const int before = static_cast<int>(OwnTeam.Cash);
+        Pay(cash);
+        Step step = *history.ToUndo();
+        OwnTeam.Cash = before;
+        history.TellTo(nullptr);
+        history.Begin();
+        history.TellTo(&notes);
+        notes.Heard.clear();
+        return step;
+    }
+};
+
+TEST_F(ReplayTest, PutsItsBytesAndStandsLast)
+{
+    const Step step = PaidBefore(70);
+    Rename("Dome"); // outside
+    EXPECT_EQ(history.Replay(step), Turned::Done);
+    EXPECT_EQ(OwnTeam.Cash, 70);
+    EXPECT_EQ(history.UndoWords(Here), "Undo: Pay 70");
+    EXPECT_EQ(notes.Heard.size(), 2U);
+    EXPECT_EQ(notes.Heard.back(), "closed Pay 70");
+    EXPECT_EQ(history.Undo(), Turned::Done);
+    EXPECT_EQ(OwnTeam.Cash, 100);
+    EXPECT_EQ(Arena(), "Dome") << "that belongs to the beginning";
+    EXPECT_EQ(history.Redo(), Turned::Done);
+    EXPECT_EQ(OwnTeam.Cash, 70);
+}
+
+TEST_F(ReplayTest, BytesThatAreOthersAreNotReplaced)
+{
+    const Step step = PaidBefore(70);
+    OwnTeam.Cash = 101;
+    EXPECT_EQ(history.Replay(step), Turned::Changed);
+    EXPECT_EQ(OwnTeam.Cash, 101);
+    EXPECT_EQ(history.ToUndo(), nullptr);
+}
+
+TEST_F(ReplayTest, IsNotDoneWithinAStepNorWithoutAChange)
+{
+    const Step step = PaidBefore(70);
+    EXPECT_EQ(history.Replay({.Label = Label("Nothing"), .Change = {}}), Turned::Nothing);
+    const OpenStep open = history.Open(Label("Open"));
+    EXPECT_EQ(history.Replay(step), Turned::StepIsOpen);
+    EXPECT_EQ(OwnTeam.Cash, 100);
+}
+
+TEST_F(ReplayTest, NoDragGoesOnWithIt)
+{
+    Step step = PaidBefore(70);
+    step.Label.Drag = 4;
+    EXPECT_EQ(history.Replay(step), Turned::Done);
+    Pay(60, 4);
+    EXPECT_EQ(history.Undo(), Turned::Done);
+    EXPECT_EQ(OwnTeam.Cash, 70);
+}
+
+TEST_F(ReplayTest, WithoutRoomItsBytesArePutAllTheSame)
+{
+    const Step step = PaidBefore(70);
+    History small(OpenLeague, 100);
+    EXPECT_EQ(small.Replay(step), Turned::NoRoom);
+    EXPECT_EQ(OwnTeam.Cash, 70);
+    EXPECT_EQ(small.ToUndo(), nullptr);
+}
+
 } // namespace
 } // namespace dravik
