@@ -1,6 +1,7 @@
 #include "session/OpenJournal.h"
 
 #include "desk/BringBack.h"
+#include "desk/Offers.h"
 #include "desk/Password.h"
 #include "machine/GrowingFile.h"
 #include "session/JournalFolder.h"
@@ -86,6 +87,30 @@ void GoOnWith(const FoundJournal& journal)
     }
     journals.Writer = std::make_unique<JournalWriter>(journal.Read.Sealed, write, journals.Clock);
     OpenHistory().TellTo(journals.Writer.get());
+}
+
+// For which team a table of the market was changed last; 0 where no step says so.
+int TeamAtWorkOn(DeskTable table, const JournalRead& read)
+{
+    for (std::size_t step = read.Done; step-- > 0;) {
+        RunReader runs(read.Steps[step].Change.Stored());
+        while (const auto run = runs.Next())
+            if (run->Table == table)
+                return read.Steps[step].Label.Team;
+    }
+    return 0;
+}
+
+// The screens of the market begin empty: what is back there is kept for its team, as what stood on a screen that closed.
+void KeepMarketOf(const JournalRead& read)
+{
+    KeptMarket& kept = KeptWork();
+    kept.OffersBy = TeamAtWorkOn(DeskTable::Offers, read);
+    if (std::vector<FreeAgentOffer> written = WrittenOffers(OpenMarket().Offers); !written.empty())
+        kept.Offers[kept.OffersBy] = std::move(written);
+    kept.RankingBy = TeamAtWorkOn(DeskTable::Ranking, read);
+    if (OpenMarket().Ranking[0] != 0)
+        kept.Rankings[kept.RankingBy] = OpenMarket().Ranking;
 }
 
 void Refuse(const std::string& words) { Machine().ShowBox(words, box::Warning); }
@@ -193,6 +218,7 @@ bool BringBackWork()
         return false;
     }
     Modified = true;
+    KeepMarketOf(journal->Read);
     GoOnWith(*journal);
     Offer(std::nullopt);
     return true;

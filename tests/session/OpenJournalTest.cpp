@@ -127,6 +127,33 @@ TEST_F(OpenJournalTest, WhatASaveSetsRightIsInItsFile)
     EXPECT_EQ(Offered(), "");
 }
 
+TEST_F(OpenJournalTest, OffersAndARankingAreKeptForTheirTeamWhenTheyAreBack)
+{
+    const auto step = [](const char* words) {
+        return OpenHistory().Open({.Words = words, .Where = "Free Agents", .Team = Own, .Drag = 0});
+    };
+    (void)OpenMarket();
+    {
+        const OpenStep offer = step("Change Salary");
+        OpenHistory().Watch(10003);
+        OpenMarket().Offers[10003].Salary = 750000;
+    }
+    {
+        const OpenStep rank = step("Add to the draft list");
+        OpenMarket().Ranking[0] = 20001;
+    }
+    Pay(90);
+    Begin();
+    EXPECT_EQ(KeptWork().OffersBy, 0);
+    ASSERT_TRUE(BringBackWork());
+    EXPECT_EQ(KeptWork().OffersBy, static_cast<int>(Own));
+    ASSERT_EQ(KeptWork().Offers[Own].size(), 1U);
+    EXPECT_EQ(KeptWork().Offers[Own][0].Id, 10003);
+    EXPECT_EQ(KeptWork().Offers[Own][0].Salary, 750000);
+    EXPECT_EQ(KeptWork().RankingBy, static_cast<int>(Own));
+    EXPECT_EQ(KeptWork().Rankings[Own][0], 20001);
+}
+
 TEST_F(OpenJournalTest, WorkIsBroughtBackAndCanBeUndoneAndGoesOn)
 {
     Pay(90);
