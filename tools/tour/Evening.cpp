@@ -35,6 +35,7 @@ void Evening::Spend()
     MakeOffers();
     RankDraft();
     ExportTheRatings();
+    BringBackTheWork();
     ShowAbout();
     ShowEmptyScreens();
 }

@@ -61,6 +61,8 @@ private:
     // about to draft.
     void RankDraft();
     void ExportTheRatings();
+    // The league is opened once more, as after a crash, and the work of the evening brought back.
+    void BringBackTheWork();
     void ShowAbout();
     // The screens whose commands are hidden.
     void ShowEmptyScreens();

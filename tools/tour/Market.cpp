@@ -76,6 +76,30 @@ void Evening::ExportTheRatings()
         Require(QFileInfo(plan.Out + name).size() > 0, "the ratings lie on disk");
 }
 
+void Evening::BringBackTheWork()
+{
+    // A last change that nobody saves.
+    const Tables& league = dravik::OpenLeague;
+    EnterOffice();
+    const QString address = "scouts@example.org";
+    Fill(Team().txtEmail, address);
+    LeaveOffice();
+    Require(ToQString(league.Teams[plan.Team].Email.Trimmed()) == address, "the address is stored");
+    answers.Choose(plan.League);
+    Main().mnuOpen->trigger();
+    NoComplaints("the league opens again");
+    Require(ToQString(league.Teams[plan.Team].Email.Trimmed()) != address, "it is as the file has it");
+    auto* bringBack = Main().findChild<QPushButton*>("cmdBringBack");
+    Require(bringBack->isVisible(), "the unsaved work is offered");
+    Choose();
+    Photograph(Window::Main, "main-unsaved");
+    ExpectPassword();
+    bringBack->click();
+    NoComplaints("the work is brought back");
+    Require(!bringBack->isVisible(), "and offered no longer");
+    Require(ToQString(league.Teams[plan.Team].Email.Trimmed()) == address, "the change is there again");
+}
+
 void Evening::ShowAbout()
 {
     Main().mnuAbout->trigger();

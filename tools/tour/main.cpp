@@ -1,6 +1,8 @@
 #include "Evening.h"
+#include "machine/Clock.h"
 #include "screens/platform/Application.h"
 #include "screens/platform/QtPlatform.h"
+#include "session/OpenJournal.h"
 #include "session/Session.h"
 
 #include <iostream>
@@ -48,6 +50,9 @@ int Run(const Plan& plan)
     QFile::remove(places.SettingsFile);
     QtPlatform platform(places);
     UseMachine(platform);
+    const QString journals = plan.Out + "/journal";
+    QDir(journals).removeRecursively();
+    KeepJournals(QFile::encodeName(journals).toStdString(), LocalTime);
     try {
         Evening(plan).Spend();
     } catch (const StepFailed& failed) {
