@@ -88,6 +88,13 @@ void History::Forget(HistoryEnd why) noexcept
         watcher->Ended(why);
 }
 
+void History::End() noexcept
+{
+    Fold();
+    if (!isOpen && !steps.empty())
+        Forget(HistoryEnd::OtherTeam);
+}
+
 void History::EndWithoutRoom() noexcept
 {
     outOfRoom = true;

@@ -105,6 +105,9 @@ public:
     // where somebody has asked for it, from then on; a number that no offer has is passed over.
     void Watch(int offer) noexcept;
 
+    // Makes all that was done so far part of the beginning: it can no longer be undone.
+    void End() noexcept;
+
     // Opens a step. Within an open one it is part of that. What it changed until it is closed is one step, unless nothing
     // differs: then nothing happened. A step of the drag of the step before it is merged with it, under the later words. What
     // had been undone cannot be redone behind it, and a step for another team forgets all before it.

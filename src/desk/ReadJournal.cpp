@@ -163,8 +163,13 @@ private:
     {
         TeamWork& work = WorkOf(team);
         work.Add(change, byStep);
-        if (byStep)
-            work.Time = now;
+        if (!byStep)
+            return;
+        work.Time = now;
+        if (!Within(change, DeskTable::Offers, DeskTable::Offers).IsEmpty())
+            read.OffersBy = team;
+        if (!Within(change, DeskTable::Ranking, DeskTable::Ranking).IsEmpty())
+            read.RankingBy = team;
     }
 
     bool TakeStep(Fields& fields)

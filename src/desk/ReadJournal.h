@@ -19,10 +19,12 @@ struct UnsavedWork {
 // What is to be brought back of a journal: how the league was when its last whole entry was written.
 struct JournalRead {
     JournalHead Head;
-    ByteDifference Beginning;           // what changed in front of the first step that can be undone
-    std::vector<Step> Steps;            // in their order; a password alone leaves one without a change
-    std::size_t Done = 0;               // how many of them are not undone
-    std::vector<int> Teams;             // those that a step was for, in order of their first one
+    ByteDifference Beginning; // what changed in front of the first step that can be undone
+    std::vector<Step> Steps;  // in their order; a password alone leaves one without a change
+    std::size_t Done = 0;     // how many of them are not undone
+    std::vector<int> Teams;   // those that a step was for, in order of their first one
+    int OffersBy = 0;         // the team that changed the offers by a step last, and the ranking; 0 = none
+    int RankingBy = 0;
     std::optional<UnsavedWork> Unsaved; // of the team that worked last, if there is any
     std::size_t Whole = 0;              // how many bytes the head and the whole entries are
     Seal Sealed = 0;                    // of the last of them

@@ -23,4 +23,14 @@ void BeginHistory()
         TheHistory->Begin();
 }
 
+void GiveUpWorkOfOthers(int team, const std::function<void()>& give)
+{
+    History& history = OpenHistory();
+    const auto isOwn = [team](const Step* step) { return step != nullptr && step->Label.Team == team; };
+    if (isOwn(history.ToUndo()) || isOwn(history.ToRedo()))
+        history.End();
+    give();
+    history.Fold();
+}
+
 } // namespace dravik

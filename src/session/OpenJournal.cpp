@@ -11,6 +11,7 @@
 
 #include <algorithm>
 #include <memory>
+#include <new>
 #include <system_error>
 #include <utility>
 
@@ -89,26 +90,14 @@ void GoOnWith(const FoundJournal& journal)
     OpenHistory().TellTo(journals.Writer.get());
 }
 
-// For which team a table of the market was changed last; 0 where no step says so.
-int TeamAtWorkOn(DeskTable table, const JournalRead& read)
-{
-    for (std::size_t step = read.Done; step-- > 0;) {
-        RunReader runs(read.Steps[step].Change.Stored());
-        while (const auto run = runs.Next())
-            if (run->Table == table)
-                return read.Steps[step].Label.Team;
-    }
-    return 0;
-}
-
 // The screens of the market begin empty: what is back there is kept for its team, as what stood on a screen that closed.
 void KeepMarketOf(const JournalRead& read)
 {
     KeptMarket& kept = KeptWork();
-    kept.OffersBy = TeamAtWorkOn(DeskTable::Offers, read);
+    kept.OffersBy = read.OffersBy;
     if (std::vector<FreeAgentOffer> written = WrittenOffers(OpenMarket().Offers); !written.empty())
         kept.Offers[kept.OffersBy] = std::move(written);
-    kept.RankingBy = TeamAtWorkOn(DeskTable::Ranking, read);
+    kept.RankingBy = read.RankingBy;
     if (OpenMarket().Ranking[0] != 0)
         kept.Rankings[kept.RankingBy] = OpenMarket().Ranking;
 }
@@ -197,28 +186,36 @@ bool BringBackWork()
         return false;
     History& history = OpenHistory();
     history.Fold();
-    if (history.ToUndo() != nullptr || history.IsOpen()) {
+    if (history.ToUndo() != nullptr || history.IsOpen() || history.IsOutOfRoom()) {
         Refuse("The work that was not saved cannot be brought back behind what has been done since. Undo that first.");
         return false;
     }
 
     const auto leagueBefore = Copy(OpenLeague);
     const auto marketBefore = std::make_unique<Market>(OpenMarket());
+    const KeptMarket keptBefore = KeptWork();
     history.TellTo(nullptr);
     OpenLeague = *TheJournals.Beginning;
     EmptyOpenMarket();
     history.Begin();
-    const std::string refused = BringBack(history, OpenLeague, OpenMarket(), journal->Read);
+    std::string refused;
+    try {
+        refused = BringBack(history, OpenLeague, OpenMarket(), journal->Read);
+        if (refused.empty())
+            KeepMarketOf(journal->Read);
+    } catch (const std::bad_alloc&) {
+        refused = "There is no room for it.";
+    }
     if (!refused.empty()) {
         OpenLeague = *leagueBefore;
         OpenMarket() = *marketBefore;
+        KeptWork() = keptBefore;
         history.Begin();
         history.TellTo(TheJournals.Writer.get());
         Refuse("The work that was not saved cannot be brought back. " + refused);
         return false;
     }
     Modified = true;
-    KeepMarketOf(journal->Read);
     GoOnWith(*journal);
     Offer(std::nullopt);
     return true;

@@ -646,5 +646,23 @@ TEST_F(ReplayTest, WithoutRoomItsBytesArePutAllTheSame)
     EXPECT_EQ(small.ToUndo(), nullptr);
 }
 
+TEST_F(HistoryTest, WhatEndsIsPartOfTheBeginning)
+{
+    Pay(70);
+    Pay(40);
+    history.Undo();
+    HistoryNotes told;
+    history.TellTo(&told);
+    history.End();
+    EXPECT_EQ(history.Undo(), Turned::Nothing);
+    EXPECT_EQ(history.Redo(), Turned::Nothing);
+    EXPECT_THAT(told.Heard, ::testing::ElementsAre("other team"));
+    history.End();
+    EXPECT_EQ(told.Heard.size(), 1U) << "nothing is left to end";
+    Pay(30);
+    history.Undo();
+    EXPECT_EQ(OwnTeam.Cash, 70);
+}
+
 } // namespace
 } // namespace dravik

@@ -4,6 +4,7 @@
 #include "OnDraftScreen.h"
 #include "OnHistory.h"
 #include "OnOfferScreen.h"
+#include "session/OpenHistory.h"
 
 namespace dravik {
 namespace {
@@ -82,6 +83,28 @@ TEST_F(BringBackOffers, NobodySeesThoseOfAnotherTeam)
     EXPECT_FALSE(CanBringBack());
     EXPECT_EQ(UndoWords(Offers()), "") << "the offers of another team are no step of this one";
     EXPECT_EQ(OfferOf(1).Salary, 0);
+    Click(Offers().cmdExit);
+    Open(5);
+    EXPECT_TRUE(CanBringBack());
+}
+
+TEST_F(BringBackOffers, NoStepOfAnotherTeamBringsThemBackForIt)
+{
+    OfferAndLeave();
+    {
+        const OpenStep step = OpenHistory().Open({.Words = "Pay", .Where = "Team", .Team = 6, .Drag = 0});
+        Teams[6].Cash = 5;
+    }
+    Open(6);
+    EXPECT_EQ(UndoWords(Offers()), "");
+    Undo(Offers());
+    EXPECT_EQ(OfferOf(1).Salary, 0);
+    EXPECT_EQ(Teams[6].Cash, 5);
+    Enter(Offers().txtOffer, "900000");
+    Offers().lstPlayers->setFocus();
+    Undo(Offers());
+    EXPECT_EQ(OfferOf(1).Salary, 0);
+    EXPECT_EQ(UndoWords(Offers()), "");
     Click(Offers().cmdExit);
     Open(5);
     EXPECT_TRUE(CanBringBack());
@@ -173,6 +196,25 @@ TEST_F(BringBackRanking, TheScreenStartsEmptyAndBringsItBackInOneStep)
     Undo(Draft());
     EXPECT_THAT(Ranking(), IsEmpty());
     EXPECT_TRUE(CanBringBack());
+}
+
+TEST_F(BringBackRanking, NoStepOfAnotherTeamBringsItBackForIt)
+{
+    TeamMaker other(6);
+    Choose({0, 1});
+    Draft().close();
+    Settle();
+    {
+        const OpenStep step = OpenHistory().Open({.Words = "Pay", .Where = "Team", .Team = 6, .Drag = 0});
+        Teams[6].Cash = 5;
+    }
+    CurrentTeam = 6;
+    TheStage.Open("Draft", Main());
+    Settle();
+    EXPECT_EQ(UndoWords(Draft()), "");
+    Undo(Draft());
+    EXPECT_THAT(Ranking(), IsEmpty());
+    EXPECT_FALSE(CanBringBack());
 }
 
 TEST_F(BringBackRanking, AFileIsLoadedInOneStep)

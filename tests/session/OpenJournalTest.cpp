@@ -154,6 +154,22 @@ TEST_F(OpenJournalTest, OffersAndARankingAreKeptForTheirTeamWhenTheyAreBack)
     EXPECT_EQ(KeptWork().Rankings[Own][0], 20001);
 }
 
+TEST_F(OpenJournalTest, OffersAreKeptForTheirTeamWhenAnotherOneWorkedLast)
+{
+    (void)OpenMarket();
+    {
+        const OpenStep offer =
+            OpenHistory().Open({.Words = "Change Salary", .Where = "Free Agents", .Team = Own, .Drag = 0});
+        OpenHistory().Watch(7);
+        OpenMarket().Offers[7].Salary = 750000;
+    }
+    Pay(90, Own + 1);
+    Begin();
+    ASSERT_TRUE(BringBackWork());
+    EXPECT_EQ(KeptWork().OffersBy, static_cast<int>(Own));
+    EXPECT_EQ(KeptWork().Offers[Own].size(), 1U);
+}
+
 TEST_F(OpenJournalTest, WorkIsBroughtBackAndCanBeUndoneAndGoesOn)
 {
     Pay(90);

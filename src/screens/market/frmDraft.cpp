@@ -8,6 +8,7 @@
 #include "screens/market/TellTakenIn.h"
 #include "screens/panels/NameSearch.h"
 #include "screens/platform/CodePage.h"
+#include "session/OpenHistory.h"
 #include "session/OpenJournal.h"
 #include "session/OpenMarket.h"
 #include "session/Session.h"
@@ -20,10 +21,11 @@ namespace dravik {
 void frmDraft::FormLoad()
 {
     // A ranking of his own that is given up is a step, so that the way back leads to it.
+    const auto begin = [this] { ranking = {}; };
     if (std::exchange(KeptWork().RankingBy, OwnNumber()) == OwnNumber())
-        RunStep("Begin a new draft list", [this] { ranking = {}; });
-    else
-        ranking = {};
+        RunStep("Begin a new draft list", begin);
+    else if (ranking[0] != 0)
+        GiveUpWorkOfOthers(OwnNumber(), begin);
     Reporting(Machine(), " in FormLoad frmFantasyEntryDraftClient!", [this] {
         CentreOnScreen();
         if (!TeamTable::Has(CurrentTeam)) {

@@ -102,10 +102,12 @@ void frmFreeAgentClient::BeginOffers()
     const std::vector<FreeAgentOffer> given = WrittenOffers(offers);
     for (const FreeAgentOffer& offer : given) // a history that has begun since knows of none of them
         WatchOffer(static_cast<int>(offer.Id));
-    if (areOwn && !given.empty())
+    if (given.empty())
+        begin();
+    else if (areOwn)
         RunStep("Begin new offers", begin);
     else
-        begin();
+        GiveUpWorkOfOthers(OwnNumber(), begin);
     KeptWork().OffersBy = OwnNumber();
 }
 
