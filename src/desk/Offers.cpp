@@ -33,27 +33,57 @@ bool IsWritten(const FreeAgentOffer& offer)
     return offer.Salary != 0 || offer.Duration != 0 || offer.Bonus != 0 || !offer.Comment.Trimmed().empty();
 }
 
+// Hears which limit does not hold, in words unless it goes without saying, and what is taken instead.
+using TellsLimit = std::function<void(const std::string& words, int limit)>;
+
+// A salary within the league's limits. The least has the last word, though it may be more than the most.
+double SalaryWithinLimits(const Work& work, double salary, const TellsLimit& tell)
+{
+    const League& rules = work.League.LeagueData;
+    const auto take = [&](const char* words, long long limit) {
+        tell(words + Money(work.Shown, limit), static_cast<int>(limit));
+        salary = static_cast<double>(limit);
+    };
+    if (salary > static_cast<double>(rules.MaxSalary))
+        take("Maximum Salary is ", rules.MaxSalary);
+    if (salary < static_cast<double>(rules.MinSalary))
+        take("Minimum Salary is ", rules.MinSalary);
+    return salary;
+}
+
+double YearsWithinLimits(double years, const TellsLimit& tell)
+{
+    const auto take = [&](const std::string& words, int limit) {
+        tell(words, limit);
+        years = limit;
+    };
+    if (years > MostYears)
+        take(YearsLimitWords(), MostYears);
+    if (years < 0)
+        take("", 0);
+    return years;
+}
+
+// Tells of a limit where something was typed, and shows there what is taken.
+TellsLimit TellInBox(const Work& work, const TakesInstead& instead)
+{
+    return [&work, &instead](const std::string& words, int limit) {
+        if (!words.empty())
+            work.Says.ShowBox(words, box::Warning);
+        instead(limit);
+    };
+}
+
 // Brings an offer that was made elsewhere within the limits that hold where one is typed, and tells of it.
 void HoldToLimits(const Work& work, PersonId who, FreeAgentOffer& offer, std::vector<std::string>& told)
 {
-    const League& rules = work.League.LeagueData;
-    const auto tell = [&](const std::string& words) {
-        told.push_back(NameOfNumber(work.League, who.CommonId()) + ": " + words);
+    const TellsLimit tell = [&](const std::string& words, int /*limit*/) {
+        if (!words.empty())
+            told.push_back(NameOfNumber(work.League, who.CommonId()) + ": " + words);
     };
-    const auto take = [&](const char* words, long long limit) {
-        offer.Salary = limit;
-        tell(words + Money(work.Shown, limit));
-    };
-    if (offer.Salary > rules.MaxSalary)
-        take("Maximum Salary is ", rules.MaxSalary);
-    if (offer.Salary != 0 && offer.Salary < rules.MinSalary)
-        take("Minimum Salary is ", rules.MinSalary);
-    if (offer.Duration > MostYears) {
-        offer.Duration = MostYears;
-        tell(YearsLimitWords());
-    }
-    if (offer.Duration < 0)
-        offer.Duration = 0;
+    if (offer.Salary != 0)
+        offer.Salary = RoundToInt32(SalaryWithinLimits(work, static_cast<double>(offer.Salary), tell));
+    offer.Duration = RoundToInt16(YearsWithinLimits(offer.Duration, tell));
 }
 
 } // namespace
@@ -91,20 +121,10 @@ Entered OfferSalary(const Work& work, OfferTable& offers, PersonId who, std::str
 {
     if (!IsNumber(work, text))
         return Entered::Refused;
-    double salary = LeadingNumber(text);
+    const double salary = LeadingNumber(text);
     if (salary == 0)
         return Entered::NoChange;
-    const auto take = [&](const char* words, long long limit) {
-        work.Says.ShowBox(words + Money(work.Shown, limit), box::Warning);
-        instead(static_cast<int>(limit));
-        salary = static_cast<double>(limit);
-    };
-    const League& rules = work.League.LeagueData;
-    if (salary > static_cast<double>(rules.MaxSalary))
-        take("Maximum Salary is ", rules.MaxSalary);
-    if (salary < static_cast<double>(rules.MinSalary))
-        take("Minimum Salary is ", rules.MinSalary);
-    offers[who.CommonId()].Salary = RoundToInt32(salary);
+    offers[who.CommonId()].Salary = RoundToInt32(SalaryWithinLimits(work, salary, TellInBox(work, instead)));
     return Entered::Stored;
 }
 
@@ -113,18 +133,7 @@ Entered OfferDuration(const Work& work, OfferTable& offers, PersonId who, std::s
 {
     if (!IsNumber(work, text))
         return Entered::Refused;
-    double years = LeadingNumber(text);
-    const auto take = [&](int limit) {
-        instead(limit);
-        years = limit;
-    };
-    if (years > MostYears) {
-        work.Says.ShowBox(YearsLimitWords(), box::Warning);
-        take(MostYears);
-    }
-    if (years < 0)
-        take(0);
-    offers[who.CommonId()].Duration = RoundToInt16(years);
+    offers[who.CommonId()].Duration = RoundToInt16(YearsWithinLimits(LeadingNumber(text), TellInBox(work, instead)));
     return Entered::Stored;
 }
 
