@@ -71,6 +71,7 @@ public:
     void RenameFile(const std::string& from, const std::string& to) override;
     void DeleteFile(const std::string& path) override;
     std::optional<std::string> FindEntry(const std::string& path) override;
+    bool KeepEarlier(const std::string& /*path*/, const std::string& /*when*/) noexcept override { return true; }
 };
 
 // A path in the machine's folder.

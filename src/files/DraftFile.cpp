@@ -47,7 +47,7 @@ bool WriteDraftFile(const Tables& league, const FileAccess& access, int team, co
                     const std::string& target)
 {
     DeleteIfExists(access.Disk, access.WorkFile);
-    ReplacedFile old(access.Disk, target);
+    ReplacedFile old(access, target);
     const auto write = [&](SlotWriter& slots) {
         slots.WriteMagic(StartMagic);
         slots.Write(league.LeagueData.LeagueCode);

@@ -82,7 +82,7 @@ bool WriteLinesFile(Tables& league, const FileAccess& access, int team, const st
 {
     const Team& record = league.Teams[team];
     DeleteIfExists(access.Disk, access.WorkFile);
-    ReplacedFile old(access.Disk, target);
+    ReplacedFile old(access, target);
     RefreshStatus(league.RosterChanges, league.Players);
     RefreshStatus(league.RosterChangesGoalie, league.Goalies);
     const auto write = [&](SlotWriter& slots) {

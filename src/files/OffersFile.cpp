@@ -98,7 +98,7 @@ SavedOffers WriteOffersFile(const Tables& league, const FileAccess& access, cons
                             const std::string& target, OfferTable& offers)
 {
     DeleteIfExists(access.Disk, access.WorkFile);
-    ReplacedFile old(access.Disk, target);
+    ReplacedFile old(access, target);
     SavedOffers saved;
     EachSaved(league.LeagueData, offers, [&](FreeAgentOffer& offer) {
         offer.Team = team;

@@ -3,8 +3,15 @@
 #include "machine/Paths.h"
 
 #include <exception>
+#include <utility>
 
 namespace dravik {
+
+ReplacedFile::ReplacedFile(const FileAccess& access, std::string target) : disk(access.Disk), path(std::move(target))
+{
+    if (access.BeforeReplaced)
+        access.BeforeReplaced(path);
+}
 
 ReplacedFile::~ReplacedFile()
 {

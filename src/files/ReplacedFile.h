@@ -1,9 +1,8 @@
 #pragma once
 
-#include "machine/Disk.h"
+#include "files/FileAccess.h"
 
 #include <string>
-#include <utility>
 
 namespace dravik {
 
@@ -12,7 +11,7 @@ namespace dravik {
 // holds no more.
 class ReplacedFile {
 public:
-    ReplacedFile(Disk& on, std::string target) : disk(on), path(std::move(target)) {}
+    ReplacedFile(const FileAccess& access, std::string target);
     ReplacedFile(const ReplacedFile&) = delete;
     ReplacedFile& operator=(const ReplacedFile&) = delete;
     ~ReplacedFile();

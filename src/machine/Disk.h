@@ -53,6 +53,10 @@ public:
     virtual void DeleteFile(const std::string& path) = 0;
     // The name of the first entry that matches the path, whatever its case; an entry of exactly this name comes first.
     virtual std::optional<std::string> FindEntry(const std::string& path) = 0;
+
+    // Keeps a copy of the file, if there is one, in the folder `Earlier` of the program's, as of `when` (`SortableTime`), beside
+    // the latest others of it. Nothing fails; whether it is kept.
+    virtual bool KeepEarlier(const std::string& path, const std::string& when) noexcept = 0;
 };
 
 } // namespace dravik

@@ -1,12 +1,14 @@
 #include "machine/DiskFiles.h"
 
 #include "league/Failure.h"
+#include "machine/EarlierVersions.h"
 #include "machine/Replacing.h"
 
 #include <algorithm>
 #include <cctype>
 #include <cerrno>
 #include <cstdio>
+#include <exception>
 #include <system_error>
 #ifdef _WIN32
 #include <io.h>
@@ -221,6 +223,15 @@ std::optional<std::string> DiskFiles::FindEntry(const std::string& path)
     if (error)
         FailWith(error, folder / name);
     return found;
+}
+
+bool DiskFiles::KeepEarlier(const std::string& path, const std::string& when) noexcept
+{
+    try {
+        return KeepEarlierVersion(NativePath(path), NativePath(ProgramFolder()) / "Earlier", when);
+    } catch (const std::exception&) {
+        return false;
+    }
 }
 
 } // namespace dravik

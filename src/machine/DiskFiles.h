@@ -16,6 +16,7 @@ public:
     void RenameFile(const std::string& from, const std::string& to) override;
     void DeleteFile(const std::string& path) override;
     std::optional<std::string> FindEntry(const std::string& path) override;
+    bool KeepEarlier(const std::string& path, const std::string& when) noexcept override;
 
 protected:
     // A path of the program as the file system wants it, and the other way round. Here both are the same bytes.
