@@ -107,4 +107,24 @@ std::string BringBack(History& history, Tables& league, Market& market, const Jo
     return {};
 }
 
+std::unique_ptr<Market> MarketOf(const KeptThere& kept)
+{
+    auto market = MakeMarket();
+    auto* offers = reinterpret_cast<unsigned char*>(&market->Offers[OfferTable::first]);
+    auto* ranking = reinterpret_cast<unsigned char*>(&market->Ranking);
+    RunReader reader(kept.Content.Stored());
+    while (const auto run = reader.Next()) {
+        const bool isOffers = run->Table == DeskTable::Offers;
+        std::copy(run->After.begin(), run->After.end(), (isOffers ? offers : ranking) + run->Offset);
+        if (!isOffers)
+            continue;
+        constexpr std::size_t size = sizeof(FreeAgentOffer);
+        for (std::size_t row = run->Offset / size; row <= (run->Offset + run->After.size() - 1) / size; ++row) {
+            const int id = static_cast<int>(OfferTable::first) + static_cast<int>(row);
+            market->Offers[id].Id = id;
+        }
+    }
+    return market;
+}
+
 } // namespace dravik

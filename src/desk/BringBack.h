@@ -2,6 +2,7 @@
 
 #include "desk/ReadJournal.h"
 
+#include <memory>
 #include <string>
 
 namespace dravik {
@@ -11,5 +12,8 @@ namespace dravik {
 // was when he was chosen. What does not fit byte for byte is refused: then all stays as it is, and the answer says so in words;
 // else it is empty. Without room it fails with std::bad_alloc, and nothing has changed.
 std::string BringBack(History& history, Tables& league, Market& market, const JournalRead& journal);
+
+// What stood on a screen of the market that was closed, each offer being the person's in whose row it stands.
+std::unique_ptr<Market> MarketOf(const KeptThere& kept);
 
 } // namespace dravik

@@ -38,7 +38,8 @@ enum class JournalKind : unsigned char {
     Redone,              // the one that was undone last
     Ended,               // no step before this can be undone
     Saved,               // a file of the team
-    BroughtBack          // all of it was done once more; a step without a change is none from here on
+    BroughtBack,         // all of it was done once more; a step without a change is none from here on
+    Kept                 // what stands on a screen of the market, which the team closed
 };
 
 // The files that a manager saves.

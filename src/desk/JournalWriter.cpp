@@ -119,10 +119,14 @@ void JournalWriter::Ended(HistoryEnd why) noexcept
         Write(JournalKind::Ended, [] { return std::string(); });
 }
 
-void JournalWriter::Saved(SavedFile file, int team) noexcept
+void JournalWriter::Saved(SavedFile file, int team) noexcept { Write(JournalKind::Saved, file, team); }
+
+void JournalWriter::Kept(SavedFile file, int team) noexcept { Write(JournalKind::Kept, file, team); }
+
+void JournalWriter::Write(JournalKind kind, SavedFile file, int team) noexcept
 {
     if (hasBegun)
-        Write(JournalKind::Saved, [&] { return BytesOf(Byte(static_cast<long long>(file))) + BytesOf(Int32(team)); });
+        Write(kind, [&] { return BytesOf(Byte(static_cast<long long>(file))) + BytesOf(Int32(team)); });
 }
 
 } // namespace dravik

@@ -31,8 +31,9 @@ public:
     void Redone(const Step& step) noexcept override;
     void Ended(HistoryEnd why) noexcept override;
 
-    // A file of `team` was saved.
+    // A file of `team` was saved; its screen of the offers or the ranking was closed.
     void Saved(SavedFile file, int team) noexcept;
+    void Kept(SavedFile file, int team) noexcept;
 
     // Whether a step has been written.
     [[nodiscard]] bool HasBegun() const { return hasBegun; }
@@ -41,6 +42,7 @@ public:
 private:
     template <class Tells>
     void Write(JournalKind kind, const Tells& tells) noexcept;
+    void Write(JournalKind kind, SavedFile file, int team) noexcept;
     void Append(std::string& to, JournalKind kind, std::string_view told);
 
     JournalHead head;

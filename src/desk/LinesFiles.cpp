@@ -26,7 +26,7 @@ void BehindWait(Platform& machine, const std::function<void()>& endWait, Body&& 
 } // namespace
 
 void SaveLines(const Work& work, const FileAccess& files, Platform& machine, int team,
-               const std::function<void()>& endWait, const std::function<void()>& saved)
+               const std::function<void()>& endWait, const std::function<void(const std::string& path)>& saved)
 {
     if (!JudgeDay(work, team, Side::Pro, 1, false)) {
         work.Says.ShowBox("Lines #1 are incomplete!" + std::string(LineBreak) +
@@ -40,7 +40,7 @@ void SaveLines(const Work& work, const FileAccess& files, Platform& machine, int
         const std::string target = LinesFilePath(work.League, files.Disk, team);
         if (!WriteLinesFile(work.League, files, team, target))
             return; // told, and the wait screen stays
-        saved();
+        saved(target);
         endWait();
         work.Says.ShowBox("Lines file for " + work.League.Teams[team].Name.Trimmed() + " successfully save at" +
                               std::string(LineBreak) + target,

@@ -2,9 +2,7 @@
 
 #include <algorithm>
 #include <array>
-#include <cmath>
 #include <cstring>
-#include <iterator>
 #include <utility>
 
 namespace dravik {
@@ -68,47 +66,10 @@ private:
     std::string_view rest;
 };
 
-// Which tables a file holds, in the order of the files' numbers.
-struct Carried {
-    DeskTable First;
-    DeskTable Last;
-};
-constexpr Carried CarriedBy[] = {{DeskTable::League, DeskTable::GoalieChanges},
-                                 {DeskTable::Offers, DeskTable::Offers},
-                                 {DeskTable::Ranking, DeskTable::Ranking}};
-
-// What a team has done since its files were saved.
-struct TeamWork {
-    struct Since {
-        ByteDifference Change;
-        bool ByStep = false; // not only by what changes outside of them
-    };
-
-    int Team = 0;
-    double Time = 0;
-    std::array<Since, std::size(CarriedBy)> Files;
-
-    [[nodiscard]] bool IsUnsaved() const
-    {
-        return std::any_of(Files.begin(), Files.end(),
-                           [](const Since& since) { return since.ByStep && !since.Change.IsEmpty(); });
-    }
-    void Add(const ByteDifference& change, bool byStep)
-    {
-        for (std::size_t file = 0; file < Files.size(); ++file) {
-            const ByteDifference part = Within(change, CarriedBy[file].First, CarriedBy[file].Last);
-            if (part.IsEmpty())
-                continue;
-            Files[file].Change = Then(Files[file].Change, part);
-            Files[file].ByStep = Files[file].ByStep || byStep;
-        }
-    }
-};
-
 // Follows the entries. One that cannot have been changes nothing.
 class Follower {
 public:
-    explicit Follower(const JournalHead& head) { read.Head = head; }
+    Follower(const JournalHead& head, std::size_t mostWork) : ledger(mostWork) { read.Head = head; }
 
     bool Take(JournalKind kind, double time, std::string_view told)
     {
@@ -130,55 +91,36 @@ public:
         case JournalKind::Ended:
             return fields.AreAllTaken() && End();
         case JournalKind::Saved:
-            return TakeSaved(fields);
+            return TakeFile(fields, SavedFile::Lines, &WorkLedger::Saved);
         case JournalKind::BroughtBack:
-            return fields.AreAllTaken() && DropEmptySteps();
+            return fields.AreAllTaken() && GoOn();
+        case JournalKind::Kept:
+            return TakeFile(fields, SavedFile::Offers, &WorkLedger::Kept);
         }
         return false;
     }
+
+    [[nodiscard]] bool IsTooMuch() { return ledger.Joins().IsTooMuch(); }
 
     JournalRead Result(std::size_t whole, Seal sealed) &&
     {
         read.Whole = whole;
         read.Sealed = sealed;
-        for (const TeamWork& work : works) {
-            read.Teams.push_back(work.Team);
-            if (work.IsUnsaved() && (!read.Unsaved || work.Time >= read.Unsaved->Time))
-                read.Unsaved = {.Team = work.Team, .Time = work.Time};
-        }
+        read.Unsaved = ledger.Unsaved();
+        read.Ledger = ledger;
         return std::move(read);
     }
 
 private:
-    TeamWork& WorkOf(int team)
-    {
-        const auto found =
-            std::find_if(works.begin(), works.end(), [team](const TeamWork& work) { return work.Team == team; });
-        if (found != works.end())
-            return *found;
-        works.push_back({.Team = team, .Time = 0, .Files = {}});
-        return works.back();
-    }
-    void Work(int team, const ByteDifference& change, bool byStep)
-    {
-        TeamWork& work = WorkOf(team);
-        work.Add(change, byStep);
-        if (!byStep)
-            return;
-        work.Time = now;
-        if (!Within(change, DeskTable::Offers, DeskTable::Offers).IsEmpty())
-            read.OffersBy = team;
-        if (!Within(change, DeskTable::Ranking, DeskTable::Ranking).IsEmpty())
-            read.RankingBy = team;
-    }
-
     bool TakeStep(Fields& fields)
     {
         auto label = fields.TakeLabel();
         auto change = label ? fields.TakeDifference() : std::nullopt;
-        if (!change || (!read.Steps.empty() && read.Steps.front().Label.Team != label->Team))
+        if (!change)
             return false;
-        Work(label->Team, *change, true);
+        if (!read.Steps.empty() && read.Steps.front().Label.Team != label->Team)
+            End(); // the program had no room for the others' steps
+        ledger.Step(label->Team, now, *change);
         read.Steps.resize(read.Done);
         read.Steps.push_back({.Label = std::move(*label), .Change = std::move(*change)});
         ++read.Done;
@@ -192,10 +134,13 @@ private:
         if (!more || read.Done == 0 || (merges && read.Steps[read.Done - 1].Label.Team != label->Team))
             return false;
         Step& into = read.Steps[read.Done - 1];
-        ByteDifference both = Then(into.Change, *more);
+        ByteDifference both = ledger.Joins().Then(into.Change, *more);
         if (*isGone && !both.IsEmpty())
             return false;
-        Work(into.Label.Team, *more, merges);
+        if (merges)
+            ledger.Step(into.Label.Team, now, *more);
+        else
+            ledger.Outside(into.Label.Team, *more);
         into.Change = std::move(both);
         if (merges)
             into.Label = std::move(*label);
@@ -206,9 +151,12 @@ private:
     bool TakeBeginning(Fields& fields)
     {
         const auto more = fields.TakeDifference();
-        if (!more || read.Done != 0)
+        if (!more)
             return false;
-        read.Beginning = Then(read.Beginning, *more);
+        if (read.Done != 0)
+            End(); // the program had no room for these steps
+        ledger.Outside(0, *more);
+        read.Beginning = ledger.Joins().Then(read.Beginning, *more);
         return true;
     }
     bool Undo()
@@ -216,7 +164,7 @@ private:
         if (read.Done == 0)
             return false;
         const Step& step = read.Steps[--read.Done];
-        Work(step.Label.Team, Reversed(step.Change), true);
+        ledger.Step(step.Label.Team, now, Reversed(step.Change));
         return true;
     }
     bool Redo()
@@ -224,30 +172,30 @@ private:
         if (read.Done == read.Steps.size())
             return false;
         const Step& step = read.Steps[read.Done++];
-        Work(step.Label.Team, step.Change, true);
+        ledger.Step(step.Label.Team, now, step.Change);
         return true;
     }
     bool End()
     {
         for (std::size_t step = 0; step < read.Done; ++step)
-            read.Beginning = Then(read.Beginning, read.Steps[step].Change);
+            read.Beginning = ledger.Joins().Then(read.Beginning, read.Steps[step].Change);
         read.Steps.clear();
         read.Done = 0;
         return true;
     }
-    bool TakeSaved(Fields& fields)
+    bool TakeFile(Fields& fields, SavedFile first, void (WorkLedger::*took)(SavedFile, int))
     {
         const auto file = fields.Take<Byte>();
         const auto team = fields.Take<Int32>();
-        if (!team || !fields.AreAllTaken() || *file < 1 || static_cast<std::size_t>(*file) > std::size(CarriedBy))
+        if (!team || !fields.AreAllTaken() || *file < static_cast<int>(first) ||
+            *file > static_cast<int>(SavedFile::Ranking))
             return false;
-        for (TeamWork& work : works)
-            if (work.Team == *team)
-                work.Files.at(static_cast<std::size_t>(*file) - 1) = {};
+        (ledger.*took)(static_cast<SavedFile>(static_cast<unsigned char>(*file)), static_cast<int>(*team));
         return true;
     }
-    bool DropEmptySteps()
+    bool GoOn()
     {
+        ledger.BroughtBack();
         const auto isEmpty = [](const Step& step) { return step.Change.IsEmpty(); };
         const auto done = read.Steps.begin() + static_cast<std::ptrdiff_t>(read.Done);
         read.Done -= static_cast<std::size_t>(std::count_if(read.Steps.begin(), done, isEmpty));
@@ -256,18 +204,18 @@ private:
     }
 
     JournalRead read;
-    std::vector<TeamWork> works;
+    WorkLedger ledger;
     double now = 0;
 };
 
 } // namespace
 
-JournalOutcome ReadJournal(std::string_view bytes)
+JournalOutcome ReadJournal(std::string_view bytes, std::size_t mostWork)
 {
     const JournalHeadRead head = ReadJournalHead(bytes);
     if (!head.Head)
         return {.Journal = {}, .Refused = head.Refused};
-    Follower follower(*head.Head);
+    Follower follower(*head.Head, mostWork);
     std::size_t whole = JournalHeadSize();
     Seal sealed = head.Sealed;
     for (;;) {
@@ -283,14 +231,17 @@ JournalOutcome ReadJournal(std::string_view bytes)
             break;
         const auto length = static_cast<std::size_t>(entry.Length);
         const Seal seal = SealOver(sealed, rest.substr(0, sizeof entry + length));
-        if (ReadSeal(rest.substr(sizeof entry + length)) != seal ||
+        if (ReadSeal(rest.substr(sizeof entry + length)) != seal || follower.IsTooMuch() ||
             !follower.Take(static_cast<JournalKind>(static_cast<unsigned char>(entry.Kind)), entry.Time,
                            rest.substr(sizeof entry, length)))
             break;
         whole += sizeof entry + length + SealSize;
         sealed = seal;
     }
-    return {.Journal = std::move(follower).Result(whole, sealed), .Refused = {}};
+    JournalRead read = std::move(follower).Result(whole, sealed);
+    if (follower.IsTooMuch()) // NOLINT(bugprone-use-after-move): what was counted stays
+        return {.Journal = {}, .Refused = "More is told in it than any evening comes to."};
+    return {.Journal = std::move(read), .Refused = {}};
 }
 
 } // namespace dravik

@@ -1,18 +1,23 @@
 #include "screens/Screen.h"
 
+#include "machine/Location.h"
+#include "machine/Paths.h"
 #include "machine/Reporting.h"
 #include "screens/panels/EditBox.h"
 #include "screens/panels/EntryList.h"
 #include "screens/panels/HistoryCommands.h"
 #include "screens/panels/Layouts.h"
+#include "screens/panels/SaveLine.h"
 #include "screens/platform/CodePage.h"
 #include "screens/Stage.h"
 #include "session/OpenHistory.h"
+#include "session/OpenSaves.h"
 #include "session/Session.h"
 
 #include <algorithm>
 #include <QAbstractButton>
 #include <QApplication>
+#include <QClipboard>
 #include <QCloseEvent>
 #include <QLayout>
 #include <QMouseEvent>
@@ -243,8 +248,25 @@ QWidget* Screen::MakeHistoryCommands()
     return history;
 }
 
+QWidget* Screen::MakeSaveLine(SavedFile file)
+{
+    fileOfLine = file;
+    saveLine = new SaveLine(this);
+    const auto path = [file] { return StateOf(file, static_cast<int>(CurrentTeam)).Path; };
+    connect(saveLine, &SaveLine::ShowInFolder, this, [path] {
+        const std::string saved = path();
+        OpenLocation(Machine(), saved.substr(0, saved.size() - GetFileName(saved).size()), NormalWindow);
+    });
+    connect(saveLine, &SaveLine::CopyPath, this, [path] { QApplication::clipboard()->setText(PathToDesktop(path())); });
+    return saveLine;
+}
+
 void Screen::ShowHistory()
 {
+    if (saveLine != nullptr) {
+        const FileState state = StateOf(fileOfLine, static_cast<int>(CurrentTeam));
+        saveLine->Show(ToQString(state.Words()), state.UnsavedSince ? QString() : PathToDesktop(state.Path));
+    }
     if (history == nullptr)
         return;
     const std::string_view here = Owner.NameOf(*this);

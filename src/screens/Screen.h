@@ -12,7 +12,9 @@ namespace dravik {
 class EditBox;
 class EntryList;
 class HistoryCommands;
+class SaveLine;
 class Stage;
+enum class SavedFile : unsigned char;
 
 // What all screens have in common. A screen is made and loaded by the stage, shown, hidden while another one that it
 // opened is up, and unloaded when it closes. It knows the stage and no other screen.
@@ -35,7 +37,7 @@ public:
     // Shows the tables once more, after bytes of them were put back. What a judge repairs on the way does not last.
     virtual void ShowAnew() {}
 
-    // Shows what the commands of the history would do now.
+    // Shows what the commands of the history would do now, and what is saved.
     void ShowHistory();
 
     // Puts the window in the middle of its display, no larger than that.
@@ -73,6 +75,8 @@ protected:
     void RunStep(const QString& words, const std::function<void()>& change, quint64 drag = 0);
     // The two commands of the history, for the footer, with their keys.
     QWidget* MakeHistoryCommands();
+    // The line beside the command that saves `file`, which goes with what is done and saved.
+    QWidget* MakeSaveLine(SavedFile file);
     // Makes `page` what the window shows, with `footer`, if there is one, below it: where the window is too small the page
     // scrolls, and the footer stays. Call it once, when both are filled.
     void SetPage(QWidget* page, QLayout* footer = nullptr);
@@ -97,6 +101,8 @@ private:
     [[nodiscard]] EntryList* ListAtHand() const;
 
     HistoryCommands* history = nullptr;
+    SaveLine* saveLine = nullptr;
+    SavedFile fileOfLine{};
     bool wantsToUnload = false;
     bool unloaded = false;
     QPointer<EntryList> lastList;    // that had the focus

@@ -10,6 +10,9 @@ namespace dravik {
 // as long as the program runs.
 History& OpenHistory();
 
+// Whom it tells what is done, beside those who know what is saved; null for nobody.
+void TellJournal(HistoryWatcher* journal) noexcept;
+
 // Begins it anew with the league as it stands: another one was opened, or none.
 void BeginHistory();
 

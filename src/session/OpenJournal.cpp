@@ -7,6 +7,7 @@
 #include "session/JournalFolder.h"
 #include "session/OpenHistory.h"
 #include "session/OpenMarket.h"
+#include "session/OpenSaves.h"
 #include "session/Session.h"
 
 #include <algorithm>
@@ -53,8 +54,7 @@ bool WriteNew(std::string_view bytes)
 
 void StopWriting() noexcept
 {
-    if (TheJournals.Writer)
-        OpenHistory().TellTo(nullptr);
+    TellJournal(nullptr);
     TheJournals.Writer.reset();
     TheJournals.File.reset();
     TheJournals.CouldNotBegin = false;
@@ -87,17 +87,25 @@ void GoOnWith(const FoundJournal& journal)
     } catch (const std::exception&) { // NOLINT: without it the writer stops, and that is told
     }
     journals.Writer = std::make_unique<JournalWriter>(journal.Read.Sealed, write, journals.Clock);
-    OpenHistory().TellTo(journals.Writer.get());
+    TellJournal(journals.Writer.get());
 }
 
-// The screens of the market begin empty: what is back there is kept for its team, as what stood on a screen that closed.
+// What was kept is kept again. The screens of the market begin empty: what is back there is kept for its team, as what stood on
+// a screen that closed.
 void KeepMarketOf(const JournalRead& read)
 {
     KeptMarket& kept = KeptWork();
-    kept.OffersBy = read.OffersBy;
+    for (const KeptThere& there : read.Ledger.AllKept()) {
+        const auto market = MarketOf(there);
+        if (there.File == SavedFile::Offers)
+            kept.Offers[there.Team] = WrittenOffers(market->Offers);
+        else
+            kept.Rankings[there.Team] = market->Ranking;
+    }
+    kept.OffersBy = read.Ledger.MarketBy(SavedFile::Offers);
     if (std::vector<FreeAgentOffer> written = WrittenOffers(OpenMarket().Offers); !written.empty())
         kept.Offers[kept.OffersBy] = std::move(written);
-    kept.RankingBy = read.RankingBy;
+    kept.RankingBy = read.Ledger.MarketBy(SavedFile::Ranking);
     if (OpenMarket().Ranking[0] != 0)
         kept.Rankings[kept.RankingBy] = OpenMarket().Ranking;
 }
@@ -139,26 +147,27 @@ void BeginJournal() noexcept
         if (journals.Unsaved)
             journals.Beginning = std::move(fresh);
         journals.Writer = std::make_unique<JournalWriter>(journals.Head, std::move(beyond), WriteNew, journals.Clock);
-        History& history = OpenHistory();
-        history.TellTo(nullptr);
-        history.Begin();
-        journals.CouldNotBegin = history.IsOutOfRoom();
+        journals.CouldNotBegin = OpenHistory().IsOutOfRoom();
         if (journals.CouldNotBegin)
             journals.Writer.reset();
         else
-            history.TellTo(journals.Writer.get());
+            TellJournal(journals.Writer.get());
     } catch (const std::exception&) {
         EndJournal();
         journals.CouldNotBegin = true;
     }
 }
 
-void JournalSaved(SavedFile file, int team) noexcept
+void TellJournalSaved(SavedFile file, int team) noexcept
 {
-    if (!TheJournals.Writer)
-        return;
-    OpenHistory().Fold(); // what a save sets right is in the file
-    TheJournals.Writer->Saved(file, team);
+    if (TheJournals.Writer)
+        TheJournals.Writer->Saved(file, team);
+}
+
+void TellJournalKept(SavedFile file, int team) noexcept
+{
+    if (TheJournals.Writer)
+        TheJournals.Writer->Kept(file, team);
 }
 
 std::string UnsavedWorkWords()
@@ -181,7 +190,7 @@ bool BringBackWork()
         Refuse("The work that was not saved cannot be read any more.");
         return false;
     }
-    const std::vector<int>& teams = journal->Read.Teams;
+    const std::vector<int> teams = journal->Read.Ledger.Teams();
     if (!std::all_of(teams.begin(), teams.end(), [](int team) { return CheckPassword(OpenLeague, Machine(), team); }))
         return false;
     History& history = OpenHistory();
@@ -193,25 +202,27 @@ bool BringBackWork()
 
     const auto leagueBefore = Copy(OpenLeague);
     const auto marketBefore = std::make_unique<Market>(OpenMarket());
-    const KeptMarket keptBefore = KeptWork();
-    history.TellTo(nullptr);
+    KeptMarket keptBefore = KeptWork();
+    TellJournal(nullptr);
     OpenLeague = *TheJournals.Beginning;
     EmptyOpenMarket();
     history.Begin();
     std::string refused;
     try {
         refused = BringBack(history, OpenLeague, OpenMarket(), journal->Read);
-        if (refused.empty())
+        if (refused.empty()) {
             KeepMarketOf(journal->Read);
+            TakeOverLedger(journal->Read.Ledger);
+        }
     } catch (const std::bad_alloc&) {
         refused = "There is no room for it.";
     }
     if (!refused.empty()) {
         OpenLeague = *leagueBefore;
         OpenMarket() = *marketBefore;
-        KeptWork() = keptBefore;
+        KeptWork() = std::move(keptBefore);
         history.Begin();
-        history.TellTo(TheJournals.Writer.get());
+        TellJournal(TheJournals.Writer.get());
         Refuse("The work that was not saved cannot be brought back. " + refused);
         return false;
     }

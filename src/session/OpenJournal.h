@@ -14,14 +14,16 @@ namespace dravik {
 // Whoever calls it first is the program.
 void KeepJournals(const std::filesystem::path& folder, JournalWriter::Clock clock);
 
-// Begins a journal of the open league, with the history anew: it was just opened. Nothing is on the disk before the first step.
+// Begins a journal of the open league: it was just opened, and its history begun. Nothing is on the disk before the first step.
 // What cannot be kept is told by `JournalWords`; nothing fails.
 void BeginJournal() noexcept;
 // Ends it: no league is open any more.
 void EndJournal() noexcept;
 
-// A file of `team` was saved.
-void JournalSaved(SavedFile file, int team) noexcept;
+// Writes down that a file of `team` was saved, or that its screen of the offers or the ranking was closed. The history has been
+// folded.
+void TellJournalSaved(SavedFile file, int team) noexcept;
+void TellJournalKept(SavedFile file, int team) noexcept;
 
 // "Work of January 12 2026, 21:03, on the Gulls was not saved.", where a journal of an earlier run holds such work on the open
 // league, begun where it was opened now; empty where none does.

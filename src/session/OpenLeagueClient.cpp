@@ -133,11 +133,15 @@ void OpenLeagueClient(const std::string& path, MainWindow& window)
         ShowLeague(path, outcome.File == SlotFileRead::Damaged, window);
     });
     EmptyOpenMarket(); // offers and ranks of another league's people
+    EndJournal();
     BeginHistory();
     if (isOpen)
         BeginJournal();
-    else
-        EndJournal();
+    TellOfJournal(window);
+}
+
+void TellOfJournal(MainWindow& window)
+{
     window.Tell(QuietLine::UnsavedWork, UnsavedWorkWords());
     window.Tell(QuietLine::JournalUnwritten, JournalWords());
 }

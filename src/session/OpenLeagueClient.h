@@ -40,4 +40,7 @@ public:
 // are told in a quiet line.
 void OpenLeagueClient(const std::string& path, MainWindow& window);
 
+// Says in their quiet lines whether there is work that nobody saved, and whether what is done now is kept.
+void TellOfJournal(MainWindow& window);
+
 } // namespace dravik

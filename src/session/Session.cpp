@@ -3,6 +3,7 @@
 #include "league/Failure.h"
 #include "session/OpenHistory.h"
 #include "session/OpenMarket.h"
+#include "session/OpenSaves.h"
 
 #include <cstring>
 
@@ -66,6 +67,6 @@ void UseMachine(Platform& platform) { TheMachine = &platform; }
 
 Work OpenWork() { return {OpenLeague, Machine(), Machine(), Modified}; }
 
-FileAccess OpenFiles() { return {Machine(), Machine(), Machine(), TempFile}; }
+FileAccess OpenFiles() { return {Machine(), Machine(), Machine(), TempFile, KeepEarlier}; }
 
 } // namespace dravik

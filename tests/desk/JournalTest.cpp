@@ -83,7 +83,7 @@ TEST_F(JournalTest, AStepIsReadAsItWasClosed)
     EXPECT_EQ(read.Head.FileDate, 45999.5);
     EXPECT_EQ(read.Head.Begun, 46000.25);
     EXPECT_EQ(read.Whole, written.size());
-    EXPECT_EQ(read.Teams, std::vector{Own});
+    EXPECT_EQ(read.Ledger.Teams(), std::vector{Own});
 }
 
 TEST_F(JournalTest, WordsThatAreTooLongAreCut)
@@ -163,7 +163,7 @@ TEST_F(JournalTest, AnotherTeamLeavesTheFirstOnesWorkInTheBeginning)
     ASSERT_EQ(read.Steps.size(), 1U);
     EXPECT_EQ(read.Steps[0].Label.Team, 6);
     EXPECT_FALSE(read.Beginning.IsEmpty());
-    EXPECT_EQ(read.Teams, (std::vector{Own, 6}));
+    EXPECT_EQ(read.Ledger.Teams(), (std::vector{Own, 6}));
     ASSERT_TRUE(read.Unsaved);
     EXPECT_EQ(read.Unsaved->Team, 6);
 }
@@ -265,13 +265,87 @@ TEST_F(JournalTest, OffersAndTheRankingAreUnsavedByThemselves)
     EXPECT_TRUE(Read().Unsaved);
     writer.Saved(SavedFile::Offers, Own);
     EXPECT_FALSE(Read().Unsaved);
-    {
-        const OpenStep step = history.Open(Label("Rank"));
-        market->Ranking[0] = 17;
-    }
+    Rank(17);
     EXPECT_TRUE(Read().Unsaved);
     writer.Saved(SavedFile::Ranking, Own);
     EXPECT_FALSE(Read().Unsaved);
+}
+
+TEST_F(JournalTest, WhatWasKeptIsUnsavedThoughItsScreenBeginsAnew)
+{
+    Rank(17);
+    writer.Kept(SavedFile::Ranking, Own);
+    Rank(0);
+    ASSERT_TRUE(Read().Unsaved);
+    ASSERT_EQ(Read().Ledger.AllKept().size(), 1U);
+    EXPECT_EQ(Read().Ledger.AllKept()[0].Team, Own);
+    EXPECT_EQ(Read().Ledger.AllKept()[0].File, SavedFile::Ranking);
+    EXPECT_EQ(MarketOf(Read().Ledger.AllKept()[0])->Ranking[0], 17);
+    Rank(18);
+    writer.Saved(SavedFile::Ranking, Own);
+    EXPECT_FALSE(Read().Unsaved);
+}
+
+TEST_F(JournalTest, WhatWasSavedAndKeptIsNotUnsavedWhenItsScreenBeginsAnew)
+{
+    OfferTo(17, 500000);
+    writer.Saved(SavedFile::Offers, Own);
+    writer.Kept(SavedFile::Offers, Own);
+    {
+        const OpenStep step = history.Open(Label("Begin new offers"));
+        market->Offers[17] = {};
+    }
+    EXPECT_FALSE(Read().Unsaved);
+    OfferTo(18, 500000);
+    EXPECT_TRUE(Read().Unsaved);
+}
+
+TEST_F(JournalTest, OffersThatWereTakenBackWithoutBeingKeptAreNoWork)
+{
+    OfferTo(17, 500000);
+    {
+        const OpenStep step = history.Open(Label("Delete"));
+        market->Offers[17] = {};
+    }
+    EXPECT_FALSE(Read().Unsaved);
+    EXPECT_TRUE(Read().Ledger.AllKept().empty());
+}
+
+TEST_F(JournalTest, LookingAtAPersonBehindTheSaveIsNoWork)
+{
+    OfferTo(17, 500000);
+    writer.Saved(SavedFile::Offers, Own);
+    {
+        const OpenStep step = history.Open(Label("Offer"));
+        market->Offers[17].Salary = 600000;
+    }
+    history.Undo();
+    history.Watch(18);
+    market->Offers[18].Id = 18;
+    history.Fold();
+    EXPECT_FALSE(Read().Unsaved);
+}
+
+TEST_F(JournalTest, KeptOffersAreThePeopleSInWhoseRowsTheyStand)
+{
+    OfferTo(17, 500000);
+    OfferTo(11000, 600000);
+    writer.Kept(SavedFile::Offers, Own);
+    ASSERT_EQ(Read().Ledger.AllKept().size(), 1U);
+    const auto kept = MarketOf(Read().Ledger.AllKept()[0]);
+    EXPECT_EQ(kept->Offers[17].Id, 17);
+    EXPECT_EQ(kept->Offers[17].Salary, 500000);
+    EXPECT_EQ(kept->Offers[11000].Id, 11000);
+    EXPECT_EQ(kept->Offers[11000].Duration, 2);
+    EXPECT_EQ(kept->Offers[18].Id, 0);
+}
+
+TEST_F(JournalTest, WhatIsBroughtBackIsKept)
+{
+    Rank(17);
+    JournalWriter(Read().Sealed, Sink(), Clock()); // it goes on
+    ASSERT_EQ(Read().Ledger.AllKept().size(), 1U);
+    EXPECT_EQ(MarketOf(Read().Ledger.AllKept()[0])->Ranking[0], 17);
 }
 
 TEST_F(JournalTest, WhatIsRepairedBehindTheSaveIsNoWorkByItself)
@@ -419,30 +493,56 @@ TEST_F(JournalTest, AnEntryThatCannotHaveBeenIsNone)
     EXPECT_FALSE(IsTaken(JournalKind::Saved, "\1"));
     EXPECT_FALSE(IsTaken(JournalKind::Saved, '\1' + team5 + 'x'));
     EXPECT_FALSE(IsTaken(JournalKind{0}, ""));
-    EXPECT_FALSE(IsTaken(JournalKind{10}, ""));
+    EXPECT_TRUE(IsTaken(JournalKind::Kept, '\2' + team5));
+    EXPECT_TRUE(IsTaken(JournalKind::Kept, '\3' + team5));
+    EXPECT_FALSE(IsTaken(JournalKind::Kept, '\1' + team5)) << "lines stand on no screen of the market";
+    EXPECT_FALSE(IsTaken(JournalKind::Kept, '\4' + team5));
+    EXPECT_FALSE(IsTaken(JournalKind{11}, ""));
     history.Redo();
     EXPECT_FALSE(IsTaken(JournalKind::Redone, "")) << "no step is undone";
-    EXPECT_FALSE(IsTaken(JournalKind::FoldedIntoBeginning, "")) << "a step is done";
     EXPECT_TRUE(IsTaken(JournalKind::Folded, std::string(1, '\0')));
     EXPECT_FALSE(IsTaken(JournalKind::Folded, "\2"));
     EXPECT_FALSE(IsTaken(JournalKind::Folded, "\1")) << "something of the step is left";
 }
 
-TEST_F(JournalTest, AStepOfAnotherTeamFollowsAnEnd)
+TEST_F(JournalTest, AStepOfAnotherTeamEndsThoseBefore)
 {
     Pay(90);
     std::string told = LastTold();
     const std::size_t team = told.find(std::string("\5\0\0\0", 4));
     ASSERT_NE(team, std::string::npos);
-    EXPECT_TRUE(IsTaken(JournalKind::Closed, told));
-    told[team] = 6;
-    EXPECT_FALSE(IsTaken(JournalKind::Closed, told));
     for (std::size_t length = 0; length < team; ++length)
         EXPECT_FALSE(IsTaken(JournalKind::Closed, told.substr(0, length))) << length;
     history.Undo();
-    EXPECT_FALSE(IsTaken(JournalKind::Closed, told)) << "the other's can still be redone";
-    Append(JournalKind::Ended, "");
-    EXPECT_TRUE(IsTaken(JournalKind::Closed, told));
+    told[team] = 6;
+    Append(JournalKind::Closed, told);
+    const JournalRead read = Read();
+    ASSERT_EQ(read.Steps.size(), 1U) << "the other's cannot be redone any more";
+    EXPECT_EQ(read.Steps[0].Label.Team, 6);
+    EXPECT_TRUE(read.Beginning.IsEmpty());
+}
+
+// A history forgets its oldest steps where there is no room for them, and says nothing of it.
+TEST_F(JournalTest, WhatChangesInFrontOfForgottenStepsEndsThem)
+{
+    Pay(90);
+    const ByteDifference paid = Read().Steps[0].Change;
+    const ByteDifference back = Reversed(paid);
+    Append(JournalKind::FoldedIntoBeginning, std::string(back.Stored().begin(), back.Stored().end()));
+    EXPECT_TRUE(Read().Steps.empty());
+    EXPECT_TRUE(Read().Beginning.IsEmpty()) << "the one took back the other";
+    EXPECT_EQ(Read().Whole, written.size());
+}
+
+TEST_F(JournalTest, MoreThanAnEveningComesToIsRefusedInWords)
+{
+    Pay(90);
+    Pay(80);
+    const std::size_t size = Read().Steps[0].Change.Stored().size();
+    EXPECT_TRUE(ReadJournal(written, 8 * size).Journal);
+    const JournalOutcome outcome = ReadJournal(written, size);
+    EXPECT_FALSE(outcome.Journal);
+    EXPECT_EQ(outcome.Refused, "More is told in it than any evening comes to.");
 }
 
 // ---- What stops it -------------------------------------------------------------------------------------------------------

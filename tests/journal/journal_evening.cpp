@@ -31,6 +31,7 @@ void OpenRolledLeague(unsigned seed, const char* folder)
     for (Team& team : Teams)
         team.Password = "";
     KeepJournals(folder, LocalTime);
+    BeginHistory();
     BeginJournal();
 }
 

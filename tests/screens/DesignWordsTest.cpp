@@ -116,6 +116,9 @@ TEST_F(DesignWordsTest, OfTheTeamScreen)
         {"cmdExit", "E&xit"},
         {"cmdUndo", "\u21B6", "Nothing to undo"},
         {"cmdRedo", "\u21B7", "Nothing to redo"},
+        {"lblSaved", ""},
+        {"cmdShowInFolder", "Show &in Folder"},
+        {"cmdCopyPath", "Cop&y Path"},
     };
     const auto screen = std::make_unique<frmTeam>(TheStage); // too large for a stack
     EXPECT_THAT(DesignWordsOf(*screen), UnorderedElementsAreArray(expected));
@@ -297,6 +300,9 @@ TEST_F(DesignWordsTest, OfTheOffers)
         {"cmdExit", "E&xit"},
         {"cmdUndo", "\u21B6", "Nothing to undo"},
         {"cmdRedo", "\u21B7", "Nothing to redo"},
+        {"lblSaved", ""},
+        {"cmdShowInFolder", "Show &in Folder"},
+        {"cmdCopyPath", "Cop&y Path"},
     };
     AddElements(expected, "txtStats", 0, 16);
     AddElements(expected, "lblStatLabel", 1, 16);
@@ -334,6 +340,9 @@ TEST_F(DesignWordsTest, OfTheDraftList)
         {"cmdExit", "E&xit"},
         {"cmdUndo", "\u21B6", "Nothing to undo"},
         {"cmdRedo", "\u21B7", "Nothing to redo"},
+        {"lblSaved", ""},
+        {"cmdShowInFolder", "Show &in Folder"},
+        {"cmdCopyPath", "Cop&y Path"},
     };
     const auto screen = std::make_unique<frmDraft>(TheStage); // too large for a stack
     EXPECT_THAT(DesignWordsOf(*screen), UnorderedElementsAreArray(expected));

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "session/JournalFolder.h"
+#include "session/OpenHistory.h"
 #include "session/OpenJournal.h"
 
 #include <filesystem>
@@ -15,6 +16,7 @@ public:
     explicit JournalKept(const std::string& in) : folder(std::filesystem::path(in) / "journal")
     {
         KeepJournals(folder, [] { return 46000.0; });
+        BeginHistory();
         BeginJournal();
     }
     JournalKept(const JournalKept&) = delete;

@@ -131,10 +131,17 @@ TEST_F(JournalLinesTest, ThePasswordOfTheTeamIsAskedFor)
     EXPECT_THAT(Machine.Questions(), ElementsAre(Question{"Password Required!"}, Question{"Password Required!"}));
 }
 
-TEST_F(JournalLinesTest, ForgetForgetsIt)
+TEST_F(JournalLinesTest, ForgetAsksAndForgetsIt)
 {
+    const Box question{box::YesNo, "Are you sure you want to forget the work that was not saved?"};
     WorkAndDie();
+    Machine.Answer(button::No);
     Click(Command("cmdForget"));
+    EXPECT_THAT(Machine.TakeBoxes(), ElementsAre(question));
+    EXPECT_TRUE(Words().isVisible());
+    Machine.Answer(button::Yes);
+    Click(Command("cmdForget"));
+    EXPECT_THAT(Machine.TakeBoxes(), ElementsAre(question));
     ExpectNothingSaid();
     EXPECT_EQ(Teams[Own].Cash, 100);
     EXPECT_TRUE(std::filesystem::is_empty(folder));

@@ -41,6 +41,7 @@ inline std::vector<DesignWords> MainScreenWords(const std::string& title, const 
         {"cmdOpen", "Open ..."},
         {"lblChosen", chosen},
         {"lblChosenPlace", ""},
+        {"lblSaved", ""},
         {"cmdViewTeam", "View Team"},
         {"cmdSetRoster", "Set Roster"},
         {"cmdSetLines", "Set Lines"},

@@ -73,7 +73,7 @@ protected:
                 Machine.Answer(button::No);
         };
     }
-    ~UndoneWalk() override { OpenHistory().TellTo(nullptr); }
+    ~UndoneWalk() override { TellJournal(nullptr); }
 
     [[nodiscard]] int Roll(int count) { return static_cast<int>(dice() % static_cast<unsigned>(count)); }
     template <class T>
@@ -163,7 +163,7 @@ protected:
         CurrentTeam = OwnTeam;
         OpenHistory().Begin();
         Beginning beginning;
-        OpenHistory().TellTo(&beginning);
+        TellJournal(&beginning);
         Screen* screen = OpenSomething();
         for (int press = 0; press < presses; ++press) {
             if (screen == nullptr || Roll(8) == 0) {
@@ -186,7 +186,7 @@ protected:
         EXPECT_EQ(PressUntilNothing(*screen, "cmdRedo"), undone);
         EXPECT_TRUE(ImageOfDesk() == end);
         Leave(*screen);
-        OpenHistory().TellTo(nullptr);
+        TellJournal(nullptr);
     }
 
     // How often it could be pressed.

@@ -247,6 +247,7 @@ TEST_F(OfferSaving, AFailedCompressionIsToldAndLeavesTheWaitScreen)
     Machine.FailFileOperation(4, failure::DiskFull);
     EXPECT_THAT(Save(), ElementsAre(Box{16, "61 - Disk full in Zlib Compress!"}));
     EXPECT_TRUE(Machine.WaitShown);
+    EXPECT_EQ(fs::remove_all(Machine.InFolder("Earlier")), 2U) << "the folder, and what the save would have replaced";
     EXPECT_TRUE(fs::is_empty(Machine.Folder()));
 }
 

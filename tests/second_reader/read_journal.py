@@ -119,7 +119,7 @@ class Work:
     """What the entries come to."""
 
     def __init__(self):
-        self.beginning, self.steps, self.done, self.saved = {}, [], 0, []
+        self.beginning, self.steps, self.done, self.saved, self.kept = {}, [], 0, [], []
 
     def label(self, source):
         words, where = source.text(), source.text()
@@ -142,7 +142,8 @@ class Work:
     def closed(self, source):
         label = self.label(source)
         change = difference(source.rest())
-        demand(not self.steps or self.steps[0]["team"] == label["team"], "a step of another team")
+        if self.steps and self.steps[0]["team"] != label["team"]:
+            self.end()
         self.steps[self.done :] = [dict(label, change=change)]
         self.done += 1
 
@@ -153,8 +154,10 @@ class Work:
         self.more(source, None)
 
     def folded_into_beginning(self, source):
-        demand(self.done == 0, "a step is done")
-        self.beginning = then(self.beginning, difference(source.rest()))
+        change = difference(source.rest())
+        if self.done:
+            self.end()
+        self.beginning = then(self.beginning, change)
 
     def undone(self, source):
         source.end()
@@ -168,15 +171,25 @@ class Work:
 
     def ended(self, source):
         source.end()
+        self.end()
+
+    def end(self):
         for step in self.steps[: self.done]:
             self.beginning = then(self.beginning, step["change"])
         self.steps, self.done = [], 0
 
-    def file_saved(self, source):
+    @staticmethod
+    def file(source, first):
         kind, team = source.number("B"), source.number("i")
         source.end()
-        demand(1 <= kind <= 3, "no such file")
-        self.saved.append([("lines", "offers", "draft")[kind - 1], team])
+        demand(first <= kind <= 3, "no such file")
+        return [("lines", "offers", "draft")[kind - 1], team]
+
+    def file_saved(self, source):
+        self.saved.append(self.file(source, 1))
+
+    def market_kept(self, source):
+        self.kept.append(self.file(source, 2))
 
     def brought_back(self, source):
         source.end()
@@ -185,7 +198,7 @@ class Work:
 
     def take(self, kind, told):
         kinds = (self.closed, self.merged, self.folded, self.folded_into_beginning, self.undone, self.redone,
-                 self.ended, self.file_saved, self.brought_back)
+                 self.ended, self.file_saved, self.brought_back, self.market_kept)
         demand(1 <= kind <= len(kinds), "no such kind")
         kinds[kind - 1](Bytes(told))
 
@@ -224,6 +237,7 @@ def read(data):
         "whole": at,
         "done": work.done,
         "saved": work.saved,
+        "kept": work.kept,
         "beginning": told(work.beginning),
         "steps": [dict(step, change=told(step["change"])) for step in work.steps],
     }

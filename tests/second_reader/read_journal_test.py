@@ -64,6 +64,7 @@ class ReadJournalTest(unittest.TestCase):
         self.assertEqual(read["whole"], len(data))
         self.assertEqual(self.total(read), told["total"])
         self.assertEqual(read["saved"], told["saved"])
+        self.assertEqual(read["kept"], told["kept"])
         labels = [[step["words"], step["where"], step["team"], step["drag"]] for step in read["steps"]]
         self.assertEqual(labels[: read["done"]][::-1], told["done"])
         self.assertEqual(labels[read["done"] :], told["undone"])

@@ -42,6 +42,8 @@ public:
                 history.Undo();
             else if (turn == 4)
                 history.Redo();
+            else if (turn == 5)
+                Keep();
             TakeStep(step, 2 * step == steps ? Other : team);
         }
         for (auto undone = dice.Roll(0, 3); undone > 0; --undone)
@@ -64,7 +66,7 @@ public:
                 if (before[at] != after[at] && !IsPassword(table, at))
                     tell(table, at, before[at], after[at]);
         }
-        out << "], \"saved\": " << saved << "], \"undone\": [";
+        out << "], \"saved\": [" << saved << "], \"kept\": [" << kept << "], \"undone\": [";
         std::string words;
         int redone = 0;
         for (; history.ToRedo() != nullptr; ++redone) {
@@ -142,12 +144,22 @@ private:
     }
     void Save()
     {
+        const auto file = static_cast<SavedFile>(dice.Roll(1, 3));
+        writer.Saved(file, team);
+        Note(saved, file);
+    }
+    void Keep()
+    {
+        const auto file = static_cast<SavedFile>(dice.Roll(2, 3));
+        writer.Kept(file, team);
+        Note(kept, file);
+    }
+    void Note(std::string& in, SavedFile file) const
+    {
         constexpr const char* names[] = {"lines", "offers", "draft"};
-        const auto kind = dice.Roll(1, 3);
-        writer.Saved(static_cast<SavedFile>(kind), team);
         if (writer.HasBegun())
-            saved +=
-                std::string(saved == "[" ? "" : ", ") + "[\"" + names[kind - 1] + "\", " + std::to_string(team) + ']';
+            in += std::string(in.empty() ? "" : ", ") + "[\"" + names[static_cast<int>(file) - 1] + "\", " +
+                  std::to_string(team) + ']';
     }
 
     static JournalHead Head()
@@ -171,7 +183,8 @@ private:
                              return !file.fail();
                          },
                          [] { return 46000.5; }};
-    std::string saved = "[";
+    std::string saved;
+    std::string kept;
     int team = Own;
 };
 

@@ -3,6 +3,7 @@
 #include "OnClientFile.h"
 #include "session/OpenHistory.h"
 #include "session/OpenMarket.h"
+#include "session/OpenSaves.h"
 #include "support/RealFaults.h"
 
 #include <cstring>
@@ -90,7 +91,7 @@ TEST_F(OpenJournalTest, WithoutAFolderThereIsNone)
     KeepJournals({}, {});
     Open(path);
     Pay(90);
-    JournalSaved(SavedFile::Lines, Own);
+    NoteSaved(SavedFile::Lines, Own, "saved");
     EXPECT_THAT(Journals(), IsEmpty());
     EXPECT_EQ(UnsavedWorkWords(), "");
     EXPECT_FALSE(BringBackWork());
@@ -111,7 +112,7 @@ TEST_F(OpenJournalTest, UnsavedWorkIsTold)
 TEST_F(OpenJournalTest, SavedWorkIsNotTold)
 {
     Pay(90);
-    JournalSaved(SavedFile::Lines, Own);
+    NoteSaved(SavedFile::Lines, Own, "saved");
     Begin();
     EXPECT_EQ(Offered(), "");
 }
@@ -120,7 +121,7 @@ TEST_F(OpenJournalTest, WhatASaveSetsRightIsInItsFile)
 {
     Pay(90);
     RosterChanges[7].Status = 1; // not by the step
-    JournalSaved(SavedFile::Lines, Own);
+    NoteSaved(SavedFile::Lines, Own, "saved");
     OpenHistory().Undo();
     OpenHistory().Redo();
     Begin();
@@ -170,6 +171,22 @@ TEST_F(OpenJournalTest, OffersAreKeptForTheirTeamWhenAnotherOneWorkedLast)
     EXPECT_EQ(KeptWork().Offers[Own].size(), 1U);
 }
 
+TEST_F(OpenJournalTest, WhatWasKeptIsKeptAgainThoughItsScreenHadBegunAnew)
+{
+    const auto rank = [](const char* words, int id) {
+        const OpenStep step = OpenHistory().Open({.Words = words, .Where = "Draft", .Team = Own, .Drag = 0});
+        OpenMarket().Ranking[0] = id;
+    };
+    rank("Add to the draft list", 10007);
+    NoteKept(SavedFile::Ranking, Own);
+    rank("Begin a new draft list", 0);
+    Begin();
+    EXPECT_NE(Offered(), "");
+    ASSERT_TRUE(BringBackWork());
+    EXPECT_EQ(KeptWork().Rankings[Own][0], 10007);
+    EXPECT_EQ(OpenMarket().Ranking[0], 0);
+}
+
 TEST_F(OpenJournalTest, WorkIsBroughtBackAndCanBeUndoneAndGoesOn)
 {
     Pay(90);
@@ -186,7 +203,7 @@ TEST_F(OpenJournalTest, WorkIsBroughtBackAndCanBeUndoneAndGoesOn)
     EXPECT_TRUE(BringBackWork());
     EXPECT_EQ(Teams[Own].Cash, 70);
     EXPECT_EQ(Journals().size(), 1U);
-    JournalSaved(SavedFile::Lines, Own);
+    NoteSaved(SavedFile::Lines, Own, "saved");
     Begin();
     EXPECT_EQ(Offered(), "");
 }
@@ -339,7 +356,7 @@ TEST_F(OpenJournalTest, AnotherFileOfTheLeagueIsAnotherBeginning)
 TEST_F(OpenJournalTest, WhatIsSavedGoesWithTheNextFileOfTheLeague)
 {
     Pay(90);
-    JournalSaved(SavedFile::Lines, Own);
+    NoteSaved(SavedFile::Lines, Own, "saved");
     Begin();
     EXPECT_EQ(Journals().size(), 1U);
     LeagueData.FileDate = 45001.5;

@@ -35,10 +35,12 @@ inline bool CheckInput(std::string_view text, InputMode mode, bool required, boo
 inline bool CheckPassword(int team) { return CheckPassword(OpenLeague, Machine(), team); }
 
 // The files.
+// As the session hands them out, but that nobody keeps what is replaced.
+inline FileAccess WritersFiles() { return {Machine(), Machine(), Machine(), TempFile}; }
 inline std::string LinesFilePath(int team) { return LinesFilePath(OpenLeague, Machine(), team); }
 inline bool WriteLinesFile(int team, const std::string& target)
 {
-    return WriteLinesFile(OpenLeague, OpenFiles(), team, target);
+    return WriteLinesFile(OpenLeague, WritersFiles(), team, target);
 }
 inline TeamFileRead ReadLinesFile(const std::string& path)
 {
@@ -47,13 +49,13 @@ inline TeamFileRead ReadLinesFile(const std::string& path)
 inline std::string DraftFilePath(int team) { return DraftFilePath(OpenLeague, Machine(), team); }
 inline bool WriteDraftFile(int team, const DraftRanking& ranking, const std::string& target)
 {
-    return WriteDraftFile(OpenLeague, OpenFiles(), team, ranking, target);
+    return WriteDraftFile(OpenLeague, WritersFiles(), team, ranking, target);
 }
 inline std::string OffersFilePath(int team) { return OffersFilePath(OpenLeague, Machine(), team); }
 inline OffersTally TallyOffers(int team, const OfferTable& offers) { return TallyOffers(OpenLeague, team, offers); }
 inline SavedOffers WriteOffersFile(int team, const std::string& target, OfferTable& offers)
 {
-    return WriteOffersFile(OpenLeague, OpenFiles(), Machine(), team, target, offers);
+    return WriteOffersFile(OpenLeague, WritersFiles(), Machine(), team, target, offers);
 }
 inline void ExportRatings(const std::string& folder) { ExportRatings(OpenLeague, Machine(), folder); }
 

@@ -67,11 +67,7 @@ void frmAbout::FormLoad()
     });
 }
 
-void frmAbout::lblWebSite_Click()
-{
-    constexpr int normalWindow = 1;
-    OpenLocation(Machine(), FromQString(lblWebSite->text()), normalWindow);
-}
+void frmAbout::lblWebSite_Click() { OpenLocation(Machine(), FromQString(lblWebSite->text()), NormalWindow); }
 
 void frmAbout::cmdExit_Click() { Unload(); }
 

@@ -16,6 +16,7 @@
 #include "screens/Shown.h"
 #include "screens/Stage.h"
 #include "session/OpenJournal.h"
+#include "session/OpenSaves.h"
 #include "session/Session.h"
 
 #include <QMenuBar>
@@ -181,6 +182,9 @@ QWidget* frmMain::MakeTeamBar()
     lblChosenPlace->setObjectName("lblChosenPlace");
     QHBoxLayout* names = MakeRow({lblChosen});
     names->addWidget(lblChosenPlace, 1);
+    lblSaved = new ElidedLabel(bar, ElidedLabel::Words::Muted);
+    lblSaved->setObjectName("lblSaved");
+    names->addWidget(lblSaved);
     column->addLayout(names);
 
     QHBoxLayout* commands = MakeRow({});
@@ -292,6 +296,7 @@ void frmMain::PlaceTeam()
 
 void frmMain::ShowChosenTeam()
 {
+    lblSaved->setText(ToQString(StateOfTeam(static_cast<int>(CurrentTeam)).Words()));
     if (!TeamTable::Has(CurrentTeam)) {
         lblChosen->setText("No Team is Selected!");
         lblChosenPlace->clear();
@@ -421,12 +426,6 @@ void frmMain::mnuDraft_Click()
         Open(Window::Draft);
 }
 
-void frmMain::TellOfJournal()
-{
-    Tell(QuietLine::UnsavedWork, UnsavedWorkWords());
-    Tell(QuietLine::JournalUnwritten, JournalWords());
-}
-
 void frmMain::cmdBringBack_Click()
 {
     Reporting(Machine(), " in cmdBringBack!", [this] {
@@ -435,13 +434,17 @@ void frmMain::cmdBringBack_Click()
         PlaceTeam(); // a team may have had another name
         Owner.ShowAnew();
     });
-    TellOfJournal();
+    TellOfJournal(*this);
 }
 
 void frmMain::cmdForget_Click()
 {
-    ForgetWork();
-    TellOfJournal();
+    Reporting(Machine(), " in cmdForget!", [] {
+        if (Machine().ShowBox("Are you sure you want to forget the work that was not saved?", box::YesNo) ==
+            button::Yes)
+            ForgetWork();
+    });
+    TellOfJournal(*this);
 }
 
 void frmMain::mnuAbout_Click() { Open(Window::About); }

@@ -70,11 +70,9 @@ private:
     void ShowChosenTeam();
     // Whether a team is chosen, which is told when not, and its password is proved.
     bool TeamIsProved();
-    // Tells whether there is work to be brought back, and whether what is done is kept.
-    void TellOfJournal();
 
     QLabel* lblTitle;
-    QLabel* lblChosen = nullptr;
+    QLabel *lblChosen = nullptr, *lblSaved = nullptr;
     QLabel* lblChosenPlace = nullptr;
     QPushButton *cmdOpen, *cmdBringBack, *cmdForget;
     QWidget* lists; // the two conferences

@@ -9,8 +9,8 @@
 #include "screens/panels/NameSearch.h"
 #include "screens/platform/CodePage.h"
 #include "session/OpenHistory.h"
-#include "session/OpenJournal.h"
 #include "session/OpenMarket.h"
+#include "session/OpenSaves.h"
 #include "session/Session.h"
 
 #include <algorithm>
@@ -42,8 +42,10 @@ void frmDraft::FormLoad()
 
 void frmDraft::FormUnload()
 {
-    if (ranking[0] != 0)
-        KeptWork().Rankings[OwnNumber()] = ranking;
+    if (ranking[0] == 0)
+        return;
+    KeptWork().Rankings[OwnNumber()] = ranking;
+    NoteKept(SavedFile::Ranking, OwnNumber());
 }
 
 void frmDraft::ShowKept()
@@ -197,12 +199,13 @@ void frmDraft::cmdSaveToFile_Click()
         BehindWait([&] {
             saved = SaveRanking(OpenLeague, OpenFiles(), OwnNumber(), ranking, DraftType);
             if (saved)
-                JournalSaved(SavedFile::Ranking, OwnNumber());
+                NoteSaved(SavedFile::Ranking, OwnNumber(), DraftFilePath(OpenLeague, Machine(), OwnNumber()));
             return saved.has_value();
         });
         if (saved)
             Machine().ShowBox(*saved, box::Information);
     });
+    ShowHistory();
 }
 
 void frmDraft::cmdBringBack_Click()

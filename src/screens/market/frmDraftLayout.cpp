@@ -3,6 +3,7 @@
 #include "screens/panels/Labels.h"
 #include "screens/panels/Layouts.h"
 #include "session/OpenMarket.h"
+#include "session/OpenSaves.h"
 
 // What the draft screen is made of and where it stands.
 namespace dravik {
@@ -42,7 +43,8 @@ frmDraft::frmDraft(Stage& stage) : Screen(stage, "frmDraft"), ranking(OpenMarket
     column->addLayout(lists, 1);
     column->addSpacing(Gap);
 
-    SetPage(content, MakeFooter({cmdSearch, cmdLoad, cmdBringBack}, {MakeHistoryCommands(), cmdSaveToFile, cmdExit}));
+    SetPage(content, MakeFooter({cmdSearch, cmdLoad, cmdBringBack},
+                                {MakeSaveLine(SavedFile::Ranking), MakeHistoryCommands(), cmdSaveToFile, cmdExit}));
     SetTabOrder();
     resize(DefaultSize.expandedTo(content->minimumSizeHint()));
 }

@@ -14,8 +14,8 @@
 #include "screens/platform/CodePage.h"
 #include "screens/Stage.h"
 #include "session/OpenHistory.h"
-#include "session/OpenJournal.h"
 #include "session/OpenMarket.h"
+#include "session/OpenSaves.h"
 #include "session/Session.h"
 
 #include <QApplication>
@@ -152,8 +152,10 @@ void frmFreeAgentClient::FormUnload()
     if (KeptWork().OffersBy != OwnNumber())
         return;
     std::vector<FreeAgentOffer> written = WrittenOffers(offers);
-    if (!written.empty())
-        KeptWork().Offers[OwnNumber()] = std::move(written);
+    if (written.empty())
+        return;
+    KeptWork().Offers[OwnNumber()] = std::move(written);
+    NoteKept(SavedFile::Offers, OwnNumber());
 }
 
 void frmFreeAgentClient::Tell(std::function<void()> box)
@@ -241,9 +243,7 @@ void frmFreeAgentClient::lstPlayers_DblClick()
     });
 }
 
-void frmFreeAgentClient::ShowAnew() { ShowOffersAnew(); }
-
-void frmFreeAgentClient::ShowOffersAnew()
+void frmFreeAgentClient::ShowAnew()
 {
     ShowTally();
     if (chkShowPlayerWithOffer->isChecked())
@@ -337,12 +337,13 @@ void frmFreeAgentClient::cmdSaveToFile_Click()
         BehindWait([&] {
             report = SaveOffers(OpenWork(), OpenFiles(), OwnNumber(), offers);
             if (report && !report->empty())
-                JournalSaved(SavedFile::Offers, OwnNumber());
+                NoteSaved(SavedFile::Offers, OwnNumber(), OffersFilePath(OpenLeague, Machine(), OwnNumber()));
             return report.has_value();
         });
         for (const std::string& page : ReportPages(report.value_or("")))
             Machine().ShowBox(page, box::Information);
     });
+    ShowHistory();
 }
 
 void frmFreeAgentClient::cmdBringBack_Click()
@@ -350,7 +351,7 @@ void frmFreeAgentClient::cmdBringBack_Click()
     ShowWaitingBox();
     Reporting(Machine(), " in cmdBringBack!", [this] {
         TellLeftOut(TakeInOffers(OpenWork(), OwnNumber(), offers, KeptWork().Offers[OwnNumber()], WatchOffer));
-        ShowOffersAnew();
+        ShowAnew();
     });
 }
 
@@ -362,7 +363,7 @@ void frmFreeAgentClient::cmdLoad_Click()
                                                           "DRVK Offers File (*.dvf) |*.dvf|All Files (*.*) | *.*");
         TellLoaded(
             LoadBehindWait([&] { return LoadOffers(OpenWork(), OpenFiles(), OwnNumber(), path, offers, WatchOffer); }));
-        ShowOffersAnew();
+        ShowAnew();
     });
 }
 

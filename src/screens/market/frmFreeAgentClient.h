@@ -106,8 +106,6 @@ private:
     void ShowTally();
     // Offers, as long as there are none, to bring back those that were kept.
     void ShowKept();
-    // Shows the offers once more, behind a change of all of them.
-    void ShowOffersAnew();
 
     OfferTable& offers; // those of the open market
     Int16 offerIndex;

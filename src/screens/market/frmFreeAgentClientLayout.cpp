@@ -3,6 +3,7 @@
 #include "screens/panels/Labels.h"
 #include "screens/panels/Layouts.h"
 #include "session/OpenMarket.h"
+#include "session/OpenSaves.h"
 
 #include <algorithm>
 #include <QGroupBox>
@@ -40,7 +41,8 @@ frmFreeAgentClient::frmFreeAgentClient(Stage& stage) : Screen(stage, "frmFreeAge
     column->addLayout(middle, 1);
     column->addLayout(MakeLimitRow());
 
-    SetPage(content, MakeFooter({cmdSearch, cmdLoad, cmdBringBack}, {MakeHistoryCommands(), cmdSaveToFile, cmdExit}));
+    SetPage(content, MakeFooter({cmdSearch, cmdLoad, cmdBringBack},
+                                {MakeSaveLine(SavedFile::Offers), MakeHistoryCommands(), cmdSaveToFile, cmdExit}));
     SetTabOrder();
     resize(DefaultSize.expandedTo(content->minimumSizeHint()));
 }

@@ -12,7 +12,7 @@
 #include "screens/platform/CodePage.h"
 #include "screens/Shown.h"
 #include "screens/Stage.h"
-#include "session/OpenJournal.h"
+#include "session/OpenSaves.h"
 #include "session/Session.h"
 
 #include <cmath>
@@ -263,8 +263,9 @@ void frmTeam::cmdSaveToFile_Click()
     WaitEnd endWait;
     Reporting(Machine(), " in cmdSaveToFile!", [&] {
         SaveLines(OpenWork(), OpenFiles(), Machine(), OwnNumber(), std::ref(endWait),
-                  [] { JournalSaved(SavedFile::Lines, OwnNumber()); });
+                  [](const std::string& path) { NoteSaved(SavedFile::Lines, OwnNumber(), path); });
     });
+    ShowHistory();
     if (endWait.Came())
         FormActivate();
 }

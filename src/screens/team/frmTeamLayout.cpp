@@ -2,6 +2,7 @@
 #include "screens/panels/Labels.h"
 #include "screens/panels/Layouts.h"
 #include "screens/team/frmTeam.h"
+#include "session/OpenSaves.h"
 
 #include <QGroupBox>
 
@@ -180,6 +181,7 @@ QWidget* frmTeam::MakeFileGroup()
     loads->setObjectName("lblLoadLineCaption");
     loads->setBuddy(lblLoadLine);
     column->addLayout(MakeFooter({cmdSaveToFile, cmdLoadFile}, {loads, lblLoadLine}));
+    column->addWidget(MakeSaveLine(SavedFile::Lines));
     QHBoxLayout* hint = MakeRow({signSaveHint, lblSaveHint});
     hint->setStretch(1, 1);
     column->addLayout(hint);

@@ -1,0 +1,155 @@
+#include "session/OpenSaves.h"
+
+#include "session/OpenHistory.h"
+#include "session/OpenMarket.h"
+#include "session/Session.h"
+#include "support/ScriptedPlatform.h"
+
+#include <filesystem>
+#include <fstream>
+#include <gtest/gtest.h>
+
+namespace dravik {
+namespace {
+
+namespace fs = std::filesystem;
+
+class OpenSavesTest : public ::testing::Test {
+protected:
+    OpenSavesTest()
+    {
+        UseMachine(Machine);
+        ResetClientVariables();
+        BeginHistory();
+        TellTimeBy([this] { return now; });
+    }
+    ~OpenSavesTest() override
+    {
+        TellTimeBy({});
+        ResetClientVariables();
+    }
+
+    void Pay(int cash, int team = Own)
+    {
+        const OpenStep step = OpenHistory().Open({.Words = "Pay", .Where = "Team", .Team = team, .Drag = 0});
+        Teams[team].Cash = cash;
+    }
+    void Rank(int id)
+    {
+        (void)OpenMarket();
+        const OpenStep step = OpenHistory().Open({.Words = "Rank", .Where = "Draft", .Team = Own, .Drag = 0});
+        OpenMarket().Ranking[0] = id;
+    }
+    [[nodiscard]] static std::string Words(SavedFile file = SavedFile::Lines) { return StateOf(file, Own).Words(); }
+    [[nodiscard]] std::string Time(double days) const { return Machine.ShortTime(days); }
+
+    static constexpr int Own = 5;
+    ScriptedPlatform Machine;
+    double now = 46034.5;
+};
+
+TEST_F(OpenSavesTest, NothingIsSaidBeforeAnythingIsDone)
+{
+    EXPECT_EQ(Words(), "");
+    EXPECT_EQ(StateOfTeam(Own).Words(), "");
+}
+
+TEST_F(OpenSavesTest, WhatIsNotSavedIsSaidWithTheTimeOfItsFirstStep)
+{
+    Pay(90);
+    now += 0.1;
+    Pay(80);
+    EXPECT_EQ(Words(), "Not saved since " + Time(46034.5));
+    EXPECT_EQ(Words(SavedFile::Offers), "");
+    EXPECT_EQ(StateOf(SavedFile::Lines, Own + 1).Words(), "");
+    EXPECT_EQ(StateOfTeam(Own).Words(), Words());
+}
+
+TEST_F(OpenSavesTest, WhatIsTakenBackIsNoMoreUnsaved)
+{
+    Pay(90);
+    OpenHistory().Undo();
+    EXPECT_EQ(Words(), "");
+    OpenHistory().Redo();
+    EXPECT_NE(Words(), "");
+}
+
+TEST_F(OpenSavesTest, ASaveIsSaidWithItsTimeAndPathUntilTheNextStep)
+{
+    Pay(90);
+    now += 0.1;
+    NoteSaved(SavedFile::Lines, Own, "/folder/Gulls.dvl");
+    EXPECT_EQ(Words(), "Saved " + Time(now));
+    EXPECT_EQ(StateOf(SavedFile::Lines, Own).Path, "/folder/Gulls.dvl");
+    now += 0.1;
+    Pay(80);
+    EXPECT_EQ(Words(), "Not saved since " + Time(now));
+    OpenHistory().Undo();
+    EXPECT_EQ(Words(), "Saved " + Time(46034.6)) << "the file holds it";
+}
+
+TEST_F(OpenSavesTest, ATimeOfAnotherDayIsSaidWithTheDay)
+{
+    Pay(90);
+    now += 1;
+    EXPECT_EQ(Words(), "Not saved since " + Machine.LongDate(46034.5) + ", " + Time(46034.5));
+}
+
+TEST_F(OpenSavesTest, OfATeamsFilesTheOneThatIsLongestUnsavedIsSaid)
+{
+    Rank(17);
+    now += 0.1;
+    Pay(90);
+    NoteSaved(SavedFile::Lines, Own, "lines");
+    EXPECT_EQ(Words(SavedFile::Ranking), "Not saved since " + Time(46034.5));
+    EXPECT_EQ(StateOfTeam(Own).Words(), Words(SavedFile::Ranking));
+    now += 0.1;
+    NoteSaved(SavedFile::Ranking, Own, "list");
+    EXPECT_EQ(StateOfTeam(Own).Words(), "Saved " + Time(now));
+    EXPECT_EQ(StateOfTeam(Own).Path, "list");
+}
+
+TEST_F(OpenSavesTest, WhatIsKeptOnTheMarketStaysUnsavedAndWhatWasSavedStaysSaved)
+{
+    Rank(17);
+    NoteKept(SavedFile::Ranking, Own);
+    Rank(0);
+    EXPECT_EQ(Words(SavedFile::Ranking), "Not saved since " + Time(now));
+    Rank(18);
+    NoteSaved(SavedFile::Ranking, Own, "list");
+    NoteKept(SavedFile::Ranking, Own);
+    Rank(0);
+    EXPECT_EQ(Words(SavedFile::Ranking), "Saved " + Time(now));
+}
+
+TEST_F(OpenSavesTest, AnotherLeagueBeginsWithNothing)
+{
+    Pay(90);
+    NoteSaved(SavedFile::Lines, Own, "lines");
+    Pay(80);
+    BeginHistory();
+    EXPECT_EQ(Words(), "");
+}
+
+TEST_F(OpenSavesTest, WhatASaveReplacesIsKept)
+{
+    const std::string path = Machine.InFolder("Gulls.dvl");
+    std::ofstream(path) << "old";
+    OpenFiles().BeforeReplaced(path);
+    NoteSaved(SavedFile::Lines, Own, path);
+    EXPECT_EQ(Words(), "Saved " + Time(now));
+    EXPECT_TRUE(fs::exists(Machine.InFolder("Earlier/Gulls 2026-01-12 12.00.00.dvl")));
+}
+
+TEST_F(OpenSavesTest, WhereThatFailsTheLineSaysSo)
+{
+    const std::string path = Machine.InFolder("Gulls.dvl");
+    std::ofstream(path) << "old";
+    std::ofstream(Machine.InFolder("Earlier")) << "no folder";
+    OpenFiles().BeforeReplaced(path);
+    NoteSaved(SavedFile::Lines, Own, path);
+    EXPECT_EQ(Words(), "Saved " + Time(now) + "; the version before could not be kept");
+}
+
+} // namespace
+} // namespace dravik
