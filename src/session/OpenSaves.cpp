@@ -161,6 +161,7 @@ void TakeOverLedger(const WorkLedger& ledger)
 {
     TheSaves.Ledger = ledger;
     TheSaves.Ledger.Joins() = Joining();
+    TheSaves.Ledger.BroughtBack();
 }
 
 void ForgetSaves() noexcept { TheSaves.Done.clear(); }

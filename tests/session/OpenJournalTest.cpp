@@ -187,6 +187,25 @@ TEST_F(OpenJournalTest, WhatWasKeptIsKeptAgainThoughItsScreenHadBegunAnew)
     EXPECT_EQ(OpenMarket().Ranking[0], 0);
 }
 
+TEST_F(OpenJournalTest, WhatIsBackIsUnsavedWhateverItsScreenBeginsAnew)
+{
+    const auto rank = [](int id) {
+        const OpenStep step = OpenHistory().Open({.Words = "Rank", .Where = "Draft", .Team = Own, .Drag = 0});
+        OpenMarket().Ranking[0] = id;
+    };
+    (void)OpenMarket();
+    rank(10007);
+    Begin();
+    EXPECT_FALSE(StateOf(SavedFile::Ranking, Own).UnsavedSince);
+    ASSERT_TRUE(BringBackWork());
+    EXPECT_TRUE(StateOf(SavedFile::Ranking, Own).UnsavedSince);
+    rank(0);
+    EXPECT_TRUE(StateOf(SavedFile::Ranking, Own).UnsavedSince);
+    rank(10007);
+    NoteSaved(SavedFile::Ranking, Own, "saved");
+    EXPECT_FALSE(StateOf(SavedFile::Ranking, Own).UnsavedSince);
+}
+
 TEST_F(OpenJournalTest, WorkIsBroughtBackAndCanBeUndoneAndGoesOn)
 {
     Pay(90);
