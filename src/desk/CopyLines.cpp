@@ -23,17 +23,19 @@ void TellCopied(Voice& says, const std::string& from, const std::string& to)
 
 } // namespace
 
+void CopyDay(const Lines& from, Lines& to)
+{
+    for (const DaySlot& slot : DaySlots)
+        At(to, slot) = At(from, slot);
+    to.Strategy = from.Strategy;
+    to.PullGoalerMinGoal = from.PullGoalerMinGoal;
+    to.PullGoalerMinPct = from.PullGoalerMinPct;
+}
+
 void CopyLines(const Work& work, int team, Side side, int from, int to)
 {
-    Reporting(work.Says, " in Copy!", [&] {
-        const Lines& source = LinesOf(work.League, team, from, side);
-        Lines& target = LinesOf(work.League, team, to, side);
-        for (const DaySlot& slot : DaySlots)
-            At(target, slot) = At(source, slot);
-        target.Strategy = source.Strategy;
-        target.PullGoalerMinGoal = source.PullGoalerMinGoal;
-        target.PullGoalerMinPct = source.PullGoalerMinPct;
-    });
+    Reporting(work.Says, " in Copy!",
+              [&] { CopyDay(LinesOf(work.League, team, from, side), LinesOf(work.League, team, to, side)); });
 }
 
 void CopyLinesToDay(const Work& work, int team, Side side, int from, int lastDay)

@@ -5,7 +5,10 @@
 
 namespace dravik {
 
-// Copies one day (1..10) of `team` (1..100) to another: all slots, the strategy and the goalie pull; the reserved words stay.
+// Makes a line-up another one's twin: all slots, the strategy and the goalie pull; the reserved words stay.
+void CopyDay(const Lines& from, Lines& to);
+
+// Copies one day (1..10) of `team` (1..100) to another, as above.
 // A team or day out of range is told as failure 9 in Copy, and nothing is done.
 void CopyLines(const Work& work, int team, Side side, int from, int to);
 

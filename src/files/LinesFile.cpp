@@ -102,6 +102,21 @@ bool WriteLinesFile(Tables& league, const FileAccess& access, int team, const st
     return true;
 }
 
+TeamFileRead ReadTeamOfLinesFile(const Tables& league, const FileAccess& access, int team, const std::string& path,
+                                 Team& record)
+{
+    const auto content = std::make_unique<Content>();
+    const auto takeBack = [&] { *content = {}; };
+    const auto read = [&](SlotReader& slots) {
+        ReadContent(slots, *content, league, team);
+        return content->EndFits;
+    };
+    const TeamFileRead outcome = ReadTeamFile(access, path, SlotLength, read, takeBack);
+    if (outcome == TeamFileRead::Loaded)
+        record = content->Team;
+    return outcome;
+}
+
 TeamFileRead ReadLinesFile(Tables& league, const FileAccess& access, int team, const std::string& path)
 {
     DeleteIfExists(access.Disk, access.WorkFile);

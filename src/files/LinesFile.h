@@ -22,4 +22,9 @@ bool WriteLinesFile(Tables& league, const FileAccess& access, int team, const st
 // behind is deleted first. Failures are thrown.
 TeamFileRead ReadLinesFile(Tables& league, const FileAccess& access, int team, const std::string& path);
 
+// Reads the record of `team` alone out of that file into `record`, and changes no table. A file that is none of this league and
+// this team, or whose end is wrong, is refused.
+TeamFileRead ReadTeamOfLinesFile(const Tables& league, const FileAccess& access, int team, const std::string& path,
+                                 Team& record);
+
 } // namespace dravik

@@ -119,6 +119,11 @@ TEST_F(DesignWordsTest, OfTheTeamScreen)
         {"lblSaved", ""},
         {"cmdShowInFolder", "Show &in Folder"},
         {"cmdCopyPath", "Cop&y Path"},
+        {"cmdTakeLines", "Ta&ke Lines From ..."},
+        {"mnuTakeBoth", "Pro &and Farm Lines ..."},
+        {"mnuTakePro", "&Pro Lines ..."},
+        {"mnuTakeFarm", "&Farm Lines ..."},
+        {"mnuMovedOn", "Moved &On by the Days Played Since"},
     };
     const auto screen = std::make_unique<frmTeam>(TheStage); // too large for a stack
     EXPECT_THAT(DesignWordsOf(*screen), UnorderedElementsAreArray(expected));

@@ -4,11 +4,13 @@
 #include "desk/FirstDay.h"
 #include "desk/LinesFiles.h"
 #include "desk/Password.h"
+#include "desk/TakeLines.h"
 #include "desk/TeamMoney.h"
 #include "machine/Reporting.h"
 #include "rules/LineJudge.h"
 #include "rules/RosterJudge.h"
 #include "rules/SeasonProjection.h"
+#include "screens/panels/TellTakenIn.h"
 #include "screens/platform/CodePage.h"
 #include "screens/Shown.h"
 #include "screens/Stage.h"
@@ -280,6 +282,19 @@ void frmTeam::cmdLoadFile_Click()
     });
     if (endWait.Came())
         FormActivate();
+}
+
+void frmTeam::cmdTakeLines_Click() { takeMenu->popup(cmdTakeLines->mapToGlobal(QPoint(0, cmdTakeLines->height()))); }
+
+void frmTeam::TakeLinesFrom(const std::vector<Side>& sides)
+{
+    ReportingUnlessCancelled(Machine(), " in cmdTakeLines!", [&] {
+        const std::string path = Machine().OpenFileDialog(Machine().ProgramFolder(),
+                                                          "DRVK Client File (*.dvl) |*.dvl|All Files (*.*) | *.*");
+        TellLoaded(LoadBehindWait(
+            [&] { return TakeLines(OpenWork(), OpenFiles(), OwnNumber(), path, sides, mnuMovedOn->isChecked()); }));
+    });
+    FormActivate();
 }
 
 void frmTeam::cmdExit_Click() { Owner.Close(*this); }

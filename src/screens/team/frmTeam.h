@@ -3,14 +3,17 @@
 #include "desk/TypedNumber.h"
 #include "league/Team.h"
 #include "machine/Work.h"
+#include "rules/LineSlots.h"
 #include "screens/panels/EditBox.h"
 #include "screens/Screen.h"
 
 #include <functional>
 #include <QGridLayout>
 #include <QLabel>
+#include <QMenu>
 #include <string>
 #include <string_view>
+#include <vector>
 
 namespace dravik {
 
@@ -61,6 +64,9 @@ public:
     void cmdFarmChangeCoach_Click();
     void cmdSaveToFile_Click();
     void cmdLoadFile_Click();
+    // Asks what of another lines file is to be taken; then for the file, and takes the lines of `sides`.
+    void cmdTakeLines_Click();
+    void TakeLinesFrom(const std::vector<Side>& sides);
     void cmdExit_Click();
 
     EditBox *txtTeamName = nullptr, *txtAbbre = nullptr, *txtCity = nullptr, *txtGm = nullptr, *txtProMorale = nullptr;
@@ -76,13 +82,16 @@ public:
     QPushButton *cmdChangeCoach = nullptr, *cmdFarmChangeCoach = nullptr, *cmdFirePro = nullptr;
     QPushButton *cmdFireFarm = nullptr, *cmdProspect = nullptr;
     QPushButton *cmdTicketArena = nullptr, *CmdRoster = nullptr, *cmdLines = nullptr, *cmdFarmLines = nullptr;
-    QPushButton *cmdSaveToFile = nullptr, *cmdLoadFile = nullptr, *cmdExit = nullptr;
+    QPushButton *cmdSaveToFile = nullptr, *cmdLoadFile = nullptr, *cmdTakeLines = nullptr, *cmdExit = nullptr;
+    QMenu* takeMenu = nullptr;
+    QAction* mnuMovedOn = nullptr;
     QLabel* lblSaveHint = nullptr; // why the lines file cannot be saved, empty when it can
 
 private:
     void MakeControls();
     QWidget* MakeCommandGroup();
     QWidget* MakeFileGroup();
+    void MakeTakeMenu();
     QWidget* MakeProGroup();
     QWidget* MakeFarmGroup();
     QWidget* MakeContactGroup();

@@ -118,6 +118,9 @@ void frmTeam::MakeControls()
     cmdTicketArena = MakeCommand("cmdTicketArena", "&Tickets && Arena", [this] { cmdTicketArena_Click(); });
     cmdSaveToFile = MakeCommand("cmdSaveToFile", "&Save Lines", [this] { cmdSaveToFile_Click(); });
     cmdLoadFile = MakeCommand("cmdLoadFile", "L&oad Lines ...", AsStep("Load Lines", [this] { cmdLoadFile_Click(); }));
+    cmdTakeLines = MakeCommand("cmdTakeLines", "Ta&ke Lines From ...", [this] { cmdTakeLines_Click(); });
+    cmdTakeLines->setFocusPolicy(Qt::NoFocus);
+    MakeTakeMenu();
     cmdExit = MakeCommand("cmdExit", "E&xit", [this] { cmdExit_Click(); });
     cmdChangeFinance = MakeCommand("cmdChangeFinance", "Change &Bank Account ...",
                                    AsStep("Change Bank Account", [this] { cmdChangeFinance_Click(); }));
@@ -172,6 +175,31 @@ QWidget* frmTeam::MakeCommandGroup()
     return group;
 }
 
+// What of the lines file is to be taken.
+void frmTeam::MakeTakeMenu()
+{
+    struct Choice {
+        const char* Name;
+        const char* Words;
+        std::vector<Side> Sides;
+    };
+    const Choice choices[] = {{"mnuTakeBoth", "Pro &and Farm Lines ...", {Side::Pro, Side::Farm}},
+                              {"mnuTakePro", "&Pro Lines ...", {Side::Pro}},
+                              {"mnuTakeFarm", "&Farm Lines ...", {Side::Farm}}};
+    takeMenu = new QMenu(this);
+    for (const Choice& choice : choices) {
+        QAction* action = takeMenu->addAction(choice.Words);
+        action->setObjectName(choice.Name);
+        connect(action, &QAction::triggered, this,
+                AsStep("Take Lines", [this, sides = choice.Sides] { TakeLinesFrom(sides); }));
+    }
+    takeMenu->addSeparator();
+    mnuMovedOn = takeMenu->addAction("Moved &On by the Days Played Since");
+    mnuMovedOn->setObjectName("mnuMovedOn");
+    mnuMovedOn->setCheckable(true);
+    mnuMovedOn->setChecked(true);
+}
+
 QWidget* frmTeam::MakeFileGroup()
 {
     auto* group = MakeGroup("grpLinesFile", "Lines File", this);
@@ -180,7 +208,7 @@ QWidget* frmTeam::MakeFileGroup()
     auto* loads = new MutedLabel("Times Loaded", group);
     loads->setObjectName("lblLoadLineCaption");
     loads->setBuddy(lblLoadLine);
-    column->addLayout(MakeFooter({cmdSaveToFile, cmdLoadFile}, {loads, lblLoadLine}));
+    column->addLayout(MakeFooter({cmdSaveToFile, cmdLoadFile, cmdTakeLines}, {loads, lblLoadLine}));
     column->addWidget(MakeSaveLine(SavedFile::Lines));
     QHBoxLayout* hint = MakeRow({signSaveHint, lblSaveHint});
     hint->setStretch(1, 1);

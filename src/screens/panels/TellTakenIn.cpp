@@ -1,4 +1,4 @@
-#include "screens/market/TellTakenIn.h"
+#include "screens/panels/TellTakenIn.h"
 
 #include "machine/Message.h"
 #include "screens/BehindWait.h"
