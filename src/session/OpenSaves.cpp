@@ -129,7 +129,8 @@ void NoteSaved(SavedFile file, int team, const std::string& path) noexcept
     TellJournalSaved(file, team);
     try {
         TheSaves.Ledger.Saved(file, team);
-        TheSaves.Done[{file, team}] = {.Time = Now(), .Path = path, .IsEarlierKept = TheSaves.IsEarlierKept};
+        TheSaves.Done[{file, team}] = {
+            .Time = Now(), .Path = path, .IsEarlierKept = std::exchange(TheSaves.IsEarlierKept, true)};
     } catch (const std::exception&) {
         TheSaves.IsLost = true;
     }
@@ -164,7 +165,11 @@ void TakeOverLedger(const WorkLedger& ledger)
     TheSaves.Ledger.BroughtBack();
 }
 
-void ForgetSaves() noexcept { TheSaves.Done.clear(); }
+void ForgetSaves() noexcept
+{
+    TheSaves.Done.clear();
+    TheSaves.IsEarlierKept = true;
+}
 
 void TellTimeBy(std::function<double()> clock) { TheSaves.Clock = std::move(clock); }
 

@@ -149,6 +149,8 @@ TEST_F(OpenSavesTest, WhereThatFailsTheLineSaysSo)
     OpenFiles().BeforeReplaced(path);
     NoteSaved(SavedFile::Lines, Own, path);
     EXPECT_EQ(Words(), "Saved " + Time(now) + "; the version before could not be kept");
+    NoteSaved(SavedFile::Offers, Own, "of another file");
+    EXPECT_EQ(Words(SavedFile::Offers), "Saved " + Time(now));
 }
 
 } // namespace
