@@ -16,8 +16,8 @@ struct FileAccess {
     Voice& Says;
     dravik::Settings& Settings;
     std::string WorkFile;
-    std::function<void(const std::string& path)> BeforeReplaced =
-        {}; // hears of a file before a save takes it from its place
+    // Hears of a file before a save takes it from its place.
+    std::function<void(const std::string& path)> BeforeReplaced = {};
 };
 
 // How slot files are to be read and written at this moment.
