@@ -6,6 +6,7 @@
 
 #include "bench/FullTeam.h"
 #include "bench/Ratio.h"
+#include "desk/LinesOfAllDays.h"
 #include "makers/Makers.h"
 #include "rules/Finance.h"
 #include "rules/LineJudge.h"
@@ -61,6 +62,21 @@ void UseFullLeague()
 }
 
 void Nothing() {}
+void EmptyAllDays()
+{
+    for (int day = 1; day <= LineDays; ++day)
+        WipesLines(OpenLeague, Machine(), Own, day, true);
+}
+void FillAllDays()
+{
+    for (int day = 1; day <= LineDays; ++day)
+        AutoLines(OpenWork(), Own, false, day);
+}
+void LookAtAllDays()
+{
+    static const auto scratch = MakeTables();
+    benchmark::DoNotOptimize(dravik::LookAtAllDays(OpenLeague, Machine(), Own, Side::Pro, *scratch).data());
+}
 void EmptyDay() { WipesLines(OpenLeague, Machine(), Own, 1, true); }
 void EmptyFarmDay() { WipesLines(OpenLeague, Machine(), Own, 1, false); }
 void RefillFarmDay() { AutoLinesFarm(OpenWork(), Own, false, 1); }
@@ -70,6 +86,7 @@ constexpr double JudgeLimit = 4;
 constexpr double RosterAndCapLimit = 2.4; // one walk for the roster and one for both payrolls
 constexpr double CopyLimit = 1.5;         // of one memcpy
 constexpr double MakerLimit = 30;
+constexpr double AllDaysLimit = 10; // a copy of the league and ten judgements
 
 struct Case {
     const char* Name = nullptr;
@@ -99,6 +116,8 @@ constexpr std::array Cases{
     Case{"JudgeEmptyLines", JudgeLimit, EmptyDay, [] { Demand(!LinesAreComplete()); }},
     Case{"JudgeFarmLines", JudgeLimit, RefillFarmDay, [] { Demand(FarmLinesAreComplete()); }},
     Case{"JudgeEmptyFarmLines", JudgeLimit, EmptyFarmDay, [] { Demand(!FarmLinesAreComplete()); }},
+    Case{"LookAtAllEmptyDays", AllDaysLimit, EmptyAllDays, LookAtAllDays},
+    Case{"LookAtAllDays", AllDaysLimit, FillAllDays, LookAtAllDays},
     Case{"PayPro", JudgeLimit, Nothing, [] { Demand(ProPayroll(OpenLeague, Machine(), Own) > 0); }},
     Case{"PayFarm", JudgeLimit, Nothing, [] { Demand(FarmPayroll(OpenLeague, Machine(), Own) > 0); }},
     Case{"MakeLines", MakerLimit, EmptyDay, [] { AutoLines(OpenWork(), Own, false, 1); }, LinesAreComplete},

@@ -57,8 +57,13 @@ protected:
 TEST_F(LineCaptions, EveryCaptionIsAsWritten)
 {
     EachScreen([](LinesScreen& screen, bool isPro) {
-        Texts commands{"&Auto Lines",       "&Wipe Lines", "&Copy To Day ...",
-                       "Copy To A&ll Days", "E&xit",       "W&hy are my lines incomplete?"};
+        Texts commands{"&Auto Lines",
+                       "&Wipe Lines",
+                       "&Copy To Day ...",
+                       "Copy To A&ll Days",
+                       "Repa&ir All Days",
+                       "E&xit",
+                       "W&hy are my lines incomplete?"};
         if (isPro)
             commands.emplace_back("Pa&rtial Auto Lines");
         Texts buttons;

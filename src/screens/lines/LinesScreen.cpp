@@ -64,7 +64,11 @@ std::function<void()> LinesScreen::AsDayStep(const QString& words, std::function
     return AsStep([this, words] { return words + Subject(); }, std::move(change));
 }
 
-void LinesScreen::CloseMakers() { cmdAutoLines->setEnabled(false); }
+void LinesScreen::CloseMakers()
+{
+    cmdAutoLines->setEnabled(false);
+    cmdRepairAll->setEnabled(false);
+}
 
 void LinesScreen::FindGames()
 {
@@ -182,6 +186,7 @@ void LinesScreen::Check()
 {
     Reporting(Machine(), " in Check!", [this] { CheckInTurn(); });
     RefreshMarks();
+    RefreshDays();
 }
 
 void LinesScreen::JudgeShownDay()
@@ -280,9 +285,17 @@ void LinesScreen::cmdDebug_Click()
     RefreshMarks();
 }
 
-void LinesScreen::cmdCopy_Click() { CopyLinesToDay(OpenWork(), OwnNumber(), Kind.Side, ShownDay(), vscDay->maximum()); }
+void LinesScreen::cmdCopy_Click()
+{
+    CopyLinesToDay(OpenWork(), OwnNumber(), Kind.Side, ShownDay(), vscDay->maximum());
+    RefreshDays();
+}
 
-void LinesScreen::cmdCopyAll_Click() { CopyLinesToAllDays(OpenWork(), OwnNumber(), Kind.Side, ShownDay()); }
+void LinesScreen::cmdCopyAll_Click()
+{
+    CopyLinesToAllDays(OpenWork(), OwnNumber(), Kind.Side, ShownDay());
+    RefreshDays();
+}
 
 void LinesScreen::Copy(int targetDay) { CopyLines(OpenWork(), OwnNumber(), Kind.Side, ShownDay(), targetDay); }
 

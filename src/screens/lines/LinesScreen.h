@@ -10,9 +10,11 @@
 #include "screens/panels/PickList.h"
 #include "screens/panels/ReasonsBox.h"
 #include "screens/panels/StatPanel.h"
+#include "screens/panels/StrengthBars.h"
 #include "screens/panels/Verdict.h"
 #include "screens/Screen.h"
 
+#include <memory>
 #include <QBoxLayout>
 #include <QCheckBox>
 #include <QLabel>
@@ -71,6 +73,7 @@ public:
     void cmdWipeLines_Click();
     void cmdCopy_Click();
     void cmdCopyAll_Click();
+    void cmdRepairAll_Click();
     void cmdDebug_Click();
     void cmdExit_Click();
 
@@ -84,6 +87,7 @@ public:
 
     LineBoard* TabLine = nullptr;
     DayStrip* vscDay = nullptr;
+    StrengthBars* Strength = nullptr; // of the lines of each day, where overalls are shown
     PickList* lstPlayer = nullptr;
     Row<QCheckBox*, 1, 5> chkPosition;
     StatPanel* frmStat = nullptr;
@@ -95,6 +99,7 @@ public:
     EditBox *txtPullGoalerMinGoal = nullptr, *txtPullGoalerMinPct = nullptr;
     QPushButton *cmdAutoLines = nullptr, *cmdWipeLines = nullptr, *cmdCopy = nullptr;
     QPushButton *cmdCopyAll = nullptr, *cmdDebug = nullptr, *cmdExit = nullptr;
+    QPushButton* cmdRepairAll = nullptr; // mends every day that is incomplete
 
 protected:
     LinesScreen(Stage& stage, const LinesKind& kind);
@@ -113,6 +118,8 @@ protected:
     // Judges the shown day, in a box when asked, and shows what was found.
     bool Judge(bool showMessage);
     void RefreshPlaying();
+    // Tells the verdict and the strength of every day, judged on a copy: of the shown day as it was judged last.
+    void RefreshDays();
     // Shows and judges the day once more, behind whatever changed all of it.
     void ShowDayAnew();
 
@@ -169,6 +176,7 @@ private:
     Int16 selectedPosition;
     LineVerdict said;                  // by the judge about the day as it is shown
     const QObject* heldBack = nullptr; // what was pressed while a text box kept the focus
+    std::unique_ptr<Tables> scratch;   // where the days are judged in order to look
     quint64 pull = 0;                  // how often a bar of the strategy was taken
     bool wasLetGo = false;             // the press that is under way has lost its release to a failure's box
 };

@@ -45,7 +45,12 @@ LinesScreen::LinesScreen(Stage& stage, const LinesKind& kind) : Screen(stage, ki
     auto* caption = new MutedLabel("Da&y", content);
     caption->setBuddy(vscDay);
     QHBoxLayout* days = MakeRow({caption});
-    days->addWidget(vscDay, 1);
+    days->setAlignment(caption, Qt::AlignTop);
+    caption->setMinimumHeight(vscDay->sizeHint().height());
+    QVBoxLayout* strip = MakeColumn({}, Gap / 2);
+    strip->addWidget(vscDay);
+    strip->addWidget(Strength);
+    days->addLayout(strip, 1);
     column->addLayout(days);
     QHBoxLayout* body = MakeRow({MakePeopleColumn()}, Margin);
     body->addWidget(MakeLinesColumn(), 1);
@@ -78,6 +83,9 @@ void LinesScreen::MakeControls()
     vscDay->setAccessibleName("Day");
     connect(vscDay, &QAbstractSlider::valueChanged, this,
             [this] { RunEvent("vscDay_Change", [this] { vscDay_Change(); }); });
+
+    Strength = new StrengthBars(*vscDay, this);
+    Strength->setObjectName("Strength");
 
     const char* captions[] = {"C", "LW", "RW", "D", "G"};
     const char* positions[] = {"Center", "Left Wing", "Right Wing", "Defense", "Goalie"};
@@ -125,9 +133,13 @@ void LinesScreen::MakeCommands()
     cmdCopy = MakeCommand("cmdCopy", "&Copy To Day ...", AsDayStep("Copy To Day", [this] { cmdCopy_Click(); }));
     cmdCopyAll =
         MakeCommand("cmdCopyAll", "Copy To A&ll Days", AsDayStep("Copy To All Days", [this] { cmdCopyAll_Click(); }));
+    cmdRepairAll =
+        MakeCommand("cmdRepairAll", "Repa&ir All Days", AsStep("Repair All Days", [this] { cmdRepairAll_Click(); }));
+    cmdRepairAll->setToolTip("Makes the rest of every day that is incomplete, and tells of all at the end");
     cmdDebug = MakeCommand("cmdDebug", "W&hy are my lines incomplete?", [this] { cmdDebug_Click(); });
     cmdExit = MakeCommand("cmdExit", "E&xit", [this] { cmdExit_Click(); });
-    Commands = MakeFooter({cmdAutoLines, cmdWipeLines, cmdCopy, cmdCopyAll}, {MakeHistoryCommands(), cmdExit});
+    Commands =
+        MakeFooter({cmdAutoLines, cmdRepairAll, cmdWipeLines, cmdCopy, cmdCopyAll}, {MakeHistoryCommands(), cmdExit});
 }
 
 void LinesScreen::MakeStrategyPage()
@@ -254,8 +266,8 @@ void LinesScreen::SetTabOrder()
     order << vscDay << TabLine->tabBar() << TabLine->Walk;
     for (QScrollBar* bar : hscStats)
         order << bar;
-    order << txtPullGoalerMinGoal << txtPullGoalerMinPct << cmdDebug << txtReasons << cmdAutoLines << cmdWipeLines
-          << cmdCopy << cmdCopyAll << cmdExit;
+    order << txtPullGoalerMinGoal << txtPullGoalerMinPct << cmdDebug << txtReasons << cmdAutoLines << cmdRepairAll
+          << cmdWipeLines << cmdCopy << cmdCopyAll << cmdExit;
     ChainTabs(order);
 }
 

@@ -95,8 +95,15 @@ public:
 
     [[nodiscard]] QString text(QAccessible::Text kind) const override
     {
-        return kind == QAccessible::Name || kind == QAccessible::Value ? strip->InWords()
-                                                                       : QAccessibleWidget::text(kind);
+        switch (kind) {
+        case QAccessible::Name:
+        case QAccessible::Value:
+            return strip->InWords();
+        case QAccessible::Description:
+            return strip->WordsOfAllDays();
+        default:
+            return QAccessibleWidget::text(kind);
+        }
     }
 
     [[nodiscard]] void* interface_cast(QAccessible::InterfaceType type) override

@@ -1,12 +1,17 @@
 #include "screens/panels/DayStrip.h"
 
+#include "screens/panels/Labels.h"
 #include "screens/panels/Shades.h"
+#include "screens/panels/VerdictSigns.h"
 
 #include <algorithm>
 #include <QAccessible>
+#include <QHelpEvent>
 #include <QImage>
 #include <QMouseEvent>
 #include <QPainter>
+#include <QTextDocument>
+#include <QToolTip>
 #include <QWheelEvent>
 
 namespace dravik {
@@ -34,6 +39,46 @@ void DayStrip::SetGames(const QStringList& words)
     games = words;
     TellOfWords();
     update();
+}
+
+void DayStrip::SetSigns(const QList<DaySign>& all)
+{
+    if (signs == all)
+        return;
+    signs = all;
+    QAccessibleEvent changed(this, QAccessible::DescriptionChanged);
+    QAccessible::updateAccessibility(&changed);
+    update();
+}
+
+QString DayStrip::WordsOfDay(int day, bool withFindings) const
+{
+    QString words = QString("Day %1").arg(day);
+    if (!games.value(day - 1).isEmpty())
+        words += ", " + games[day - 1];
+    const DaySign sign = signs.value(day - 1);
+    switch (sign.Shows) {
+    case DaySign::Kind::None:
+        return words;
+    case DaySign::Kind::Good:
+        words += ": complete";
+        break;
+    case DaySign::Kind::Findings:
+        words += sign.Count == 1 ? ": 1 finding" : QString(": %1 findings").arg(sign.Count);
+        break;
+    case DaySign::Kind::Unjudged:
+        words += ": cannot be judged";
+        break;
+    }
+    return withFindings && !sign.Words.isEmpty() ? words + '\n' + sign.Words : words;
+}
+
+QString DayStrip::WordsOfAllDays() const
+{
+    QStringList words;
+    for (int day = 1; day <= signs.size(); ++day)
+        words << WordsOfDay(day, false);
+    return words.join("; ");
 }
 
 void DayStrip::SetVerdict(const QString& words)
@@ -73,13 +118,34 @@ QSize DayStrip::sizeHint() const
 
 QSize DayStrip::minimumSizeHint() const { return sizeHint(); }
 
+int DayStrip::DayAt(const QPoint& point) const
+{
+    for (int day = 1; day <= Days; ++day)
+        if (CellOf(day).contains(point))
+            return day;
+    return 0;
+}
+
 void DayStrip::mousePressEvent(QMouseEvent* event)
 {
     if (event->button() != Qt::LeftButton)
         return;
-    for (int day = minimum(); day <= maximum(); ++day)
-        if (CellOf(day).contains(event->position().toPoint()))
-            setValue(day);
+    const int day = DayAt(event->position().toPoint());
+    if (day >= minimum() && day <= maximum())
+        setValue(day);
+}
+
+bool DayStrip::event(QEvent* event)
+{
+    if (event->type() != QEvent::ToolTip)
+        return QAbstractSlider::event(event);
+    const auto* help = static_cast<QHelpEvent*>(event);
+    const int day = DayAt(help->pos());
+    const QString words = day == 0 || signs.isEmpty() ? QString() : WordsOfDay(day, true);
+    // A text of several lines breaks where they end.
+    QToolTip::showText(help->globalPos(), words.isEmpty() ? words : Qt::convertFromPlainText(words), this,
+                       day == 0 ? QRect() : CellOf(day));
+    return true;
 }
 
 // The wheel over the days is more often a slip than a wish.
@@ -112,6 +178,28 @@ QColor DayStrip::SecondaryOn(int day, const QColor& words) const
     return MutedOn(words, painted.copy(middle.intersected(painted.rect())));
 }
 
+void DayStrip::PaintSign(QPainter& painter, int day, const QRect& cell, const QColor& quiet) const
+{
+    const int side = fontMetrics().height();
+    const QRectF area(cell.right() - side - CellPadding / 2, (height() - 2 * fontMetrics().lineSpacing()) / 2, side,
+                      side);
+    const QColor ground = palette().color(QPalette::Active, QPalette::Button);
+    const DaySign sign = signs.value(day - 1);
+    switch (sign.Shows) {
+    case DaySign::Kind::None:
+        break;
+    case DaySign::Kind::Good:
+        PaintTick(painter, area, quiet);
+        break;
+    case DaySign::Kind::Findings:
+        PaintCount(painter, area, sign.Count, font(), ground);
+        break;
+    case DaySign::Kind::Unjudged:
+        PaintWarningSign(painter, area, ground);
+        break;
+    }
+}
+
 void DayStrip::paintEvent(QPaintEvent* /*event*/)
 {
     QPainter painter(this);
@@ -130,6 +218,7 @@ void DayStrip::paintEvent(QPaintEvent* /*event*/)
         painter.setFont(font());
         painter.setPen(secondary);
         painter.drawText(area.translated(0, line), Qt::AlignCenter | Qt::TextSingleLine, games.value(day - 1));
+        PaintSign(painter, day, cell.rect, secondary);
         if (isChosen) {
             constexpr int thickness = 3;
             painter.fillRect(cell.rect.adjusted(2, cell.rect.height() - thickness - 1, -2, -1),

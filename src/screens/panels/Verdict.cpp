@@ -2,6 +2,7 @@
 
 #include "screens/panels/Labels.h"
 #include "screens/panels/Shades.h"
+#include "screens/panels/VerdictSigns.h"
 #include "screens/platform/Palettes.h"
 
 #include <algorithm>
@@ -62,21 +63,14 @@ void VerdictLabel::paintEvent(QPaintEvent* /*event*/)
     if (text().isEmpty())
         return;
     QPainter painter(this);
-    painter.setRenderHint(QPainter::Antialiasing);
     const QColor background = palette().color(QPalette::Window);
     const QColor words = palette().color(QPalette::WindowText);
     const int side = fontMetrics().height();
     const QRect sign(0, (height() - side) / 2, side, side);
-    if (good) {
-        const double unit = side / 16.0;
-        painter.setPen(QPen(palette().color(QPalette::Active, QPalette::Highlight), 2 * unit, Qt::SolidLine,
-                            Qt::RoundCap, Qt::RoundJoin));
-        const QPointF tick[] = {sign.topLeft() + QPointF(3, 8.5) * unit, sign.topLeft() + QPointF(6.5, 12) * unit,
-                                sign.topLeft() + QPointF(13, 4) * unit};
-        painter.drawPolyline(tick, 3);
-    } else {
+    if (good)
+        PaintTick(painter, sign, palette().color(QPalette::Active, QPalette::Highlight));
+    else
         PaintWarningSign(painter, sign, background);
-    }
     painter.setPen(good ? words : Alarming(background));
     painter.drawText(rect().adjusted(side + Gap, 0, 0, 0), Qt::AlignLeft | Qt::AlignVCenter | Qt::TextSingleLine,
                      text());

@@ -1,0 +1,16 @@
+#pragma once
+
+#include <QPainter>
+
+namespace dravik {
+
+// The signs of a verdict, drawn into the middle of `area`.
+
+// A tick in `colour`: all is well.
+void PaintTick(QPainter& painter, const QRectF& area, const QColor& colour);
+
+// How many things are wrong: the number on a disc in the colour of what is wrong, as it fits `background`; beyond 99 its
+// upper limit with a plus. `font` is that of the words beside it.
+void PaintCount(QPainter& painter, const QRectF& area, int count, const QFont& font, const QColor& background);
+
+} // namespace dravik
