@@ -16,4 +16,12 @@ bool TakesSomebody(const DaySlot& slot, Side side, PersonId who, int position);
 // Whoever judges them marks the league as modified. A team or day out of range fails with 9.
 bool PlaceOnLine(const Work& work, int team, int day, Side side, const DaySlot& slot, PersonId who, int position);
 
+// Whether two slots of a day of `team` (1..100) may change their people: somebody stands in each, another one in each, and each
+// takes the other's by the rule above. A number outside its table is nobody. Empty slots take no part, since no slot is
+// emptied by hand. A team or day out of range fails with 9.
+bool MaySwapOnLine(const Tables& league, int team, int day, Side side, const DaySlot& one, const DaySlot& other);
+
+// Has them change places: false, with nothing done, where they may not. As above, the judge of the lines asks the rest.
+bool SwapOnLine(const Work& work, int team, int day, Side side, const DaySlot& one, const DaySlot& other);
+
 } // namespace dravik

@@ -5,6 +5,7 @@
 #include "support/LineFindings.h"
 #include "support/SmallLeague.h"
 
+#include <algorithm>
 #include <cstring>
 #include <memory>
 
@@ -31,6 +32,17 @@ protected:
     [[nodiscard]] bool IsAsExpected() const { return std::memcmp(Expected.get(), &OpenLeague, sizeof OpenLeague) == 0; }
     [[nodiscard]] Lines& ExpectedDay(Side side, int day = 1) const { return LinesOf(*Expected, Own, day, side); }
     static Lines& Day(Side side, int day = 1) { return LinesOf(OpenLeague, Own, day, side); }
+
+    // The slot of a day with that word of the record, and by what it is called.
+    static const DaySlot& SlotIn(int word)
+    {
+        return *std::find_if(DaySlots.begin(), DaySlots.end(),
+                             [word](const DaySlot& slot) { return slot.Word == word; });
+    }
+    static const DaySlot& Of(LineField field, int number, int place = 1)
+    {
+        return SlotIn(SlotOf(field, number, place).Word);
+    }
 
     static PersonId Skater(int slot) { return {.IsGoalie = false, .Slot = slot}; }
     static PersonId Keeper(int slot) { return {.IsGoalie = true, .Slot = slot}; }
