@@ -1,5 +1,5 @@
-// What the lines screen costs on a full league: a press on a slot, a whole drag from the list onto it and a
-// change of day, each with both judgements of the lines and the painting, against one bare walk over the tables inside one
+// What the lines screen costs on a full league: a press on a slot, a whole drag from the list onto it, a pick by keys, a swap,
+// the repair of all days and a change of day, each with both judgements of the lines and the painting, against one bare walk over the tables inside one
 // run. The counter "ratio" is the processor's time for ours divided by that for the walk; "cpu_ms" is to stay below one
 // frame (16 ms).
 //
@@ -71,6 +71,38 @@ public:
         Screen().grab();
         Demand(Standing() == SelectedPlayer);
     }
+    // The picker opened at a slot, a letter typed and somebody placed, painted after each: three keys.
+    void PickByKeys()
+    {
+        SlotLabel* slot = Slot();
+        slot->setFocus();
+        QTest::keyClick(slot, Qt::Key_F2);
+        Screen().grab();
+        QTest::keyClick(Screen().focusWidget(), Qt::Key_S);
+        Screen().grab();
+        QTest::keyClick(Screen().focusWidget(), Qt::Key_Return);
+        Screen().grab();
+        Demand(Standing() != 0 && slot->hasFocus());
+    }
+    // Two neighbours who change places, painted: the last of three keys does it.
+    void Swap()
+    {
+        const long long before = Standing();
+        SlotLabel* slot = Slot();
+        slot->setFocus();
+        QTest::keyClick(slot, Qt::Key_Space, Qt::ControlModifier);
+        QTest::keyClick(slot, Qt::Key_Right);
+        QTest::keyClick(Screen().focusWidget(), Qt::Key_Space, Qt::ControlModifier);
+        Screen().grab();
+        Demand(Standing() != before);
+    }
+    // All days repaired, of which nothing is left to mend, and shown.
+    void RepairAll()
+    {
+        Screen().cmdRepairAll->click();
+        Screen().grab();
+        Demand(Screen().lblComplete->text() == "Lines are Complete");
+    }
     // A click on the next day, painted.
     void Day()
     {
@@ -102,8 +134,12 @@ void AgainstAWalk(benchmark::State& state, void (Bench::*work)())
 }
 
 constexpr int Rounds = 200;
+// First, while all days are complete.
+BENCHMARK_CAPTURE(AgainstAWalk, RepairAll, &Bench::RepairAll)->Iterations(Rounds)->UseManualTime();
 BENCHMARK_CAPTURE(AgainstAWalk, Press, &Bench::Press)->Iterations(Rounds)->UseManualTime();
 BENCHMARK_CAPTURE(AgainstAWalk, Drag, &Bench::Drag)->Iterations(Rounds)->UseManualTime();
+BENCHMARK_CAPTURE(AgainstAWalk, PickByKeys, &Bench::PickByKeys)->Iterations(Rounds)->UseManualTime();
+BENCHMARK_CAPTURE(AgainstAWalk, Swap, &Bench::Swap)->Iterations(Rounds)->UseManualTime();
 BENCHMARK_CAPTURE(AgainstAWalk, Day, &Bench::Day)->Iterations(Rounds)->UseManualTime();
 
 } // namespace

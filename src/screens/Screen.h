@@ -82,6 +82,8 @@ protected:
     void SetPage(QWidget* page, QLayout* footer = nullptr);
     // Makes the text box `name`; `lostFocus` runs when it loses the focus, as a step that is named after the box.
     EditBox* MakeBox(const QString& name, std::function<void()> lostFocus);
+    // Lets the text box that has the focus act; false when it keeps the focus.
+    bool SettleFocus();
     // Runs what a text box of any kind does when it loses the focus. If that brings up a dialog, the press of the mouse
     // that took the focus away still runs its command.
     void Leave(const std::function<void()>& lostFocus);
@@ -93,9 +95,6 @@ private:
     enum class Way { Back, Again };
     // Puts back the last step, or puts the next one again, and says which it was, or why it was not.
     void Turn(Way way);
-
-    // Lets the text box that has the focus act; false when it keeps the focus.
-    bool SettleFocus();
 
     // The list that the user is at: the one he chose in, else the one that had the focus last, or none.
     [[nodiscard]] EntryList* ListAtHand() const;

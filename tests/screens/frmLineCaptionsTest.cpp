@@ -62,6 +62,7 @@ TEST_F(LineCaptions, EveryCaptionIsAsWritten)
                        "&Copy To Day ...",
                        "Copy To A&ll Days",
                        "Repa&ir All Days",
+                       "Show Player",
                        "E&xit",
                        "W&hy are my lines incomplete?"};
         if (isPro)
@@ -75,11 +76,11 @@ TEST_F(LineCaptions, EveryCaptionIsAsWritten)
         for (const auto* label : screen.findChildren<QLabel*>())
             if (!label->text().isEmpty() && label->objectName().isEmpty() && !screen.frmStat->isAncestorOf(label))
                 labels.push_back(Of(label));
-        EXPECT_THAT(labels,
-                    UnorderedElementsAreArray(Texts{
-                        "Da&y", "Show : ", "Playing the Following Lines : ", "Physical Style : ", "Defense Style : ",
-                        "Offense Style : ", "Points Left :", "Minimum # of Goals :", "Save PCT Under :",
-                        "Extra Forwards", "Extra Defensemen", "Penalty Shots", "Starting Goalie", "Backup Goalie"}));
+        EXPECT_THAT(labels, UnorderedElementsAreArray(
+                                Texts{"Da&y", "Show : ", "Enter places", "Playing the Following Lines : ",
+                                      "Physical Style : ", "Defense Style : ", "Offense Style : ", "Points Left :",
+                                      "Minimum # of Goals :", "Save PCT Under :", "Extra Forwards", "Extra Defensemen",
+                                      "Penalty Shots", "Starting Goalie", "Backup Goalie"}));
 
         Texts tabs;
         for (int tab = 0; tab < screen.TabLine->count(); ++tab)

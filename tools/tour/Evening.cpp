@@ -5,6 +5,7 @@
 #include "rules/WipeLines.h"
 #include "screens/lines/frmFarmLine.h"
 #include "screens/lines/frmLine.h"
+#include "screens/lines/SlotPicker.h"
 #include "screens/platform/CodePage.h"
 #include "screens/player/frmEditPlayer.h"
 #include "screens/RosterEntry.h"
@@ -183,10 +184,22 @@ void Evening::MakeLinesOn(QPushButton& command, Window window, const QString& pi
         Photograph(window, QString("%1-tab%2").arg(picture).arg(tab + 1));
     }
     screen.TabLine->setCurrentIndex(0);
+    PickForASlot(screen);
+    Photograph(window, picture + "-picker");
     screen.cmdExit->click();
     QApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
     NoComplaints("the lines are made");
     Require(stage.Find(window) == nullptr && Team().isVisible(), "the team screen comes back");
+}
+
+void Evening::PickForASlot(LinesScreen& screen)
+{
+    SlotLabel* slot = screen.TabLine->SlotAt(LineField::NormalForward, 2, 1).Label;
+    slot->setFocus();
+    QKeyEvent ask(QEvent::KeyPress, Qt::Key_F2, Qt::NoModifier);
+    QApplication::sendEvent(slot, &ask);
+    const auto* picker = screen.findChild<SlotPicker*>();
+    Require(picker != nullptr && picker->IsOpen(), "the picker opens at a slot");
 }
 
 void Evening::PickFirst(LinesScreen& screen)

@@ -50,6 +50,8 @@ private:
     void MakeLinesOn(QPushButton& command, Window window, const QString& picture);
     // Picks the first player of the list by keyboard.
     static void PickFirst(LinesScreen& screen);
+    // Opens the picker at the second line's center by keyboard.
+    void PickForASlot(LinesScreen& screen);
     void SaveLines();
     // A team without a password is entered without a question.
     void ExpectPassword();

@@ -11,6 +11,7 @@
 #include "rules/NextGames.h"
 #include "rules/PlayingLines.h"
 #include "screens/EventGuard.h"
+#include "screens/lines/SlotPicker.h"
 #include "screens/PersonWords.h"
 #include "screens/platform/CodePage.h"
 #include "screens/RosterEntry.h"
@@ -139,6 +140,8 @@ void LinesScreen::chkPosition_Click(int /*position*/) { ShowPlayer(); }
 void LinesScreen::Place()
 {
     said = {};
+    picker->hide();
+    LetGoOfTaken();
     Reporting(Machine(), " in Place!", [this] {
         if (GameRow[1] != 0)
             ShowGame();

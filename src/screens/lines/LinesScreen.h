@@ -1,6 +1,7 @@
 #pragma once
 
 #include "desk/GoaliePull.h"
+#include "desk/SlotPicks.h"
 #include "league/PersonId.h"
 #include "makers/Makers.h"
 #include "rules/LineVerdict.h"
@@ -15,16 +16,20 @@
 #include "screens/Screen.h"
 
 #include <memory>
+#include <optional>
 #include <QBoxLayout>
 #include <QCheckBox>
 #include <QLabel>
+#include <QPointer>
 #include <QScrollBar>
 #include <string>
 #include <string_view>
+#include <vector>
 
 namespace dravik {
 
 struct Team;
+class SlotPicker;
 
 // In what the lines screens of the pro team and of the farm differ by name alone. What they do differently is in the
 // screens themselves.
@@ -105,6 +110,7 @@ protected:
     LinesScreen(Stage& stage, const LinesKind& kind);
 
     bool eventFilter(QObject* watched, QEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
 
     // A screen's own steps.
     virtual void CloseMakers(); // in a league that does without automatic makers
@@ -155,6 +161,26 @@ private:
     [[nodiscard]] bool MayDropOn(const SlotLabel& label) const;
     // Names a person in a slot.
     void ShowIn(BoardSlot& slot, long long id);
+    // Lines by hand. Slots are named by their place on the board.
+    void MakeHands();
+    [[nodiscard]] int IndexOf(const SlotLabel& label) const;
+    [[nodiscard]] QString WhereOf(int index) const;
+    void OpenPicker(int index, const QString& typed);
+    void PlacePick(int row);
+    // Puts somebody into a slot, shows him there and judges the day.
+    void PlaceIn(int index, PersonId who, int position);
+    // Picks whoever stands in a slot without placing anybody.
+    void LookAtSlot(int index);
+    void LookAt(PersonId who, int position);
+    [[nodiscard]] bool MaySwap(int one, int other) const;
+    void Swap(int one, int other);
+    // Takes up who stands in a slot, or has him who was change places with him.
+    void TakeUp(int index);
+    void LetGoOfTaken();
+    // The keys: another page, the board, and from there to the list and back.
+    void TurnPage(int by);
+    void FocusBoard();
+    void ChangeSides();
     // Shows of every slot what stands in it now, whatever name it still reads, and the averages of the lines.
     void RefreshMarks();
     void RefreshMark(const BoardSlot& slot, long long id);
@@ -174,6 +200,11 @@ private:
 
     Int16 day = 1;
     Int16 selectedPosition;
+    SlotPicker* picker = nullptr;
+    std::vector<SlotPick> picks;       // that the picker offers,
+    int pickedSlot = 0;                // for this slot
+    std::optional<int> taken;          // the slot whose person was taken up
+    QPointer<SlotLabel> lastSlot;      // that had the focus
     LineVerdict said;                  // by the judge about the day as it is shown
     const QObject* heldBack = nullptr; // what was pressed while a text box kept the focus
     std::unique_ptr<Tables> scratch;   // where the days are judged in order to look

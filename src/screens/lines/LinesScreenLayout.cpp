@@ -2,9 +2,9 @@
 #include "screens/ElementName.h"
 #include "screens/EventGuard.h"
 #include "screens/lines/LinesScreen.h"
-#include "screens/panels/EntryDrag.h"
 #include "screens/panels/Labels.h"
 #include "screens/panels/Layouts.h"
+#include "screens/panels/PersonDrag.h"
 
 #include <QCoreApplication>
 #include <QGroupBox>
@@ -112,11 +112,12 @@ void LinesScreen::MakeControls()
     connect(TabLine, &LineBoard::SlotPressed, this,
             [this](int index) { RunStep(WordsOfPlacing(index), [this, index] { Slot_Click(index); }); });
     connect(TabLine, &LineBoard::HeadingPressed, this, [this](int index) { Heading_Click(index); });
-    for (const BoardSlot& slot : TabLine->Slots)
+    MakeHands();
+    for (const BoardSlot& slot : TabLine->Slots) // behind the drag's own filter
         slot.Label->installEventFilter(this);
     for (const BoardHeading& heading : TabLine->Headings)
         heading.Label->installEventFilter(this);
-    new EntryDrag(lstPlayer, [this](const SlotLabel& label) { return MayDropOn(label); });
+    PersonDrag::FromList(*lstPlayer, [this](const SlotLabel& label) { return MayDropOn(label); });
     lstPlayer->viewport()->installEventFilter(this); // behind the drag's own, so that a press held back starts none
     for (QWidget* pressed : std::initializer_list<QWidget*>{vscDay, TabLine->tabBar()})
         pressed->installEventFilter(this);
@@ -276,6 +277,9 @@ bool LinesScreen::eventFilter(QObject* watched, QEvent* event)
     LetGoOf(watched, event);
     if (HoldsBack(watched, event))
         return true;
+    if (event->type() == QEvent::FocusIn)
+        if (auto* label = qobject_cast<SlotLabel*>(watched))
+            lastSlot = label;
     if (event->type() == QEvent::ToolTip) {
         if (watched == lstPlayer->viewport())
             TellOfEntry(static_cast<QHelpEvent*>(event)->pos());

@@ -9,8 +9,6 @@
 #include "screens/RosterEntry.h"
 #include "session/Session.h"
 
-#include <algorithm>
-
 // The slots and headings of the board: who stands there, what a press does, and what they tell.
 namespace dravik {
 
@@ -29,21 +27,15 @@ QString LinesScreen::WordsOfPlacing(int index) const
 
 void LinesScreen::Slot_Click(int index)
 {
-    BoardSlot& slot = TabLine->Slots[static_cast<std::size_t>(index)];
-    RunEvent(slot.Name, [&] {
-        if (lstPlayer->Chosen() == nullptr || !PlaceOnLine(OpenWork(), OwnNumber(), ShownDay(), Kind.Side, slot.Slot,
-                                                           SelectedPerson(), static_cast<int>(selectedPosition)))
-            return;
-        ShowIn(slot, SelectedPlayer);
-        Check();
-    });
+    if (lstPlayer->Chosen() != nullptr)
+        PlaceIn(index, SelectedPerson(), static_cast<int>(selectedPosition));
 }
 
 bool LinesScreen::MayDropOn(const SlotLabel& label) const
 {
-    const auto slot = std::find_if(TabLine->Slots.begin(), TabLine->Slots.end(),
-                                   [&label](const BoardSlot& other) { return other.Label == &label; });
-    return slot != TabLine->Slots.end() && TakesPicked(*slot);
+    const int index = IndexOf(label);
+    return index < static_cast<int>(TabLine->Slots.size()) &&
+           TakesPicked(TabLine->Slots[static_cast<std::size_t>(index)]);
 }
 
 void LinesScreen::ShowSlots()

@@ -67,6 +67,7 @@ SlotLabel::SlotLabel(const QString& where, const QString& tag, QWidget* parent) 
     PressLabel(parent), slot(where), position(tag)
 {
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Preferred);
+    setContextMenuPolicy(Qt::PreventContextMenu); // its press and its key are those of the picker
     Describe();
 }
 
@@ -113,23 +114,66 @@ void SlotLabel::Describe()
                         : mark == Mark::Empty ? " (empty)"
                                               : "";
     const QString overall = aside.isEmpty() ? QString() : ", overall " + aside;
-    const QString name = slot + ": " + text() + overall + state;
+    const QString name = slot + ": " + text() + overall + state + (isTaken ? " (taken up)" : "");
     if (accessibleName() != name)
         setAccessibleName(name);
 }
 
+void SlotLabel::mousePressEvent(QMouseEvent* event)
+{
+    const bool isLeft = event->button() == Qt::LeftButton;
+    if (event->button() == Qt::MiddleButton || (isLeft && event->modifiers() == Qt::ShiftModifier)) {
+        emit Looked();
+    } else if (event->button() == Qt::RightButton) {
+        setFocus(Qt::MouseFocusReason);
+        emit PickAsked({});
+    } else {
+        PressLabel::mousePressEvent(event);
+    }
+}
+
 void SlotLabel::keyPressEvent(QKeyEvent* event)
 {
+    const Qt::KeyboardModifiers modifiers = event->modifiers() & ~Qt::KeypadModifier;
+    const bool isTyped = (modifiers & ~Qt::ShiftModifier) == Qt::NoModifier;
     switch (event->key()) {
     case Qt::Key_Left:
     case Qt::Key_Right:
     case Qt::Key_Up:
     case Qt::Key_Down:
         emit Arrow(event->key());
-        break;
+        return;
+    case Qt::Key_F2:
+    case Qt::Key_Menu:
+        emit PickAsked({});
+        return;
+    case Qt::Key_F10:
+        if (modifiers != Qt::ShiftModifier)
+            break;
+        emit PickAsked({});
+        return;
+    case Qt::Key_Space:
+        if (modifiers != Qt::ControlModifier)
+            break;
+        emit TakeAsked();
+        return;
     default:
-        PressLabel::keyPressEvent(event);
+        if (isTyped && !event->text().isEmpty() && event->text().front().isLetter()) {
+            emit PickAsked(event->text());
+            return;
+        }
+        break;
     }
+    PressLabel::keyPressEvent(event);
+}
+
+void SlotLabel::SetTaken(bool taken)
+{
+    if (isTaken == taken)
+        return;
+    isTaken = taken;
+    Describe();
+    update();
 }
 
 void SlotLabel::SetDropTarget(bool target)
@@ -150,14 +194,14 @@ void SlotLabel::paintEvent(QPaintEvent* /*event*/)
     const bool isEmpty = mark == Mark::Empty;
     const bool isRefused = mark == Mark::Refused;
     const bool isWrong = isRefused || mark == Mark::Twice;
-    const bool standsOut = hasFocus() || isDropTarget || isPicked;
+    const bool standsOut = hasFocus() || isDropTarget || isPicked || isTaken;
     QColor ground = isEmpty ? window : palette().color(QPalette::Base);
-    if (isPicked || isDropTarget)
+    if (isPicked || isDropTarget || isTaken)
         ground = Mixed(ground, accent, PickedPart);
 
     const QColor frame = isWrong ? Alarming(ground) : standsOut ? accent : Mixed(window, words, FramePart);
-    const double width = hasFocus() || isDropTarget ? 2 : 1;
-    painter.setPen(QPen(frame, width, isEmpty ? Qt::DashLine : Qt::SolidLine));
+    const double width = hasFocus() || isDropTarget || isTaken ? 2 : 1;
+    painter.setPen(QPen(frame, width, isEmpty ? Qt::DashLine : isTaken ? Qt::DotLine : Qt::SolidLine));
     painter.setBrush(ground);
     const QRectF whole = QRectF(rect()).adjusted(1, 1, -1, -1);
     painter.drawRoundedRect(whole, Roundness, Roundness);

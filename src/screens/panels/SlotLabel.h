@@ -54,14 +54,25 @@ public:
     void SetDropTarget(bool target);
     [[nodiscard]] bool IsDropTarget() const { return isDropTarget; }
 
+    // Whoever stands in it was taken up to change places with another one.
+    void SetTaken(bool taken);
+    [[nodiscard]] bool IsTaken() const { return isTaken; }
+
     [[nodiscard]] QSize sizeHint() const override;
     [[nodiscard]] QSize minimumSizeHint() const override;
 
 signals:
+    // It was pressed to look at its person: with the middle button, or with Shift.
+    void Looked();
+    // Somebody is to be picked for it: the right button, the menu key, F2, or a letter, which is the beginning of a name.
+    void PickAsked(const QString& typed);
+    // Ctrl+Space: whoever stands there is taken up, or changes places with whom was.
+    void TakeAsked();
     // An arrow key was pressed (Qt::Key).
     void Arrow(int key);
 
 protected:
+    void mousePressEvent(QMouseEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
 
@@ -74,6 +85,7 @@ private:
     Mark mark = Mark::Empty;
     bool isPicked = false;
     bool isDropTarget = false;
+    bool isTaken = false;
 };
 
 } // namespace dravik

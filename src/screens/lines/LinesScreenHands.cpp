@@ -1,0 +1,222 @@
+#include "desk/PlaceOnLine.h"
+#include "desk/SlotPicks.h"
+#include "screens/lines/LinesScreen.h"
+#include "screens/lines/SlotPicker.h"
+#include "screens/panels/PersonDrag.h"
+#include "screens/PersonWords.h"
+#include "screens/platform/CodePage.h"
+#include "screens/RosterEntry.h"
+#include "session/Session.h"
+
+#include <algorithm>
+#include <QCursor>
+#include <QKeyEvent>
+#include <QShortcut>
+#include <QTabBar>
+#include <QToolTip>
+
+// Lines made by hand: the picker at a slot, people who change places, a look at who stands somewhere, and the keys.
+namespace dravik {
+
+void LinesScreen::MakeHands()
+{
+    picker = new SlotPicker(this);
+    connect(picker, &SlotPicker::Placed, this, [this](int row) { PlacePick(row); });
+    connect(picker, &SlotPicker::Looked, this, [this](int row) {
+        const SlotPick& pick = picks[static_cast<std::size_t>(row)];
+        RunEvent("Picker", [&] { LookAt(pick.Who, pick.Position); });
+    });
+    for (int index = 0; index < static_cast<int>(TabLine->Slots.size()); ++index) {
+        SlotLabel* label = TabLine->Slots[static_cast<std::size_t>(index)].Label;
+        PersonDrag::FromSlot(
+            *label, [this, index](const SlotLabel& other) { return MaySwap(index, IndexOf(other)); },
+            [this, index](SlotLabel& other) { Swap(index, IndexOf(other)); });
+        connect(label, &SlotLabel::Looked, this, [this, index] { LookAtSlot(index); });
+        connect(label, &SlotLabel::PickAsked, this, [this, index](const QString& typed) { OpenPicker(index, typed); });
+        connect(label, &SlotLabel::TakeAsked, this, [this, index] { TakeUp(index); });
+    }
+
+    const auto onKey = [this](const QKeySequence& key, const std::function<void()>& run) {
+        connect(new QShortcut(key, this), &QShortcut::activated, this, [this, run] {
+            if (SettleFocus())
+                run();
+        });
+    };
+    for (int number = 1; number <= DayStrip::Days; ++number)
+        onKey(QKeySequence("Ctrl+" + QString::number(number % DayStrip::Days)), [this, number] {
+            if (vscDay->isEnabled() && number <= vscDay->maximum())
+                vscDay->setValue(number);
+        });
+    onKey(QKeySequence("Ctrl+Tab"), [this] { TurnPage(1); });
+    onKey(QKeySequence("Ctrl+Shift+Tab"), [this] { TurnPage(-1); });
+    onKey(QKeySequence("F6"), [this] { ChangeSides(); });
+    // Whatever comes up in its place, the picker belongs to the slot that it was opened at.
+    connect(TabLine, &QTabWidget::currentChanged, picker, &QWidget::hide);
+}
+
+int LinesScreen::IndexOf(const SlotLabel& label) const
+{
+    const auto slot = std::find_if(TabLine->Slots.begin(), TabLine->Slots.end(),
+                                   [&label](const BoardSlot& other) { return other.Label == &label; });
+    return static_cast<int>(slot - TabLine->Slots.begin());
+}
+
+QString LinesScreen::WhereOf(int index) const { return TabLine->Slots[static_cast<std::size_t>(index)].Label->Where(); }
+
+void LinesScreen::OpenPicker(int index, const QString& typed)
+{
+    RunEvent("Picker", [&] {
+        const BoardSlot& slot = TabLine->Slots[static_cast<std::size_t>(index)];
+        picks = PicksFor(OpenWork(), OwnNumber(), Kind.Side, slot.Slot);
+        pickedSlot = index;
+        QList<PickRow> rows;
+        int standing = -1;
+        for (const SlotPick& pick : picks) {
+            QStringList aside{ToQString(PositionName[pick.Position])};
+            if (LeagueData.ShowOverall)
+                aside << (pick.Overall ? QString::number(*pick.Overall) : QString());
+            if (pick.Who == slot.Whom(slot.In(ShownLines())))
+                standing = static_cast<int>(rows.size());
+            rows << PickRow{.Name = NameOf(pick.Who), .Aside = aside};
+        }
+        picker->OpenAt(*slot.Label, rows, standing, typed);
+    });
+}
+
+void LinesScreen::PlacePick(int row)
+{
+    const SlotPick pick = picks[static_cast<std::size_t>(row)];
+    RunStep("Place " + NameOf(pick.Who) + ", " + WhereOf(pickedSlot) + Subject(),
+            [&] { PlaceIn(pickedSlot, pick.Who, pick.Position); });
+}
+
+void LinesScreen::PlaceIn(int index, PersonId who, int position)
+{
+    BoardSlot& slot = TabLine->Slots[static_cast<std::size_t>(index)];
+    RunEvent(slot.Name, [&] {
+        if (!PlaceOnLine(OpenWork(), OwnNumber(), ShownDay(), Kind.Side, slot.Slot, who, position))
+            return;
+        ShowIn(slot, who.Slot);
+        Check();
+    });
+}
+
+void LinesScreen::LookAtSlot(int index)
+{
+    RunEvent("Look", [&] {
+        const BoardSlot& slot = TabLine->Slots[static_cast<std::size_t>(index)];
+        const PersonId who = slot.Whom(slot.In(ShownLines()));
+        if (who.Slot != 0 && who.HasSlot())
+            LookAt(who, OnPerson(OpenLeague, who, [](const auto& person) { return PositionOf(person); }));
+    });
+}
+
+// Whoever is in the list is chosen there; of somebody whom the list leaves out nothing can be placed, but he is shown.
+void LinesScreen::LookAt(PersonId who, int position)
+{
+    const int row = lstPlayer->RowOf(EntryNumber(who.Slot, position));
+    if (row >= 0) {
+        lstPlayer->setCurrentRow(row);
+        lstPlayer->scrollToItem(lstPlayer->item(row));
+        return;
+    }
+    lstPlayer->Unchoose();
+    selectedPosition = position;
+    SelectPerson(who);
+    lblPlaying->clear();
+    ShowPicked();
+    RefreshMarks();
+}
+
+bool LinesScreen::MaySwap(int one, int other) const
+{
+    const auto count = static_cast<int>(TabLine->Slots.size());
+    return one < count && other < count &&
+           MaySwapOnLine(OpenLeague, OwnNumber(), ShownDay(), Kind.Side,
+                         TabLine->Slots[static_cast<std::size_t>(one)].Slot,
+                         TabLine->Slots[static_cast<std::size_t>(other)].Slot);
+}
+
+void LinesScreen::Swap(int one, int other)
+{
+    BoardSlot& first = TabLine->Slots[static_cast<std::size_t>(one)];
+    BoardSlot& second = TabLine->Slots[static_cast<std::size_t>(other)];
+    RunStep("Swap " + WhereOf(one) + " and " + WhereOf(other) + Subject(), [&] {
+        RunEvent("Swap", [&] {
+            if (!SwapOnLine(OpenWork(), OwnNumber(), ShownDay(), Kind.Side, first.Slot, second.Slot))
+                return;
+            for (BoardSlot* slot : {&first, &second})
+                ShowIn(*slot, slot->In(ShownLines()));
+            Check();
+        });
+    });
+}
+
+void LinesScreen::TakeUp(int index)
+{
+    if (!taken) {
+        SlotLabel* label = TabLine->Slots[static_cast<std::size_t>(index)].Label;
+        if (label->Shown() == SlotLabel::Mark::Empty)
+            return;
+        taken = index;
+        label->SetTaken(true);
+        return;
+    }
+    const int from = *taken;
+    LetGoOfTaken();
+    if (from == index)
+        return;
+    if (MaySwap(from, index))
+        Swap(from, index);
+    else
+        QToolTip::showText(QCursor::pos(), "They cannot change places");
+}
+
+void LinesScreen::LetGoOfTaken()
+{
+    if (taken)
+        TabLine->Slots[static_cast<std::size_t>(*taken)].Label->SetTaken(false);
+    taken.reset();
+}
+
+// A key that nobody else has a use for.
+void LinesScreen::keyPressEvent(QKeyEvent* event)
+{
+    if (event->key() == Qt::Key_Escape && taken)
+        LetGoOfTaken();
+    else
+        Screen::keyPressEvent(event);
+}
+
+void LinesScreen::TurnPage(int by)
+{
+    const int pages = TabLine->count();
+    const bool wasOnBoard = TabLine->isAncestorOf(focusWidget());
+    TabLine->setCurrentIndex((TabLine->currentIndex() + by + pages) % pages);
+    if (wasOnBoard)
+        FocusBoard();
+}
+
+void LinesScreen::FocusBoard()
+{
+    if (lastSlot != nullptr && lastSlot->isVisible()) {
+        lastSlot->setFocus(Qt::ShortcutFocusReason);
+        return;
+    }
+    for (QWidget* walked : TabLine->Walk)
+        if (walked->isVisible() && qobject_cast<SlotLabel*>(walked) != nullptr) {
+            walked->setFocus(Qt::ShortcutFocusReason);
+            return;
+        }
+    hscStats[0]->setFocus(Qt::ShortcutFocusReason);
+}
+
+void LinesScreen::ChangeSides()
+{
+    if (lstPlayer->hasFocus())
+        FocusBoard();
+    else
+        lstPlayer->setFocus(Qt::ShortcutFocusReason);
+}
+
+} // namespace dravik
