@@ -6,6 +6,7 @@
 #include "screens/panels/EditBox.h"
 #include "screens/panels/EntryList.h"
 #include "screens/panels/HistoryCommands.h"
+#include "screens/panels/KeySheet.h"
 #include "screens/panels/Layouts.h"
 #include "screens/panels/SaveLine.h"
 #include "screens/platform/CodePage.h"
@@ -82,6 +83,13 @@ Screen::Screen(Stage& stage, const QString& name) : Owner(stage)
         auto* list = qobject_cast<EntryList*>(now);
         if (list != nullptr && list->window() == this)
             lastList = list;
+    });
+    connect(new QShortcut(Qt::Key_F1, this), &QShortcut::activated, this, [this] {
+        if (!SettleFocus())
+            return;
+        if (keySheet == nullptr)
+            keySheet = new KeySheet(objectName(), this);
+        keySheet->Open();
     });
 }
 
@@ -180,6 +188,8 @@ bool Screen::event(QEvent* event)
             button->installEventFilter(this);
     if (event->type() == QEvent::WindowBlocked)
         ++timesBlocked;
+    if (event->type() == QEvent::Hide && keySheet != nullptr)
+        keySheet->close();
     return QMainWindow::event(event);
 }
 

@@ -12,6 +12,7 @@ namespace dravik {
 class EditBox;
 class EntryList;
 class HistoryCommands;
+class KeySheet;
 class SaveLine;
 class Stage;
 enum class SavedFile : unsigned char;
@@ -99,6 +100,7 @@ private:
     // The list that the user is at: the one he chose in, else the one that had the focus last, or none.
     [[nodiscard]] EntryList* ListAtHand() const;
 
+    KeySheet* keySheet = nullptr; // F1, made when it is asked for
     HistoryCommands* history = nullptr;
     SaveLine* saveLine = nullptr;
     SavedFile fileOfLine{};

@@ -56,4 +56,22 @@ inline void DragEntry(QAbstractItemView* list, int row, const QWidget* target)
     drag.LetGo();
 }
 
+// A drag from slot to slot with the mouse; it may stay in the air.
+inline void DragSlot(QWidget* from, QWidget* to, bool letGo = true)
+{
+    const QPoint start = from->rect().center();
+    const auto send = [&](QEvent::Type type, const QPoint& global, Qt::MouseButton button, Qt::MouseButtons buttons) {
+        QMouseEvent event(type, from->mapFromGlobal(QPointF(global)), QPointF(global), button, buttons, {});
+        QApplication::sendEvent(from, &event);
+    };
+    send(QEvent::MouseButtonPress, from->mapToGlobal(start), Qt::LeftButton, Qt::LeftButton);
+    send(QEvent::MouseMove, from->mapToGlobal(start + QPoint(2 * QApplication::startDragDistance(), 0)), Qt::NoButton,
+         Qt::LeftButton);
+    const QPoint end = to->mapToGlobal(to->rect().center());
+    send(QEvent::MouseMove, end, Qt::NoButton, Qt::LeftButton);
+    if (letGo)
+        send(QEvent::MouseButtonRelease, end, Qt::LeftButton, Qt::NoButton);
+    QApplication::processEvents();
+}
+
 } // namespace dravik

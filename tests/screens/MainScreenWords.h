@@ -17,7 +17,7 @@ inline std::vector<DesignWords> MainScreenWords(const std::string& title, const 
         {"mnuSetRoster", "Set &Roster"},
         {"mnuSetLines", "Set &Lines"},
         {"mnuSetFarmLines", "Set &Farm Lines"},
-        {"mnuFreeAgents", "&Free Agents"},
+        {"mnuFreeAgents", "Free &Agents"},
         {"mnuDraft", "&Draft List"},
         {"mnuHelp", "&Help"},
         {"mnuAbout", "&About"},

@@ -54,24 +54,6 @@ protected:
         Settle();
         ASSERT_TRUE(slot->hasFocus());
     }
-    // A drag from slot to slot with the mouse.
-    static void Drag(QWidget* from, QWidget* to, bool letGo = true)
-    {
-        const QPoint start = from->rect().center();
-        const auto send = [&](QEvent::Type type, const QPoint& global, Qt::MouseButton button,
-                              Qt::MouseButtons buttons) {
-            QMouseEvent event(type, from->mapFromGlobal(QPointF(global)), QPointF(global), button, buttons, {});
-            QApplication::sendEvent(from, &event);
-        };
-        send(QEvent::MouseButtonPress, from->mapToGlobal(start), Qt::LeftButton, Qt::LeftButton);
-        send(QEvent::MouseMove, from->mapToGlobal(start + QPoint(2 * QApplication::startDragDistance(), 0)),
-             Qt::NoButton, Qt::LeftButton);
-        const QPoint end = to->mapToGlobal(to->rect().center());
-        send(QEvent::MouseMove, end, Qt::NoButton, Qt::LeftButton);
-        if (letGo)
-            send(QEvent::MouseButtonRelease, end, Qt::LeftButton, Qt::NoButton);
-        Settle();
-    }
     static bool IsDay(const Lines& wanted) { return std::memcmp(&ProDay(), &wanted, sizeof wanted) == 0; }
 
     int Keys = 0;
@@ -258,7 +240,7 @@ TEST_F(LineHands, ADragFromSlotToSlotSwaps)
     SlotLabel* to = SlotOn(line, LineField::NormalForward, 2, 2);
     const std::string first = from->text().toStdString();
     const std::string second = to->text().toStdString();
-    Drag(from, to);
+    DragSlot(from, to);
     EXPECT_TRUE(IsDay(expected));
     EXPECT_EQ(from->text().toStdString(), second);
     EXPECT_EQ(to->text().toStdString(), first);
@@ -278,16 +260,16 @@ TEST_F(LineHands, ARefusedDropIsShownAndDoesNothing)
     SlotLabel* forward = SlotOn(line, LineField::ExtraForward, 1);
     SlotLabel* defense = SlotOn(line, LineField::ExtraDefense, 1);
     ASSERT_TRUE(forward->isVisible());
-    Drag(forward, defense, false);
+    DragSlot(forward, defense, false);
     EXPECT_FALSE(defense->IsDropTarget());
     EXPECT_EQ(forward->cursor().shape(), Qt::ForbiddenCursor);
     QTest::keyClick(forward, Qt::Key_Escape);
-    Drag(forward, defense);
+    DragSlot(forward, defense);
     EXPECT_TRUE(IsDay(before));
-    Drag(forward, forward);
+    DragSlot(forward, forward);
     EXPECT_TRUE(IsDay(before)) << "let go where it began it is no press";
     SlotLabel* other = SlotOn(line, LineField::ExtraForward, 2);
-    Drag(forward, other, false);
+    DragSlot(forward, other, false);
     EXPECT_TRUE(other->IsDropTarget());
     QTest::keyClick(forward, Qt::Key_Escape);
     EXPECT_FALSE(other->IsDropTarget());

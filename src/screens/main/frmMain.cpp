@@ -20,6 +20,7 @@
 #include "session/Session.h"
 
 #include <QMenuBar>
+#include <utility>
 
 namespace dravik {
 
@@ -114,8 +115,14 @@ void frmMain::MakeMenus()
     mnuSetRoster = MakeItem(mnuTeam, "mnuSetRoster", "Set &Roster", &frmMain::mnuSetRoster_Click);
     mnuSetLines = MakeItem(mnuTeam, "mnuSetLines", "Set &Lines", &frmMain::mnuSetLines_Click);
     mnuSetFarmLines = MakeItem(mnuTeam, "mnuSetFarmLines", "Set &Farm Lines", &frmMain::mnuSetFarmLines_Click);
-    mnuFreeAgents = MakeItem(mnuTeam, "mnuFreeAgents", "&Free Agents", &frmMain::mnuFreeAgents_Click);
+    mnuFreeAgents = MakeItem(mnuTeam, "mnuFreeAgents", "Free &Agents", &frmMain::mnuFreeAgents_Click);
     mnuDraft = MakeItem(mnuTeam, "mnuDraft", "&Draft List", &frmMain::mnuDraft_Click);
+
+    const std::pair<QAction*, const char*> keys[] = {{mnuViewTeam, "Ctrl+Return"},    {mnuSetRoster, "Ctrl+R"},
+                                                     {mnuSetLines, "Ctrl+L"},         {mnuSetFarmLines, "Ctrl+Shift+L"},
+                                                     {mnuFreeAgents, "Ctrl+Shift+A"}, {mnuDraft, "Ctrl+D"}};
+    for (const auto& [item, key] : keys)
+        item->setShortcut(QKeySequence(key));
 
     mnuHelp = makeMenu("mnuHelp", "&Help");
     mnuAbout = MakeItem(mnuHelp, "mnuAbout", "&About", &frmMain::mnuAbout_Click);

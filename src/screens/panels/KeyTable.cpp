@@ -1,0 +1,60 @@
+#include "screens/panels/KeyTable.h"
+
+#include <QStringList>
+
+namespace dravik {
+
+namespace {
+
+constexpr auto Everywhere = "*";
+constexpr auto WithHistory = "frmTeam frmRoster frmLine frmFarmLine frmFreeAgentClient frmDraft frmTicket";
+constexpr auto OnLines = "frmLine frmFarmLine";
+constexpr auto OnMain = "frmMain";
+constexpr auto WithLists = "frmMain frmRoster frmLine frmFarmLine frmFreeAgentClient frmDraft";
+constexpr auto Slot = "a slot";
+constexpr auto List = "a list";
+
+constexpr KeyRow Rows[] = {
+    {Everywhere, KeyScope::Screen, "F1", "", "Keys, signs and ratings"},
+    {WithHistory, KeyScope::Screen, "Ctrl+Z", "", "Undo"},
+    {WithHistory, KeyScope::Screen, "Ctrl+Shift+Z / Ctrl+Y", "", "Redo"},
+    {OnMain, KeyScope::Screen, "", "", "Open a client file", QKeySequence::Open},
+    {OnMain, KeyScope::Screen, "", "", "Exit", QKeySequence::Quit},
+    {OnMain, KeyScope::Screen, "Ctrl+Return", "", "View the team"},
+    {OnMain, KeyScope::Screen, "Ctrl+R", "", "Set the roster"},
+    {OnMain, KeyScope::Screen, "Ctrl+L", "", "Set the lines"},
+    {OnMain, KeyScope::Screen, "Ctrl+Shift+L", "", "Set the farm's lines"},
+    {OnMain, KeyScope::Screen, "Ctrl+Shift+A", "", "Free agents"},
+    {OnMain, KeyScope::Screen, "Ctrl+D", "", "Draft list"},
+    {"frmAbout", KeyScope::Screen, "Esc", "", "Exit"},
+    {OnLines, KeyScope::Screen,
+     "Ctrl+1 / Ctrl+2 / Ctrl+3 / Ctrl+4 / Ctrl+5 / Ctrl+6 / Ctrl+7 / Ctrl+8 / Ctrl+9 / Ctrl+0", "", "Day 1 to day 10"},
+    {OnLines, KeyScope::Screen, "Ctrl+Tab", "", "Next page of the board"},
+    {OnLines, KeyScope::Screen, "Ctrl+Shift+Tab", "", "Page before"},
+    {OnLines, KeyScope::Screen, "F6", "", "From the list to the board and back"},
+    {WithLists, KeyScope::Control, "Up / Down / Home / End", List, "Choose somebody"},
+    {OnLines, KeyScope::Control, "Left / Right / Up / Down", Slot, "Walk the board"},
+    {OnLines, KeyScope::Control, "Space / Return", Slot, "Place who is picked in the list"},
+    {OnLines, KeyScope::Control, "F2 / Menu / a letter / right press", Slot, "Pick who may stand there; Esc closes"},
+    {OnLines, KeyScope::Control, "Ctrl+Space", Slot, "Take somebody up, and have him change places; Esc lets him go"},
+    {OnLines, KeyScope::Control, "drag", Slot, "Drag from slot to slot: change places"},
+    {OnLines, KeyScope::Control, "Shift+press / middle press", Slot, "Look at who stands there without placing"},
+    {OnLines, KeyScope::Control, "Left / Right", "the days", "Day before and day behind"},
+};
+
+} // namespace
+
+QString KeysOf(const KeyRow& row)
+{
+    return row.Standard == QKeySequence::UnknownKey ? QString(row.Keys) : QKeySequence(row.Standard).toString();
+}
+
+std::span<const KeyRow> KeyTable() { return Rows; }
+
+bool IsOn(const KeyRow& row, const QString& screen)
+{
+    const QString screens(row.Screens);
+    return screens == Everywhere || screens.split(' ').contains(screen);
+}
+
+} // namespace dravik
