@@ -1,8 +1,9 @@
-"""What tools/mutants.py finds in a source, and what it leaves alone."""
+"""What tools/mutants.py finds in a source, and what it leaves alone; what tools/mutate makes of it, and tools/relink.py."""
 
 import importlib.machinery
 import importlib.util
 import random
+import shutil
 import subprocess
 import sys
 import tempfile
@@ -13,6 +14,7 @@ sys.dont_write_bytecode = True
 TOOLS = Path(__file__).resolve().parent.parent.parent / "tools"
 sys.path.insert(0, str(TOOLS))
 import mutants  # noqa: E402
+import relink  # noqa: E402
 
 
 def load_command():
@@ -203,6 +205,87 @@ class TestsTest(unittest.TestCase):
         self.assertEqual(mutate.failed_test("[ RUN      ] A.B\n[  FAILED  ] A.B (1 ms)\n[  FAILED  ] A.C\n"), "A.B")
         self.assertEqual(mutate.failed_test("[ RUN      ] A.B\n[       OK ] A.B\n[ RUN      ] A.C\n"), "A.C")
         self.assertEqual(mutate.failed_test(""), "the start of the tests")
+
+
+class StepsTest(unittest.TestCase):
+    """Which tests are compiled and run first where many objects hang on a change."""
+
+    class CountingBeside:
+        roots = ["t/FinanceTest.cpp.o", "t/WaiversTest.cpp.o", "t/OverallTest.cpp.o", "t/Main.cpp.o"]
+
+        def __init__(self, each):
+            self.each = each
+
+        def cost(self, roots):
+            return self.each * len(roots)
+
+    def steps(self, each, file):
+        tests = mutate.Tests("rules", TestsTest.REPORT)
+        tests.suites_of_file = {"FinanceTest": {"FinanceTest"}, "WaiversTest": {"WaiversTest"}, "OverallTest": {"FinanceTest"}}
+        tree = mutate.Tree.__new__(mutate.Tree)
+        tree.beside = self.CountingBeside(each)
+        return tree.steps(file, tests), tests
+
+    def test_all_tests_are_linked_at_once_where_little_has_to_be_compiled(self):
+        steps, tests = self.steps(1, "src/rules/Waivers.h")
+        self.assertEqual(steps, [(self.CountingBeside.roots, stage) for stage in tests.stages("src/rules/Waivers.h")])
+
+    def test_else_the_tests_of_the_name_come_first_and_everything_that_is_left_in_the_end(self):
+        steps, tests = self.steps(9, "src/rules/Waivers.h")
+        self.assertEqual(steps[0], (["t/Main.cpp.o", "t/WaiversTest.cpp.o"], ["WaiversTest.B"]))
+        self.assertEqual(steps[-1][0], self.CountingBeside.roots)
+        self.assertEqual(sorted(name for _, names in steps for name in names), sorted(tests.seconds))
+
+    def test_a_suite_in_two_files_runs_where_both_of_them_are(self):
+        steps, _ = self.steps(9, "src/rules/Finance.h")
+        for roots, names in steps:
+            if "FinanceTest.A" in names:
+                self.assertLessEqual({"t/FinanceTest.cpp.o", "t/OverallTest.cpp.o"}, set(roots))
+
+
+class RelinkTest(unittest.TestCase):
+    def test_what_depends_on_a_file_is_read_from_ninja(self):
+        told = "a.o: #deps 2, deps mtime 7 (VALID)\n    ../a.cpp\n    ../both.h\n\nb.o: #deps 1, deps mtime 7 (VALID)\n    ../both.h\n"
+        self.assertEqual(relink.dependants(told), {"../a.cpp": {"a.o"}, "../both.h": {"a.o", "b.o"}})
+
+    def test_what_is_weak_is_defined_and_does_not_have_to_be_found(self):
+        told = "a.o:\nmine T 0 4\ninline W 0 4\nmaybe w\ntheirs U\nb.o:\ntheirs D 0 4\n"
+        self.assertEqual(relink.symbols(told), {"a.o": ({"mine", "inline"}, {"theirs"}), "b.o": ({"theirs"}, set())})
+
+    def test_a_program_takes_what_its_roots_need_and_what_that_needs(self):
+        symbols = {"root.o": ({"main", "own"}, {"first"}), "first.o": ({"first"}, {"second", "own"}),
+                   "second.o": ({"second"}, {"printf"}), "again.o": ({"second"}, set()), "own.o": ({"own"}, set())}
+        self.assertEqual(relink.needed(["root.o"], ["again.o", "own.o", "second.o", "first.o"], symbols),
+                         ["root.o", "first.o", "again.o"])
+
+    def test_a_command_is_taken_without_the_shell_and_without_a_cache(self):
+        self.assertEqual(relink.words_of(": && /usr/bin/c++ -O0 a.o -o 'a b' && :"), ["/usr/bin/c++", "-O0", "a.o", "-o", "a b"])
+        self.assertEqual(relink.words_of("ccache c++ -c a.cpp"), ["c++", "-c", "a.cpp"])
+
+    @unittest.skipUnless(all(map(shutil.which, ("ninja", "nm", "ar", "c++"))), "needs a compiler of that name")
+    def test_only_what_the_change_affects_is_compiled_and_the_build_stays(self):
+        with tempfile.TemporaryDirectory() as name:
+            place = Path(name)
+            (place / "value.h").write_text("inline int Value() { return 3; }\n")
+            (place / "main.cpp").write_text('#include "value.h"\nint Other();\nint main() { return 10 * Value() + Other(); }\n')
+            (place / "other.cpp").write_text("int Other() { return 4; }\n")
+            (place / "build.ninja").write_text(
+                "rule cc\n  command = c++ -MD -MF $out.d -o $out -c $in\n  depfile = $out.d\n  deps = gcc\n"
+                "rule ar\n  command = ar qc $out $in\nrule ld\n  command = : && c++ main.o -o $out libother.a && :\n"
+                "build main.o: cc main.cpp\nbuild other.o: cc other.cpp\nbuild libother.a: ar other.o\n"
+                "build program: ld main.o libother.a\n")
+            subprocess.run(["ninja"], cwd=place, check=True, capture_output=True)
+            beside = relink.Beside(place, place / "mutant", "program")
+            made = (place / "main.o").read_bytes()
+            (place / "value.h").write_text("inline int Value() { return 5; }\n")
+            beside.begin(place / "value.h")
+            self.assertEqual(beside.cost(beside.roots), 1)
+            self.assertTrue(beside.linked(beside.roots))
+            self.assertEqual(subprocess.run([beside.program]).returncode, 54)
+            self.assertEqual((place / "main.o").read_bytes(), made)
+            (place / "value.h").write_text("inline int Value() { return }\n")
+            beside.begin(place / "value.h")
+            self.assertFalse(beside.linked(beside.roots))
 
 
 class FolderTest(unittest.TestCase):
