@@ -204,13 +204,17 @@ TEST(ArithmeticTest, EveryWholeNumberReadsBackFromItsText)
 
 TEST(ArithmeticTest, ANumberBeyondA64BitFloatFailsWith6)
 {
-    EXPECT_EQ(NumberThrownBy([] { LeadingNumber(std::string(400, '9')); }), 6);
-    EXPECT_EQ(NumberThrownBy([] { LeadingNumber("-" + std::string(400, '9')); }), 6);
+    for (char digit = '1'; digit <= '9'; ++digit) {
+        EXPECT_EQ(NumberThrownBy([&] { LeadingNumber(std::string(400, digit)); }), 6) << digit;
+        EXPECT_EQ(NumberThrownBy([&] { LeadingNumber("-" + std::string(400, digit)); }), 6) << digit;
+        EXPECT_EQ(NumberThrownBy([&] { LeadingNumber(std::string(400, digit) + ".5"); }), 6) << digit;
+    }
 }
 
 TEST(ArithmeticTest, ANumberTooSmallForA64BitFloatIs0)
 {
-    EXPECT_EQ(LeadingNumber("0." + std::string(400, '0') + "1"), 0);
+    for (char digit = '1'; digit <= '9'; ++digit)
+        EXPECT_EQ(LeadingNumber("0." + std::string(400, '0') + digit), 0) << digit;
 }
 
 } // namespace

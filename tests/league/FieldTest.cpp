@@ -73,6 +73,20 @@ TEST(FieldTest, AnExpressionOnFieldsDoesNotWrap)
     EXPECT_EQ(big + big, 4294967294LL);
 }
 
+TEST(FieldTest, AFieldIsRaisedLoweredAndCountedUpWithinItsLimits)
+{
+    Int16 word = 5;
+    EXPECT_EQ(word += 3, 8);
+    EXPECT_EQ(word -= 10, -2);
+    EXPECT_EQ(++word, -1);
+    EXPECT_EQ(++word, 0);
+    word = 32767;
+    EXPECT_EQ(NumberThrownBy([&] { ++word; }), 6);
+    EXPECT_EQ(NumberThrownBy([&] { word += 1; }), 6);
+    EXPECT_EQ(NumberThrownBy([&] { word -= 65536; }), 6);
+    EXPECT_EQ(word, 32767);
+}
+
 TEST(FieldTest, AFloatStandsAsItsIeeeBytes)
 {
     EXPECT_EQ(BytesOf(Float64(1.0)), std::string("\0\0\0\0\0\0\xF0\x3F", 8));
@@ -138,6 +152,8 @@ TEST(FieldTest, AnIndexOutsideAGridFailsWithNumber9)
     EXPECT_EQ(NumberThrownBy([&] { grid(5, 1) = 1; }), 9);
     EXPECT_EQ(NumberThrownBy([&] { grid(1, 4) = 1; }), 9);
     EXPECT_EQ(NumberThrownBy([&] { grid(0, 2) = 1; }), 9);
+    EXPECT_EQ(NumberThrownBy([&] { grid(1, 0) = 1; }), 9);
+    EXPECT_EQ(NumberThrownBy([&] { grid(5, 0) = 1; }), 9);
 }
 
 } // namespace

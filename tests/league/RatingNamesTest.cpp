@@ -41,12 +41,32 @@ TEST(RatingNamesTest, TheRatingsOfAGoalieHaveTheirCaptionsInOrder)
 TEST(RatingNamesTest, TheNamedRatingsStandWhereTheirCaptionsDo)
 {
     EXPECT_EQ(SkaterStatName[skater::CK], "CK");
+    EXPECT_EQ(SkaterStatName[skater::FG], "FG");
+    EXPECT_EQ(SkaterStatName[skater::DI], "DI");
+    EXPECT_EQ(SkaterStatName[skater::SK], "SK");
+    EXPECT_EQ(SkaterStatName[skater::ST], "ST");
     EXPECT_EQ(SkaterStatName[skater::DU], "DU");
+    EXPECT_EQ(SkaterStatName[skater::PH], "PH");
+    EXPECT_EQ(SkaterStatName[skater::FO], "FO");
+    EXPECT_EQ(SkaterStatName[skater::PA], "PA");
+    EXPECT_EQ(SkaterStatName[skater::SC], "SC");
     EXPECT_EQ(SkaterStatName[skater::DF], "DF");
+    EXPECT_EQ(SkaterStatName[skater::EX], "EX");
+    EXPECT_EQ(SkaterStatName[skater::LD], "LD");
+    EXPECT_EQ(SkaterStatName[skater::MO], "MO");
     EXPECT_EQ(SkaterStatName[skater::PO], "PO");
     EXPECT_EQ(GoalieStatName[goalie::SK], "SK");
     EXPECT_EQ(GoalieStatName[goalie::DU], "DU");
+    EXPECT_EQ(GoalieStatName[goalie::ST], "ST");
+    EXPECT_EQ(GoalieStatName[goalie::SZ], "SZ");
+    EXPECT_EQ(GoalieStatName[goalie::AG], "AG");
+    EXPECT_EQ(GoalieStatName[goalie::RB], "RB");
+    EXPECT_EQ(GoalieStatName[goalie::SC], "SC");
+    EXPECT_EQ(GoalieStatName[goalie::HS], "HS");
     EXPECT_EQ(GoalieStatName[goalie::RT], "RT");
+    EXPECT_EQ(GoalieStatName[goalie::EX], "EX");
+    EXPECT_EQ(GoalieStatName[goalie::LD], "LD");
+    EXPECT_EQ(GoalieStatName[goalie::MO], "MO");
     EXPECT_EQ(GoalieStatName[goalie::PO], "PO");
 }
 

@@ -1,3 +1,4 @@
+#include "league/FreeAgentOffer.h"
 #include "league/League.h"
 #include "league/Person.h"
 #include "league/Prospect.h"
@@ -218,6 +219,31 @@ TEST(RecordsTest, ARosterChangeIsAByteAndTwoWords)
     change.Protected = true;
     change.TradeAvailable.SetWord(0x0201);
     EXPECT_EQ(BytesOf(change), (Bytes{{0, 10}, {1, 255}, {2, 255}, {3, 1}, {4, 2}}));
+}
+
+TEST(RecordsTest, TheFieldsOfAnOfferLieAtTheirBytesAndItsCommentFillsTheRest)
+{
+    FreeAgentOffer offer;
+    offer.Id = 0x0201;
+    offer.Team = 3;
+    offer.Salary = 0x07060504;
+    offer.Duration = 8;
+    offer.Bonus = -2;
+    EXPECT_EQ(BytesOf(offer), (Bytes{{0, 1},
+                                     {1, 2},
+                                     {2, 3},
+                                     {4, 4},
+                                     {5, 5},
+                                     {6, 6},
+                                     {7, 7},
+                                     {8, 8},
+                                     {10, 254},
+                                     {11, 255},
+                                     {12, 255},
+                                     {13, 255}}));
+    offer.Comment = std::string(2000, 'c');
+    EXPECT_EQ(BytesOf(offer).size(), 12U + 1000U);
+    EXPECT_EQ(BytesOf(offer).count(1014), 0U);
 }
 
 TEST(RecordsTest, TheSlotsOfALineUpStandAtTheirWordsTheFirstIndexRunningFastest)

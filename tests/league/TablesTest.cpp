@@ -1,5 +1,13 @@
+#include "league/Tables.h"
+
+#include "league/FreeAgentOffer.h"
 #include "session/Session.h"
 #include "support/SmallLeague.h"
+
+#include <algorithm>
+#include <cstring>
+#include <gtest/gtest.h>
+#include <memory>
 
 namespace dravik {
 namespace {
@@ -48,6 +56,54 @@ TEST(TablesTest, OnlySkatersAndGoaliesHaveASlot0)
     ReachesFromTo(GameSchedule, 1, 5000);
     ReachesFromTo(RosterChanges, 1, 10000);
     ReachesFromTo(RosterChangesGoalie, 1, 1000);
+}
+
+TEST(TablesTest, EveryCommonNumberHasItsOffer)
+{
+    const auto offers = std::make_unique<OfferTable>();
+    EXPECT_EQ(sizeof *offers / sizeof(FreeAgentOffer), 11000U);
+    ReachesFromTo(*offers, 1, 11000);
+}
+
+// A league whose bytes are all 1.
+std::unique_ptr<Tables> LeagueOfOnes()
+{
+    auto league = MakeTables();
+    std::memset(static_cast<void*>(league.get()), 1, sizeof *league);
+    return league;
+}
+
+template <class Table>
+bool IsAll(int value, const Table& table)
+{
+    const auto* bytes = reinterpret_cast<const unsigned char*>(&table);
+    return std::all_of(bytes, bytes + sizeof table, [value](unsigned char byte) { return byte == value; });
+}
+
+TEST(TablesTest, ANewLeagueIsAllZero) { EXPECT_TRUE(IsAll(0, *MakeTables())); }
+
+TEST(TablesTest, ACopyHasEveryByteAndIsALeagueOfItsOwn)
+{
+    const auto league = LeagueOfOnes();
+    const auto copy = Copy(*league);
+    EXPECT_TRUE(IsAll(1, *copy));
+    copy->Teams[1].Cash = 0;
+    EXPECT_TRUE(IsAll(1, *league));
+}
+
+TEST(TablesTest, TheFiveTablesThatALoadReplacesAreEmptiedAndTheOthersStay)
+{
+    const auto league = LeagueOfOnes();
+    EmptyLeagueTables(*league);
+    EXPECT_TRUE(IsAll(0, league->Prospects));
+    EXPECT_TRUE(IsAll(0, league->Players));
+    EXPECT_TRUE(IsAll(0, league->Goalies));
+    EXPECT_TRUE(IsAll(0, league->Teams));
+    EXPECT_TRUE(IsAll(0, league->GameSchedule));
+    EXPECT_TRUE(IsAll(1, league->LeagueData));
+    EXPECT_TRUE(IsAll(1, league->Coaches));
+    EXPECT_TRUE(IsAll(1, league->RosterChanges));
+    EXPECT_TRUE(IsAll(1, league->RosterChangesGoalie));
 }
 
 } // namespace

@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 #include <string>
+#include <string_view>
 
 namespace dravik {
 namespace {
@@ -80,6 +81,12 @@ TEST(TrimmingTest, WhatOnlyLooksLikeAnEscapedCharacterIsCutByteByByte)
         EXPECT_EQ(WithoutLastCharacters(text, text.size() - 1), text.substr(0, 1));
     }
     EXPECT_EQ(WithoutLastCharacters("\x1A", 1), "");
+}
+
+TEST(TrimmingTest, WhatStandsBehindTheTextIsNotLookedAt)
+{
+    const std::string_view longer = "\x1A{43B}";
+    EXPECT_EQ(WithoutLastCharacters(longer.substr(0, 5), 1), "\x1A{43");
 }
 
 } // namespace
