@@ -116,14 +116,5 @@ TEST_F(EarlierVersionsTest, TheMachineKeepsThemInItsFolder)
     EXPECT_THAT(Machine.FileOperations(), IsEmpty());
 }
 
-TEST(SortableTimeTest, IsTheTimeToTheSecond)
-{
-    EXPECT_EQ(SortableTime(0), "1899-12-30 00.00.00");
-    EXPECT_EQ(SortableTime(46034), "2026-01-12 00.00.00");
-    EXPECT_EQ(SortableTime(46034 + 86399.0 / 86400), "2026-01-12 23.59.59");
-    EXPECT_EQ(SortableTime(46034 + 86399.6 / 86400), "2026-01-13 00.00.00");
-    EXPECT_EQ(SortableTime(2958465.5), "9999-12-31 12.00.00");
-}
-
 } // namespace
 } // namespace dravik
