@@ -124,6 +124,10 @@ class Beside:
             self.changed[made] = f"{target}.o"
         return True
 
+    def differs(self):
+        """Whether the change made an object of those that were compiled another one: code for another system does not."""
+        return any((self.build / made).read_bytes() != Path(where).read_bytes() for made, where in self.changed.items())
+
     def linked(self, roots):
         """Makes the program of these roots out of what it needs, or, should a change need more, of all. Whether it can be."""
         for objects in (needed(roots, self.members, self.symbols), dict.fromkeys([*roots, *self.members])):

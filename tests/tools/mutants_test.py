@@ -283,6 +283,11 @@ class RelinkTest(unittest.TestCase):
             self.assertTrue(beside.linked(beside.roots))
             self.assertEqual(subprocess.run([beside.program]).returncode, 54)
             self.assertEqual((place / "main.o").read_bytes(), made)
+            self.assertTrue(beside.differs())
+            (place / "value.h").write_text("inline int Value() { return 2 + 1; }\n")
+            beside.begin(place / "value.h")
+            self.assertTrue(beside.linked(beside.roots))
+            self.assertFalse(beside.differs())
             (place / "value.h").write_text("inline int Value() { return }\n")
             beside.begin(place / "value.h")
             self.assertFalse(beside.linked(beside.roots))
@@ -326,8 +331,8 @@ class RunTest(unittest.TestCase):
     def test_the_summary_counts_every_fate(self):
         run = self.run_of(["killed", "no code", "survived", "timed out", "killed"], "--count", "9", "--seed", "5")
         self.assertTrue(run.summary().startswith(
-            "rules, seed 5: 4 mutants, 3 killed (1 of them by their time), 1 survived: 75.0 of 100 killed. 1 more did not "
-            "compile."), run.summary())
+            "rules, seed 5: 4 mutants, 3 killed (1 of them by their time), 1 survived: 75.0 of 100 killed. 1 more made "
+            "no other code."), run.summary())
 
 
 if __name__ == "__main__":
