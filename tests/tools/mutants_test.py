@@ -164,6 +164,10 @@ class CommandTest(unittest.TestCase):
         self.assertEqual(first, self.listed("rules", "--seed", "1", "--count", "30").stdout)
         self.assertNotEqual(first, self.listed("rules", "--seed", "2", "--count", "30").stdout)
 
+    def test_a_run_can_go_on_where_another_one_ended(self):
+        all_of_them = self.listed("rules", "--count", "30").stdout.splitlines()
+        self.assertEqual(self.listed("rules", "--skip", "20", "--count", "10").stdout.splitlines(), all_of_them[20:])
+
     def test_one_line_can_be_chosen(self):
         place = self.listed("rules", "--count", "1").stdout.split(": ")[0]
         file, line, column = place.split(":")
