@@ -261,6 +261,24 @@ TEST_F(DiskFilesTest, AFullDiskFailsWith61)
               61);
 }
 
+#ifdef __linux__ // elsewhere only the folder tells how a name is written
+
+TEST_F(DiskFilesTest, InAFolderThatMayNotBeListedAnEntryIsFoundByItsVeryNameAlone)
+{
+    fs::create_directory(In("closed"));
+    const std::string file = In("closed") + PathSeparator + "file";
+    std::ofstream(file) << "x";
+    EXPECT_EQ(chmod(In("closed").c_str(), 0111), 0);
+    {
+        const ReadOnly folder(Disk.Folder());
+        EXPECT_EQ(Disk.FindEntry(file), "file");
+        EXPECT_EQ(NumberThrownBy([&] { Disk.FindEntry(In("closed") + PathSeparator + "FILE"); }), 70);
+    }
+    EXPECT_EQ(chmod(In("closed").c_str(), 0755), 0);
+}
+
+#endif
+
 TEST_F(DiskFilesTest, AFileThatMayNotBeReadFailsWith70)
 {
     Make("secret", "x");

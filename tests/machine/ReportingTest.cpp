@@ -117,14 +117,6 @@ TEST_F(ReportingTest, ABoxStandsUnderTheProgramsTitleAndItsButtonStaysInMsgResul
     EXPECT_THAT(Machine.Boxes(), ElementsAre(Box{36, "Are you sure?", "Dravik Hockey Simulator Client"}));
 }
 
-TEST_F(ReportingTest, TheKindsOfABoxHaveTheirNumbers)
-{
-    EXPECT_EQ(box::Critical, 16);
-    EXPECT_EQ(box::Warning, 48);
-    EXPECT_EQ(box::Information, 64);
-    EXPECT_EQ(box::YesNo, 36);
-}
-
 TEST_F(ReportingTest, ANumberOutOfRangeFailsTheIntegrityCheckInACriticalBox)
 {
     Machine.ShowIntegrityFailure();
@@ -138,13 +130,6 @@ TEST_F(ReportingTest, AnInputBoxStandsUnderTheProgramsTitleWithNothingInIt)
     EXPECT_EQ(Machine.AskText("Password Required!"), ""); // cancelled
     const Question asked{"Password Required!", "Dravik Hockey Simulator Client", ""};
     EXPECT_THAT(Machine.Questions(), ElementsAre(asked, asked));
-}
-
-TEST_F(ReportingTest, AVoiceThatHasJustStartedMayNotReportAndHasNoAnswer)
-{
-    const MuteVoice voice;
-    EXPECT_FALSE(voice.MessagesAllowed);
-    EXPECT_EQ(voice.MsgResult, 0);
 }
 
 } // namespace

@@ -31,6 +31,13 @@ TEST(VoiceTest, TheKindsOfABoxAndItsButtonsHaveTheirNumbers)
     EXPECT_EQ(button::No, 7);
 }
 
+TEST(VoiceTest, AVoiceThatHasJustStartedMayNotReportAndHasNoAnswer)
+{
+    const MuteVoice voice;
+    EXPECT_FALSE(voice.MessagesAllowed);
+    EXPECT_EQ(voice.MsgResult, 0);
+}
+
 TEST(VoiceTest, AMuteVoiceTakesEveryBoxAndFailsAtEveryQuestion)
 {
     MuteVoice voice;
