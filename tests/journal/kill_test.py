@@ -48,7 +48,7 @@ def main():
     kills = int(os.environ.get("DRAVIK_KILLS", "50"))
     seed = int(os.environ.get("DRAVIK_KILLS_SEED", "1"))
     choose = random.Random(seed)
-    told = wrong = moved = 0
+    told = wrong = moved = behind = before = 0
     while told < kills:
         league = seed + told // DEATHS
         with tempfile.TemporaryDirectory() as place:
@@ -65,12 +65,17 @@ def main():
                 told += 1
                 moved += len(set(noted)) > 1
                 state = back.stdout.strip()
+                if noted[-1:] == [state]:
+                    behind += 1
+                elif noted[-2:-1] == [state]:
+                    before += 1
                 if back.returncode != 0 or not noted or state not in noted[-2:]:
                     wrong += 1
                     where = [at for at, other in enumerate(noted) if other == state]
                     print(f"league {league}, evening {evening}, death {death}: {len(noted)} states, brought back "
                           f"number {where}; {back.stderr}")
-    print(f"{told} kills, {moved} of them behind a change, {wrong} not brought back")
+    print(f"{told} kills, {moved} of them behind a change; brought back to the last state {behind} times, to the one before it "
+          f"{before} times, to none of them {wrong} times")
     return 1 if wrong or moved * 2 < told else 0
 
 
