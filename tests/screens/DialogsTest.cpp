@@ -397,6 +397,25 @@ TEST_F(Dialogs, TheInputBoxReturnsWhatIsTyped)
     EXPECT_EQ(answer, "Gulls");
 }
 
+TEST_F(Dialogs, TheInputBoxHasItsLineBetweenThePromptAndTheButtonsFromSideToSide)
+{
+    Ask("Enter New Name", [](QDialog& dialog) {
+        const auto placeOf = [&dialog](const char* name) {
+            const auto* part = dialog.findChild<QWidget*>(name);
+            EXPECT_NE(part, nullptr) << name;
+            return part == nullptr ? QRect() : QRect(part->mapTo(&dialog, QPoint()), part->size());
+        };
+        const QRect prompt = placeOf("lblPrompt");
+        const QRect line = placeOf("txtAnswer");
+        const QRect ok = placeOf("cmdOk");
+        EXPECT_GT(line.top(), prompt.bottom());
+        EXPECT_LT(line.bottom(), ok.top());
+        EXPECT_EQ(line.left(), prompt.left());
+        EXPECT_EQ(line.right(), dialog.rect().right() - line.left());
+        Click(dialog, "cmdOk");
+    });
+}
+
 TEST_F(Dialogs, EnterAcceptsTheInputAndKeepsTheDefault)
 {
     EXPECT_EQ(Ask(

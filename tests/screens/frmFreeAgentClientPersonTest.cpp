@@ -70,6 +70,18 @@ TEST_F(OfferPerson, AgeAndPresentSalaryAreShownAndCannotBeChanged)
     EXPECT_FALSE(Offers().txtSalary->isEnabled());
 }
 
+TEST_F(OfferPerson, AgeAndPresentSalaryHaveTheRoomOfTheirLargestNumbersAndNotMuchMore)
+{
+    FreeSkater(1, 6, 29).Salary = 2147483647;
+    Open();
+    const auto holds = [](const EditBox& box, const QString& least, const QString& most) {
+        EXPECT_GE(box.width(), box.fontMetrics().horizontalAdvance(least)) << box.objectName().toStdString();
+        EXPECT_LE(box.width(), box.fontMetrics().horizontalAdvance(most)) << box.objectName().toStdString();
+    };
+    holds(*Offers().txtAge, "000", "00000");
+    holds(*Offers().txtSalary, "000000000000", "00000000000000");
+}
+
 TEST_F(OfferPerson, TheStatusGoesByAgeAndTeam)
 {
     LeagueData.OfferRuleFlag = true;
