@@ -88,11 +88,27 @@ public:
         Demand(List()->currentItem()->text().startsWith(QChar(letter), Qt::CaseInsensitive));
     }
 
+    // The search gone on with, from one end of the list to the other, painted.
+    void FindNext()
+    {
+        const bool isLast = turn++ % 2 == 0;
+        if (!isKnown) {
+            machine.Type("9");
+            Offers().cmdSearch->click();
+            isKnown = true;
+        }
+        List()->setCurrentRow(isLast ? List()->count() - 3 : 0);
+        QTest::keyClick(List(), Qt::Key_F3);
+        Offers().grab();
+        Demand(List()->currentRow() == (isLast ? List()->count() - 2 : 8));
+    }
+
 private:
     frmFreeAgentClient& Offers() { return On<frmFreeAgentClient>(Window::FreeAgent); }
     PickList* List() { return Offers().lstPlayers; }
 
     int turn = 0;
+    bool isKnown = false; // what is searched for
 };
 
 void AgainstAWalk(benchmark::State& state, void (Bench::*work)())
@@ -107,6 +123,7 @@ BENCHMARK_CAPTURE(AgainstAWalk, FilterOffers, &Bench::Filter)->Iterations(Rounds
 BENCHMARK_CAPTURE(AgainstAWalk, SearchOffers, &Bench::Search)->Iterations(Rounds)->UseManualTime();
 BENCHMARK_CAPTURE(AgainstAWalk, SearchOffersInVain, &Bench::SearchInVain)->Iterations(Rounds)->UseManualTime();
 BENCHMARK_CAPTURE(AgainstAWalk, TypeAheadInOffers, &Bench::TypeAhead)->Iterations(Rounds)->UseManualTime();
+BENCHMARK_CAPTURE(AgainstAWalk, FindNextOffer, &Bench::FindNext)->Iterations(Rounds)->UseManualTime();
 
 } // namespace
 } // namespace dravik

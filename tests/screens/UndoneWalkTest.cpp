@@ -89,7 +89,7 @@ protected:
         // Those that leave the screen, ask for a file, a name or a password, or write a file.
         static const std::set<QString> passedOver = {"cmdExit",     "CmdRoster",   "cmdLines",      "cmdFarmLines",
                                                      "cmdProspect", "cmdLoadFile", "cmdSaveToFile", "cmdLoad",
-                                                     "cmdSearch",   "cmdPassword", "cmdTicketArena"};
+                                                     "cmdSearch",   "cmdFindNext", "cmdPassword",   "cmdTicketArena"};
         std::vector<T*> found;
         for (T* widget : screen.findChildren<T*>())
             if (widget->isVisible() && widget->isEnabled() && passedOver.count(widget->objectName()) == 0)

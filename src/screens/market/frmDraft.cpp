@@ -5,7 +5,6 @@
 #include "league/PersonId.h"
 #include "machine/Reporting.h"
 #include "screens/BehindWait.h"
-#include "screens/panels/NameSearch.h"
 #include "screens/panels/TellTakenIn.h"
 #include "screens/platform/CodePage.h"
 #include "session/OpenHistory.h"
@@ -165,9 +164,23 @@ void frmDraft::lstDraftList_Dropped(int from, int to)
 void frmDraft::cmdSearch_Click()
 {
     Reporting(Machine(), " in cmdSearch!", [this] {
-        const int found = SearchPlayer(*lstPlayers);
+        const int found = search.Ask(*lstPlayers);
         if (found >= 0)
             lstPlayers->setCurrentRow(found);
+    });
+}
+
+void frmDraft::cmdFindNext_Click()
+{
+    if (!search.HasAnswer()) {
+        cmdSearch_Click();
+        return;
+    }
+    Reporting(Machine(), " in cmdFindNext!", [this] {
+        const int found = search.Next(*lstPlayers);
+        if (found >= 0)
+            lstPlayers->setCurrentRow(found);
+        lstPlayers->setFocus(Qt::OtherFocusReason);
     });
 }
 

@@ -2,6 +2,7 @@
 
 #include "desk/Ranking.h"
 #include "files/DraftFile.h"
+#include "screens/panels/NameSearch.h"
 #include "screens/panels/RankList.h"
 #include "screens/Screen.h"
 
@@ -40,6 +41,8 @@ public:
     void cmdUp_Click();
     void cmdDown_Click();
     void cmdSearch_Click();
+    // Goes on with the last search behind the current entry; without one it searches as the command before it does.
+    void cmdFindNext_Click();
     void cmdSaveToFile_Click();
     // Takes in the ranking that was there when the screen closed last, or that of a file.
     void cmdBringBack_Click();
@@ -54,7 +57,7 @@ public:
     Row<QCheckBox*, 1, 5> chkPosition;
     QPushButton *cmdChoose = nullptr, *cmdRemove = nullptr, *cmdUp = nullptr, *cmdDown = nullptr;
     QPushButton *cmdSearch = nullptr, *cmdSaveToFile = nullptr, *cmdExit = nullptr;
-    QPushButton *cmdLoad = nullptr, *cmdBringBack = nullptr;
+    QPushButton *cmdFindNext = nullptr, *cmdLoad = nullptr, *cmdBringBack = nullptr;
 
 private:
     // A change of whoever is chosen in a list as a step.
@@ -71,6 +74,7 @@ private:
     void ShowKept();
 
     DraftRanking& ranking; // that of the open market
+    PlayerSearch search;
 };
 
 } // namespace dravik

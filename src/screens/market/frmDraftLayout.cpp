@@ -43,7 +43,7 @@ frmDraft::frmDraft(Stage& stage) : Screen(stage, "frmDraft"), ranking(OpenMarket
     column->addLayout(lists, 1);
     column->addSpacing(Gap);
 
-    SetPage(content, MakeFooter({cmdSearch, cmdLoad, cmdBringBack},
+    SetPage(content, MakeFooter({cmdSearch, cmdFindNext, cmdLoad, cmdBringBack},
                                 {MakeSaveLine(SavedFile::Ranking), MakeHistoryCommands(), cmdSaveToFile, cmdExit}));
     SetTabOrder();
     resize(DefaultSize.expandedTo(content->minimumSizeHint()));
@@ -97,12 +97,14 @@ void frmDraft::MakeControls()
     cmdDown = MakeCommand("cmdDown", "&Down",
                           AsListStep("Down on the draft list", lstDraftList, [this] { cmdDown_Click(); }));
     cmdSearch = MakeCommand("cmdSearch", "Search &Player", [this] { cmdSearch_Click(); });
+    cmdFindNext = MakeCommand("cmdFindNext", "Find Next", [this] { cmdFindNext_Click(); });
+    SetUpFindNext(*cmdFindNext);
     cmdSaveToFile = MakeCommand("cmdSaveToFile", "&Save to File", [this] { cmdSaveToFile_Click(); });
     cmdExit = MakeCommand("cmdExit", "E&xit", [this] { cmdExit_Click(); });
     cmdLoad = MakeCommand("cmdLoad", "&Load List ...", AsStep("Load a draft list", [this] { cmdLoad_Click(); }));
     cmdBringBack = MakeCommand("cmdBringBack", "Bring &Back List",
                                AsStep("Bring back the draft list", [this] { cmdBringBack_Click(); }));
-    for (QPushButton* command : {cmdLoad, cmdBringBack})
+    for (QPushButton* command : {cmdFindNext, cmdLoad, cmdBringBack})
         command->setFocusPolicy(Qt::NoFocus); // the tab key goes its way as without them
     cmdBringBack->hide();
 }

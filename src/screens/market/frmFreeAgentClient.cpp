@@ -8,7 +8,6 @@
 #include "rules/StatRows.h"
 #include "screens/BehindWait.h"
 #include "screens/EventGuard.h"
-#include "screens/panels/NameSearch.h"
 #include "screens/panels/TellTakenIn.h"
 #include "screens/PersonWords.h"
 #include "screens/platform/CodePage.h"
@@ -321,9 +320,24 @@ void frmFreeAgentClient::cmdSearch_Click()
 {
     ShowWaitingBox();
     Reporting(Machine(), " in cmdSearch!", [this] {
-        const int row = SearchPlayer(*lstPlayers);
+        const int row = search.Ask(*lstPlayers);
         if (row >= 0)
             Choose(row);
+    });
+}
+
+void frmFreeAgentClient::cmdFindNext_Click()
+{
+    if (!search.HasAnswer()) {
+        cmdSearch_Click();
+        return;
+    }
+    ShowWaitingBox();
+    Reporting(Machine(), " in cmdFindNext!", [this] {
+        const int row = search.Next(*lstPlayers);
+        if (row >= 0)
+            Choose(row);
+        lstPlayers->setFocus(Qt::OtherFocusReason);
     });
 }
 

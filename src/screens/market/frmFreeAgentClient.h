@@ -5,6 +5,7 @@
 #include "league/PersonId.h"
 #include "screens/panels/EditArea.h"
 #include "screens/panels/EditBox.h"
+#include "screens/panels/NameSearch.h"
 #include "screens/panels/PickList.h"
 #include "screens/panels/StatPanel.h"
 #include "screens/panels/Verdict.h"
@@ -44,6 +45,8 @@ public:
     void txtComment_LostFocus();
 
     void cmdSearch_Click();
+    // Goes on with the last search behind the current entry; without one it searches as the command before it does.
+    void cmdFindNext_Click();
     void cmdSaveToFile_Click();
     // Takes in the offers that were there when the screen closed last, or those of a file.
     void cmdBringBack_Click();
@@ -65,7 +68,7 @@ public:
     VerdictLabel* lblOffersMade = nullptr; // offers to others against what is left of them
     QLabel* lblOffersCost = nullptr;       // what all offers come to
     QPushButton *cmdSearch = nullptr, *cmdSaveToFile = nullptr, *cmdExit = nullptr;
-    QPushButton *cmdLoad = nullptr, *cmdBringBack = nullptr;
+    QPushButton *cmdFindNext = nullptr, *cmdLoad = nullptr, *cmdBringBack = nullptr;
 
 protected:
     // Whom the offer at hand is made to.
@@ -109,6 +112,7 @@ private:
 
     OfferTable& offers; // those of the open market
     Int16 offerIndex;
+    PlayerSearch search;
     bool isPressed = false; // the list is being told of a press
     std::function<void()> waitingBox;
     QTimer secondPress;

@@ -41,7 +41,7 @@ frmFreeAgentClient::frmFreeAgentClient(Stage& stage) : Screen(stage, "frmFreeAge
     column->addLayout(middle, 1);
     column->addLayout(MakeLimitRow());
 
-    SetPage(content, MakeFooter({cmdSearch, cmdLoad, cmdBringBack},
+    SetPage(content, MakeFooter({cmdSearch, cmdFindNext, cmdLoad, cmdBringBack},
                                 {MakeSaveLine(SavedFile::Offers), MakeHistoryCommands(), cmdSaveToFile, cmdExit}));
     SetTabOrder();
     resize(DefaultSize.expandedTo(content->minimumSizeHint()));
@@ -101,12 +101,14 @@ void frmFreeAgentClient::MakeControls()
     connect(&secondPress, &QTimer::timeout, this, [this] { ShowWaitingBox(); });
 
     cmdSearch = MakeCommand("cmdSearch", "Sea&rch Player", [this] { cmdSearch_Click(); });
+    cmdFindNext = MakeCommand("cmdFindNext", "Find Next", [this] { cmdFindNext_Click(); });
+    SetUpFindNext(*cmdFindNext);
     cmdSaveToFile = MakeCommand("cmdSaveToFile", "Save to &File", [this] { cmdSaveToFile_Click(); });
     cmdExit = MakeCommand("cmdExit", "E&xit", [this] { cmdExit_Click(); });
     cmdLoad = MakeCommand("cmdLoad", "Load Off&ers ...", AsStep("Load offers", [this] { cmdLoad_Click(); }));
     cmdBringBack = MakeCommand("cmdBringBack", "Bring Bac&k Offers",
                                AsStep("Bring back offers", [this] { cmdBringBack_Click(); }));
-    for (QPushButton* command : {cmdLoad, cmdBringBack})
+    for (QPushButton* command : {cmdFindNext, cmdLoad, cmdBringBack})
         command->setFocusPolicy(Qt::NoFocus); // the tab key goes its way as without them
     cmdBringBack->hide();
 }
