@@ -88,6 +88,17 @@ public:
         Demand(List()->currentItem()->text().startsWith(QChar(letter), Qt::CaseInsensitive));
     }
 
+    // Two letters that lead on, and one that nobody has behind them, so that everybody is looked at for both readings of
+    // the first two: three keys. Painted.
+    void TypeInVain()
+    {
+        List()->keyboardSearch(QString());
+        QTest::keyClicks(List(), "ss");
+        const int before = List()->currentRow();
+        QTest::keyClick(List(), 'q');
+        Offers().grab();
+        Demand(List()->currentRow() == before);
+    }
     // The search gone on with, from one end of the list to the other, painted.
     void FindNext()
     {
@@ -123,6 +134,7 @@ BENCHMARK_CAPTURE(AgainstAWalk, FilterOffers, &Bench::Filter)->Iterations(Rounds
 BENCHMARK_CAPTURE(AgainstAWalk, SearchOffers, &Bench::Search)->Iterations(Rounds)->UseManualTime();
 BENCHMARK_CAPTURE(AgainstAWalk, SearchOffersInVain, &Bench::SearchInVain)->Iterations(Rounds)->UseManualTime();
 BENCHMARK_CAPTURE(AgainstAWalk, TypeAheadInOffers, &Bench::TypeAhead)->Iterations(Rounds)->UseManualTime();
+BENCHMARK_CAPTURE(AgainstAWalk, TypeAheadInVain, &Bench::TypeInVain)->Iterations(Rounds)->UseManualTime();
 BENCHMARK_CAPTURE(AgainstAWalk, FindNextOffer, &Bench::FindNext)->Iterations(Rounds)->UseManualTime();
 
 } // namespace

@@ -49,6 +49,15 @@ public:
         Roster().grab();
         Demand(list->currentRow() == entry.row());
     }
+    // A letter that leads to the next person, painted.
+    void Letter()
+    {
+        PickList* list = Roster().lstPlayer[status::Pro];
+        const int before = list->currentRow();
+        QTest::keyClick(list, 's');
+        Roster().grab();
+        Demand(list->currentRow() != before);
+    }
     // Everybody listed and judged anew, painted.
     void Rebuild()
     {
@@ -91,6 +100,7 @@ void AgainstAWalk(benchmark::State& state, void (Bench::*work)())
 
 constexpr int Rounds = 200;
 BENCHMARK_CAPTURE(AgainstAWalk, Click, &Bench::Click)->Iterations(Rounds)->UseManualTime();
+BENCHMARK_CAPTURE(AgainstAWalk, Letter, &Bench::Letter)->Iterations(Rounds)->UseManualTime();
 BENCHMARK_CAPTURE(AgainstAWalk, Rebuild, &Bench::Rebuild)->Iterations(Rounds)->UseManualTime();
 BENCHMARK_CAPTURE(AgainstAWalk, Move, &Bench::Move)->Iterations(Rounds)->UseManualTime();
 

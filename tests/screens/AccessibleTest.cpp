@@ -3,6 +3,7 @@
 #include "screens/panels/LinkLabel.h"
 #include "screens/panels/RatingBar.h"
 #include "screens/panels/SlotLabel.h"
+#include "screens/panels/TypedTag.h"
 #include "screens/panels/Verdict.h"
 
 #include <private/qguiapplication_p.h>
@@ -166,6 +167,34 @@ TEST(Accessible, AChangedVerdictIsAnnounced)
     verdict.Tell("Lines are Incomplete", false);
     EXPECT_EQ(Listening::Count(announced, verdict), 2);
     EXPECT_EQ(NameOf(verdict), "Lines are Incomplete");
+}
+
+TEST(Accessible, WhatIsTypedInAListIsAnnouncedLetterByLetter)
+{
+    Shown<EntryList> shown;
+    EntryList& list = *shown.Panel;
+    list.Add("Ward Tilton", 5);
+    list.Add("Pia Vos", 6);
+    list.setFocus();
+#if QT_VERSION >= QT_VERSION_CHECK(6, 8, 0)
+    const auto announced = QAccessible::Announcement;
+#else
+    const auto announced = QAccessible::Alert;
+#endif
+    const Listening reader;
+    QTest::keyClick(&list, 'v');
+    auto& tag = *list.findChild<TypedTag*>();
+    EXPECT_EQ(Reader(tag).role(), QAccessible::AlertMessage);
+    EXPECT_EQ(NameOf(tag), "Typed: v");
+    EXPECT_EQ(Listening::Count(announced, tag), 1);
+    EXPECT_EQ(Listening::Count(QAccessible::Focus, list), 1) << "the entry that it leads to";
+    QTest::keyClick(&list, 'v');
+    EXPECT_EQ(Listening::Count(announced, tag), 1) << "the same letter again is no new text";
+    QTest::keyClick(&list, 'x');
+    EXPECT_EQ(NameOf(tag), "Typed: vx: not found");
+    EXPECT_EQ(Listening::Count(announced, tag), 2);
+    QTest::keyClick(&list, Qt::Key_Escape);
+    EXPECT_TRUE(Reader(tag).state().invisible);
 }
 
 TEST(Accessible, ABarSaysItsRatingAndNumber)

@@ -7,6 +7,7 @@
 #include "screens/panels/ReasonsBox.h"
 #include "screens/panels/Shades.h"
 #include "screens/panels/SlotLabel.h"
+#include "screens/panels/TypedTag.h"
 #include "screens/panels/Verdict.h"
 #include "screens/platform/FusionLook.h"
 
@@ -184,6 +185,27 @@ TEST_F(ContrastTest, EveryDayCanBeReadWhetherItIsOpenOrNot)
                     EXPECT_GE(*contrast, Readable) << day << (isEnabled ? "" : ", closed");
                 }
             }
+        }
+    }
+}
+
+TEST_F(ContrastTest, WhatWasTypedInAListCanBeReadWhetherItIsFoundOrNot)
+{
+    QWidget list;
+    list.resize(300, 100);
+    TypedTag tag(&list);
+    list.show();
+    for (const QPalette& palette : AllPalettes()) {
+        Use(palette);
+        for (const bool isFound : {true, false}) {
+            tag.Tell("Tilton", isFound);
+            tag.PlaceIn(list.rect(), {});
+            Settle();
+            constexpr int edge = 3;
+            const auto contrast =
+                PaintedContrast(tag.grab().toImage(), tag.rect().adjusted(tag.width() / 2, edge, -edge - 1, -edge));
+            ASSERT_TRUE(contrast.has_value());
+            EXPECT_GE(*contrast, Readable) << (isFound ? "found" : "not found");
         }
     }
 }

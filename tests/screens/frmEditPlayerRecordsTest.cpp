@@ -64,6 +64,20 @@ TEST_F(ViewerRecords, SearchSelectsTheFirstEntryThatHoldsTheAnswerInAnyCase)
     EXPECT_THAT(Machine.Boxes(), IsEmpty());
 }
 
+TEST_F(ViewerRecords, LettersFindAnyPartOfANameInTheListAndShowIt)
+{
+    PutSkater(20, 9, position::Center, status::Pro).Name = "Karl D'Aubremont";
+    frmEditPlayer& viewer = Edit(0);
+    viewer.lstPlayer->setFocus();
+    QTest::keyClicks(viewer.lstPlayer, "aubre");
+    EXPECT_EQ(SelectedPlayer, 20);
+    EXPECT_EQ(Of(viewer.txtName), "Karl D'Aubremont");
+    const auto* tag = viewer.lstPlayer->findChild<QLabel*>("lblTyped");
+    ASSERT_NE(tag, nullptr);
+    EXPECT_TRUE(tag->isVisible());
+    EXPECT_EQ(tag->text(), "aubre");
+}
+
 TEST_F(ViewerRecords, SearchThroughTheRealDialogs)
 {
     frmEditPlayer& viewer = Edit(0);

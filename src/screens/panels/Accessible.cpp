@@ -3,6 +3,7 @@
 #include "screens/panels/DayStrip.h"
 #include "screens/panels/LinkLabel.h"
 #include "screens/panels/SlotLabel.h"
+#include "screens/panels/TypedTag.h"
 #include "screens/panels/Verdict.h"
 
 #include <functional>
@@ -122,11 +123,9 @@ private:
     DayStrip* strip;
 };
 
-class VerdictInterface : public QAccessibleWidget {
+class MessageInterface : public QAccessibleWidget {
 public:
-    explicit VerdictInterface(VerdictLabel* shown) : QAccessibleWidget(shown, QAccessible::AlertMessage), label(shown)
-    {
-    }
+    explicit MessageInterface(QLabel* shown) : QAccessibleWidget(shown, QAccessible::AlertMessage), label(shown) {}
 
     [[nodiscard]] QString text(QAccessible::Text kind) const override
     {
@@ -134,7 +133,7 @@ public:
     }
 
 private:
-    VerdictLabel* label;
+    QLabel* label;
 };
 
 // The toolkit asks with the name of every class that an object is of; what the object is tells more.
@@ -145,7 +144,9 @@ QAccessibleInterface* InterfaceOf(const QString& /*className*/, QObject* object)
     if (auto* link = dynamic_cast<LinkLabel*>(object))
         return new PressInterface(link, QAccessible::Link, [link] { emit link->Clicked(); });
     if (auto* verdict = dynamic_cast<VerdictLabel*>(object))
-        return new VerdictInterface(verdict);
+        return new MessageInterface(verdict);
+    if (auto* typed = dynamic_cast<TypedTag*>(object))
+        return new MessageInterface(typed);
     if (auto* days = dynamic_cast<DayStrip*>(object))
         return new DayInterface(days);
     if (const auto* gauge = dynamic_cast<Gauge*>(object))
@@ -156,5 +157,15 @@ QAccessibleInterface* InterfaceOf(const QString& /*className*/, QObject* object)
 } // namespace
 
 void DescribePanelsToScreenReaders() { QAccessible::installFactory(&InterfaceOf); }
+
+void Announce(QObject& widget, [[maybe_unused]] const QString& words)
+{
+#if QT_VERSION >= QT_VERSION_CHECK(6, 8, 0)
+    QAccessibleAnnouncementEvent news(&widget, words);
+#else
+    QAccessibleEvent news(&widget, QAccessible::Alert);
+#endif
+    QAccessible::updateAccessibility(&news);
+}
 
 } // namespace dravik

@@ -1,6 +1,8 @@
 #include "screens/panels/EntryList.h"
 
+#include "screens/panels/EntryName.h"
 #include "screens/panels/Shades.h"
+#include "screens/panels/TypeAhead.h"
 
 #include <algorithm>
 #include <QApplication>
@@ -9,7 +11,6 @@
 #include <QKeyEvent>
 #include <QMouseEvent>
 #include <QPainter>
-#include <QRegularExpression>
 #include <QScrollBar>
 #include <QTextDocument>
 #include <QToolTip>
@@ -74,9 +75,8 @@ QString Cut(const QString& text, const QFontMetrics& metrics, int width)
 {
     if (metrics.horizontalAdvance(text) <= width)
         return text;
-    static const QRegularExpression marks(R"(( \([A-Z]{1,2}\))?(-RFA)?( ?\*)*$)");
-    const QString behind = marks.match(text).captured();
-    const QString name = text.chopped(behind.size());
+    const QString name = text.first(NameLength(text));
+    const QString behind = text.sliced(name.size());
     return metrics.elidedText(name, Qt::ElideRight, width - metrics.horizontalAdvance(behind)) + behind;
 }
 
@@ -166,7 +166,7 @@ std::optional<int> NumberOf(const QListWidgetItem* item)
     return item->data(entry::NumberRole).toInt();
 }
 
-EntryList::EntryList(QWidget* parent) : QListWidget(parent)
+EntryList::EntryList(QWidget* parent) : QListWidget(parent), typeAhead(new TypeAhead(*this))
 {
     setItemDelegate(new EntryDelegate(this));
     setAlternatingRowColors(true);
@@ -267,8 +267,12 @@ void EntryList::paintEvent(QPaintEvent* event)
     QListWidget::paintEvent(event);
 }
 
+void EntryList::keyboardSearch(const QString& letters) { typeAhead->Type(letters); }
+
 void EntryList::keyPressEvent(QKeyEvent* event)
 {
+    if (typeAhead->Takes(*event))
+        return;
     const bool isEnter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
     if (isEnter && currentItem() != nullptr && currentItem()->isSelected()) {
         emit EnterPressed();

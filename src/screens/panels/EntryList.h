@@ -7,6 +7,8 @@
 
 namespace dravik {
 
+class TypeAhead;
+
 // Where the entries of a list keep what the list counts on: the entry's number, and the secondary words that are drawn
 // muted at its right edge (a QStringList, one column each). The entry's text stays the text alone.
 namespace entry {
@@ -39,8 +41,8 @@ public:
 };
 
 // A list of entries with numbers. The left mouse button alone acts on entries, and an entry becomes current only by what
-// chooses it. Arrows, Home and End choose from the first key on, letters jump to an entry, and Enter acts on the current one
-// if it is chosen, as a double click does.
+// chooses it. Arrows, Home and End choose from the first key on, letters jump to an entry (TypeAhead), and Enter acts on the
+// current one if it is chosen, as a double click does.
 class EntryList : public QListWidget {
     Q_OBJECT
 public:
@@ -67,6 +69,9 @@ public:
     // The chosen entry, or none.
     [[nodiscard]] QListWidgetItem* Chosen() const;
 
+    // Letters that lead to an entry whose name has them; nothing ends the search.
+    void keyboardSearch(const QString& letters) override;
+
 signals:
     // Enter was pressed on the current entry, which is chosen.
     void EnterPressed();
@@ -90,6 +95,7 @@ private:
     bool keepsAsidesTogether = false;
     bool leavesAsidesOut = false;
     int askedWidth = 0;
+    TypeAhead* typeAhead;
 };
 
 } // namespace dravik

@@ -1,30 +1,15 @@
 #include "screens/panels/Verdict.h"
 
+#include "screens/panels/Accessible.h"
 #include "screens/panels/Labels.h"
 #include "screens/panels/Shades.h"
 #include "screens/panels/VerdictSigns.h"
 #include "screens/platform/Palettes.h"
 
 #include <algorithm>
-#include <QAccessible>
 #include <QPainter>
 
 namespace dravik {
-
-namespace {
-
-// Has a screen reader say a label's text, wherever the focus is.
-void Announce(QLabel& label)
-{
-#if QT_VERSION >= QT_VERSION_CHECK(6, 8, 0)
-    QAccessibleAnnouncementEvent news(&label, label.text());
-#else
-    QAccessibleEvent news(&label, QAccessible::Alert);
-#endif
-    QAccessible::updateAccessibility(&news);
-}
-
-} // namespace
 
 VerdictLabel::VerdictLabel(QWidget* parent) : QLabel(parent)
 {
@@ -46,7 +31,7 @@ void VerdictLabel::Tell(const QString& words, bool isGood)
     updateGeometry();
     update();
     if (isNews)
-        Announce(*this);
+        Announce(*this, text());
 }
 
 QSize VerdictLabel::sizeHint() const
