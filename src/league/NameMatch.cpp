@@ -42,7 +42,8 @@ constexpr Reading Readings[] = {
 
 constexpr std::size_t NumberOf(char byte) { return static_cast<unsigned char>(byte); }
 
-constexpr auto Plain = [] {
+constexpr std::array<PlainLetters, 256> ReadAllBytes()
+{
     std::array<PlainLetters, 256> plain{};
     for (std::size_t byte = 0; byte < plain.size(); ++byte)
         plain[byte].First = static_cast<char>(byte >= 'A' && byte <= 'Z' ? byte - 'A' + 'a' : byte);
@@ -50,7 +51,9 @@ constexpr auto Plain = [] {
         for (const char byte : reading.Bytes)
             plain[NumberOf(byte)] = reading.As;
     return plain;
-}();
+}
+
+constexpr std::array<PlainLetters, 256> Plain = ReadAllBytes();
 
 PlainLetters PlainOf(char byte) { return Plain[NumberOf(byte)]; }
 
