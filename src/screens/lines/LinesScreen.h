@@ -187,6 +187,11 @@ private:
     // What the judge said about a slot, each sentence once.
     [[nodiscard]] QStringList FindingsOn(const BoardSlot& slot) const;
     void RefreshAverage(const BoardHeading& heading);
+    // Gives the entries their signs.
+    void MakeSigns();
+    [[nodiscard]] PersonSigns SignsOfEntry(int number) const;
+    // The signs of somebody in a slot, whose mark says the rest.
+    [[nodiscard]] PersonSigns SignsIn(const BoardSlot& slot, PersonId who) const;
     [[nodiscard]] QString SlotsOf(PersonId who) const;
     void TellOfSlot(const BoardSlot& slot);
     void TellOfEntry(const QPoint& point);

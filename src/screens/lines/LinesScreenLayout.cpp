@@ -123,6 +123,7 @@ void LinesScreen::MakeControls()
         pressed->installEventFilter(this);
     for (QCheckBox* filter : chkPosition)
         filter->installEventFilter(this);
+    MakeSigns();
 }
 
 void LinesScreen::MakeCommands()

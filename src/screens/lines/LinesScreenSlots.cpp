@@ -64,6 +64,7 @@ void LinesScreen::RefreshMarks()
             RefreshMark(slot, slot.In(lines));
         for (const BoardHeading& heading : TabLine->Headings)
             RefreshAverage(heading);
+        lstPlayer->viewport()->update(); // the entries tell how many slots they hold
     });
 }
 
@@ -79,6 +80,8 @@ void LinesScreen::RefreshMark(const BoardSlot& slot, long long id)
                                                         : SlotLabel::Mark::Filled);
     slot.Label->SetAside(id == 0 ? QString() : OverallOf(who));
     slot.Label->SetPicked(id != 0 && who == SelectedPerson());
+    const PersonSigns signs = SignsIn(slot, who);
+    slot.Label->SetSigns(signs, signs.Has(Sign::OutOfPosition) ? AsideOf(who).front() : QString());
 }
 
 QStringList LinesScreen::FindingsOn(const BoardSlot& slot) const

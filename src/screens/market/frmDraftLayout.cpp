@@ -1,9 +1,11 @@
 #include "screens/market/frmDraft.h"
 
+#include "screens/panels/EntrySigns.h"
 #include "screens/panels/Labels.h"
 #include "screens/panels/Layouts.h"
 #include "session/OpenMarket.h"
 #include "session/OpenSaves.h"
+#include "session/Session.h"
 
 // What the draft screen is made of and where it stands.
 namespace dravik {
@@ -70,6 +72,10 @@ void frmDraft::MakeControls()
     lstDraftList = new RankList(this);
     lstDraftList->setObjectName("lstDraftList");
     lstDraftList->setAccessibleName("Draft List");
+    // Facts alone, since the screen asks for no password; a prospect has none.
+    const auto signs = [](int id) { return SignsOf(OpenLeague, PersonOf(id), 0); };
+    for (EntryList* list : {lstPlayers, static_cast<EntryList*>(lstDraftList)})
+        new EntrySigns(list, signs);
     const auto onDoubleClick = [this](EntryList* list, void (frmDraft::*doubleClick)()) {
         const auto run = [this, list, doubleClick] {
             RunEvent(list->objectName() + "_DblClick", [this, doubleClick] { (this->*doubleClick)(); });

@@ -1,9 +1,11 @@
 #include "screens/market/frmFreeAgentClient.h"
 
+#include "screens/panels/EntrySigns.h"
 #include "screens/panels/Labels.h"
 #include "screens/panels/Layouts.h"
 #include "session/OpenMarket.h"
 #include "session/OpenSaves.h"
+#include "session/Session.h"
 
 #include <algorithm>
 #include <QGroupBox>
@@ -66,6 +68,9 @@ void frmFreeAgentClient::MakeControls()
     lstPlayers->setSelectionMode(QAbstractItemView::SingleSelection);
     lstPlayers->CutNamesFirst(); // offers and overalls are what the eye compares
     lstPlayers->viewport()->installEventFilter(this);
+    // Facts alone, since the screen asks for no password. Whoever is listed is without a contract.
+    const auto signs = [](int id) { return SignsOf(OpenLeague, PersonOf(id), 0).Without(Sign::NoContract); };
+    new EntrySigns(lstPlayers, signs);
     lblPlayer->setBuddy(lstPlayers);
     connect(lstPlayers, &PickList::Picked, this, [this] { lstPlayers_Click(); });
     connect(lstPlayers, &QListWidget::itemDoubleClicked, this, [this] { lstPlayers_DblClick(); });

@@ -1,6 +1,7 @@
 #include "screens/panels/EntryList.h"
 
 #include "screens/panels/EntryName.h"
+#include "screens/panels/EntrySigns.h"
 #include "screens/panels/Shades.h"
 #include "screens/panels/TypeAhead.h"
 
@@ -70,6 +71,19 @@ int AsideRoom(const QStyleOptionViewItem& option, const QModelIndex& index)
     return list != nullptr && list->LeavesAsidesOut() ? 0 : OwnAsideRoom(option, index);
 }
 
+// The signs of an entry that are drawn left of its secondary words, which take `asideRoom`.
+SignStrip SignsOf(const QStyleOptionViewItem& option, const QModelIndex& index, int asideRoom)
+{
+    const auto signs = index.data(entry::SignsRole).value<PersonSigns>();
+    if (signs.IsEmpty())
+        return {};
+    const int width = ContentArea(option.rect).width();
+    const int name = option.fontMetrics.horizontalAdvance(index.data().toString());
+    const auto* list = qobject_cast<const EntryList*>(option.widget);
+    const bool givesWay = list != nullptr && list->CutsNamesFirst();
+    return FitSigns(signs, option.fontMetrics, width - asideRoom, name, givesWay ? std::min(name, width / 2) : name);
+}
+
 // The text cut to `width` in its name; the marks behind the name stay.
 QString Cut(const QString& text, const QFontMetrics& metrics, int width)
 {
@@ -112,12 +126,14 @@ void EntryDelegate::paint(QPainter* painter, const QStyleOptionViewItem& option,
                                                                 : QPalette::Base);
     const QRect area = ContentArea(item.rect);
     const int room = AsideRoom(item, index);
+    const SignStrip signs = SignsOf(item, index, room);
 
     painter->save();
     painter->setFont(item.font);
     painter->setPen(front);
     painter->drawText(area, Qt::AlignLeft | Qt::AlignVCenter | Qt::TextSingleLine,
-                      Cut(text, item.fontMetrics, area.width() - room));
+                      Cut(text, item.fontMetrics, area.width() - room - signs.Room));
+    PaintSigns(*painter, signs, area.adjusted(0, 0, -room, 0), front, back);
     if (room > 0) {
         painter->setPen(Muted(front, back));
         const QStringList aside = AsideOf(index);
@@ -143,7 +159,8 @@ bool EntryDelegate::helpEvent(QHelpEvent* event, QAbstractItemView* view, const 
                               const QModelIndex& index)
 {
     const QString text = index.data().toString();
-    const int width = ContentArea(option.rect).width() - AsideRoom(option, index);
+    const int room = AsideRoom(option, index);
+    const int width = ContentArea(option.rect).width() - room - SignsOf(option, index, room).Room;
     const bool isCut = option.fontMetrics.horizontalAdvance(text) > width;
     if (event->type() == QEvent::ToolTip && isCut && !index.data(Qt::ToolTipRole).isValid()) {
         QToolTip::showText(event->globalPos(), Qt::convertFromPlainText(text), view, option.rect);
@@ -154,9 +171,18 @@ bool EntryDelegate::helpEvent(QHelpEvent* event, QAbstractItemView* view, const 
 
 QVariant EntryItem::data(int role) const
 {
-    if (role != Qt::AccessibleTextRole)
+    switch (role) {
+    case entry::SignsRole:
+        if (const EntrySigns* signs = EntrySigns::On(listWidget()))
+            return QVariant::fromValue(signs->Of(data(entry::NumberRole).toInt()));
+        return {};
+    case Qt::AccessibleTextRole:
+        return QString((QStringList(text()) + data(entry::AsideRole).toStringList()).join(", "));
+    case Qt::AccessibleDescriptionRole:
+        return WordsOf(data(entry::SignsRole).value<PersonSigns>()).join(", ");
+    default:
         return QListWidgetItem::data(role);
-    return QString((QStringList(text()) + data(entry::AsideRole).toStringList()).join(", "));
+    }
 }
 
 std::optional<int> NumberOf(const QListWidgetItem* item)
@@ -214,6 +240,7 @@ int EntryList::WidthOfWidestEntry() const
         }
         return width;
     };
+    const EntrySigns* signs = EntrySigns::On(this);
     QString widest;
     int most = 0;
     int room = 0;
@@ -223,7 +250,9 @@ int EntryList::WidthOfWidestEntry() const
             most = width;
             widest = text;
         }
-        room = std::max(room, RoomFor(AsideOf(*item(row)), wordWidth));
+        const int trouble =
+            signs == nullptr ? 0 : RoomForTrouble(signs->Of(item(row)->data(entry::NumberRole).toInt()), metrics);
+        room = std::max(room, RoomFor(AsideOf(*item(row)), wordWidth) + trouble);
     }
     constexpr int kerning = 2;
     return metrics.horizontalAdvance(widest) + kerning + room + 2 * SideMargin + 2 * frameWidth() +

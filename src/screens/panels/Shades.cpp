@@ -23,6 +23,13 @@ QColor FirstReadable(const QColor& back, const QColor& front, double part, const
     return mixed;
 }
 
+// A colour of its own, lightened or darkened until it is readable.
+QColor Coloured(const QColor& colour, const QColor& background)
+{
+    const bool isDark = Contrast(background, Qt::white) > Contrast(background, Qt::black);
+    return FirstReadable(colour, isDark ? Qt::white : Qt::black, 0, background);
+}
+
 } // namespace
 
 QColor Muted(const QColor& text, const QColor& background)
@@ -72,12 +79,9 @@ void MutePlaceholder(QWidget& widget)
     widget.setPalette(own);
 }
 
-QColor Alarming(const QColor& background)
-{
-    const QColor red(0xC0, 0x39, 0x2B);
-    const bool isDark = Contrast(background, Qt::white) > Contrast(background, Qt::black);
-    return FirstReadable(red, isDark ? Qt::white : Qt::black, 0, background);
-}
+QColor Alarming(const QColor& background) { return Coloured(QColor(0xC0, 0x39, 0x2B), background); }
+
+QColor Cautioning(const QColor& background) { return Coloured(QColor(0xD9, 0x82, 0x00), background); }
 
 QFont TitleFont(QFont font)
 {

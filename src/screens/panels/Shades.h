@@ -31,6 +31,8 @@ void MutePlaceholder(QWidget& widget);
 
 // Red for what is wrong, readable on `background`. It never stands without a sign.
 QColor Alarming(const QColor& background);
+// Amber for what is allowed and yet worth a look, likewise.
+QColor Cautioning(const QColor& background);
 
 // The font of a screen's one title, and of a heading, grown from the font at hand.
 QFont TitleFont(QFont font);

@@ -1,7 +1,8 @@
 #include "screens/panels/SlotLabel.h"
 
-#include "screens/panels/Labels.h"
+#include "screens/panels/EntrySigns.h"
 #include "screens/panels/Shades.h"
+#include "screens/panels/SignShapes.h"
 #include "screens/platform/Palettes.h"
 
 #include <QKeyEvent>
@@ -18,6 +19,10 @@ constexpr QSize LeastSize(110, 26);
 constexpr double Roundness = 4;
 constexpr double FramePart = 0.28;  // how much of the text is in the frame
 constexpr double PickedPart = 0.16; // how much of the highlight is in the ground of a slot that stands out
+constexpr int LeastNamePart = 2;    // an office has no sign where less of the slot is left to the name
+
+// What is drawn of the signs of who stands there, from right to left; the mark tells what is wrong.
+constexpr Sign SignsOfSlots[] = {Sign::Captain, Sign::Assistant, Sign::OutOfPosition};
 
 } // namespace
 
@@ -96,6 +101,19 @@ void SlotLabel::SetAside(const QString& words)
         return;
     aside = words;
     Describe();
+    update();
+}
+
+void SlotLabel::SetSigns(const PersonSigns& shown, const QString& ownPosition)
+{
+    if (signs == shown && homePosition == ownPosition)
+        return;
+    signs = shown;
+    homePosition = ownPosition;
+    QStringList said = WordsOf(signs);
+    if (!homePosition.isEmpty())
+        said << "plays " + homePosition;
+    setAccessibleDescription(said.join(", "));
     update();
 }
 
@@ -199,7 +217,10 @@ void SlotLabel::paintEvent(QPaintEvent* /*event*/)
     if (isPicked || isDropTarget || isTaken)
         ground = Mixed(ground, accent, PickedPart);
 
-    const QColor frame = isWrong ? Alarming(ground) : standsOut ? accent : Mixed(window, words, FramePart);
+    const QColor frame = isWrong                          ? Alarming(ground)
+                         : standsOut                      ? accent
+                         : signs.Has(Sign::OutOfPosition) ? Cautioning(ground)
+                                                          : Mixed(window, words, FramePart);
     const double width = hasFocus() || isDropTarget || isTaken ? 2 : 1;
     painter.setPen(QPen(frame, width, isEmpty ? Qt::DashLine : isTaken ? Qt::DotLine : Qt::SolidLine));
     painter.setBrush(ground);
@@ -224,10 +245,22 @@ void SlotLabel::paintEvent(QPaintEvent* /*event*/)
         painter.drawText(area, Qt::AlignRight | flags, aside);
         area.setRight(area.right() - painter.fontMetrics().horizontalAdvance(aside) - Gap);
     }
-    if (isWrong) {
+    const auto paintShape = [&](Sign kind) {
         const int side = painter.fontMetrics().height();
-        PaintWarningSign(painter, QRect(area.right() - side + 1, area.center().y() - side / 2, side, side), ground);
+        PaintShape(painter, kind, QRect(area.right() - side + 1, area.center().y() - side / 2, side, side),
+                   InkOf(kind, words, ground), ground);
         area.setRight(area.right() - side - Gap / 2);
+    };
+    if (isWrong)
+        paintShape(isRefused ? Sign::MayNotPlay : Sign::UsedTwice);
+    for (const Sign kind : SignsOfSlots)
+        if (signs.Has(kind) && (kind == Sign::OutOfPosition || area.width() > rect().width() / LeastNamePart))
+            paintShape(kind);
+    const int nameAndPosition =
+        painter.fontMetrics().horizontalAdvance(text()) + Gap + painter.fontMetrics().horizontalAdvance(homePosition);
+    if (!homePosition.isEmpty() && nameAndPosition <= area.width()) {
+        painter.setPen(Cautioning(ground));
+        painter.drawText(area, Qt::AlignRight | flags, homePosition);
     }
     painter.setPen(isRefused ? Alarming(ground) : isEmpty ? secondary : words);
     const QString shown = isEmpty && text().isEmpty() ? QString("empty") : text();

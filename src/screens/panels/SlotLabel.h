@@ -1,5 +1,7 @@
 #pragma once
 
+#include "rules/PersonSigns.h"
+
 #include <QLabel>
 
 namespace dravik {
@@ -24,15 +26,15 @@ private:
     bool isDown = false;
 };
 
-// One slot of a line-up: a frame with the position at its left, the name, and the person's overall muted at its right edge.
-// The text is the name alone; a screen reader is told everything.
+// One slot of a line-up: a frame with the position at its left, the name, and the person's overall muted at its right edge,
+// behind the signs of who stands there. The text is the name alone; a screen reader is told everything.
 class SlotLabel : public PressLabel {
     Q_OBJECT
 public:
     enum class Mark {
         Filled,
         Empty,  // dashed
-        Twice,  // framed in red, with the warning sign: he may play, but stands where he may not stand again
+        Twice,  // framed in red, with the sign of two: he may play, but stands where he may not stand again
         Refused // red, with the warning sign
     };
 
@@ -46,6 +48,10 @@ public:
     [[nodiscard]] Mark Shown() const { return mark; }
     void SetAside(const QString& words);
     [[nodiscard]] const QString& Aside() const { return aside; }
+    // What else is told of who stands there: one who is out of his position is framed in amber, and `ownPosition`, where there is
+    // room, says which is his. Offices are drawn where there is room, the other signs only told.
+    void SetSigns(const PersonSigns& shown, const QString& ownPosition = {});
+    [[nodiscard]] const PersonSigns& Signs() const { return signs; }
     // A slot that holds the person at hand stands out.
     void SetPicked(bool picked);
     [[nodiscard]] bool IsPicked() const { return isPicked; }
@@ -82,6 +88,8 @@ private:
     QString slot;
     QString position;
     QString aside;
+    PersonSigns signs;
+    QString homePosition;
     Mark mark = Mark::Empty;
     bool isPicked = false;
     bool isDropTarget = false;

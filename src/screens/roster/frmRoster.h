@@ -88,6 +88,7 @@ private:
     QWidget* MakeListColumn(int index);
     QWidget* MakePersonColumn();
     void SetTabOrder();
+    void DrawSignsAnew();
 
     template <class Person>
     void ListPerson(Person& person, int index);

@@ -1,7 +1,9 @@
 #include "screens/ElementName.h"
+#include "screens/panels/EntrySigns.h"
 #include "screens/panels/Labels.h"
 #include "screens/panels/Layouts.h"
 #include "screens/roster/frmRoster.h"
+#include "screens/RosterEntry.h"
 #include "session/Session.h"
 
 #include <algorithm>
@@ -119,6 +121,8 @@ PickList* frmRoster::MakeList(int index, const QString& caption)
     list->setAccessibleName(caption);
     list->setMinimumWidth(LeastListWidth);
     list->CutNamesFirst(); // positions and overalls are what the eye compares
+    const auto signs = [](int number) { return SignsOf(OpenLeague, EntryPerson(number), OwnNumber()); };
+    new EntrySigns(list, signs);
     connect(list, &PickList::Picked, this, [this, index] { lstPlayer_Click(index); });
     connect(list, &QListWidget::itemDoubleClicked, this, [this, index] { lstPlayer_DblClick(index); });
     connect(list, &EntryList::EnterPressed, this, [this, index] { lstPlayer_DblClick(index); });

@@ -90,6 +90,14 @@ void frmRoster::cmdSendToWaiver_Click()
     Reporting(Machine(), " in cmdSendToWaiver!", [this] {
         SendToWaivers(OpenWork(), OwnNumber(), SelectedPerson(), [this] { return ScratchSelected(); });
     });
+    DrawSignsAnew();
+}
+
+// Of what changes a sign, only moves and whole lists draw the entries by themselves.
+void frmRoster::DrawSignsAnew()
+{
+    for (PickList* list : lstPlayer)
+        list->viewport()->update();
 }
 
 bool frmRoster::ScratchSelected()
@@ -187,6 +195,7 @@ void frmRoster::chkNoTrade_Click()
     if (noTrade && IsTradeAvailable(OpenLeague, SelectedPerson()))
         cmdTradeAvailable_Click();
     SetNoTrade(OpenWork(), SelectedPerson(), noTrade);
+    DrawSignsAnew();
     cmdTradeAvailable->setEnabled(!noTrade);
 }
 
