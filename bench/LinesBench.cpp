@@ -1,7 +1,7 @@
 // What the lines screen costs on a full league: a press on a slot, a whole drag from the list onto it, a pick by keys, a swap,
-// the repair of all days and a change of day, each with both judgements of the lines and the painting, against one bare walk over the tables inside one
-// run. The counter "ratio" is the processor's time for ours divided by that for the walk; "cpu_ms" is to stay below one
-// frame (16 ms).
+// the repair of all days and a change of day, each with both judgements of the lines and the painting, and the card of a person,
+// painted, against one bare walk over the tables inside one run. The counter "ratio" is the processor's time for ours divided by
+// that for the walk; "cpu_ms" is to stay below one frame (16 ms).
 //
 //     lines_bench
 
@@ -9,6 +9,7 @@
 #include "bench/FullLeague.h"
 #include "bench/ScreenBench.h"
 #include "screens/lines/frmLine.h"
+#include "screens/panels/PersonCards.h"
 #include "screens/RosterEntry.h"
 #include "support/LineFindings.h"
 #include "tests/screens/Dragging.h"
@@ -113,6 +114,16 @@ public:
         Demand(Screen().Day() == next);
     }
 
+    // Ctrl+I on the entry picked, and the card painted over the screen; Escape.
+    void Card()
+    {
+        QTest::keyClick(Screen().lstPlayer, Qt::Key_I, Qt::ControlModifier);
+        Screen().grab();
+        Demand(Screen().findChild<PersonCards*>()->Shown() != nullptr);
+        QTest::keyClick(Screen().lstPlayer, Qt::Key_Escape);
+        Demand(Screen().findChild<PersonCards*>()->Shown() == nullptr);
+    }
+
 private:
     frmLine& Screen() { return On<frmLine>(Window::Line); }
     SlotLabel* Slot() { return Screen().TabLine->SlotAt(LineField::NormalForward, 1, 1).Label; }
@@ -140,6 +151,7 @@ BENCHMARK_CAPTURE(AgainstAWalk, Press, &Bench::Press)->Iterations(Rounds)->UseMa
 BENCHMARK_CAPTURE(AgainstAWalk, Drag, &Bench::Drag)->Iterations(Rounds)->UseManualTime();
 BENCHMARK_CAPTURE(AgainstAWalk, PickByKeys, &Bench::PickByKeys)->Iterations(Rounds)->UseManualTime();
 BENCHMARK_CAPTURE(AgainstAWalk, Swap, &Bench::Swap)->Iterations(Rounds)->UseManualTime();
+BENCHMARK_CAPTURE(AgainstAWalk, Card, &Bench::Card)->Iterations(Rounds)->UseManualTime();
 BENCHMARK_CAPTURE(AgainstAWalk, Day, &Bench::Day)->Iterations(Rounds)->UseManualTime();
 
 } // namespace

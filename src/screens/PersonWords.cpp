@@ -3,6 +3,7 @@
 #include "rules/Overall.h"
 #include "screens/platform/CodePage.h"
 #include "screens/RosterEntry.h"
+#include "screens/Shown.h"
 #include "session/Session.h"
 
 #include <QTextDocument>
@@ -51,6 +52,35 @@ StatRows StatRowsOf(PersonId who)
 {
     return who.IsGoalie ? GoalieStatRows(OpenLeague, Machine(), who.Slot, static_cast<int>(GoalieStatCount))
                         : SkaterStatRows(OpenLeague, Machine(), who.Slot, static_cast<int>(PlayerStatCount));
+}
+
+std::optional<CardWords> CardOf(PersonId who, const PersonSigns& signs, const QString& standsIn,
+                                const QStringList& remarks)
+{
+    const auto isSomebody = [](const auto& person) { return static_cast<bool>(person.InUse); };
+    if (!who.HasSlot() || who.Slot == 0 || !OnPerson(OpenLeague, who, isSomebody))
+        return std::nullopt;
+    CardWords words{.Name = NameOf(who), .Aside = {}, .Facts = {}, .Signs = signs, .Remarks = remarks, .Ratings = {}};
+    if (ShownPosition(who) != 0)
+        words.Aside = AsideOf(who).join(' ');
+    OnPerson(OpenLeague, who, [&](const auto& person) {
+        const QString salary = ToQString(Machine().CurrencyNoDecimals(static_cast<double>(person.Salary)));
+        const QString contract = person.Contract == 0 ? QString(", no contract") : " x " + Shown(person.Contract);
+        words.Facts << Shown(person.Age) + " years old, " + salary + contract
+                    << "Condition: " + Shown(person.Condition);
+        if (const QString injury = Shown(person.Injury); !injury.isEmpty())
+            words.Facts << "Injury: " + injury;
+    });
+    if (!standsIn.isEmpty())
+        words.Facts << "Today: " + standsIn;
+    try {
+        MuteVoice mute; // who looks at a card is told of nothing else
+        words.Ratings = who.IsGoalie ? GoalieStatRows(OpenLeague, mute, who.Slot, static_cast<int>(GoalieStatCount))
+                                     : SkaterStatRows(OpenLeague, mute, who.Slot, static_cast<int>(PlayerStatCount));
+    } catch (const Failure&) {
+        words.Ratings = {}; // ratings that no row can hold have none
+    }
+    return words;
 }
 
 QString DescriptionOf(PersonId who, const QString& standsIn, const QStringList& findings)

@@ -1,8 +1,11 @@
 #pragma once
 
 #include "league/PersonId.h"
+#include "rules/PersonSigns.h"
 #include "rules/StatRows.h"
+#include "screens/panels/CardWords.h"
 
+#include <optional>
 #include <QString>
 #include <QStringList>
 
@@ -26,5 +29,11 @@ StatRows StatRowsOf(PersonId who);
 // he `standsIn`, if any, and what the judge said. Somebody without a position, or outside the tables, has the judge's words
 // alone. Shown as written, whatever characters a name holds.
 QString DescriptionOf(PersonId who, const QString& standsIn, const QStringList& findings = {});
+
+// The card of a person: name, position and overall, age, salary and contract, condition and injury, his `signs`, where he
+// `standsIn` today, if told, his ratings as the league shows them, and `remarks` on where he stands. None of a placeholder, of
+// somebody outside the tables or of a slot that is not in use. No box is shown.
+std::optional<CardWords> CardOf(PersonId who, const PersonSigns& signs, const QString& standsIn = {},
+                                const QStringList& remarks = {});
 
 } // namespace dravik

@@ -6,6 +6,7 @@
 #include "screens/lines/frmFarmLine.h"
 #include "screens/lines/frmLine.h"
 #include "screens/lines/SlotPicker.h"
+#include "screens/panels/PersonCards.h"
 #include "screens/platform/CodePage.h"
 #include "screens/player/frmEditPlayer.h"
 #include "screens/RosterEntry.h"
@@ -184,6 +185,11 @@ void Evening::MakeLinesOn(QPushButton& command, Window window, const QString& pi
         Photograph(window, QString("%1-tab%2").arg(picture).arg(tab + 1));
     }
     screen.TabLine->setCurrentIndex(0);
+    auto* cards = screen.findChild<PersonCards*>();
+    cards->ShowAtFocus();
+    Require(cards->Shown() != nullptr, "the card of who was picked comes up");
+    Photograph(window, picture + "-card");
+    cards->ShowAtFocus();
     PickForASlot(screen);
     Photograph(window, picture + "-picker");
     screen.cmdExit->click();

@@ -6,6 +6,7 @@
 #include "makers/Makers.h"
 #include "rules/LineVerdict.h"
 #include "screens/lines/LineBoard.h"
+#include "screens/panels/CardWords.h"
 #include "screens/panels/DayStrip.h"
 #include "screens/panels/EditBox.h"
 #include "screens/panels/PickList.h"
@@ -187,11 +188,16 @@ private:
     // What the judge said about a slot, each sentence once.
     [[nodiscard]] QStringList FindingsOn(const BoardSlot& slot) const;
     void RefreshAverage(const BoardHeading& heading);
-    // Gives the entries their signs.
+    // Gives entries and slots their signs and their cards.
     void MakeSigns();
     [[nodiscard]] PersonSigns SignsOfEntry(int number) const;
     // The signs of somebody in a slot, whose mark says the rest.
     [[nodiscard]] PersonSigns SignsIn(const BoardSlot& slot, PersonId who) const;
+    // The cards of an entry and of who stands in a slot; none of a placeholder.
+    [[nodiscard]] std::optional<CardWords> CardOfEntry(int number) const;
+    [[nodiscard]] std::optional<CardWords> CardOfSlot(const BoardSlot& slot) const;
+    // Where somebody stands on the shown day.
+    [[nodiscard]] QString SlotsToday(PersonId who) const;
     [[nodiscard]] QString SlotsOf(PersonId who) const;
     void TellOfSlot(const BoardSlot& slot);
     void TellOfEntry(const QPoint& point);

@@ -3,6 +3,8 @@
 #include "screens/panels/EntrySigns.h"
 #include "screens/panels/Labels.h"
 #include "screens/panels/Layouts.h"
+#include "screens/panels/PersonCards.h"
+#include "screens/PersonWords.h"
 #include "session/OpenMarket.h"
 #include "session/OpenSaves.h"
 #include "session/Session.h"
@@ -74,8 +76,11 @@ void frmDraft::MakeControls()
     lstDraftList->setAccessibleName("Draft List");
     // Facts alone, since the screen asks for no password; a prospect has none.
     const auto signs = [](int id) { return SignsOf(OpenLeague, PersonOf(id), 0); };
-    for (EntryList* list : {lstPlayers, static_cast<EntryList*>(lstDraftList)})
+    auto* cards = new PersonCards(this);
+    for (EntryList* list : {lstPlayers, static_cast<EntryList*>(lstDraftList)}) {
         new EntrySigns(list, signs);
+        cards->Serve(list, [signs](int id) { return CardOf(PersonOf(id), signs(id)); });
+    }
     const auto onDoubleClick = [this](EntryList* list, void (frmDraft::*doubleClick)()) {
         const auto run = [this, list, doubleClick] {
             RunEvent(list->objectName() + "_DblClick", [this, doubleClick] { (this->*doubleClick)(); });

@@ -3,6 +3,8 @@
 #include "screens/panels/EntrySigns.h"
 #include "screens/panels/Labels.h"
 #include "screens/panels/Layouts.h"
+#include "screens/panels/PersonCards.h"
+#include "screens/PersonWords.h"
 #include "session/OpenMarket.h"
 #include "session/OpenSaves.h"
 #include "session/Session.h"
@@ -71,6 +73,7 @@ void frmFreeAgentClient::MakeControls()
     // Facts alone, since the screen asks for no password. Whoever is listed is without a contract.
     const auto signs = [](int id) { return SignsOf(OpenLeague, PersonOf(id), 0).Without(Sign::NoContract); };
     new EntrySigns(lstPlayers, signs);
+    (new PersonCards(this))->Serve(lstPlayers, [signs](int id) { return CardOf(PersonOf(id), signs(id)); });
     lblPlayer->setBuddy(lstPlayers);
     connect(lstPlayers, &PickList::Picked, this, [this] { lstPlayers_Click(); });
     connect(lstPlayers, &QListWidget::itemDoubleClicked, this, [this] { lstPlayers_DblClick(); });

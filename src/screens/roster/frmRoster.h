@@ -4,6 +4,7 @@
 #include "league/Field.h"
 #include "rules/RosterJudge.h"
 #include "screens/panels/PayrollBar.h"
+#include "screens/panels/PersonCards.h"
 #include "screens/panels/PickList.h"
 #include "screens/panels/ReasonsBox.h"
 #include "screens/panels/StatPanel.h"
@@ -118,6 +119,7 @@ private:
     // Takes the person chosen from the pro list to the scratches. False when something stands against it.
     bool ScratchSelected();
 
+    PersonCards* const cards = new PersonCards(this);
     RosterCounts statusCount;
     Int16 playerOverall;
 };

@@ -2,6 +2,7 @@
 #include "screens/panels/EntrySigns.h"
 #include "screens/panels/Labels.h"
 #include "screens/panels/Layouts.h"
+#include "screens/PersonWords.h"
 #include "screens/roster/frmRoster.h"
 #include "screens/RosterEntry.h"
 #include "session/Session.h"
@@ -123,6 +124,7 @@ PickList* frmRoster::MakeList(int index, const QString& caption)
     list->CutNamesFirst(); // positions and overalls are what the eye compares
     const auto signs = [](int number) { return SignsOf(OpenLeague, EntryPerson(number), OwnNumber()); };
     new EntrySigns(list, signs);
+    cards->Serve(list, [signs](int number) { return CardOf(EntryPerson(number), signs(number)); });
     connect(list, &PickList::Picked, this, [this, index] { lstPlayer_Click(index); });
     connect(list, &QListWidget::itemDoubleClicked, this, [this, index] { lstPlayer_DblClick(index); });
     connect(list, &EntryList::EnterPressed, this, [this, index] { lstPlayer_DblClick(index); });
