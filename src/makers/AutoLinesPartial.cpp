@@ -3,6 +3,7 @@
 #include "makers/Dealing.h"
 #include "makers/Makers.h"
 #include "rules/LineEligibility.h"
+#include "rules/LineFamilies.h"
 #include "rules/LineJudge.h"
 
 #include <algorithm>
@@ -11,44 +12,6 @@
 namespace dravik {
 
 namespace {
-
-// Families of fields whose slots of one line or unit may hold a player only once; each of the three lists is a family of
-// its own, all its numbers together.
-enum class Family { Line, PowerPlay, PenaltyKill, FourVsFour, PenaltyKillWithThree, Forwards, Defensemen, Shooters };
-
-constexpr Family FamilyOf(LineField field)
-{
-    switch (field) {
-    case LineField::NormalForward:
-    case LineField::NormalDefense:
-        return Family::Line;
-    case LineField::PPForward:
-    case LineField::PPDefense:
-        return Family::PowerPlay;
-    case LineField::PKForward:
-    case LineField::PKDefense:
-        return Family::PenaltyKill;
-    case LineField::FourVsFourForward:
-    case LineField::FourVsFourDefense:
-        return Family::FourVsFour;
-    case LineField::PK3Forward:
-    case LineField::PK3Defense:
-        return Family::PenaltyKillWithThree;
-    case LineField::ExtraForward:
-        return Family::Forwards;
-    case LineField::ExtraDefense:
-        return Family::Defensemen;
-    case LineField::PenaltyShot:
-        break;
-    }
-    return Family::Shooters;
-}
-
-bool ShareGroup(const LineSlot& one, const LineSlot& other)
-{
-    const Family family = FamilyOf(one.Field);
-    return family == FamilyOf(other.Field) && (family >= Family::Forwards || one.Number == other.Number);
-}
 
 // Whether the player of `slot` stands in another slot where `barred` forbids it.
 template <class Barred>
@@ -63,11 +26,8 @@ bool IsLegal(const League& rules, const Lines& lines, const LineSlot& slot)
 {
     if (StandsElsewhere(lines, slot, [&](const LineSlot& other) { return ShareGroup(slot, other); }))
         return false;
-    // Lines 1 and 2 bar each other where the league says so.
-    const bool isTopLine = FamilyOf(slot.Field) == Family::Line && slot.Number <= 2;
-    return !isTopLine || !rules.LinesOneTwoExclusive || !StandsElsewhere(lines, slot, [&](const LineSlot& other) {
-        return FamilyOf(other.Field) == Family::Line && other.Number == 3 - slot.Number;
-    });
+    return !rules.LinesOneTwoExclusive ||
+           !StandsElsewhere(lines, slot, [&](const LineSlot& other) { return AreOfLinesOneAndTwo(slot, other); });
 }
 
 bool IsUsable(const Tables& league, long long id, int team)

@@ -107,6 +107,9 @@ void DealSpecialTeams(const LinesRun& run, Lines& lines);
 // of them is missing, and again, with False, when one's record is not in use. A missing goalie reads record 0.
 bool GoaliesAreListed(const LinesRun& run);
 
+// Whether the second of two goalies starts for the first one, by the condition of both: he is fresh, and the first one is not.
+constexpr bool SecondStarts(long long first, long long second) { return second >= 99 && first <= 97; }
+
 // The first goalie of the list starts and the second is his backup, or the other way round when the second's value is 99
 // or more and the first's 97 or less. `value` takes a `Goalie` index.
 template <class Value>
@@ -114,7 +117,7 @@ void DealGoalies(const LinesRun& run, Lines& lines, Value&& value)
 {
     const long long first = run.List.Ids[1];
     const long long second = run.List.Ids[2];
-    const bool swap = value(second) >= 99 && value(first) <= 97;
+    const bool swap = SecondStarts(value(first), value(second));
     lines.StartGoalie = swap ? second : first;
     lines.BackupGoalie = swap ? first : second;
 }

@@ -1,5 +1,4 @@
 #include "machine/Reporting.h"
-#include "rules/LineEligibility.h"
 #include "rules/LineJudge.h"
 #include "rules/LineRules.h"
 
@@ -7,27 +6,12 @@ namespace dravik {
 
 namespace {
 
-constexpr LineRules StrictRules{.Side = Side::Farm,
-                                .JudgesEmptySlots = true,
-                                .ComparesLinesOneAndTwo = true,
-                                .PPForwardHead = "PP line",
-                                .PK3ForwardCaption = " RW",
-                                .HeadCount = HeadCount::AtLeastToo,
-                                .Closing = ""};
-
-constexpr LineRules LenientRules{.Side = Side::Farm,
-                                 .JudgesEmptySlots = false,
-                                 .ComparesLinesOneAndTwo = false,
-                                 .PPForwardHead = "",
-                                 .PK3ForwardCaption = "",
-                                 .HeadCount = HeadCount::AtMost,
-                                 .Closing = ""};
-
 // A farm line-up must be as complete as a pro one. Its failures are told under the pro judge's name.
-void CheckLineFarmStrict(const Work& work, int team, bool showMessage, int day, bool log, LineVerdict& verdict)
+void CheckLineFarmStrict(const Work& work, int team, const LineRules& rules, bool showMessage, int day, bool log,
+                         LineVerdict& verdict)
 {
-    verdict.Failed = FailureOf(work.Says, " in CheckLine!",
-                               [&] { JudgeLines(work, team, day, StrictRules, showMessage, log, verdict); });
+    verdict.Failed =
+        FailureOf(work.Says, " in CheckLine!", [&] { JudgeLines(work, team, day, rules, showMessage, log, verdict); });
 }
 
 } // namespace
@@ -37,14 +21,15 @@ LineVerdict CheckLineFarm(const Work& work, int team, bool showMessage, int day,
     LineVerdict verdict;
     const League& league = work.League.LeagueData;
     const auto failed = FailureOf(work.Says, " in CheckLineFarm!", [&] {
-        if (!AreLinesJudged(league, Side::Farm))
+        const LineRules* rules = LineRulesOf(league, Side::Farm);
+        if (rules == nullptr)
             verdict.Complete = true;
         else if (!HasLineDay(team, day))
             work.Says.ShowIntegrityFailure();
         else if (league.FarmRosterRequired)
-            CheckLineFarmStrict(work, team, showMessage, day, log, verdict);
+            CheckLineFarmStrict(work, team, *rules, showMessage, day, log, verdict);
         else
-            JudgeLines(work, team, day, LenientRules, showMessage, log, verdict);
+            JudgeLines(work, team, day, *rules, showMessage, log, verdict);
     });
     if (failed)
         verdict.Failed = failed;

@@ -29,9 +29,8 @@ constexpr LineField Lists[] = {LineField::ExtraForward, LineField::ExtraDefense,
 constexpr int UnitCount = PowerPlayUnits.Count;
 constexpr int ListLength = 5;
 
-// The places of the head count, of which a league uses the first few, and what a complete farm line-up needs.
+// The places of the head count, of which a league uses the first few.
 constexpr std::size_t HeadCountPlaces = 25;
-constexpr std::size_t FewestHeads = 18;
 
 // A slot and its right-hand neighbours, at most five in all.
 class SlotRun {
@@ -153,7 +152,7 @@ private:
             }
             heads[count++] = value;
         }
-        if (rules.HeadCount == HeadCount::AtLeastToo && count < FewestHeads)
+        if (rules.HeadCount == HeadCount::AtLeastToo && static_cast<int>(count) < FewestHeads)
             Find({.Fault = LineFault::TooFew, .Person = 0, .Limit = FewestHeads});
     }
 
@@ -251,14 +250,6 @@ std::string LogHead(const Team& team, Side side)
     return (side == Side::Pro ? name : team.Farm.Name.Trimmed() + " (" + name + ")") + " lines errors : ";
 }
 
-constexpr LineRules ProRules{.Side = Side::Pro,
-                             .JudgesEmptySlots = true,
-                             .ComparesLinesOneAndTwo = true,
-                             .PPForwardHead = "PP line ",
-                             .PK3ForwardCaption = " forward",
-                             .HeadCount = HeadCount::None,
-                             .Closing = "Some errors will be automatically fixed.\r\n"};
-
 } // namespace
 
 void JudgeLines(const Work& work, int team, int day, const LineRules& rules, bool showMessage, bool log,
@@ -281,7 +272,7 @@ LineVerdict CheckLine(const Work& work, int team, bool showMessage, int day, boo
         if (!HasLineDay(team, day))
             work.Says.ShowIntegrityFailure();
         else
-            JudgeLines(work, team, day, ProRules, showMessage, log, verdict);
+            JudgeLines(work, team, day, *LineRulesOf(work.League.LeagueData, Side::Pro), showMessage, log, verdict);
     });
     return verdict;
 }

@@ -11,6 +11,9 @@ namespace dravik {
 // How many different skaters a farm line-up may hold, and whether it needs enough of them.
 enum class HeadCount { None, AtMost, AtLeastToo };
 
+// How many a complete farm line-up needs.
+inline constexpr int FewestHeads = 18;
+
 // In what the three judges of lines differ. Everything else is one walk.
 struct LineRules {
     dravik::Side Side;
@@ -21,6 +24,9 @@ struct LineRules {
     dravik::HeadCount HeadCount;
     std::string_view Closing; // ends a text that tells of something
 };
+
+// What the lines of a side are held against in a league; none where nobody judges them.
+const LineRules* LineRulesOf(const League& rules, Side side);
 
 // Judges one day in the one order of all judges: takes out who may not stand there and makes a text of all that is
 // wrong, a line for each finding, into `verdict`; a later test sees the repairs of the earlier ones. The text is logged, or
