@@ -1,4 +1,4 @@
-// What the judges, the money rules and the makers cost, each against one bare walk over the 11000 people of a full league
+// What the judges, the money rules, the makers and the advice on lines cost, each against one bare walk over the 11000 people of a full league
 // inside one run: the counter "ratio" is the time of ours divided by the time of the walk; both times are in microseconds. Ends
 // with 1 when a ratio is above its limit.
 //
@@ -6,6 +6,7 @@
 
 #include "bench/FullTeam.h"
 #include "bench/Ratio.h"
+#include "desk/LineAdvice.h"
 #include "desk/LinesOfAllDays.h"
 #include "makers/Makers.h"
 #include "rules/Finance.h"
@@ -82,11 +83,35 @@ void EmptyFarmDay() { WipesLines(OpenLeague, Machine(), Own, 1, false); }
 void RefillFarmDay() { AutoLinesFarm(OpenWork(), Own, false, 1); }
 void RefillDay() { AutoLines(OpenWork(), Own, false, 1); }
 
+// Puts the third line into the first places of all units and lists, where whoever is better is free then.
+void WeakenDay(Side side)
+{
+    OpenLeague.LeagueData.ShowOverall = true;
+    Lines& lines = LinesOf(OpenLeague, Own, 1, side);
+    for (const LineSlot& slot : SkaterSlots)
+        if (slot.Number <= 2 && slot.Field != LineField::NormalForward && slot.Field != LineField::NormalDefense) {
+            const bool isDefense = WantsDefense(slot.Field);
+            At(lines, slot) = At(lines, SlotOf(isDefense ? LineField::NormalDefense : LineField::NormalForward, 3,
+                                               isDefense ? slot.Place : 1 + (slot.Number + slot.Place) % 3));
+        }
+}
+void WeakenProDay()
+{
+    RefillDay();
+    WeakenDay(Side::Pro);
+}
+void WeakenFarmDay()
+{
+    RefillFarmDay();
+    WeakenDay(Side::Farm);
+}
+
 constexpr double JudgeLimit = 4;
 constexpr double RosterAndCapLimit = 2.4; // one walk for the roster and one for both payrolls
 constexpr double CopyLimit = 1.5;         // of one memcpy
 constexpr double MakerLimit = 30;
 constexpr double AllDaysLimit = 10; // a copy of the league and ten judgements
+constexpr double AdviceLimit = 15; // of the two milliseconds that a day's advice may take, about a fifteenth
 
 struct Case {
     const char* Name = nullptr;
@@ -118,6 +143,9 @@ constexpr std::array Cases{
     Case{"JudgeEmptyFarmLines", JudgeLimit, EmptyFarmDay, [] { Demand(!FarmLinesAreComplete()); }},
     Case{"LookAtAllEmptyDays", AllDaysLimit, EmptyAllDays, LookAtAllDays},
     Case{"LookAtAllDays", AllDaysLimit, FillAllDays, LookAtAllDays},
+    Case{"AdviseLines", AdviceLimit, WeakenProDay, [] { Demand(AdviceOn(OpenLeague, Own, Side::Pro, 1).size() > 5); }},
+    Case{"AdviseFarmLines", AdviceLimit, WeakenFarmDay,
+         [] { Demand(AdviceOn(OpenLeague, Own, Side::Farm, 1).size() > 5); }},
     Case{"PayPro", JudgeLimit, Nothing, [] { Demand(ProPayroll(OpenLeague, Machine(), Own) > 0); }},
     Case{"PayFarm", JudgeLimit, Nothing, [] { Demand(FarmPayroll(OpenLeague, Machine(), Own) > 0); }},
     Case{"MakeLines", MakerLimit, EmptyDay, [] { AutoLines(OpenWork(), Own, false, 1); }, LinesAreComplete},
