@@ -1,7 +1,7 @@
 // What the lines screen costs on a full league: a press on a slot, a whole drag from the list onto it, a pick by keys, a swap,
-// the repair of all days and a change of day, each with both judgements of the lines and the painting, and the card of a person,
-// painted, against one bare walk over the tables inside one run. The counter "ratio" is the processor's time for ours divided by
-// that for the walk; "cpu_ms" is to stay below one frame (16 ms).
+// the repair of all days, a change of day and a piece of advice followed, each with both judgements of the lines, the advice on
+// them and the painting, and the card of a person, painted, against one bare walk over the tables inside one run. The counter
+// "ratio" is the processor's time for ours divided by that for the walk; "cpu_ms" is to stay below one frame (16 ms).
 //
 //     lines_bench
 
@@ -123,6 +123,18 @@ public:
         QTest::keyClick(Screen().lstPlayer, Qt::Key_Escape);
         Demand(Screen().findChild<PersonCards*>()->Shown() == nullptr);
     }
+    // The starter is tired: the day judged, and a press on the command that starts his backup, painted.
+    void Advise()
+    {
+        Lines& lines = Teams[Own].ProLines[Screen().Day()];
+        const long long backup = lines.BackupGoalie;
+        Goalies[lines.StartGoalie].Condition = 96;
+        Goalies[backup].Condition = 100;
+        Screen().Check();
+        QTest::mouseClick(Screen().findChild<QPushButton*>("cmdAdvice(0)"), Qt::LeftButton);
+        Screen().grab();
+        Demand(lines.StartGoalie == backup);
+    }
 
 private:
     frmLine& Screen() { return On<frmLine>(Window::Line); }
@@ -153,6 +165,7 @@ BENCHMARK_CAPTURE(AgainstAWalk, PickByKeys, &Bench::PickByKeys)->Iterations(Roun
 BENCHMARK_CAPTURE(AgainstAWalk, Swap, &Bench::Swap)->Iterations(Rounds)->UseManualTime();
 BENCHMARK_CAPTURE(AgainstAWalk, Card, &Bench::Card)->Iterations(Rounds)->UseManualTime();
 BENCHMARK_CAPTURE(AgainstAWalk, Day, &Bench::Day)->Iterations(Rounds)->UseManualTime();
+BENCHMARK_CAPTURE(AgainstAWalk, Advise, &Bench::Advise)->Iterations(Rounds)->UseManualTime();
 
 } // namespace
 } // namespace dravik

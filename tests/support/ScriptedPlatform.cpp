@@ -241,11 +241,21 @@ std::string ScriptedPlatform::OpenFileDialog(const std::string& startFolder, con
     return Next(chosen, std::string());
 }
 
+namespace {
+
+// Where a setting stands in `Settings`.
+std::string PlaceOf(const std::string& section, const std::string& key)
+{
+    return section == "Settings" ? key : section + '/' + key;
+}
+
+} // namespace
+
 std::string ScriptedPlatform::GetSetting(const std::string& section, const std::string& key,
                                          const std::string& otherwise)
 {
-    const auto found = Settings.find(key);
-    return section != "Settings" || found == Settings.end() ? otherwise : found->second;
+    const auto found = Settings.find(PlaceOf(section, key));
+    return found == Settings.end() ? otherwise : found->second;
 }
 
 void ScriptedPlatform::SaveSetting(const std::string& section, const std::string& key, const std::string& value)
@@ -254,8 +264,7 @@ void ScriptedPlatform::SaveSetting(const std::string& section, const std::string
         settingFailed = true;
         throw SettingsFailure(SaveSettingFailure, InFolder("Settings"));
     }
-    if (section == "Settings")
-        Settings[key] = value;
+    Settings[PlaceOf(section, key)] = value;
     Tell("setting " + key);
 }
 

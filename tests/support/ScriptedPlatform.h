@@ -118,7 +118,7 @@ public:
     bool WaitShown = false;
     int WaitCount = 0;
     bool OtherInstance = false;
-    std::map<std::string, std::string> Settings; // of section "Settings"
+    std::map<std::string, std::string> Settings; // of section "Settings"; of others as "Section/Key"
     std::vector<std::string> OpenedLocations;
     int SaveSettingFailure = 0; // the number that SaveSetting fails with, if any
     // Called, if set, while these happen: "box", "wait up", "wait down", "setting" and the key that was stored.

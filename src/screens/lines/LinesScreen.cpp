@@ -190,6 +190,7 @@ void LinesScreen::Check()
     Reporting(Machine(), " in Check!", [this] { CheckInTurn(); });
     RefreshMarks();
     RefreshDays();
+    RefreshAdvice();
 }
 
 void LinesScreen::JudgeShownDay()
@@ -286,6 +287,7 @@ void LinesScreen::cmdDebug_Click()
 {
     Judge(true);
     RefreshMarks();
+    RefreshAdvice();
 }
 
 void LinesScreen::cmdCopy_Click()

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "desk/GoaliePull.h"
+#include "desk/LineAdvice.h"
 #include "desk/SlotPicks.h"
 #include "league/PersonId.h"
 #include "makers/Makers.h"
@@ -29,6 +30,7 @@
 
 namespace dravik {
 
+class AdviceList;
 struct Team;
 class SlotPicker;
 
@@ -75,6 +77,9 @@ public:
     // A press on one of the board's slots or headings.
     void Slot_Click(int index);
     void Heading_Click(int index);
+    // Follows a piece of the advice (0 and up), and folds all of it away or back.
+    void cmdAdvice_Click(int row);
+    void cmdFoldAdvice_Click();
     void cmdAutoLines_Click();
     void cmdWipeLines_Click();
     void cmdCopy_Click();
@@ -100,6 +105,8 @@ public:
     QLabel *lblTeamName = nullptr, *lblGame = nullptr, *lblPlaying = nullptr, *lblPoint = nullptr;
     VerdictLabel* lblComplete = nullptr;
     ReasonsBox* txtReasons = nullptr; // what the last judgement of the day found, in its own words
+    AdviceList* Advice = nullptr;     // what is legal and yet weak, where overalls are shown
+    QPushButton* cmdFoldAdvice = nullptr;
     Row<QScrollBar*, 0, 2> hscStats;
     Row<QLabel*, 0, 2> lblStatsPoint;
     EditBox *txtPullGoalerMinGoal = nullptr, *txtPullGoalerMinPct = nullptr;
@@ -147,6 +154,7 @@ private:
     QWidget* MakeHeader();
     QWidget* MakePeopleColumn();
     QWidget* MakeLinesColumn();
+    QWidget* MakeAdvice();
     void SetTabOrder();
 
     // What a press on a slot would do.
@@ -185,6 +193,9 @@ private:
     // Shows of every slot what stands in it now, whatever name it still reads, and the averages of the lines.
     void RefreshMarks();
     void RefreshMark(const BoardSlot& slot, long long id);
+    // Says anew what could be better about the day as it stands.
+    void RefreshAdvice();
+    [[nodiscard]] QString WordsOfAdvice(int row) const;
     // What the judge said about a slot, each sentence once.
     [[nodiscard]] QStringList FindingsOn(const BoardSlot& slot) const;
     void RefreshAverage(const BoardHeading& heading);
@@ -217,6 +228,7 @@ private:
     std::optional<int> taken;          // the slot whose person was taken up
     QPointer<SlotLabel> lastSlot;      // that had the focus
     LineVerdict said;                  // by the judge about the day as it is shown
+    std::vector<LineAdvice> advised;   // about it, as its commands stand
     const QObject* heldBack = nullptr; // what was pressed while a text box kept the focus
     std::unique_ptr<Tables> scratch;   // where the days are judged in order to look
     quint64 pull = 0;                  // how often a bar of the strategy was taken

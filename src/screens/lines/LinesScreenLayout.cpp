@@ -254,6 +254,7 @@ QWidget* LinesScreen::MakeLinesColumn()
     auto* panel = new QWidget(this);
     QVBoxLayout* column = MakeColumn(panel);
     column->addWidget(TabLine, 1);
+    column->addWidget(MakeAdvice());
     QHBoxLayout* playing = MakeRow({new MutedLabel("Playing the Following Lines : ", panel)});
     playing->addWidget(lblPlaying, 1);
     column->addLayout(playing);
@@ -271,6 +272,7 @@ void LinesScreen::SetTabOrder()
     order << txtPullGoalerMinGoal << txtPullGoalerMinPct << cmdDebug << txtReasons << cmdAutoLines << cmdRepairAll
           << cmdWipeLines << cmdCopy << cmdCopyAll << cmdExit;
     ChainTabs(order);
+    setTabOrder(txtReasons, cmdFoldAdvice);
 }
 
 bool LinesScreen::eventFilter(QObject* watched, QEvent* event)
