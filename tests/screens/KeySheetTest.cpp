@@ -4,6 +4,7 @@
 #include "league/RatingWords.h"
 #include "OnEveryScreen.h"
 #include "OnHistory.h"
+#include "rules/PersonSigns.h"
 #include "screens/lines/frmLine.h"
 #include "screens/lines/SlotPicker.h"
 #include "screens/main/frmMain.h"
@@ -133,6 +134,41 @@ TEST_F(KeySheetTest, RatingsAreThoseThatTheLeagueShows)
     EXPECT_THAT(groups, Not(HasSubstr("Overall")));
 }
 
+TEST_F(KeySheetTest, TheSignsOfAScreenAreDrawnWithTheirMeaning)
+{
+    EachScreen([&](Screen& screen, const std::string& name) {
+        if (name.find(',') != std::string::npos)
+            return;
+        screen.activateWindow();
+        Settle();
+        const std::string text = SheetText(screen);
+        const bool isLines = name == "Line" || name == "FarmLine";
+        const bool isOwn = isLines || name == "Roster";
+        const bool hasAny = isOwn || name == "FreeAgent" || name == "Draft";
+        int drawn = 0;
+        for (const SignRow& row : SignTable) {
+            const bool isHere = row.Place == SignPlace::Anybody ? hasAny
+                                : row.Place == SignPlace::Own   ? isOwn
+                                                                : isLines;
+            EXPECT_EQ(text.find("\n" + std::string(row.Meaning) + "\n") != std::string::npos, isHere)
+                << name << row.Meaning;
+            drawn += isHere ? 1 : 0;
+        }
+        drawn += isLines ? 3 : 0;
+        QTextDocument& sheet = *SheetOf(screen)->txtSheet->document();
+        for (int number = 1; number <= drawn; ++number) {
+            const auto picture =
+                sheet.resource(QTextDocument::ImageResource, QUrl(QString("sign:%1").arg(number))).value<QImage>();
+            QImage empty(picture.size(), picture.format());
+            empty.fill(Qt::transparent);
+            EXPECT_FALSE(picture.isNull()) << name << number;
+            empty.setDevicePixelRatio(picture.devicePixelRatio());
+            EXPECT_NE(picture, empty) << name << number;
+        }
+        EXPECT_EQ(text.find("\nSigns\n") != std::string::npos, hasAny) << name;
+    });
+}
+
 // A key of one control is told with a check here that it does what is told.
 TEST_F(KeySheetTest, EveryKeyOfAControlDoesWhatIsTold)
 {
@@ -163,6 +199,14 @@ TEST_F(KeySheetTest, EveryKeyOfAControlDoesWhatIsTold)
              key(line.lstPlayer, Qt::Key_Down);
              return last == line.lstPlayer->count() - 1 && above == last - 1 && line.lstPlayer->currentRow() == 1 &&
                     line.lstPlayer->Chosen() != nullptr;
+         }},
+        {"a list: letters",
+         [&] {
+             const QString wanted = line.lstPlayer->item(6)->text();
+             key(line.lstPlayer, Qt::Key_Home);
+             QTest::keyClicks(line.lstPlayer, wanted.section(' ', -1).left(5));
+             Settle();
+             return line.lstPlayer->currentItem()->text().contains(wanted.section(' ', -1).left(5));
          }},
         {"a slot: Left / Right / Up / Down",
          [&] {

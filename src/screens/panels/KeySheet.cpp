@@ -3,11 +3,16 @@
 #include "league/RatingNames.h"
 #include "league/RatingWords.h"
 #include "screens/panels/KeyTable.h"
+#include "screens/panels/Labels.h"
 #include "screens/panels/Layouts.h"
+#include "screens/panels/SignShapes.h"
+#include "screens/panels/VerdictSigns.h"
 #include "screens/platform/CodePage.h"
 #include "session/Session.h"
 
+#include <functional>
 #include <QKeyEvent>
+#include <QPainter>
 
 namespace dravik {
 
@@ -35,6 +40,93 @@ QString KeysOn(const QString& screen)
             keys.emplaceBack(KeysOf(row).replace(" / ", ", "),
                              *row.Where == 0 ? QString(row.Does) : "On " + QString(row.Where) + ": " + row.Does);
     return TableOf(keys);
+}
+
+// A picture in a line of text, as sharp as the display.
+class Pictures {
+public:
+    explicit Pictures(QTextBrowser& shown) : sheet(shown) {}
+
+    using Paint = std::function<void(QPainter&, const QRect&)>;
+    QString Add(int width, const Paint& paint)
+    {
+        const double ratio = sheet.devicePixelRatioF();
+        const int height = sheet.fontMetrics().height();
+        QImage image(static_cast<int>(width * ratio), static_cast<int>(height * ratio),
+                     QImage::Format_ARGB32_Premultiplied);
+        image.setDevicePixelRatio(ratio);
+        image.fill(Qt::transparent);
+        QPainter painter(&image);
+        painter.setFont(sheet.font());
+        paint(painter, QRect(0, 0, width, height));
+        painter.end();
+        const QString name = QString("sign:%1").arg(++count);
+        sheet.document()->addResource(QTextDocument::ImageResource, QUrl(name), image);
+        return QString("<img src=\"%1\" width=\"%2\" height=\"%3\">").arg(name).arg(width).arg(height);
+    }
+
+private:
+    QTextBrowser& sheet;
+    int count = 0;
+};
+
+// Which signs the lists and boards of a screen have.
+bool HasSign(const QString& screen, SignPlace place)
+{
+    const bool isLines = screen == "frmLine" || screen == "frmFarmLine";
+    const bool isOwn = isLines || screen == "frmRoster";
+    switch (place) {
+    case SignPlace::Anybody:
+        return isOwn || screen == "frmFreeAgentClient" || screen == "frmDraft";
+    case SignPlace::Own:
+        return isOwn;
+    case SignPlace::Lines:
+        break;
+    }
+    return isLines;
+}
+
+// A number for a sign that has one.
+PersonSign ExampleOf(Sign kind)
+{
+    constexpr int condition = 87;
+    constexpr int games = 2;
+    constexpr int held = 7;
+    return {kind, kind == Sign::Injured     ? condition
+                  : kind == Sign::Suspended ? games
+                  : kind == Sign::InSlots   ? held
+                                            : 0};
+}
+
+// The signs of a screen, each drawn as it stands there. Empty on one without.
+QString SignsOn(const QString& screen, QTextBrowser& sheet)
+{
+    Pictures pictures(sheet);
+    const QColor front = sheet.palette().color(QPalette::Active, QPalette::Text);
+    const QColor ground = sheet.palette().color(QPalette::Active, QPalette::Base);
+    QString rows;
+    const auto add = [&](const QString& picture, const QString& words) {
+        rows += "<tr><td>" + picture + "</td><td>&nbsp;&nbsp;</td><td>" + words.toHtmlEscaped() + "</td></tr>";
+    };
+    for (const SignRow& row : SignTable)
+        if (HasSign(screen, row.Place)) {
+            const PersonSign sign = ExampleOf(row.Kind);
+            add(pictures.Add(
+                    WidthOf(sign, sheet.fontMetrics()),
+                    [&](QPainter& painter, const QRect& area) { PaintSign(painter, sign, area, front, ground); }),
+                ToQString(row.Meaning));
+        }
+    if (HasSign(screen, SignPlace::Lines)) {
+        const int side = sheet.fontMetrics().height();
+        add(pictures.Add(side, [&](QPainter& painter, const QRect& area) { PaintTick(painter, area, front); }),
+            "A day whose lines are complete");
+        add(pictures.Add(side, [&](QPainter& painter,
+                                   const QRect& area) { PaintCount(painter, area, 3, sheet.font(), ground); }),
+            "How much the judge holds against a day");
+        add(pictures.Add(side, [&](QPainter& painter, const QRect& area) { PaintWarningSign(painter, area, ground); }),
+            "What is wrong, or a day that cannot be judged");
+    }
+    return rows.isEmpty() ? rows : Heading("Signs") + "<table cellspacing=\"0\" cellpadding=\"3\">" + rows + "</table>";
 }
 
 template <class Captions, class Words>
@@ -73,7 +165,7 @@ void KeySheet::keyPressEvent(QKeyEvent* event)
 void KeySheet::Open()
 {
     const bool areAllShown = static_cast<bool>(LeagueData.ShowAllRatings);
-    QString html = Heading("Keys") + KeysOn(about);
+    QString html = Heading("Keys") + KeysOn(about) + SignsOn(about, *txtSheet);
     html += Heading("Ratings of a skater");
     html += areAllShown ? RatingsOf(SkaterStatName, SkaterStatWords) : RatingsOf(SkaterGroupName, SkaterGroupWords);
     html += Heading("Ratings of a goalie");

@@ -11,6 +11,8 @@ constexpr auto WithHistory = "frmTeam frmRoster frmLine frmFarmLine frmFreeAgent
 constexpr auto OnLines = "frmLine frmFarmLine";
 constexpr auto OnMain = "frmMain";
 constexpr auto WithLists = "frmMain frmRoster frmLine frmFarmLine frmFreeAgentClient frmDraft";
+constexpr auto WithCards = "frmRoster frmLine frmFarmLine frmFreeAgentClient frmDraft";
+constexpr auto OnMarket = "frmFreeAgentClient frmDraft";
 constexpr auto Slot = "a slot";
 constexpr auto List = "a list";
 
@@ -27,12 +29,15 @@ constexpr KeyRow Rows[] = {
     {OnMain, KeyScope::Screen, "Ctrl+Shift+A", "", "Free agents"},
     {OnMain, KeyScope::Screen, "Ctrl+D", "", "Draft list"},
     {"frmAbout", KeyScope::Screen, "Esc", "", "Exit"},
+    {WithCards, KeyScope::Screen, "Ctrl+I", "", "The card of a person"},
+    {OnMarket, KeyScope::Screen, "F3", "", "Find next"},
     {OnLines, KeyScope::Screen,
      "Ctrl+1 / Ctrl+2 / Ctrl+3 / Ctrl+4 / Ctrl+5 / Ctrl+6 / Ctrl+7 / Ctrl+8 / Ctrl+9 / Ctrl+0", "", "Day 1 to day 10"},
     {OnLines, KeyScope::Screen, "Ctrl+Tab", "", "Next page of the board"},
     {OnLines, KeyScope::Screen, "Ctrl+Shift+Tab", "", "Page before"},
     {OnLines, KeyScope::Screen, "F6", "", "From the list to the board and back"},
     {WithLists, KeyScope::Control, "Up / Down / Home / End", List, "Choose somebody"},
+    {WithLists, KeyScope::Control, "letters", List, "Go to a name with these letters in it; Backspace takes one back"},
     {OnLines, KeyScope::Control, "Left / Right / Up / Down", Slot, "Walk the board"},
     {OnLines, KeyScope::Control, "Space / Return", Slot, "Place who is picked in the list"},
     {OnLines, KeyScope::Control, "F2 / Menu / a letter / right press", Slot, "Pick who may stand there; Esc closes"},
