@@ -125,6 +125,7 @@ public:
     HistoryEvening(unsigned seed, Kind kind, ScriptedPlatform& files) : dice(seed), disk(files)
     {
         RollAny(dice, kind);
+        staysWithTeam = dice.Chance(50);
         league = Copy(OpenLeague);
         const auto ranked = kind == Kind::Messy ? dice.Pick({0, 3, 999, 1001}) : 0;
         for (long long rank = 0; rank < ranked; ++rank)
@@ -154,8 +155,8 @@ public:
                 if (dice.Chance(50))
                     Forth();
                 break;
-            case 2:
-                GoBack(dice.Roll(1, 12));
+            case 2: // and another way from there; not so far that a long evening comes to nothing
+                GoBack(dice.Roll(1, 4));
                 break;
             case 3:
                 GoBack(dice.Roll(1, 12));
@@ -226,8 +227,10 @@ private:
 
     void TakeStep(const Does& does, std::uint64_t drag)
     {
-        const StepLabel label{
-            .Words = "Command", .Where = "Desk", .Team = dice.Chance(1) ? Own + 1 : Own, .Drag = drag};
+        const StepLabel label{.Words = "Command",
+                              .Where = "Desk",
+                              .Team = !staysWithTeam && dice.Chance(1) ? Own + 1 : Own,
+                              .Drag = drag};
         ExpectFold();
         std::unique_ptr<Tables> atOpening;
         std::unique_ptr<Market> marketAtOpening;
@@ -433,6 +436,7 @@ private:
     std::size_t done = 0;
     bool goesOn = false;
     int team = Own;
+    bool staysWithTeam = false; // a command for another team ends the history: of a long evening little would be undone
 };
 
 TEST(HistoryModelTest, RandomEveningsAreUndoneToTheirBeginningAndRedoneToTheirEnd)
