@@ -9,6 +9,7 @@
 #include "screens/lines/SlotPicker.h"
 #include "screens/main/frmMain.h"
 #include "screens/panels/KeyTable.h"
+#include "screens/roster/frmRoster.h"
 
 #include <QAction>
 #include <QMenu>
@@ -188,7 +189,7 @@ TEST_F(KeySheetTest, EveryKeyOfAControlDoesWhatIsTold)
     SlotLabel* wing = line.TabLine->SlotAt(LineField::NormalForward, 1, 3).Label;
     auto* picker = line.findChild<SlotPicker*>("Picker");
     using Check = std::function<bool()>;
-    const std::map<std::string, Check> checks = {
+    std::map<std::string, Check> checks = {
         {"a list: Up / Down / Home / End",
          [&] {
              key(line.lstPlayer, Qt::Key_End);
@@ -275,6 +276,32 @@ TEST_F(KeySheetTest, EveryKeyOfAControlDoesWhatIsTold)
              key(line.vscDay, Qt::Key_Left);
              return isSecond && line.Day() == 1;
          }},
+    };
+    const auto roster = [&]() -> frmRoster& {
+        if (TheStage.Find("Roster") == nullptr) {
+            line.close();
+            Settle();
+            CallerScreen = "Main";
+            TheStage.Open("Roster", Main());
+            Settle();
+        }
+        return *static_cast<frmRoster*>(TheStage.Find("Roster"));
+    };
+    checks["a list of the roster: drag"] = [&] {
+        PickList& pro = *roster().lstPlayer[status::Pro];
+        PickList& scratches = *roster().lstPlayer[status::Scratch];
+        const QString name = pro.item(0)->text();
+        const int before = scratches.count();
+        DragEntry(&pro, 0, &scratches);
+        return scratches.count() == before + 1 && scratches.item(before)->text() == name;
+    };
+    checks["To Scratch: Ctrl+press"] = [&] {
+        PickList& pro = *roster().lstPlayer[status::Pro];
+        const int before = roster().lstPlayer[status::Farm]->count() + roster().lstPlayer[status::Scratch]->count();
+        pro.setCurrentRow(0);
+        QTest::mouseClick(roster().cmdToScratchesFromPro, Qt::LeftButton, Qt::ControlModifier);
+        return UndoWords(roster()).starts_with("Undo: To Farm: ") &&
+               roster().lstPlayer[status::Farm]->count() + roster().lstPlayer[status::Scratch]->count() == before + 1;
     };
     for (const KeyRow& row : KeyTable())
         if (row.Scope == KeyScope::Control) {

@@ -45,6 +45,8 @@ constexpr KeyRow Rows[] = {
     {OnLines, KeyScope::Control, "drag", Slot, "Drag from slot to slot: change places"},
     {OnLines, KeyScope::Control, "Shift+press / middle press", Slot, "Look at who stands there without placing"},
     {OnLines, KeyScope::Control, "Left / Right", "the days", "Day before and day behind"},
+    {"frmRoster", KeyScope::Control, "drag", "a list of the roster", "Drag to another list: move there"},
+    {"frmRoster", KeyScope::Control, "Ctrl+press", "To Scratch", "On to the farm"},
 };
 
 } // namespace

@@ -3,9 +3,11 @@
 #include "screens/panels/EntryList.h"
 #include "screens/panels/SlotLabel.h"
 
+#include <memory>
 #include <QApplication>
 #include <QKeyEvent>
 #include <QMouseEvent>
+#include <QRubberBand>
 #include <QTabBar>
 #include <utility>
 
@@ -18,27 +20,43 @@ constexpr int GhostMargin = 4;
 
 } // namespace
 
-PersonDrag::PersonDrag(Source from, MayDrop allows, Drop drops) :
-    QObject(from.Keys), source(std::move(from)), surface(source.Pressed), mayDrop(std::move(allows)),
-    drop(std::move(drops))
+PersonDrag::PersonDrag(Source from, Aim to) :
+    QObject(from.Keys), source(std::move(from)), surface(source.Pressed), aim(std::move(to))
 {
     surface->installEventFilter(this);
     if (source.Keys != source.Pressed)
         source.Keys->installEventFilter(this);
 }
 
+PersonDrag::Source PersonDrag::ListSource(EntryList& list)
+{
+    return {
+        .Pressed = list.viewport(),
+        .Keys = &list,
+        .Holds = [&list](const QPoint& point) { return list.itemAt(point) != nullptr; },
+        .Name =
+            [&list] {
+                const qsizetype count = list.selectedItems().size();
+                const QListWidgetItem* entry = list.Chosen();
+                return count > 1 ? QString::number(count) + " players" : entry == nullptr ? QString() : entry->text();
+            },
+        .IsOnAPage = false};
+}
+
+PersonDrag::Aim PersonDrag::SlotAim(MayDrop mayDrop, Drop drop)
+{
+    return {.At =
+                [allows = std::move(mayDrop)](QWidget* under) {
+                    auto* slot = qobject_cast<SlotLabel*>(under);
+                    return slot != nullptr && allows(*slot) ? slot : nullptr;
+                },
+            .Mark = [](QWidget& slot, bool isTarget) { static_cast<SlotLabel&>(slot).SetDropTarget(isTarget); },
+            .Drop = [drops = std::move(drop)](QWidget& slot) { drops(static_cast<SlotLabel&>(slot)); }};
+}
+
 void PersonDrag::FromList(EntryList& list, MayDrop mayDrop)
 {
-    new PersonDrag({.Pressed = list.viewport(),
-                    .Keys = &list,
-                    .Holds = [&list](const QPoint& point) { return list.itemAt(point) != nullptr; },
-                    .Name =
-                        [&list] {
-                            const QListWidgetItem* entry = list.Chosen();
-                            return entry == nullptr ? QString() : entry->text();
-                        },
-                    .IsOnAPage = false},
-                   std::move(mayDrop), [](SlotLabel& slot) { emit slot.Pressed(); });
+    new PersonDrag(ListSource(list), SlotAim(std::move(mayDrop), [](SlotLabel& slot) { emit slot.Pressed(); }));
 }
 
 void PersonDrag::FromSlot(SlotLabel& slot, MayDrop mayDrop, Drop drop)
@@ -48,7 +66,31 @@ void PersonDrag::FromSlot(SlotLabel& slot, MayDrop mayDrop, Drop drop)
                     .Holds = [&slot](const QPoint& /*point*/) { return slot.Shown() != SlotLabel::Mark::Empty; },
                     .Name = [&slot] { return slot.text(); },
                     .IsOnAPage = true},
-                   std::move(mayDrop), std::move(drop));
+                   SlotAim(std::move(mayDrop), std::move(drop)));
+}
+
+void PersonDrag::ToLists(EntryList& list, const QList<EntryList*>& others, std::function<bool(EntryList&)> mayDrop,
+                         std::function<void(EntryList&)> drop)
+{
+    const auto at = [others, allows = std::move(mayDrop)](QWidget* under) -> QWidget* {
+        for (EntryList* other : others)
+            if (under != nullptr && (under == other || other->isAncestorOf(under)) && allows(*other))
+                return other;
+        return nullptr;
+    };
+    // A frame over the list.
+    const auto mark = [frame = std::make_shared<QPointer<QRubberBand>>()](QWidget& target, bool isTarget) {
+        if (!isTarget) {
+            delete *frame;
+        } else if (*frame == nullptr) {
+            *frame = new QRubberBand(QRubberBand::Rectangle, target.window());
+            (*frame)->setGeometry(QRect(target.mapTo(target.window(), QPoint(0, 0)), target.size()));
+            (*frame)->show();
+        }
+    };
+    new PersonDrag(ListSource(list), {.At = at, .Mark = mark, .Drop = [drops = std::move(drop)](QWidget& target) {
+                                          drops(static_cast<EntryList&>(target));
+                                      }});
 }
 
 bool PersonDrag::eventFilter(QObject* watched, QEvent* event)
@@ -110,22 +152,21 @@ void PersonDrag::Move(const QPoint& globalPoint)
         if (tab >= 0)
             tabs->setCurrentIndex(tab);
     }
-    auto* slot = qobject_cast<SlotLabel*>(under);
-    SlotLabel* taking = slot != nullptr && mayDrop(*slot) ? slot : nullptr;
-    if (target != nullptr)
-        target->SetDropTarget(target == taking);
+    QWidget* taking = aim.At(under);
+    if (target != nullptr && target != taking)
+        aim.Mark(*target, false);
     target = taking;
     if (target != nullptr)
-        target->SetDropTarget(true);
+        aim.Mark(*target, true);
     surface->setCursor(target != nullptr ? Qt::DragCopyCursor : Qt::ForbiddenCursor);
 }
 
 void PersonDrag::LetGo()
 {
-    SlotLabel* taking = target;
+    QWidget* taking = target;
     End();
     if (taking != nullptr)
-        drop(*taking);
+        aim.Drop(*taking);
 }
 
 void PersonDrag::End()
@@ -134,7 +175,7 @@ void PersonDrag::End()
     if (!std::exchange(isDragging, false))
         return;
     if (target != nullptr)
-        target->SetDropTarget(false);
+        aim.Mark(*target, false);
     target = nullptr;
     if (surface != nullptr) {
         surface->unsetCursor();

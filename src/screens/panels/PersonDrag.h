@@ -4,6 +4,7 @@
 
 #include <functional>
 #include <QLabel>
+#include <QList>
 #include <QObject>
 #include <QPoint>
 #include <QPointer>
@@ -12,9 +13,9 @@ namespace dravik {
 
 class EntryList;
 
-// Lets people be dragged with the mouse onto the slots of the same window, from a list or from another slot. A slot on which
-// somebody may be let go shows it; anywhere else nothing happens. Over a tab, its page comes up. Escape ends the drag. The
-// desktop's own drag and drop is not needed, since nothing leaves the window.
+// Lets people be dragged with the mouse within a window: onto slots, from a list or from another slot, and from list to list. A
+// place where somebody may be let go shows it; anywhere else nothing happens. Over a tab, its page comes up. Escape ends the
+// drag. The desktop's own drag and drop is not needed, since nothing leaves the window.
 class PersonDrag : public QObject {
 public:
     using MayDrop = std::function<bool(const SlotLabel&)>; // asked of each slot that the pointer enters
@@ -24,6 +25,9 @@ public:
     static void FromList(EntryList& list, MayDrop mayDrop);
     // Whoever stands in a slot: `drop` is told where he was let go. Belongs to the slot.
     static void FromSlot(SlotLabel& slot, MayDrop mayDrop, Drop drop);
+    // The entries of a list, to one of `others`. Belongs to the list.
+    static void ToLists(EntryList& list, const QList<EntryList*>& others, std::function<bool(EntryList&)> mayDrop,
+                        std::function<void(EntryList&)> drop);
 
 protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
@@ -38,7 +42,16 @@ private:
         bool IsOnAPage; // which goes out of sight with it, so none is turned; and a release there would be a press
     };
 
-    PersonDrag(Source from, MayDrop allows, Drop drops);
+    // Where they are taken.
+    struct Aim {
+        std::function<QWidget*(QWidget* under)> At; // what takes him under the pointer, or none
+        std::function<void(QWidget&, bool)> Mark;   // shows it, or no more
+        std::function<void(QWidget&)> Drop;
+    };
+
+    PersonDrag(Source from, Aim to);
+    static Source ListSource(EntryList& list);
+    static Aim SlotAim(MayDrop mayDrop, Drop drop);
 
     void Begin();
     void Move(const QPoint& globalPoint);
@@ -48,13 +61,12 @@ private:
     // What is pressed may be on its way out when an event comes.
     Source source;
     QPointer<QWidget> surface;
-    MayDrop mayDrop;
-    Drop drop;
+    Aim aim;
     QPoint pressed;       // where the button went down, on what is pressed
     bool isArmed = false; // the button is down on somebody
     bool isDragging = false;
-    QPointer<SlotLabel> target; // takes him if he is let go now
-    QPointer<QLabel> ghost;     // follows the pointer
+    QPointer<QWidget> target; // takes him if he is let go now
+    QPointer<QLabel> ghost;   // follows the pointer
 };
 
 } // namespace dravik

@@ -114,6 +114,13 @@ private:
     Permission MayGoToFarm();
     Permission MayLeaveFarm();
     void MoveEntry(status::Number from, status::Number to, int row);
+    // People dragged from one list to another: the commands of the moves in between, as one step.
+    void MakeDrags();
+    void Drag(status::Number from, status::Number to);
+    // The same commands one behind the other: whoever has come to the scratches by the first one is chosen there for the second.
+    void MoveTwice(status::Number from, void (frmRoster::*second)());
+    // The command that moves from the pro list, or the farm's, to the scratches.
+    void ToScratches(status::Number from);
     // The entry at the current index of the first list that has one, or none.
     QListWidgetItem* CurrentEntry();
     // Takes the person chosen from the pro list to the scratches. False when something stands against it.

@@ -83,11 +83,20 @@ void frmRoster::MakeControls()
     Stats = new StatPanel(this);
     Stats->SetHint("Pick a player to see his ratings");
 
+    MakeDrags();
+
     cmdToFarm =
         MakeCommand("cmdToFarm", "To &Farm -->", AsMove("To Farm", status::Scratch, [this] { cmdToFarm_Click(); }));
     cmdToPro = MakeCommand("cmdToPro", "<-- To &Pro", AsMove("To Pro", status::Scratch, [this] { cmdToPro_Click(); }));
-    cmdToScratchesFromPro = MakeCommand("cmdToScratchesFromPro", "To &Scratch -->",
-                                        AsMove("To Scratch", status::Pro, [this] { cmdToScratchesFromPro_Click(); }));
+    cmdToScratchesFromPro =
+        MakeCommand("cmdToScratchesFromPro", "To &Scratch -->",
+                    [this, scratch = AsMove("To Scratch", status::Pro, [this] { cmdToScratchesFromPro_Click(); })] {
+                        if (QGuiApplication::keyboardModifiers() == Qt::ControlModifier)
+                            Drag(status::Pro, status::Farm);
+                        else
+                            scratch();
+                    });
+    cmdToScratchesFromPro->setToolTip("With Ctrl on to the farm");
     cmdToScratchesFromFarm =
         MakeCommand("cmdToScratchesFromFarm", "<-- To S&cratch",
                     AsMove("To Scratch from the farm", status::Farm, [this] { cmdToScratchesFromFarm_Click(); }));

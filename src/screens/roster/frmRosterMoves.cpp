@@ -4,11 +4,14 @@
 #include "desk/RosterMoves.h"
 #include "machine/Reporting.h"
 #include "makers/Makers.h"
+#include "screens/panels/PersonDrag.h"
 #include "screens/PersonWords.h"
 #include "screens/platform/CodePage.h"
 #include "screens/roster/frmRoster.h"
 #include "screens/RosterEntry.h"
 #include "session/Session.h"
+
+#include <utility>
 
 // The commands of the roster screen: the moves between the lists, waivers, release, captaincy, flags and automatic rosters.
 namespace dravik {
@@ -53,6 +56,66 @@ void frmRoster::MoveChosen(status::Number from, status::Number to, Permission (f
             MoveEntry(from, to, row--); // the next entry stands here now
     }
     list->setFocus(); // where the next choice is made, since the command may have closed
+}
+
+void frmRoster::MakeDrags()
+{
+    for (const status::Number from : {status::Farm, status::Scratch, status::Pro}) {
+        QList<EntryList*> others;
+        for (PickList* list : lstPlayer)
+            if (list != lstPlayer[from])
+                others << list;
+        PersonDrag::ToLists(
+            *lstPlayer[from], others, [this, from](EntryList&) { return lstPlayer[from]->ChosenCount() > 0; },
+            [this, from](EntryList& target) {
+                for (const status::Number to : {status::Farm, status::Scratch, status::Pro})
+                    if (lstPlayer[to] == &target)
+                        Drag(from, to);
+            });
+    }
+}
+
+void frmRoster::ToScratches(status::Number from)
+{
+    if (from == status::Pro)
+        cmdToScratchesFromPro_Click();
+    else
+        cmdToScratchesFromFarm_Click();
+}
+
+void frmRoster::Drag(status::Number from, status::Number to)
+{
+    constexpr const char* names[] = {"To Farm", "To Scratch", "To Pro"};
+    AsMove(names[to], from, [this, from, to] {
+        const auto second = to == status::Farm ? &frmRoster::cmdToFarm_Click : &frmRoster::cmdToPro_Click;
+        if (to == status::Scratch)
+            ToScratches(from);
+        else if (from == status::Scratch)
+            (this->*second)();
+        else
+            MoveTwice(from, second);
+    })();
+}
+
+void frmRoster::MoveTwice(status::Number from, void (frmRoster::*second)())
+{
+    QList<int> numbers;
+    for (const QListWidgetItem* entry : lstPlayer[from]->selectedItems())
+        numbers << entry->data(entry::NumberRole).toInt();
+    ToScratches(from);
+    PickList* scratches = lstPlayer[status::Scratch];
+    bool isFirst = true;
+    for (const int number : numbers) {
+        const int row = scratches->RowOf(number);
+        if (row < 0)
+            continue; // he stayed where he was
+        if (std::exchange(isFirst, false))
+            scratches->setCurrentRow(row, QItemSelectionModel::ClearAndSelect);
+        else
+            scratches->item(row)->setSelected(true);
+    }
+    if (!isFirst)
+        (this->*second)();
 }
 
 // The overall of the person shown last decides for everybody chosen.
