@@ -54,6 +54,63 @@ TEST_F(LayoutHabits, NothingStandsBesideTheLayouts)
     EXPECT_GT(seen, 1000);
 }
 
+TEST_F(LayoutHabits, NothingInALayoutLiesOverAnother)
+{
+    int seen = 0;
+    EachScreen([&](Screen& screen, const std::string& name) {
+        QList<QWidget*> panels = screen.findChildren<QWidget*>();
+        panels.prepend(&screen);
+        for (const QWidget* panel : panels) {
+            if (panel->layout() == nullptr || !panel->isVisible())
+                continue;
+            std::set<const QWidget*> widgets;
+            Collect(*panel->layout(), widgets);
+            for (const QWidget* one : widgets)
+                for (const QWidget* other : widgets) {
+                    if (one == other || !one->isVisible() || !other->isVisible())
+                        continue;
+                    ++seen;
+                    EXPECT_FALSE(one->geometry().intersects(other->geometry()))
+                        << name << ": " << Named(*one) << " and " << Named(*other);
+                }
+        }
+    });
+    EXPECT_GT(seen, 1000);
+}
+
+TEST_F(LayoutHabits, TheRoomBelowTheGroupsOfAPageOfLinesIsLeftEmpty)
+{
+    int seen = 0;
+    EachScreen([&](Screen& screen, const std::string& name) {
+        const auto* box = screen.findChild<QWidget*>("txtPullGoalerMinGoal");
+        if (box == nullptr || !box->isVisible())
+            return;
+        ++seen;
+        const QWidget* group = box->parentWidget();
+        EXPECT_EQ(group->height(), group->sizeHint().height()) << name;
+        EXPECT_LT(group->geometry().bottom() + 2 * Margin, group->parentWidget()->height()) << name;
+    });
+    EXPECT_GT(seen, 1);
+}
+
+TEST_F(LayoutHabits, TheGroupsOfATallTeamScreenAreNoTallerThanTheirContent)
+{
+    int seen = 0;
+    EachScreen([&](Screen& screen, const std::string& name) {
+        if (!name.starts_with("Team"))
+            return;
+        screen.resize(1280, 1200);
+        Settle();
+        for (const char* group : {"grpPro", "grpFarm", "grpContact", "grpFinance", "grpProjection"}) {
+            const auto* box = screen.findChild<QGroupBox*>(group);
+            ASSERT_NE(box, nullptr) << group;
+            ++seen;
+            EXPECT_LE(box->height(), box->sizeHint().height()) << name << ": " << group;
+        }
+    });
+    EXPECT_GT(seen, 0);
+}
+
 TEST_F(LayoutHabits, EveryGapAndMarginIsOneOfTheHouses)
 {
     const std::set<int> gaps{0, Gap / 2, Gap, Margin, 2 * Gap, 2 * Margin};

@@ -10,6 +10,9 @@
 #include "screens/panels/Verdict.h"
 #include "screens/platform/BoxIcon.h"
 
+#include <map>
+#include <QProxyStyle>
+#include <QStyleOption>
 #include <QVBoxLayout>
 
 namespace dravik {
@@ -193,6 +196,44 @@ TEST_F(PaintedPanels, ABarIsAsLongAsItsRating)
     EXPECT_EQ(ends(33), 66);
     EXPECT_EQ(ends(99), 198);
     EXPECT_EQ(ends(150), 198);
+}
+
+// Notes with which states the buttons are painted, by their left edges.
+class NotedBevels final : public QProxyStyle {
+public:
+    void drawControl(ControlElement element, const QStyleOption* option, QPainter* painter,
+                     const QWidget* widget) const override
+    {
+        if (element == CE_PushButtonBevel)
+            States[option->rect.left()] = option->state;
+        QProxyStyle::drawControl(element, option, painter, widget);
+    }
+
+    mutable std::map<int, State> States;
+};
+
+TEST_F(PaintedPanels, OnlyTheDaysThatCanBeChosenLookSoAndTheFocusIsOnNoneOfTheirButtons)
+{
+    NotedBevels bevels;
+    DayStrip strip;
+    strip.setStyle(&bevels);
+    strip.setMaximum(7);
+    strip.setValue(3);
+    strip.show();
+    strip.activateWindow();
+    strip.setFocus();
+    strip.setAttribute(Qt::WA_UnderMouse);
+    Settle();
+    Picture(strip, {900, 60});
+    EXPECT_TRUE(strip.hasFocus());
+    for (int day = 2; day <= DayStrip::Days; ++day) { // the place of the first is that of a mere sample too
+        const QStyle::State state = bevels.States.at(strip.CellOf(day).left());
+        EXPECT_EQ(state.testFlag(QStyle::State_Enabled), day <= 7) << day;
+        EXPECT_EQ(state.testFlag(QStyle::State_On), day == 3) << day;
+        EXPECT_EQ(state.testFlag(QStyle::State_Off), day != 3) << day;
+        EXPECT_FALSE(state.testFlag(QStyle::State_HasFocus)) << day;
+        EXPECT_FALSE(state.testFlag(QStyle::State_MouseOver)) << day;
+    }
 }
 
 TEST_F(PaintedPanels, TheNumberOfADayIsMutedWhereTheDayCannotBeChosen)

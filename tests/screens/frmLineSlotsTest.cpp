@@ -4,6 +4,7 @@
 #include "support/Routines.h"
 
 #include <cstring>
+#include <map>
 
 namespace dravik {
 namespace {
@@ -64,6 +65,45 @@ TEST_P(EverySlot, TakesWhomItsRuleAllowsAndNobodyElse)
 }
 
 INSTANTIATE_TEST_SUITE_P(OfAllPositions, EverySlot, ::testing::Values(1, 2, 3, 4, 5));
+
+// What a screen reader hears of each sort of slot, and so what is painted in it: the line or unit, and the place.
+TEST_F(LineSlots, EverySlotSaysItsLineAndItsPlace)
+{
+    const std::map<std::string, std::string> words{
+        {"lblNormalTrioC", "Line #, C"},
+        {"lblNormalTrioLW", "Line #, LW"},
+        {"lblNormalTrioRW", "Line #, RW"},
+        {"lblNormalTrioD1", "Line #, D1"},
+        {"lblNormalTrioD2", "Line #, D2"},
+        {"lblPPTrioC", "PowerPlay unit #, C"},
+        {"lblPPTrioLW", "PowerPlay unit #, LW"},
+        {"lblPPTrioRW", "PowerPlay unit #, RW"},
+        {"lblPPDuoD1", "PowerPlay unit #, D1"},
+        {"lblPPDuoD2", "PowerPlay unit #, D2"},
+        {"lbl44TrioC", "4 vs 4 unit #, C"},
+        {"lbl44TrioW", "4 vs 4 unit #, W"},
+        {"lbl44DuoD1", "4 vs 4 unit #, D1"},
+        {"lbl44DuoD2", "4 vs 4 unit #, D2"},
+        {"lblPKTrioC", "5 vs 4 Penalty Kill unit #, C"},
+        {"lblPKTrioW", "5 vs 4 Penalty Kill unit #, W"},
+        {"lblPKDuoD1", "5 vs 4 Penalty Kill unit #, D1"},
+        {"lblPKDuoD2", "5 vs 4 Penalty Kill unit #, D2"},
+        {"lblPK3TrioC", "* vs 3 Penalty Kill unit #, F"},
+        {"lblPK3DuoD1", "* vs 3 Penalty Kill unit #, D1"},
+        {"lblPK3DuoD2", "* vs 3 Penalty Kill unit #, D2"},
+        {"lblExtraForward", "Extra Forward #"},
+        {"lblExtraDefense", "Extra Defenseman #"},
+        {"lblPenaltyShot", "Penalty Shot #"},
+        {"lblStartGoaler", "Starting Goalie"},
+        {"lblBackupGoaler", "Backup Goalie"},
+    };
+    EachLabel([&](const LabelRow& row, int index) {
+        const SlotLabel* label = LabelOf(row, index);
+        ASSERT_NE(label, nullptr) << row.NameOf(index);
+        const QString expected = QString::fromStdString(words.at(row.Name)).replace('#', QString::number(index));
+        EXPECT_EQ(label->Where(), expected) << row.NameOf(index);
+    });
+}
 
 TEST_F(LineSlots, WithNoSelectionNoSlotDoesAnything)
 {
