@@ -111,7 +111,7 @@ constexpr double RosterAndCapLimit = 2.4; // one walk for the roster and one for
 constexpr double CopyLimit = 1.5;         // of one memcpy
 constexpr double MakerLimit = 30;
 constexpr double AllDaysLimit = 15; // a copy of the league and ten judgements
-constexpr double AdviceLimit = 15; // of the two milliseconds that a day's advice may take, about a fifteenth
+constexpr double AdviceLimit = 15;  // of the two milliseconds that a day's advice may take, about a fifteenth
 
 struct Case {
     const char* Name = nullptr;
