@@ -160,9 +160,12 @@ TEST_F(LineDays, TheStripTellsTheJudgesWordsInATooltipAndToAReader)
     EXPECT_EQ(TipAt(*line.vscDay, line.vscDay->CellOf(4).center()), "Day 4, at T6: complete");
     QAccessibleInterface* reader = QAccessible::queryAccessibleInterface(line.vscDay);
     EXPECT_EQ(reader->text(QAccessible::Description).toStdString(),
-              "Day 1, vs T6: complete; Day 2, at T6: complete; Day 3, vs T6: 2 findings; Day 4, at T6: complete; "
-              "Day 5, vs T6: complete; Day 6, at T6: complete; Day 7, vs T6: complete; Day 8, at T6: complete; "
-              "Day 9, vs T6: complete; Day 10, at T6: complete");
+              "Day 1, vs T6: complete; Day 2, at T6: complete; Day 3, vs T6: 2 findings " +
+                  WordsOf(OpenLeague, verdict, verdict.Findings[0]) + ' ' +
+                  WordsOf(OpenLeague, verdict, verdict.Findings[1]) +
+                  "; Day 4, at T6: complete; "
+                  "Day 5, vs T6: complete; Day 6, at T6: complete; Day 7, vs T6: complete; Day 8, at T6: complete; "
+                  "Day 9, vs T6: complete; Day 10, at T6: complete");
     EXPECT_EQ(reader->text(QAccessible::Name).toStdString(), "Day 1, vs T6, Lines are Complete");
 }
 

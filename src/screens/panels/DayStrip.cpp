@@ -77,7 +77,7 @@ QString DayStrip::WordsOfAllDays() const
 {
     QStringList words;
     for (int day = 1; day <= signs.size(); ++day)
-        words << WordsOfDay(day, false);
+        words << WordsOfDay(day, true).replace('\n', ' ');
     return words.join("; ");
 }
 

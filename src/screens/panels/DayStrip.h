@@ -35,7 +35,7 @@ public:
     [[nodiscard]] const QList<DaySign>& Signs() const { return signs; }
     // The day, its game and its verdict in words: "Day 3, vs TAR: 2 findings", the findings behind it when asked.
     [[nodiscard]] QString WordsOfDay(int day, bool withFindings) const;
-    // The verdicts of all days in one line, for a screen reader. Empty before there are any.
+    // The verdicts of all days with their findings in one line, for a screen reader. Empty before there are any.
     [[nodiscard]] QString WordsOfAllDays() const;
     // The accessible name, the chosen day, its game and the verdict.
     [[nodiscard]] QString InWords() const;
