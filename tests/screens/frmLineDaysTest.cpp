@@ -111,6 +111,19 @@ TEST_F(LineDays, TheShownDayTellsWhatItsJudgeFoundThoughHeMendedIt)
     EXPECT_EQ(Told(line, 2), static_cast<int>(again.Findings.size()));
 }
 
+// The second judgement finds the slots empty that the first one emptied.
+TEST_F(LineDays, JudgedAgainInABoxTheShownDayTellsWhatWasFoundThen)
+{
+    Players[ProDay().NormalForward(1, 1)].Condition = 50;
+    frmLine& line = Line();
+    const QString first = line.vscDay->Signs()[0].Words;
+    Click(line.cmdDebug);
+    const QString again = line.vscDay->Signs()[0].Words;
+    EXPECT_NE(again, first);
+    EXPECT_TRUE(line.txtReasons->toPlainText().startsWith(again + '\n'));
+    EXPECT_EQ(Machine.TakeBoxes().size(), 1U);
+}
+
 TEST_F(LineDays, ADayThatCannotBeJudgedHasTheWarningSign)
 {
     ProDay(4).NormalForward(1, 1) = -7;

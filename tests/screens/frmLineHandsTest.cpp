@@ -219,6 +219,22 @@ TEST_F(LineHands, TheFarmOffersItsPlaceholderLast)
     EXPECT_EQ(NameIn(farm, LineField::NormalForward, 1, 1), "Unknown Player");
 }
 
+TEST_F(LineHands, ThePlaceholderIsNobodyToLookAt)
+{
+    LeagueData.FarmRosterRequired.SetWord(0);
+    frmFarmLine& farm = FarmLine();
+    Pick(farm, static_cast<int>(FarmDay().NormalForward(2, 1)), position::Center);
+    const auto chosen = farm.lstPlayer->Chosen()->text();
+    GoTo(farm, SlotOn(farm, LineField::NormalForward, 1, 1));
+    Key(farm, Qt::Key_F2);
+    Type(farm, "unknown");
+    Key(farm, Qt::Key_Return, Qt::ShiftModifier);
+    EXPECT_FALSE(IsOpen(farm));
+    ASSERT_NE(farm.lstPlayer->Chosen(), nullptr);
+    EXPECT_EQ(farm.lstPlayer->Chosen()->text(), chosen);
+    EXPECT_EQ(SelectedPlayer, FarmDay().NormalForward(2, 1));
+}
+
 TEST_F(LineHands, HiddenOverallsStayHiddenInThePicker)
 {
     LeagueData.ShowOverall = false;

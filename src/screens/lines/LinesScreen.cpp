@@ -287,6 +287,7 @@ void LinesScreen::cmdDebug_Click()
 {
     Judge(true);
     RefreshMarks();
+    RefreshDays();
     RefreshAdvice();
 }
 

@@ -106,7 +106,7 @@ void LinesScreen::LookAtSlot(int index)
     RunEvent("Look", [&] {
         const BoardSlot& slot = TabLine->Slots[static_cast<std::size_t>(index)];
         const PersonId who = slot.Whom(slot.In(ShownLines()));
-        if (who.Slot != 0 && who.HasSlot())
+        if (who.HasSlot())
             LookAt(who, OnPerson(OpenLeague, who, [](const auto& person) { return PositionOf(person); }));
     });
 }
@@ -114,6 +114,8 @@ void LinesScreen::LookAtSlot(int index)
 // Whoever is in the list is chosen there; of somebody whom the list leaves out nothing can be placed, but he is shown.
 void LinesScreen::LookAt(PersonId who, int position)
 {
+    if (who.Slot == 0)
+        return; // the placeholder is nobody
     const int row = lstPlayer->RowOf(EntryNumber(who.Slot, position));
     if (row >= 0) {
         lstPlayer->setCurrentRow(row);
