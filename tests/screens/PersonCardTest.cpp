@@ -321,6 +321,7 @@ TEST_F(DraftCards, PeopleOfTheDraftShowFactsAndProspectsNothing)
     Players[7].Rookie = true;
     Players[7].Suspension = 3;
     Players[7].NoTrade = true;
+    Players[7].Contract = 0; // as with most of those without a team
     Goalies[5].InUse = true; // in the slot that a prospect's number less the goalies' would mean, were it one
     frmDraft& draft = Draft();
     const auto description = [&draft](int row) {

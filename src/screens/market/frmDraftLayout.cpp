@@ -74,8 +74,9 @@ void frmDraft::MakeControls()
     lstDraftList = new RankList(this);
     lstDraftList->setObjectName("lstDraftList");
     lstDraftList->setAccessibleName("Draft List");
-    // Facts alone, since the screen asks for no password; a prospect has none.
-    const auto signs = [](int id) { return SignsOf(OpenLeague, PersonOf(id), 0); };
+    // Facts alone, since the screen asks for no password; a prospect has none. Whoever is listed belongs to no team,
+    // so that a contract says nothing of him.
+    const auto signs = [](int id) { return SignsOf(OpenLeague, PersonOf(id), 0).Without(Sign::NoContract); };
     auto* cards = new PersonCards(this);
     for (EntryList* list : {lstPlayers, static_cast<EntryList*>(lstDraftList)}) {
         new EntrySigns(list, signs);
