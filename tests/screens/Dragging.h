@@ -18,29 +18,28 @@ public:
         list->scrollTo(entry);
         const QPoint from = list->visualRect(entry).center();
         QTest::mousePress(list->viewport(), Qt::LeftButton, {}, from);
-        Send(QEvent::MouseMove, list->viewport()->mapToGlobal(from + QPoint(1, 0)));
-        Send(QEvent::MouseMove, list->viewport()->mapToGlobal(from + QPoint(2 * QApplication::startDragDistance(), 0)));
+        Send(list->viewport()->mapToGlobal(from + QPoint(1, 0)));
+        Send(list->viewport()->mapToGlobal(from + QPoint(2 * QApplication::startDragDistance(), 0)));
     }
 
     void MoveTo(const QWidget* widget) { MoveTo(widget, widget->rect().center()); }
     void MoveTo(const QWidget* widget, const QPoint& point)
     {
         pointer = widget->mapToGlobal(point);
-        Send(QEvent::MouseMove, pointer);
+        Send(pointer);
     }
     void LetGo()
     {
-        Send(QEvent::MouseButtonRelease, pointer);
+        // As it was pressed: an event that is merely sent would leave the button down for every later test.
+        QTest::mouseRelease(list->viewport(), Qt::LeftButton, {}, list->viewport()->mapFromGlobal(pointer));
         QApplication::processEvents();
     }
 
 private:
-    void Send(QEvent::Type type, const QPoint& global)
+    void Send(const QPoint& global)
     {
-        const bool isRelease = type == QEvent::MouseButtonRelease;
-        QMouseEvent event(type, list->viewport()->mapFromGlobal(QPointF(global)), QPointF(global),
-                          isRelease ? Qt::LeftButton : Qt::NoButton, isRelease ? Qt::NoButton : Qt::LeftButton,
-                          Qt::NoModifier);
+        QMouseEvent event(QEvent::MouseMove, list->viewport()->mapFromGlobal(QPointF(global)), QPointF(global),
+                          Qt::NoButton, Qt::LeftButton, Qt::NoModifier);
         QApplication::sendEvent(list->viewport(), &event);
     }
 
