@@ -144,7 +144,7 @@ TYPED_TEST(LinesDragTest, ADropBesideTheSlotsDoesNothing)
     const int row = this->RowOfSomebodyAt(position::Center);
     for (const QWidget* target :
          {static_cast<QWidget*>(screen.lstPlayer), static_cast<QWidget*>(screen.lblTeamName),
-          static_cast<QWidget*>(screen.TabLine->Headings[0].Label), static_cast<QWidget*>(screen.cmdAutoLines)})
+          static_cast<QWidget*>(screen.TabLine->Parts.Headings[0].Label), static_cast<QWidget*>(screen.cmdAutoLines)})
         DragEntry(screen.lstPlayer, row, target);
     EntryDragging outside(screen.lstPlayer, row);
     outside.MoveTo(&screen, QPoint(-200, -200));

@@ -250,9 +250,9 @@ TEST_F(frmFarmLinePeopleTest, APickKeepsTheCaptionOfThePanel)
 TEST_F(frmFarmLinePeopleTest, APickKeepsTheCaptionThatAHeadingLeft)
 {
     frmFarmLine& farm = FarmLine();
-    ClickOn(farm, farm.TabLine->Headings[1].Label);
+    ClickOn(farm, farm.TabLine->Parts.Headings[1].Label);
     const QString heading = farm.frmStat->title();
-    EXPECT_EQ(heading, "Normal " + farm.TabLine->Headings[1].Label->text());
+    EXPECT_EQ(heading, "Normal " + farm.TabLine->Parts.Headings[1].Label->text());
     Pick(farm, Center, position::Center);
     EXPECT_EQ(farm.frmStat->title(), heading);
     Pick(farm, Keeper, position::Goalie);

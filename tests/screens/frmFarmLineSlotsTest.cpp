@@ -298,8 +298,8 @@ TEST_F(frmFarmLineSlotsTest, AHeadingAveragesTheFarmLineWithThePlaceholderInItsH
     for (std::size_t i = 0; i < members.size(); ++i)
         Players[members[i]].Stats[1] = ratings[i];
     frmFarmLine& farm = FarmLine();
-    ClickOn(farm, farm.TabLine->Headings[1].Label);
-    EXPECT_EQ(farm.frmStat->title(), "Normal " + farm.TabLine->Headings[1].Label->text());
+    ClickOn(farm, farm.TabLine->Parts.Headings[1].Label);
+    EXPECT_EQ(farm.frmStat->title(), "Normal " + farm.TabLine->Parts.Headings[1].Label->text());
     EXPECT_EQ(Of(farm.frmStat->lblStat[0]), "T");
     EXPECT_EQ(Of(farm.frmStat->lblStat[1]), "46");
 }
@@ -332,11 +332,11 @@ TEST_F(frmFarmLineSlotsTest, FailuresOfSlotsAndHeadingsAreToldUnderTheirNames)
     expectFailure(SlotOn(farm, LineField::NormalForward, 3, 2), "lblNormalTrioLW");
     expectFailure(SlotOn(farm, LineField::PK3Forward, 2), "lblPK3TrioC");
     expectFailure(SlotOn(farm, LineField::ExtraForward, 5), "lblExtraForward");
-    expectFailure(farm.TabLine->Headings[0].Label, "lblNormalTrio");
-    expectFailure(farm.TabLine->Headings[4].Label, "lblPPTrio");
-    expectFailure(farm.TabLine->Headings[6].Label, "lbl44Trio");
-    expectFailure(farm.TabLine->Headings[8].Label, "lblPKTrio");
-    expectFailure(farm.TabLine->Headings[10].Label, "lblPK3Trio");
+    expectFailure(farm.TabLine->Parts.Headings[0].Label, "lblNormalTrio");
+    expectFailure(farm.TabLine->Parts.Headings[4].Label, "lblPPTrio");
+    expectFailure(farm.TabLine->Parts.Headings[6].Label, "lbl44Trio");
+    expectFailure(farm.TabLine->Parts.Headings[8].Label, "lblPKTrio");
+    expectFailure(farm.TabLine->Parts.Headings[10].Label, "lblPK3Trio");
     EXPECT_TRUE(farm.isVisible());
 }
 
@@ -366,7 +366,7 @@ TEST_F(frmFarmLineSlotsTest, StrategyPullAndHeadingsAreThoseOfTheShownDay)
     frmFarmLine& farm = FarmLine();
     const Lines first = FarmDay(1);
     farm.vscDay->setValue(2);
-    ClickOn(farm, farm.TabLine->Headings[0].Label);
+    ClickOn(farm, farm.TabLine->Parts.Headings[0].Label);
     EXPECT_EQ(Of(farm.frmStat->lblStat[1]), "20");
     farm.TabLine->setCurrentIndex(farm.TabLine->count() - 1);
     Press(farm.hscStats[1], Qt::Key_Right);

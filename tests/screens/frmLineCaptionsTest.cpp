@@ -63,6 +63,7 @@ TEST_F(LineCaptions, EveryCaptionIsAsWritten)
                        "&Copy To Day ...",
                        "Copy To A&ll Days",
                        "Repa&ir All Days",
+                       "Whole Line-&Up",
                        "Show Player",
                        "E&xit",
                        "W&hy are my lines incomplete?"};
@@ -96,7 +97,7 @@ TEST_F(LineCaptions, EveryCaptionIsAsWritten)
         EXPECT_THAT(groups, UnorderedElementsAreArray(Texts{"Stats", "Strategy", "Goalie Pull"}));
 
         Texts headings;
-        for (const BoardHeading& heading : screen.TabLine->Headings) {
+        for (const BoardHeading& heading : screen.TabLine->Parts.Headings) {
             headings.push_back(Of(heading.Label));
             EXPECT_EQ(heading.Label->toolTip(), "Show the averages");
         }
@@ -272,7 +273,7 @@ TEST_F(LineCaptions, AHeadingOfMenOutOfPositionAveragesTheirOwnOveralls)
     frmLine& line = Line();
     ClickOn(line, line.findChild<QLabel*>("lblNormalTrio(3)"));
     EXPECT_EQ(Rows(line).at(15), "OV " + average(sum));
-    EXPECT_EQ(Of(line.TabLine->Headings[2].Average), "average " + average(sum));
+    EXPECT_EQ(Of(line.TabLine->Parts.Headings[2].Average), "average " + average(sum));
 }
 
 TEST_F(LineCaptions, AChangeOfDayEmptiesTheSlotsOfWhoIsNoLongerAtHand)

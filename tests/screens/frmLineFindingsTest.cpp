@@ -225,7 +225,7 @@ TEST_F(LineFindings, AHeadingTakesTheSlotsOfTheManBeforeOffThePanel)
     const auto playing = [this](LinesScreen& screen, int id) {
         Pick(screen, id, static_cast<int>(Players[id].Position));
         EXPECT_NE(Of(screen.lblPlaying), "");
-        ClickOn(screen, screen.TabLine->Headings[0].Label);
+        ClickOn(screen, screen.TabLine->Parts.Headings[0].Label);
         return Of(screen.lblPlaying);
     };
     EXPECT_EQ(playing(Line(), static_cast<int>(ProDay().NormalForward(1, 1))), "");

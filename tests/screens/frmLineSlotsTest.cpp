@@ -244,7 +244,7 @@ TEST_F(LineSlots, NoOverallIsShownWhereTheLeagueKeepsItToItself)
     const frmLine& line = Line();
     for (const BoardSlot& slot : line.TabLine->Slots)
         EXPECT_EQ(slot.Label->Aside(), "");
-    for (const BoardHeading& heading : line.TabLine->Headings)
+    for (const BoardHeading& heading : line.TabLine->Parts.Headings)
         EXPECT_EQ(Of(heading.Average), "");
     for (int row = 0; row < line.lstPlayer->count(); ++row)
         EXPECT_EQ(line.lstPlayer->item(row)->data(entry::AsideRole).toStringList().size(), 1);

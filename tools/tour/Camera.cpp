@@ -11,11 +11,9 @@ namespace dravik::tour {
 
 namespace {
 
-constexpr QSize PictureSize(1280, 800);
-
-QPixmap Picture(QWidget& screen, int scale)
+QPixmap Picture(QWidget& screen, int scale, const QSize& size)
 {
-    QPixmap picture(PictureSize * scale);
+    QPixmap picture(size * scale);
     picture.setDevicePixelRatio(scale);
     screen.render(&picture);
     return picture;
@@ -25,7 +23,7 @@ QPixmap Picture(QWidget& screen, int scale)
 
 Camera::Camera(QString pictures) : folder(std::move(pictures)) {}
 
-bool Camera::Photograph(QWidget& screen, const QString& name)
+bool Camera::Photograph(QWidget& screen, const QString& name, const QSize& size)
 {
     const std::pair<void (*)(), const char*> looks[] = {{&UseDarkLook, "dark"}, {&UseLightLook, "light"}};
     const std::pair<int, const char*> scales[] = {{1, ""}, {2, "@2x"}};
@@ -33,11 +31,11 @@ bool Camera::Photograph(QWidget& screen, const QString& name)
     bool allWritten = true;
     for (const auto& [use, look] : looks) {
         use();
-        screen.resize(PictureSize);
+        screen.resize(size);
         QApplication::processEvents();
         for (const auto& [scale, suffix] : scales) {
             const QString path = QString("%1/%2-%3-%4%5.png").arg(folder).arg(visits).arg(name, look, suffix);
-            if (Picture(screen, scale).save(path))
+            if (Picture(screen, scale, size).save(path))
                 std::cout << "picture " << path.toStdString() << '\n';
             else
                 allWritten = false;

@@ -11,9 +11,9 @@ public:
     // Pictures go to `folder`, which is there.
     explicit Camera(QString folder);
 
-    // Takes the four pictures of `screen` at 1280 x 800 under `name`, numbered in the order of the visits, and prints
+    // Takes the four pictures of `screen` in `size` under `name`, numbered in the order of the visits, and prints
     // their paths. False when one of them cannot be written.
-    bool Photograph(QWidget& screen, const QString& name);
+    bool Photograph(QWidget& screen, const QString& name, const QSize& size = {1280, 800});
 
 private:
     QString folder;

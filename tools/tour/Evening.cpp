@@ -5,6 +5,7 @@
 #include "rules/WipeLines.h"
 #include "screens/lines/frmFarmLine.h"
 #include "screens/lines/frmLine.h"
+#include "screens/lines/LineSheet.h"
 #include "screens/lines/SlotPicker.h"
 #include "screens/panels/PersonCards.h"
 #include "screens/platform/CodePage.h"
@@ -192,10 +193,22 @@ void Evening::MakeLinesOn(QPushButton& command, Window window, const QString& pi
     cards->ShowAtFocus();
     PickForASlot(screen);
     Photograph(window, picture + "-picker");
+    PhotographSheet(screen, picture + "-sheet");
     screen.cmdExit->click();
     QApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
     NoComplaints("the lines are made");
     Require(stage.Find(window) == nullptr && Team().isVisible(), "the team screen comes back");
+}
+
+void Evening::PhotographSheet(LinesScreen& screen, const QString& name)
+{
+    screen.cmdSheet->click();
+    QApplication::processEvents();
+    Require(screen.Sheet != nullptr && screen.Sheet->isVisible(), "the sheet of the whole line-up opens");
+    constexpr QSize onWideDisplay(1880, 1000);
+    Require(camera.Photograph(*screen.Sheet, name) && camera.Photograph(*screen.Sheet, name + "-wide", onWideDisplay),
+            "pictures of " + name + " are written");
+    screen.Sheet->close();
 }
 
 void Evening::PickForASlot(LinesScreen& screen)

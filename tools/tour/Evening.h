@@ -50,6 +50,8 @@ private:
     void MakeLinesOn(QPushButton& command, Window window, const QString& picture);
     // Picks the first player of the list by keyboard.
     static void PickFirst(LinesScreen& screen);
+    // Opens the sheet of the whole line-up, and looks at it as on a small display and as on a wide one.
+    void PhotographSheet(LinesScreen& screen, const QString& name);
     // Opens the picker at the second line's center by keyboard.
     void PickForASlot(LinesScreen& screen);
     void SaveLines();

@@ -11,7 +11,7 @@
 #include "rules/NextGames.h"
 #include "rules/PlayingLines.h"
 #include "screens/EventGuard.h"
-#include "screens/lines/SlotPicker.h"
+#include "screens/lines/LineSheet.h"
 #include "screens/PersonWords.h"
 #include "screens/platform/CodePage.h"
 #include "screens/RosterEntry.h"
@@ -107,6 +107,8 @@ void LinesScreen::ShowPlayer()
         });
         ListMore();
     });
+    if (Sheet != nullptr)
+        Sheet->List(*lstPlayer);
 }
 
 void LinesScreen::lstPlayer_Click()
@@ -140,7 +142,7 @@ void LinesScreen::chkPosition_Click(int /*position*/) { ShowPlayer(); }
 void LinesScreen::Place()
 {
     said = {};
-    picker->hide();
+    ClosePickers();
     LetGoOfTaken();
     Reporting(Machine(), " in Place!", [this] {
         if (GameRow[1] != 0)

@@ -31,8 +31,10 @@
 namespace dravik {
 
 class AdviceList;
-struct Team;
+class LineSheet;
+class PersonCards;
 class SlotPicker;
+struct Team;
 
 // In what the lines screens of the pro team and of the farm differ by name alone. What they do differently is in the
 // screens themselves.
@@ -85,6 +87,8 @@ public:
     void cmdCopy_Click();
     void cmdCopyAll_Click();
     void cmdRepairAll_Click();
+    // The whole line-up on one sheet comes up, or goes when it is in front.
+    void cmdSheet_Click();
     void cmdDebug_Click();
     void cmdExit_Click();
 
@@ -113,10 +117,13 @@ public:
     QPushButton *cmdAutoLines = nullptr, *cmdWipeLines = nullptr, *cmdCopy = nullptr;
     QPushButton *cmdCopyAll = nullptr, *cmdDebug = nullptr, *cmdExit = nullptr;
     QPushButton* cmdRepairAll = nullptr; // mends every day that is incomplete
+    QPushButton* cmdSheet = nullptr;
+    LineSheet* Sheet = nullptr; // made when it is asked for
 
 protected:
     LinesScreen(Stage& stage, const LinesKind& kind);
 
+    bool event(QEvent* event) override;
     bool eventFilter(QObject* watched, QEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
 
@@ -172,9 +179,15 @@ private:
     void ShowIn(BoardSlot& slot, long long id);
     // Lines by hand. Slots are named by their place on the board.
     void MakeHands();
+    SlotPicker* MakePicker(QWidget* window);
+    // Has a label of a slot, on the pages or on the sheet, do what is done by hand.
+    void MakeLive(int index, SlotLabel& label);
+    // Has a list of people pick for the slots of its window: signs, cards and drags.
+    void MakeLive(PickList& people);
     [[nodiscard]] int IndexOf(const SlotLabel& label) const;
     [[nodiscard]] QString WhereOf(int index) const;
-    void OpenPicker(int index, const QString& typed);
+    void OpenPicker(int index, SlotLabel& label, const QString& typed);
+    void ClosePickers();
     void PlacePick(int row);
     // Puts somebody into a slot, shows him there and judges the day.
     void PlaceIn(int index, PersonId who, int position);
@@ -186,10 +199,16 @@ private:
     // Takes up who stands in a slot, or has him who was change places with him.
     void TakeUp(int index);
     void LetGoOfTaken();
+    void ShowTaken(bool isTaken);
     // The keys: another page, the board, and from there to the list and back.
     void TurnPage(int by);
     void FocusBoard();
     void ChangeSides();
+    // The sheet of the whole line-up.
+    void MakeSheet();
+    void ShowOnSheet();
+    void PickOnSheet();
+    void LeaveSheet();
     // Shows of every slot what stands in it now, whatever name it still reads, and the averages of the lines.
     void RefreshMarks();
     void RefreshMark(const BoardSlot& slot, long long id);
@@ -199,8 +218,6 @@ private:
     // What the judge said about a slot, each sentence once.
     [[nodiscard]] QStringList FindingsOn(const BoardSlot& slot) const;
     void RefreshAverage(const BoardHeading& heading);
-    // Gives entries and slots their signs and their cards.
-    void MakeSigns();
     [[nodiscard]] PersonSigns SignsOfEntry(int number) const;
     // The signs of somebody in a slot, whose mark says the rest.
     [[nodiscard]] PersonSigns SignsIn(const BoardSlot& slot, PersonId who) const;
@@ -211,10 +228,12 @@ private:
     [[nodiscard]] QString SlotsToday(PersonId who) const;
     [[nodiscard]] QString SlotsOf(PersonId who) const;
     void TellOfSlot(const BoardSlot& slot);
-    void TellOfEntry(const QPoint& point);
+    void TellOfEntry(PickList& people, const QPoint& point);
     void ShowPull();
     void TakePull(EditBox* box, GoaliePull value);
     bool HoldsBack(QObject* watched, const QEvent* event);
+    // Whether a text box keeps the focus from what is pressed.
+    bool KeepsFocus(const QObject* watched);
     // Ends a press whose button went up while a failure was read.
     void LetGoOf(QObject* watched, const QEvent* event);
     // Goes back to a box whose text was refused, on whatever page it is.
@@ -222,11 +241,13 @@ private:
 
     Int16 day = 1;
     Int16 selectedPosition;
+    PersonCards* cards = nullptr;
     SlotPicker* picker = nullptr;
+    SlotPicker* sheetPicker = nullptr; // in the sheet's window
     std::vector<SlotPick> picks;       // that the picker offers,
     int pickedSlot = 0;                // for this slot
     std::optional<int> taken;          // the slot whose person was taken up
-    QPointer<SlotLabel> lastSlot;      // that had the focus
+    QPointer<SlotLabel> lastSlot;      // of the pages, that had the focus
     LineVerdict said;                  // by the judge about the day as it is shown
     std::vector<LineAdvice> advised;   // about it, as its commands stand
     const QObject* heldBack = nullptr; // what was pressed while a text box kept the focus

@@ -1,7 +1,10 @@
 #include "desk/PlaceOnLine.h"
 #include "desk/SlotPicks.h"
+#include "screens/lines/LineSheet.h"
 #include "screens/lines/LinesScreen.h"
 #include "screens/lines/SlotPicker.h"
+#include "screens/panels/EntrySigns.h"
+#include "screens/panels/PersonCards.h"
 #include "screens/panels/PersonDrag.h"
 #include "screens/PersonWords.h"
 #include "screens/platform/CodePage.h"
@@ -20,21 +23,9 @@ namespace dravik {
 
 void LinesScreen::MakeHands()
 {
-    picker = new SlotPicker(this);
-    connect(picker, &SlotPicker::Placed, this, [this](int row) { PlacePick(row); });
-    connect(picker, &SlotPicker::Looked, this, [this](int row) {
-        const SlotPick& pick = picks[static_cast<std::size_t>(row)];
-        RunEvent("Picker", [&] { LookAt(pick.Who, pick.Position); });
-    });
-    for (int index = 0; index < static_cast<int>(TabLine->Slots.size()); ++index) {
-        SlotLabel* label = TabLine->Slots[static_cast<std::size_t>(index)].Label;
-        PersonDrag::FromSlot(
-            *label, [this, index](const SlotLabel& other) { return MaySwap(index, IndexOf(other)); },
-            [this, index](SlotLabel& other) { Swap(index, IndexOf(other)); });
-        connect(label, &SlotLabel::Looked, this, [this, index] { LookAtSlot(index); });
-        connect(label, &SlotLabel::PickAsked, this, [this, index](const QString& typed) { OpenPicker(index, typed); });
-        connect(label, &SlotLabel::TakeAsked, this, [this, index] { TakeUp(index); });
-    }
+    picker = MakePicker(this);
+    for (int index = 0; index < static_cast<int>(TabLine->Slots.size()); ++index)
+        MakeLive(index, *TabLine->Slots[static_cast<std::size_t>(index)].Label);
 
     const auto onKey = [this](const QKeySequence& key, const std::function<void()>& run) {
         connect(new QShortcut(key, this), &QShortcut::activated, this, [this, run] {
@@ -50,20 +41,54 @@ void LinesScreen::MakeHands()
     onKey(QKeySequence("Ctrl+Tab"), [this] { TurnPage(1); });
     onKey(QKeySequence("Ctrl+Shift+Tab"), [this] { TurnPage(-1); });
     onKey(QKeySequence("F6"), [this] { ChangeSides(); });
+    onKey(QKeySequence("Ctrl+B"), [this] { cmdSheet_Click(); });
     // Whatever comes up in its place, the picker belongs to the slot that it was opened at.
     connect(TabLine, &QTabWidget::currentChanged, picker, &QWidget::hide);
 }
 
+SlotPicker* LinesScreen::MakePicker(QWidget* window)
+{
+    auto* made = new SlotPicker(window);
+    connect(made, &SlotPicker::Placed, this, [this](int row) { PlacePick(row); });
+    connect(made, &SlotPicker::Looked, this, [this](int row) {
+        const SlotPick& pick = picks[static_cast<std::size_t>(row)];
+        RunEvent("Picker", [&] { LookAt(pick.Who, pick.Position); });
+    });
+    return made;
+}
+
+void LinesScreen::MakeLive(int index, SlotLabel& label)
+{
+    PersonDrag::FromSlot(
+        label, [this, index](const SlotLabel& other) { return MaySwap(index, IndexOf(other)); },
+        [this, index](SlotLabel& other) { Swap(index, IndexOf(other)); });
+    connect(&label, &SlotLabel::Looked, this, [this, index] { LookAtSlot(index); });
+    connect(&label, &SlotLabel::PickAsked, this,
+            [this, index, &label](const QString& typed) { OpenPicker(index, label, typed); });
+    connect(&label, &SlotLabel::TakeAsked, this, [this, index] { TakeUp(index); });
+    cards->Serve(&label, [this, &slot = TabLine->Slots[static_cast<std::size_t>(index)]] { return CardOfSlot(slot); });
+    label.installEventFilter(this); // behind the drag's own filter
+}
+
+void LinesScreen::MakeLive(PickList& people)
+{
+    PersonDrag::FromList(people, [this](const SlotLabel& label) { return MayDropOn(label); });
+    people.viewport()->installEventFilter(this); // behind the drag's own, so that a press held back starts none
+    new EntrySigns(&people, [this](int number) { return SignsOfEntry(number); });
+    cards->Serve(&people, [this](int number) { return CardOfEntry(number); });
+}
+
 int LinesScreen::IndexOf(const SlotLabel& label) const
 {
-    const auto slot = std::find_if(TabLine->Slots.begin(), TabLine->Slots.end(),
-                                   [&label](const BoardSlot& other) { return other.Label == &label; });
+    const auto slot = std::find_if(TabLine->Slots.begin(), TabLine->Slots.end(), [&label](const BoardSlot& other) {
+        return other.Label == &label || other.OnSheet == &label;
+    });
     return static_cast<int>(slot - TabLine->Slots.begin());
 }
 
 QString LinesScreen::WhereOf(int index) const { return TabLine->Slots[static_cast<std::size_t>(index)].Label->Where(); }
 
-void LinesScreen::OpenPicker(int index, const QString& typed)
+void LinesScreen::OpenPicker(int index, SlotLabel& label, const QString& typed)
 {
     RunEvent("Picker", [&] {
         const BoardSlot& slot = TabLine->Slots[static_cast<std::size_t>(index)];
@@ -79,8 +104,15 @@ void LinesScreen::OpenPicker(int index, const QString& typed)
                 standing = static_cast<int>(rows.size());
             rows << PickRow{.Name = NameOf(pick.Who), .Aside = aside};
         }
-        picker->OpenAt(*slot.Label, rows, standing, typed);
+        (label.window() == this ? picker : sheetPicker)->OpenAt(label, rows, standing, typed);
     });
+}
+
+void LinesScreen::ClosePickers()
+{
+    for (SlotPicker* open : {picker, sheetPicker})
+        if (open != nullptr)
+            open->hide();
 }
 
 void LinesScreen::PlacePick(int row)
@@ -157,11 +189,10 @@ void LinesScreen::Swap(int one, int other)
 void LinesScreen::TakeUp(int index)
 {
     if (!taken) {
-        SlotLabel* label = TabLine->Slots[static_cast<std::size_t>(index)].Label;
-        if (label->Shown() == SlotLabel::Mark::Empty)
+        if (TabLine->Slots[static_cast<std::size_t>(index)].Label->Shown() == SlotLabel::Mark::Empty)
             return;
         taken = index;
-        label->SetTaken(true);
+        ShowTaken(true);
         return;
     }
     const int from = *taken;
@@ -177,8 +208,13 @@ void LinesScreen::TakeUp(int index)
 void LinesScreen::LetGoOfTaken()
 {
     if (taken)
-        TabLine->Slots[static_cast<std::size_t>(*taken)].Label->SetTaken(false);
+        ShowTaken(false);
     taken.reset();
+}
+
+void LinesScreen::ShowTaken(bool isTaken)
+{
+    TabLine->Slots[static_cast<std::size_t>(*taken)].OnLabels([isTaken](SlotLabel& label) { label.SetTaken(isTaken); });
 }
 
 // A key that nobody else has a use for.
@@ -190,8 +226,11 @@ void LinesScreen::keyPressEvent(QKeyEvent* event)
         Screen::keyPressEvent(event);
 }
 
+// The sheet has no pages.
 void LinesScreen::TurnPage(int by)
 {
+    if (Sheet != nullptr && Sheet->isActiveWindow())
+        return;
     const int pages = TabLine->count();
     const bool wasOnBoard = TabLine->isAncestorOf(focusWidget());
     TabLine->setCurrentIndex((TabLine->currentIndex() + by + pages) % pages);
@@ -205,7 +244,7 @@ void LinesScreen::FocusBoard()
         lastSlot->setFocus(Qt::ShortcutFocusReason);
         return;
     }
-    for (QWidget* walked : TabLine->Walk)
+    for (QWidget* walked : TabLine->Parts.Walk)
         if (walked->isVisible() && qobject_cast<SlotLabel*>(walked) != nullptr) {
             walked->setFocus(Qt::ShortcutFocusReason);
             return;
@@ -215,7 +254,9 @@ void LinesScreen::FocusBoard()
 
 void LinesScreen::ChangeSides()
 {
-    if (lstPlayer->hasFocus())
+    if (Sheet != nullptr && Sheet->isActiveWindow())
+        Sheet->ChangeSides();
+    else if (lstPlayer->hasFocus())
         FocusBoard();
     else
         lstPlayer->setFocus(Qt::ShortcutFocusReason);

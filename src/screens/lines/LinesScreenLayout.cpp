@@ -4,7 +4,7 @@
 #include "screens/lines/LinesScreen.h"
 #include "screens/panels/Labels.h"
 #include "screens/panels/Layouts.h"
-#include "screens/panels/PersonDrag.h"
+#include "screens/panels/PersonCards.h"
 
 #include <QCoreApplication>
 #include <QGroupBox>
@@ -109,21 +109,18 @@ void LinesScreen::MakeControls()
 
     TabLine = new LineBoard(this);
     TabLine->tabBar()->setFocusPolicy(Qt::StrongFocus); // a press on a tab leaves a text box first
-    connect(TabLine, &LineBoard::SlotPressed, this,
+    connect(&TabLine->Parts, &BoardParts::SlotPressed, this,
             [this](int index) { RunStep(WordsOfPlacing(index), [this, index] { Slot_Click(index); }); });
-    connect(TabLine, &LineBoard::HeadingPressed, this, [this](int index) { Heading_Click(index); });
+    connect(&TabLine->Parts, &BoardParts::HeadingPressed, this, [this](int index) { Heading_Click(index); });
+    cards = new PersonCards(this);
     MakeHands();
-    for (const BoardSlot& slot : TabLine->Slots) // behind the drag's own filter
-        slot.Label->installEventFilter(this);
-    for (const BoardHeading& heading : TabLine->Headings)
+    for (const BoardHeading& heading : TabLine->Parts.Headings)
         heading.Label->installEventFilter(this);
-    PersonDrag::FromList(*lstPlayer, [this](const SlotLabel& label) { return MayDropOn(label); });
-    lstPlayer->viewport()->installEventFilter(this); // behind the drag's own, so that a press held back starts none
+    MakeLive(*lstPlayer);
     for (QWidget* pressed : std::initializer_list<QWidget*>{vscDay, TabLine->tabBar()})
         pressed->installEventFilter(this);
     for (QCheckBox* filter : chkPosition)
         filter->installEventFilter(this);
-    MakeSigns();
 }
 
 void LinesScreen::MakeCommands()
@@ -138,6 +135,8 @@ void LinesScreen::MakeCommands()
     cmdRepairAll =
         MakeCommand("cmdRepairAll", "Repa&ir All Days", AsStep("Repair All Days", [this] { cmdRepairAll_Click(); }));
     cmdRepairAll->setToolTip("Makes the rest of every day that is incomplete, and tells of all at the end");
+    cmdSheet = MakeCommand("cmdSheet", "Whole Line-&Up", [this] { cmdSheet_Click(); });
+    cmdSheet->setToolTip("All slots of the day at once, in a window of its own (Ctrl+B)");
     cmdDebug = MakeCommand("cmdDebug", "W&hy are my lines incomplete?", [this] { cmdDebug_Click(); });
     cmdExit = MakeCommand("cmdExit", "E&xit", [this] { cmdExit_Click(); });
     Commands =
@@ -257,6 +256,7 @@ QWidget* LinesScreen::MakeLinesColumn()
     column->addWidget(MakeAdvice());
     QHBoxLayout* playing = MakeRow({new MutedLabel("Playing the Following Lines : ", panel)});
     playing->addWidget(lblPlaying, 1);
+    playing->addWidget(cmdSheet);
     column->addLayout(playing);
     return panel;
 }
@@ -266,11 +266,11 @@ void LinesScreen::SetTabOrder()
     QList<QWidget*> order{lstPlayer};
     for (QCheckBox* filter : chkPosition)
         order << filter;
-    order << vscDay << TabLine->tabBar() << TabLine->Walk;
+    order << vscDay << TabLine->tabBar() << TabLine->Parts.Walk;
     for (QScrollBar* bar : hscStats)
         order << bar;
-    order << txtPullGoalerMinGoal << txtPullGoalerMinPct << cmdDebug << txtReasons << cmdAutoLines << cmdRepairAll
-          << cmdWipeLines << cmdCopy << cmdCopyAll << cmdExit;
+    order << txtPullGoalerMinGoal << txtPullGoalerMinPct << cmdSheet << cmdDebug << txtReasons << cmdAutoLines
+          << cmdRepairAll << cmdWipeLines << cmdCopy << cmdCopyAll << cmdExit;
     ChainTabs(order);
     setTabOrder(txtReasons, cmdFoldAdvice);
 }
@@ -281,15 +281,14 @@ bool LinesScreen::eventFilter(QObject* watched, QEvent* event)
     if (HoldsBack(watched, event))
         return true;
     if (event->type() == QEvent::FocusIn)
-        if (auto* label = qobject_cast<SlotLabel*>(watched))
+        if (auto* label = qobject_cast<SlotLabel*>(watched); label != nullptr && label->window() == this)
             lastSlot = label;
     if (event->type() == QEvent::ToolTip) {
-        if (watched == lstPlayer->viewport())
-            TellOfEntry(static_cast<QHelpEvent*>(event)->pos());
+        auto* pressed = qobject_cast<QWidget*>(watched);
+        if (auto* people = pressed == nullptr ? nullptr : qobject_cast<PickList*>(pressed->parentWidget()))
+            TellOfEntry(*people, static_cast<QHelpEvent*>(event)->pos());
         else if (auto* label = qobject_cast<SlotLabel*>(watched))
-            for (const BoardSlot& slot : TabLine->Slots)
-                if (slot.Label == label)
-                    TellOfSlot(slot);
+            TellOfSlot(TabLine->Slots[static_cast<std::size_t>(IndexOf(*label))]);
     }
     return Screen::eventFilter(watched, event);
 }
@@ -303,7 +302,7 @@ bool LinesScreen::HoldsBack(QObject* watched, const QEvent* event)
     switch (event->type()) {
     case QEvent::MouseButtonPress:
     case QEvent::MouseButtonDblClick: // the second press of two quick ones
-        heldBack = qobject_cast<EditBox*>(focusWidget()) != nullptr ? watched : nullptr;
+        heldBack = KeepsFocus(watched) ? watched : nullptr;
         return heldBack != nullptr;
     case QEvent::MouseMove:
         return heldBack == watched;
@@ -312,6 +311,15 @@ bool LinesScreen::HoldsBack(QObject* watched, const QEvent* event)
     default:
         return false;
     }
+}
+
+// A press in the window of the sheet takes no focus from a box, which acts now.
+bool LinesScreen::KeepsFocus(const QObject* watched)
+{
+    const auto* pressed = qobject_cast<const QWidget*>(watched);
+    if (pressed != nullptr && pressed->window() != this)
+        return !SettleFocus();
+    return qobject_cast<EditBox*>(focusWidget()) != nullptr;
 }
 
 // The mouse takes the focus off a text box before it presses. When a box comes up in between, the release goes to that one,

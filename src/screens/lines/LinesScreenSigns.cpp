@@ -9,15 +9,6 @@
 // The signs beside the entries and in the slots, and the cards of people.
 namespace dravik {
 
-void LinesScreen::MakeSigns()
-{
-    new EntrySigns(lstPlayer, [this](int number) { return SignsOfEntry(number); });
-    auto* cards = new PersonCards(this);
-    cards->Serve(lstPlayer, [this](int number) { return CardOfEntry(number); });
-    for (const BoardSlot& slot : TabLine->Slots)
-        cards->Serve(slot.Label, [this, &slot] { return CardOfSlot(slot); });
-}
-
 PersonSigns LinesScreen::SignsOfEntry(int number) const
 {
     const PersonId who = EntryPerson(number);

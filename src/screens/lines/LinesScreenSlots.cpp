@@ -50,7 +50,7 @@ void LinesScreen::ShowIn(BoardSlot& slot, long long id)
     QString name;
     if (id != 0 || Kind.ShowsPlaceholder)
         OnPerson(OpenLeague, slot.Whom(id), [&](const auto& person) { name = ToQString(person.Name.Trimmed()); });
-    slot.Label->SetName(name);
+    slot.OnLabels([&name](SlotLabel& label) { label.SetName(name); });
     slot.Shown = static_cast<int>(id);
 }
 
@@ -62,9 +62,11 @@ void LinesScreen::RefreshMarks()
         Lines& lines = ShownLines();
         for (const BoardSlot& slot : TabLine->Slots)
             RefreshMark(slot, slot.In(lines));
-        for (const BoardHeading& heading : TabLine->Headings)
+        for (const BoardHeading& heading : TabLine->Parts.Headings)
             RefreshAverage(heading);
         lstPlayer->viewport()->update(); // the entries tell how many slots they hold
+        if (Sheet != nullptr)
+            ShowOnSheet();
     });
 }
 
@@ -74,14 +76,19 @@ void LinesScreen::RefreshMark(const BoardSlot& slot, long long id)
     const bool isWiped = id == 0 && slot.Shown != 0;
     const PersonId who = slot.Whom(id);
     const bool isRefused = isWiped || IsRefusedInLines(OpenLeague, OwnNumber(), Kind.Side, who);
-    slot.Label->SetMark(isRefused                       ? SlotLabel::Mark::Refused
-                        : id == 0                       ? SlotLabel::Mark::Empty
-                        : FindsTwice(said, slot.Word()) ? SlotLabel::Mark::Twice
-                                                        : SlotLabel::Mark::Filled);
-    slot.Label->SetAside(id == 0 ? QString() : OverallOf(who));
-    slot.Label->SetPicked(id != 0 && who == SelectedPerson());
+    const auto mark = isRefused                       ? SlotLabel::Mark::Refused
+                      : id == 0                       ? SlotLabel::Mark::Empty
+                      : FindsTwice(said, slot.Word()) ? SlotLabel::Mark::Twice
+                                                      : SlotLabel::Mark::Filled;
+    const QString overall = id == 0 ? QString() : OverallOf(who);
     const PersonSigns signs = SignsIn(slot, who);
-    slot.Label->SetSigns(signs, signs.Has(Sign::OutOfPosition) ? AsideOf(who).front() : QString());
+    const QString ownPosition = signs.Has(Sign::OutOfPosition) ? AsideOf(who).front() : QString();
+    slot.OnLabels([&](SlotLabel& label) {
+        label.SetMark(mark);
+        label.SetAside(overall);
+        label.SetPicked(id != 0 && who == SelectedPerson());
+        label.SetSigns(signs, ownPosition);
+    });
 }
 
 QStringList LinesScreen::FindingsOn(const BoardSlot& slot) const
@@ -116,7 +123,7 @@ void LinesScreen::RefreshAverage(const BoardHeading& heading)
 
 void LinesScreen::Heading_Click(int index)
 {
-    const BoardHeading& heading = TabLine->Headings[static_cast<std::size_t>(index)];
+    const BoardHeading& heading = TabLine->Parts.Headings[static_cast<std::size_t>(index)];
     RunEvent(heading.Group->Heading, [&] {
         const GroupAverages averages =
             AveragesOf(OpenLeague, Machine(), ShownLines(), heading.Group->Group, heading.Number);
@@ -141,12 +148,13 @@ void LinesScreen::TellOfSlot(const BoardSlot& slot)
     const long long standing = slot.In(ShownLines());
     const long long id = standing != 0 ? standing : slot.Shown;
     const PersonId who = slot.Whom(id);
-    slot.Label->setToolTip(id == 0 ? QString() : DescriptionOf(who, SlotsOf(who), FindingsOn(slot)));
+    const QString words = id == 0 ? QString() : DescriptionOf(who, SlotsOf(who), FindingsOn(slot));
+    slot.OnLabels([&words](SlotLabel& label) { label.setToolTip(words); });
 }
 
-void LinesScreen::TellOfEntry(const QPoint& point)
+void LinesScreen::TellOfEntry(PickList& people, const QPoint& point)
 {
-    QListWidgetItem* pointed = lstPlayer->itemAt(point);
+    QListWidgetItem* pointed = people.itemAt(point);
     if (pointed == nullptr)
         return;
     const PersonId who = EntryPerson(pointed->data(entry::NumberRole).toInt());

@@ -36,6 +36,7 @@ constexpr KeyRow Rows[] = {
     {OnLines, KeyScope::Screen, "Ctrl+Tab", "", "Next page of the board"},
     {OnLines, KeyScope::Screen, "Ctrl+Shift+Tab", "", "Page before"},
     {OnLines, KeyScope::Screen, "F6", "", "From the list to the board and back"},
+    {OnLines, KeyScope::Screen, "Ctrl+B", "", "The whole line-up on one sheet, and away; Esc closes it too"},
     {WithLists, KeyScope::Control, "Up / Down / Home / End", List, "Choose somebody"},
     {WithLists, KeyScope::Control, "letters", List, "Go to a name with these letters in it; Backspace takes one back"},
     {OnLines, KeyScope::Control, "Left / Right / Up / Down", Slot, "Walk the board"},

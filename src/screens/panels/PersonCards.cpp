@@ -57,7 +57,10 @@ void PersonCards::ShowAtFocus()
         Close();
         return;
     }
-    QWidget* focus = window->focusWidget();
+    // The focus is in the window, or in one that belongs to it.
+    QWidget* focus = QApplication::focusWidget();
+    if (focus == nullptr || focus->window()->parentWidget() != window)
+        focus = window->focusWidget();
     if (const auto found = slotLabels.constFind(focus); found != slotLabels.constEnd()) {
         ShowCard(*focus, focus->rect(), (*found)(), false);
         return;
@@ -88,10 +91,13 @@ void PersonCards::ShowCard(const QWidget& place, const QRect& anchor, const std:
     Close();
     if (!words || !place.isVisible())
         return;
-    if (card == nullptr)
-        card = new PersonCard(window);
+    QWidget* over = place.window();
+    if (card == nullptr || card->parentWidget() != over) {
+        delete card;
+        card = new PersonCard(over);
+    }
     const QRect onDesktop(place.mapToGlobal(anchor.topLeft()), anchor.size());
-    const QPoint origin = window->mapToGlobal(QPoint());
+    const QPoint origin = over->mapToGlobal(QPoint());
     const QRect tooltip = isPointedAt ? PlaceOfTooltip() : QRect();
     card->ShowBeside(onDesktop.translated(-origin), tooltip.isValid() ? tooltip.translated(-origin) : QRect(), *words);
     pointedAt = isPointedAt ? onDesktop : QRect();
@@ -121,11 +127,11 @@ bool PersonCards::TakesAway(QObject* watched, QEvent* event) const
         return pointedAt.isValid() && qobject_cast<QWidget*>(watched) != nullptr &&
                !pointedAt.contains(static_cast<QMouseEvent*>(event)->globalPosition().toPoint());
     case QEvent::Leave: // of the window itself
-        return pointedAt.isValid() && watched == window;
+        return pointedAt.isValid() && watched == card->parentWidget();
     case QEvent::WindowDeactivate:
     case QEvent::Hide:
     case QEvent::Resize:
-        return watched == window;
+        return watched == card->parentWidget();
     default:
         return false;
     }

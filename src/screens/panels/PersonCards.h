@@ -14,7 +14,7 @@ namespace dravik {
 class EntryList;
 class SlotLabel;
 
-// Shows the card of a person in a window: while the mouse rests on his entry or slot, and with Ctrl+I on the entry or slot that
+// Shows the card of a person in a window, or in one that belongs to it: while the mouse rests on his entry or slot, and with Ctrl+I on the entry or slot that
 // has the focus. Any key, press or turn of the wheel takes it away, and so does the mouse that leaves; Escape does nothing else.
 class PersonCards : public QObject {
     Q_OBJECT

@@ -76,9 +76,18 @@ SlotLabel::SlotLabel(const QString& where, const QString& tag, QWidget* parent) 
     Describe();
 }
 
-QSize SlotLabel::sizeHint() const { return UsualSize.expandedTo({0, fontMetrics().height() + 2 * Margin}); }
+QSize SlotLabel::sizeHint() const { return UsualSize.expandedTo({0, LinesHeight() + 2 * Margin}); }
 
-QSize SlotLabel::minimumSizeHint() const { return LeastSize.expandedTo({0, fontMetrics().height() + Gap}); }
+QSize SlotLabel::minimumSizeHint() const { return LeastSize.expandedTo({0, LinesHeight() + (isStacked ? 0 : Gap)}); }
+
+int SlotLabel::LinesHeight() const { return (isStacked ? 2 : 1) * fontMetrics().height(); }
+
+void SlotLabel::Stack()
+{
+    isStacked = true;
+    updateGeometry();
+    update();
+}
 
 void SlotLabel::SetName(const QString& name)
 {
@@ -234,6 +243,13 @@ void SlotLabel::paintEvent(QPaintEvent* /*event*/)
 
     const QColor secondary = Muted(words, ground);
     QRect area = rect().adjusted(Gap, 0, -Gap, 0);
+    QRect below = area;
+    if (isStacked) {
+        area.setTop(rect().center().y() - fontMetrics().height());
+        area.setBottom(rect().center().y());
+        below.setTop(rect().center().y());
+        below.setBottom(rect().center().y() + fontMetrics().height());
+    }
     constexpr int flags = Qt::AlignVCenter | Qt::TextSingleLine;
     painter.setFont(HeadingFont(font()));
     painter.setPen(secondary);
@@ -254,18 +270,20 @@ void SlotLabel::paintEvent(QPaintEvent* /*event*/)
     if (isWrong)
         paintShape(isRefused ? Sign::MayNotPlay : Sign::UsedTwice);
     for (const Sign kind : SignsOfSlots)
-        if (signs.Has(kind) && (kind == Sign::OutOfPosition || area.width() > rect().width() / LeastNamePart))
+        if (signs.Has(kind) &&
+            (isStacked || kind == Sign::OutOfPosition || area.width() > rect().width() / LeastNamePart))
             paintShape(kind);
-    const int nameAndPosition =
-        painter.fontMetrics().horizontalAdvance(text()) + Gap + painter.fontMetrics().horizontalAdvance(homePosition);
+    const int nameWidth = isStacked ? 0 : painter.fontMetrics().horizontalAdvance(text());
+    const int nameAndPosition = nameWidth + Gap + painter.fontMetrics().horizontalAdvance(homePosition);
     if (!homePosition.isEmpty() && nameAndPosition <= area.width()) {
         painter.setPen(Cautioning(ground));
         painter.drawText(area, Qt::AlignRight | flags, homePosition);
     }
     painter.setPen(isRefused ? Alarming(ground) : isEmpty ? secondary : words);
     const QString shown = isEmpty && text().isEmpty() ? QString("empty") : text();
-    painter.drawText(area, Qt::AlignLeft | flags,
-                     painter.fontMetrics().elidedText(shown, Qt::ElideRight, area.width()));
+    const QRect nameArea = isStacked ? below : area;
+    painter.drawText(nameArea, Qt::AlignLeft | flags,
+                     painter.fontMetrics().elidedText(shown, Qt::ElideRight, nameArea.width()));
 }
 
 } // namespace dravik

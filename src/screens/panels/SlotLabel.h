@@ -56,6 +56,9 @@ public:
     void SetPicked(bool picked);
     [[nodiscard]] bool IsPicked() const { return isPicked; }
 
+    // The name stands below the rest, on a line of its own, where a slot is narrow.
+    void Stack();
+
     // Somebody is being dragged over the slot and may be let go there.
     void SetDropTarget(bool target);
     [[nodiscard]] bool IsDropTarget() const { return isDropTarget; }
@@ -84,6 +87,7 @@ protected:
 
 private:
     void Describe();
+    [[nodiscard]] int LinesHeight() const;
 
     QString slot;
     QString position;
@@ -94,6 +98,7 @@ private:
     bool isPicked = false;
     bool isDropTarget = false;
     bool isTaken = false;
+    bool isStacked = false;
 };
 
 } // namespace dravik
