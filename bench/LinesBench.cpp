@@ -1,7 +1,8 @@
 // What the lines screen costs on a full league: a press on a slot, a whole drag from the list onto it, a pick by keys, a swap,
 // the repair of all days, a change of day and a piece of advice followed, each with both judgements of the lines, the advice on
-// them and the painting, and the card of a person, painted, against one bare walk over the tables inside one run. The counter
-// "ratio" is the processor's time for ours divided by that for the walk; "cpu_ms" is to stay below one frame (16 ms).
+// them and the painting, the sheet of the whole line-up, opened and pressed, and the card of a person, painted, against one
+// bare walk over the tables inside one run. The counter "ratio" is the processor's time for ours divided by that for the walk;
+// "cpu_ms" is to stay below one frame (16 ms).
 //
 //     lines_bench
 
@@ -9,6 +10,7 @@
 #include "bench/FullLeague.h"
 #include "bench/ScreenBench.h"
 #include "screens/lines/frmLine.h"
+#include "screens/lines/LineSheet.h"
 #include "screens/panels/PersonCards.h"
 #include "screens/RosterEntry.h"
 #include "support/LineFindings.h"
@@ -114,6 +116,26 @@ public:
         Demand(Screen().Day() == next);
     }
 
+    // The sheet of the whole line-up, opened, or a press on a slot of it: both windows painted.
+    void Sheet()
+    {
+        if (Screen().Sheet != nullptr)
+            Screen().Sheet->close();
+        Screen().cmdSheet->click();
+        Screen().Sheet->grab();
+        Demand(Screen().Sheet->isVisible());
+    }
+    void PressOnSheet()
+    {
+        if (Screen().Sheet == nullptr)
+            Screen().cmdSheet->click();
+        Pick();
+        QTest::mouseClick(Screen().TabLine->SlotAt(LineField::NormalForward, 1, 1).OnSheet, Qt::LeftButton);
+        Screen().grab();
+        Screen().Sheet->grab();
+        Demand(Standing() == SelectedPlayer);
+    }
+
     // Ctrl+I on the entry picked, and the card painted over the screen; Escape.
     void Card()
     {
@@ -163,6 +185,8 @@ BENCHMARK_CAPTURE(AgainstAWalk, Press, &Bench::Press)->Iterations(Rounds)->UseMa
 BENCHMARK_CAPTURE(AgainstAWalk, Drag, &Bench::Drag)->Iterations(Rounds)->UseManualTime();
 BENCHMARK_CAPTURE(AgainstAWalk, PickByKeys, &Bench::PickByKeys)->Iterations(Rounds)->UseManualTime();
 BENCHMARK_CAPTURE(AgainstAWalk, Swap, &Bench::Swap)->Iterations(Rounds)->UseManualTime();
+BENCHMARK_CAPTURE(AgainstAWalk, Sheet, &Bench::Sheet)->Iterations(Rounds)->UseManualTime();
+BENCHMARK_CAPTURE(AgainstAWalk, PressOnSheet, &Bench::PressOnSheet)->Iterations(Rounds)->UseManualTime();
 BENCHMARK_CAPTURE(AgainstAWalk, Card, &Bench::Card)->Iterations(Rounds)->UseManualTime();
 BENCHMARK_CAPTURE(AgainstAWalk, Day, &Bench::Day)->Iterations(Rounds)->UseManualTime();
 BENCHMARK_CAPTURE(AgainstAWalk, Advise, &Bench::Advise)->Iterations(Rounds)->UseManualTime();

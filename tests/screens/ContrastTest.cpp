@@ -1,5 +1,7 @@
 #include "OnEveryScreen.h"
 #include "PaintedContrast.h"
+#include "screens/lines/LineSheet.h"
+#include "screens/lines/LinesScreen.h"
 #include "screens/panels/DayStrip.h"
 #include "screens/panels/EditBox.h"
 #include "screens/panels/Labels.h"
@@ -45,7 +47,8 @@ protected:
     // Measures the words that are painted within `area` of a widget; what is scrolled away is left out.
     void Measure(const QImage& picture, const QWidget& widget, const QRect& area, const std::string& what)
     {
-        if (!widget.isVisible() || !widget.visibleRegion().contains(area.intersected(widget.rect())))
+        if (widget.window() != Window || !widget.isVisible() ||
+            !widget.visibleRegion().contains(area.intersected(widget.rect())))
             return;
         const QRect within(widget.mapTo(widget.window(), area.topLeft()), area.size());
         const auto contrast = PaintedContrast(picture, within);
@@ -55,10 +58,11 @@ protected:
         EXPECT_GE(*contrast, Readable) << what << " " << widget.objectName().toStdString() << " on " << Where;
     }
 
-    // All secondary words of a screen.
-    void MeasureAll(Screen& screen)
+    // All secondary words of a window.
+    void MeasureAll(QWidget& screen)
     {
         const QImage picture = screen.grab().toImage();
+        Window = &screen;
         for (QLabel* label : screen.findChildren<QLabel*>()) {
             if (dynamic_cast<MutedLabel*>(label) != nullptr)
                 Measure(picture, *label, label->contentsRect(), "muted label");
@@ -95,12 +99,15 @@ protected:
     const QFont Font = QApplication::font();
     std::map<std::string, int> Measured;
     std::string Where;
+    const QWidget* Window = nullptr; // that is measured, without those that belong to it
 
 private:
     void MeasureSlot(const QImage& picture, const SlotLabel& slot)
     {
         const QFontMetrics metrics(HeadingFont(slot.font()));
-        const QRect inside = slot.rect().adjusted(Gap, 4, -Gap, -4);
+        QRect inside = slot.rect().adjusted(Gap, 4, -Gap, -4);
+        if (slot.IsStacked()) // the name stands below
+            inside.setBottom(slot.rect().center().y());
         QRect tag = inside;
         tag.setWidth(metrics.horizontalAdvance("RW"));
         Measure(picture, slot, tag, "tag of a slot");
@@ -137,6 +144,13 @@ TEST_F(ContrastTest, EverySecondaryWordOnEveryGroundCanBeReadUnderEveryPalette)
             Settle();
             Where = name + ", palette " + std::to_string(i);
             MeasureAll(screen);
+            if (auto* lines = dynamic_cast<LinesScreen*>(&screen)) {
+                if (lines->Sheet == nullptr)
+                    lines->cmdSheet_Click();
+                Settle();
+                Where += ", sheet";
+                MeasureAll(*lines->Sheet);
+            }
         }
     });
     for (const char* what :

@@ -337,6 +337,61 @@ TEST_F(WholeLineUp, ArrowsWalkItAndF6GoesToTheListAndBack)
     EXPECT_EQ(static_cast<SlotLabel*>(slot)->text(), line.lstPlayer->Chosen()->text());
 }
 
+// As a manager does it who has read the sheet of keys: on each slot the first letters of a name until he stands first, Enter, and on
+// to the next one.
+TEST_F(WholeLineUp, AWholeDayIsMadeByKeysAlone)
+{
+    const char* names[] = {"Anders Vanderson", "Boris Lesnik",    "Clay Pruford",    "Dale Greshlow",
+                           "Egon Tarrant",     "Felix Moravec",   "Grady McTarvish", "Hudson Kirbmore",
+                           "Imants Berzalns",  "Jorma Salovaara", "Kalevi Kallion",  "Lothar Turkthal",
+                           "Magnus Wahlstrom", "Niilo Ojanen",    "Otto Dressler",   "Perry Pemlow",
+                           "Quentin Yardley",  "Rastislav Zeman"};
+    for (std::size_t skater = 0; skater < Pro.Skaters.size(); ++skater)
+        Players[Pro.Skaters[skater]].Name = names[skater % std::size(names)];
+    const Lines wanted = ProDay(1);
+    for (const DaySlot& slot : DaySlots)
+        At(ProDay(), slot) = 0;
+    frmLine& line = Line();
+    int keys = 0;
+    const auto press = [&keys](QWidget& window, Qt::Key key, Qt::KeyboardModifiers modifiers = {}) {
+        Key(window, key, modifiers);
+        ++keys;
+    };
+    press(line, Qt::Key_B, Qt::ControlModifier);
+    LineSheet& sheet = *line.Sheet;
+    auto* picker = sheet.findChild<SlotPicker*>("Picker");
+    sheet.Parts.Walk.front()->setFocus();
+    for (std::size_t walked = 1; walked < DaySlots.size() + sheet.Parts.Headings.size(); ++walked) {
+        press(sheet, Qt::Key_Tab);
+        auto* label = qobject_cast<SlotLabel*>(sheet.focusWidget());
+        if (label == nullptr)
+            continue; // a heading
+        const auto index = static_cast<std::size_t>(
+            std::find(sheet.Parts.Labels.begin(), sheet.Parts.Labels.end(), label) - sheet.Parts.Labels.begin());
+        ASSERT_LT(index, DaySlots.size());
+        const PersonId who{.IsGoalie = DaySlots[index].IsGoalies(),
+                           .Slot = static_cast<int>(At(wanted, DaySlots[index]))};
+        const QString name =
+            QString::fromStdString(OnPerson(OpenLeague, who, [](const auto& person) { return person.Name.Trimmed(); }));
+        for (qsizetype letter = 0; letter < name.size(); ++letter) {
+            if (picker->IsOpen() && picker->lstPick->currentItem()->text() == name)
+                break;
+            QTest::keyClick(sheet.focusWidget(), name[letter].toLatin1());
+            ++keys;
+            QApplication::processEvents();
+        }
+        press(sheet, Qt::Key_Return);
+        EXPECT_EQ(label->text(), name);
+    }
+    for (std::size_t slot = 0; slot < DaySlots.size(); ++slot)
+        EXPECT_EQ(At(ProDay(), DaySlots[slot]), At(wanted, DaySlots[slot])) << slot;
+    EXPECT_EQ(line.lblComplete->text(), "Lines are Complete");
+    EXPECT_TRUE(sheet.lblVerdict->IsGood());
+    RecordProperty("keys", keys);
+    // A tab, a letter or two of a name, and Enter for each.
+    EXPECT_LE(keys, 245);
+}
+
 TEST_F(WholeLineUp, ATextThatIsRefusedHoldsAPressBack)
 {
     frmLine& line = Line();

@@ -58,6 +58,7 @@ public:
 
     // The name stands below the rest, on a line of its own, where a slot is narrow.
     void Stack();
+    [[nodiscard]] bool IsStacked() const { return isStacked; }
 
     // Somebody is being dragged over the slot and may be let go there.
     void SetDropTarget(bool target);
