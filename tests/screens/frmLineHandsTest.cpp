@@ -4,6 +4,7 @@
 #include "OnLineScreen.h"
 #include "rules/Overall.h"
 #include "screens/lines/SlotPicker.h"
+#include "screens/panels/EntrySigns.h"
 
 #include <cstring>
 #include <QTabBar>
@@ -77,6 +78,23 @@ TEST_F(LineHands, ThePickerOffersThoseWhoMayStandThereBestFirst)
         PicksFor(OpenWork(), 5, Side::Pro, line.TabLine->SlotAt(LineField::NormalForward, 2, 3).Slot)[0];
     EXPECT_THAT(PickerOf(line).lstPick->item(0)->data(entry::AsideRole).toStringList().join(' ').toStdString(),
                 std::string(PositionName[best.Position]) + ' ' + std::to_string(*best.Overall));
+}
+
+TEST_F(LineHands, ThePickerTellsTheSignsOfPeople)
+{
+    const int hurt = Pro.Skaters[3];
+    Players[hurt].Name = "Wim Vanderson";
+    Players[hurt].Injury = "Sprained ankle";
+    Players[hurt].Condition = 97;
+    frmLine& line = Line();
+    GoTo(line, SlotOn(line, LineField::NormalForward, 1, 1));
+    Key(line, Qt::Key_F2);
+    Type(line, "vand");
+    ASSERT_EQ(PickerOf(line).lstPick->count(), 1);
+    const auto signsIn = [](EntryList& list, int row) { return EntrySigns::On(&list)->Of(*NumberOf(list.item(row))); };
+    const int row = line.lstPlayer->RowOf(EntryNumber(hurt, static_cast<int>(Players[hurt].Position)));
+    EXPECT_EQ(signsIn(*PickerOf(line).lstPick, 0), signsIn(*line.lstPlayer, row));
+    EXPECT_TRUE(signsIn(*PickerOf(line).lstPick, 0).Has(Sign::InSlots));
 }
 
 TEST_F(LineHands, TypingFiltersByAnyPartOfANameAndEnterPlaces)

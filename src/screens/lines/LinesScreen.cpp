@@ -190,6 +190,11 @@ void LinesScreen::ShowPull()
 void LinesScreen::Check()
 {
     Reporting(Machine(), " in Check!", [this] { CheckInTurn(); });
+    ShowJudged();
+}
+
+void LinesScreen::ShowJudged()
+{
     RefreshMarks();
     RefreshDays();
     RefreshAdvice();
@@ -288,9 +293,7 @@ void LinesScreen::cmdWipeLines_Click()
 void LinesScreen::cmdDebug_Click()
 {
     Judge(true);
-    RefreshMarks();
-    RefreshDays();
-    RefreshAdvice();
+    ShowJudged();
 }
 
 void LinesScreen::cmdCopy_Click()

@@ -141,6 +141,8 @@ protected:
     void RefreshPlaying();
     // Tells the verdict and the strength of every day, judged on a copy: of the shown day as it was judged last.
     void RefreshDays();
+    // Shows what the last judgement said: on the slots, of all days, and the advice.
+    void ShowJudged();
     // Shows and judges the day once more, behind whatever changed all of it.
     void ShowDayAnew();
 
@@ -218,7 +220,8 @@ private:
     // What the judge said about a slot, each sentence once.
     [[nodiscard]] QStringList FindingsOn(const BoardSlot& slot) const;
     void RefreshAverage(const BoardHeading& heading);
-    [[nodiscard]] PersonSigns SignsOfEntry(int number) const;
+    // The signs of somebody in a list, where those of the day count his slots.
+    [[nodiscard]] PersonSigns SignsBeside(PersonId who) const;
     // The signs of somebody in a slot, whose mark says the rest.
     [[nodiscard]] PersonSigns SignsIn(const BoardSlot& slot, PersonId who) const;
     // The cards of an entry and of who stands in a slot; none of a placeholder.

@@ -74,7 +74,7 @@ void LinesScreen::MakeLive(PickList& people)
 {
     PersonDrag::FromList(people, [this](const SlotLabel& label) { return MayDropOn(label); });
     people.viewport()->installEventFilter(this); // behind the drag's own, so that a press held back starts none
-    new EntrySigns(&people, [this](int number) { return SignsOfEntry(number); });
+    new EntrySigns(&people, [this](int number) { return SignsBeside(EntryPerson(number)); });
     cards->Serve(&people, [this](int number) { return CardOfEntry(number); });
 }
 
@@ -102,7 +102,7 @@ void LinesScreen::OpenPicker(int index, SlotLabel& label, const QString& typed)
                 aside << (pick.Overall ? QString::number(*pick.Overall) : QString());
             if (pick.Who == slot.Whom(slot.In(ShownLines())))
                 standing = static_cast<int>(rows.size());
-            rows << PickRow{.Name = NameOf(pick.Who), .Aside = aside};
+            rows << PickRow{.Name = NameOf(pick.Who), .Aside = aside, .Signs = SignsBeside(pick.Who)};
         }
         (label.window() == this ? picker : sheetPicker)->OpenAt(label, rows, standing, typed);
     });

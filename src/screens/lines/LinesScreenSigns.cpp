@@ -9,9 +9,8 @@
 // The signs beside the entries and in the slots, and the cards of people.
 namespace dravik {
 
-PersonSigns LinesScreen::SignsOfEntry(int number) const
+PersonSigns LinesScreen::SignsBeside(PersonId who) const
 {
-    const PersonId who = EntryPerson(number);
     PersonSigns signs = SignsOf(OpenLeague, who, OwnNumber());
     if (!who.HasSlot() || !HasLineDay(OwnNumber(), ShownDay()))
         return signs;

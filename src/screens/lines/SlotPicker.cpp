@@ -1,6 +1,7 @@
 #include "screens/lines/SlotPicker.h"
 
 #include "league/NameMatch.h"
+#include "screens/panels/EntrySigns.h"
 #include "screens/panels/Labels.h"
 #include "screens/panels/Layouts.h"
 #include "screens/platform/CodePage.h"
@@ -36,6 +37,7 @@ SlotPicker::SlotPicker(QWidget* screen) : QFrame(screen)
     lstPick->setObjectName("lstPick");
     lstPick->setAccessibleName("Who may stand there");
     lstPick->setFocusPolicy(Qt::NoFocus); // what is typed goes on to be the name
+    new EntrySigns(lstPick, [this](int row) { return rows.value(row).Signs; });
     lblNobody = new MutedLabel("Nobody of that name may stand there", this);
     lblNobody->setObjectName("lblNobody");
     cmdShowPlayer = new QPushButton("Show Player", this);

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "rules/PersonSigns.h"
 #include "screens/panels/EntryList.h"
 #include "screens/panels/SlotLabel.h"
 
@@ -15,6 +16,7 @@ namespace dravik {
 struct PickRow {
     QString Name;
     QStringList Aside; // position, and the overall where it is shown
+    PersonSigns Signs;
 };
 
 // A small panel at a slot that offers those who may stand there. Typing any part of a name filters, arrows choose, Enter or a
