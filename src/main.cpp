@@ -1,9 +1,13 @@
 #include "machine/Clock.h"
 #include "machine/Platform.h"
+#include "sample-league/ClientFileWriter.h"
+#include "sample-league/SampleLeague.h"
+#include "screens/main/SampleOffer.h"
 #include "screens/platform/Application.h"
 #include "screens/platform/DesktopLook.h"
 #include "screens/platform/JournalPlace.h"
 #include "screens/platform/QtPlatform.h"
+#include "screens/platform/SamplePlace.h"
 #include "screens/Stage.h"
 #include "session/OpenJournal.h"
 #include "session/Session.h"
@@ -26,6 +30,21 @@ void IntroduceToDesktop()
     });
 }
 
+// The league that the tools make from a seed, for who has no client file yet.
+void OfferSample()
+{
+    const std::string path = dravik::SamplePlace();
+    if (path.empty())
+        return;
+    std::vector<std::pair<int, std::string>> passwords;
+    for (const dravik::TeamPassword& team : dravik::SamplePasswords)
+        passwords.emplace_back(team.Team, team.Password);
+    dravik::OfferSampleLeague({.Path = path, .Passwords = passwords, .Make = [](const std::string& file) {
+                                   dravik::MakeSampleLeague({});
+                                   dravik::sample::WriteClientFile(file);
+                               }});
+}
+
 } // namespace
 
 int main(int argc, char** argv)
@@ -36,6 +55,7 @@ int main(int argc, char** argv)
     dravik::QtPlatform platform;
     dravik::UseMachine(platform);
     dravik::KeepJournals(dravik::JournalPlace(), dravik::LocalTime);
+    OfferSample();
     dravik::Stage stage;
     return stage.Start() ? dravik::Application::exec() : 0;
 }

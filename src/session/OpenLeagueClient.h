@@ -11,7 +11,8 @@ enum class QuietLine {
     SettingsUnwritten, // a setting could not be written
     Damaged,           // the open client file was damaged on its way
     UnsavedWork,       // what an earlier run did to the open league, and no saved file holds; with commands
-    JournalUnwritten   // what is done would not survive the end of the program
+    JournalUnwritten,  // what is done would not survive the end of the program
+    SamplePasswords    // of the sample league, while that is open
 };
 
 // What opening a client file does to the main window. `frmMain` is one; tests have another.

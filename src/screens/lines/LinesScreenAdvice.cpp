@@ -3,6 +3,7 @@
 #include "screens/lines/AdviceList.h"
 #include "screens/lines/LinesScreen.h"
 #include "screens/platform/CodePage.h"
+#include "screens/Remembered.h"
 #include "session/Session.h"
 
 // The advice below the board: what it says, what its commands do, and that it stays folded.
@@ -14,16 +15,6 @@ namespace {
 constexpr const char* Section = "Screens";
 constexpr const char* FoldKey = "LinesAdvice";
 constexpr const char* FoldedAway = "Folded";
-
-// Settings that cannot be read fold nothing away. The main screen has read them before, and told.
-bool IsFoldedAway()
-{
-    try {
-        return Machine().GetSetting(Section, FoldKey, {}) == FoldedAway;
-    } catch (const SettingsFailure&) {
-        return false;
-    }
-}
 
 } // namespace
 
@@ -38,7 +29,7 @@ QWidget* LinesScreen::MakeAdvice()
         return command;
     };
     Advice = new AdviceList(cmdFoldAdvice, makeCommand, this);
-    Advice->SetFolded(IsFoldedAway());
+    Advice->SetFolded(Remembered(FoldKey) == FoldedAway);
     return Advice;
 }
 

@@ -9,6 +9,7 @@
 #include "machine/SettingsFailure.h"
 #include "rules/RosterJudge.h"
 #include "screens/ElementName.h"
+#include "screens/main/RecentLeagues.h"
 #include "screens/panels/ElidedLabel.h"
 #include "screens/panels/Labels.h"
 #include "screens/panels/Layouts.h"
@@ -57,6 +58,7 @@ frmMain::frmMain(Stage& stage) : Screen(stage, "frmMain")
     column->addLayout(header);
 
     cmdOpen = MakeCommand("cmdOpen", "Open ...", [this] { mnuOpen_Click(); });
+    setAcceptDrops(true);
     lists = new QWidget(content);
     auto* body = new QHBoxLayout(lists);
     body->setContentsMargins(0, 0, 0, 0);
@@ -69,6 +71,8 @@ frmMain::frmMain(Stage& stage) : Screen(stage, "frmMain")
     column->addWidget(emptySpace, 1);
     column->addWidget(lists);
     column->addWidget(cmdOpen, 0, Qt::AlignHCenter | Qt::AlignTop);
+    firstStart = MakeFirstStart();
+    column->addWidget(firstStart);
 
     teamBar = MakeTeamBar();
     column->addWidget(teamBar);
@@ -106,6 +110,10 @@ void frmMain::MakeMenus()
     mnuFile = makeMenu("mnuFile", "&File");
     mnuOpen = MakeItem(mnuFile, "mnuOpen", "&Open ...", &frmMain::mnuOpen_Click);
     mnuOpen->setShortcut(QKeySequence::Open);
+    mnuRecent = mnuFile->addMenu("&Recent");
+    mnuRecent->setObjectName("mnuRecent");
+    mnuRecent->setToolTipsVisible(true);
+    connect(mnuFile, &QMenu::aboutToShow, this, [this] { ListRecent(); });
     mnuFile->addSeparator();
     mnuExit = MakeItem(mnuFile, "mnuExit", "E&xit", &frmMain::mnuExit_Click);
     mnuExit->setShortcut(QKeySequence::Quit);
@@ -123,6 +131,9 @@ void frmMain::MakeMenus()
                                                      {mnuFreeAgents, "Ctrl+Shift+A"}, {mnuDraft, "Ctrl+D"}};
     for (const auto& [item, key] : keys)
         item->setShortcut(QKeySequence(key));
+
+    mnuView = makeMenu("mnuView", "&View");
+    MakeViewMenu();
 
     mnuHelp = makeMenu("mnuHelp", "&Help");
     mnuAbout = MakeItem(mnuHelp, "mnuAbout", "&About", &frmMain::mnuAbout_Click);
@@ -194,6 +205,10 @@ QWidget* frmMain::MakeTeamBar()
     names->addWidget(lblSaved);
     column->addLayout(names);
 
+    cmdContinue = MakeCommand("cmdContinue", "Continue", [this] { cmdContinue_Click(); });
+    cmdContinue->hide();
+    names->insertWidget(1, cmdContinue);
+
     QHBoxLayout* commands = MakeRow({});
     for (QAction* action : {mnuViewTeam, mnuSetRoster, mnuSetLines, mnuSetFarmLines, mnuFreeAgents, mnuDraft})
         commands->addWidget(MakeShortcut(action));
@@ -228,8 +243,9 @@ void frmMain::FormLoad()
         MarkRosterChangesUntouched(OpenLeague);
         CentreOnScreen();
         const std::string last = LastLeague();
+        UseRememberedLook();
         if (!last.empty() && FileExist(Machine(), last))
-            OpenLeagueClient(last, *this);
+            OpenFile(last);
     });
 }
 
@@ -262,6 +278,8 @@ void frmMain::PlaceTeam()
         SetWindowCaption(WindowTitle);
         lblTitle->setText(Shown(LeagueData.Name));
         cmdOpen->hide();
+        firstStart->hide();
+        hasOpened = true;
         emptySpace->hide();
         emptySpaceBelow->hide();
         static_cast<QVBoxLayout*>(centralWidget()->layout())->setStretchFactor(lists, 1);
@@ -303,6 +321,7 @@ void frmMain::PlaceTeam()
 
 void frmMain::ShowChosenTeam()
 {
+    ShowContinue();
     lblSaved->setText(ToQString(StateOfTeam(static_cast<int>(CurrentTeam)).Words()));
     if (!TeamTable::Has(CurrentTeam)) {
         lblChosen->setText("No Team is Selected!");
@@ -360,7 +379,7 @@ void frmMain::lstDivision_DblClick(int division)
     if (chosen == nullptr)
         return;
     CurrentTeam = chosen->data(entry::NumberRole).toInt();
-    if (CheckPassword(OpenLeague, Machine(), OwnNumber()))
+    if (TeamIsProved())
         Open(Window::Team);
 }
 
@@ -369,7 +388,7 @@ void frmMain::mnuOpen_Click()
     ReportingUnlessCancelled(Machine(), " in mnuOpen!", [this] {
         const std::string path = Machine().OpenFileDialog(Machine().ProgramFolder(),
                                                           "DRVK Client File (*.dvs) |*.dvs|All Files (*.*) | *.*");
-        OpenLeagueClient(path, *this);
+        OpenFile(path);
     });
 }
 
@@ -381,7 +400,10 @@ bool frmMain::TeamIsProved()
         Machine().ShowBox("No Team is Selected!", box::Information);
         return false;
     }
-    return CheckPassword(OpenLeague, Machine(), OwnNumber());
+    if (!CheckPassword(OpenLeague, Machine(), OwnNumber()))
+        return false;
+    RememberTeam(openPath, OwnNumber());
+    return true;
 }
 
 void frmMain::mnuViewTeam_Click()

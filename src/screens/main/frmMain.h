@@ -49,18 +49,40 @@ public:
     void mnuOutputRatingCSV_Click();
     void cmdBringBack_Click();
     void cmdForget_Click();
+    // Opens a file that was opened before, as the dialog does one that was chosen.
+    void mnuRecent_Click(const std::string& path);
+    // The sample league is made, if it is not there yet, and opened.
+    void cmdSample_Click();
+    // Chooses the team of last time and views it, with its password.
+    void cmdContinue_Click();
 
     Row<EntryList*, 1, 6> lstDivision;
     Row<QLabel*, 1, 6> lblDivision;
     Row<QLabel*, 1, 2> lblConference;
     QLabel* lblDate;
     QMenu *mnuFile = nullptr, *mnuTeam = nullptr, *mnuHelp = nullptr;
+    QMenu *mnuRecent = nullptr, *mnuView = nullptr;
     QAction *mnuOpen = nullptr, *mnuExit = nullptr;
     QAction *mnuViewTeam = nullptr, *mnuSetRoster = nullptr, *mnuSetLines = nullptr, *mnuSetFarmLines = nullptr;
     QAction *mnuFreeAgents = nullptr, *mnuDraft = nullptr, *mnuAbout = nullptr, *mnuOutputRatingCSV = nullptr;
 
+protected:
+    // A client file that is dropped on the window is opened, too.
+    void dragEnterEvent(QDragEnterEvent* event) override;
+    void dropEvent(QDropEvent* event) override;
+    void changeEvent(QEvent* event) override;
+
 private:
     void MakeMenus();
+    void MakeViewMenu();
+    void ListRecent();
+    // What stands on the window before a league is open.
+    QWidget* MakeFirstStart();
+    // Opens a client file, tells what fails, and remembers it.
+    void OpenFile(const std::string& path);
+    void UseRememberedLook();
+    void ShowContinue();
+    void TellSamplePasswords();
     QAction* MakeItem(QMenu* menu, const char* name, const QString& caption, void (frmMain::*click)());
     QWidget* MakeConference(int conference);
     QWidget* MakeTeamBar();
@@ -75,7 +97,11 @@ private:
     QLabel *lblChosen = nullptr, *lblSaved = nullptr;
     QLabel* lblChosenPlace = nullptr;
     QPushButton *cmdOpen, *cmdBringBack, *cmdForget;
-    QWidget* lists; // the two conferences
+    QPushButton *cmdSample = nullptr, *cmdContinue = nullptr;
+    QWidget* firstStart = nullptr;
+    std::string openPath;   // of the league that is open
+    bool hasOpened = false; // a league was read by the opening at hand
+    QWidget* lists;         // the two conferences
     QWidget* teamBar;
     QuietLines* quiet;
     QWidget *emptySpace, *emptySpaceBelow; // around the words of the empty window

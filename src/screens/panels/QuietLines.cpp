@@ -20,6 +20,7 @@ constexpr Kind Kinds[] = {
     {QuietLine::Damaged, "lblDamaged"},
     {QuietLine::UnsavedWork, "lblUnsavedWork"},
     {QuietLine::JournalUnwritten, "lblJournalUnwritten"},
+    {QuietLine::SamplePasswords, "lblSamplePasswords"},
 };
 
 // One line of muted words. Its text stays whole; what is painted of it ends where the window ends.

@@ -1,5 +1,6 @@
 #include "screens/platform/DesktopLook.h"
 
+#include "screens/platform/ChosenLook.h"
 #include "screens/platform/FusionLook.h"
 #include "screens/platform/Palettes.h"
 
@@ -10,6 +11,12 @@
 
 namespace dravik {
 
+namespace {
+
+DesktopLook* Living = nullptr;
+
+} // namespace
+
 DesktopLook::DesktopLook(bool hasLook, std::unique_ptr<SchemeSource> scheme) :
     isGiven(hasLook), givenStyle(QApplication::style()->name()), source(std::move(scheme))
 {
@@ -17,11 +24,31 @@ DesktopLook::DesktopLook(bool hasLook, std::unique_ptr<SchemeSource> scheme) :
         QApplication::setStyle(new FusionLook);
     if (source != nullptr)
         QObject::connect(source.get(), &SchemeSource::Changed, source.get(), [this] { Follow(); });
+    Living = this;
     Follow();
+}
+
+DesktopLook::~DesktopLook()
+{
+    if (Living == this)
+        Living = nullptr;
+}
+
+// Without one, no desktop is followed; the program's own light look is that of a start without any word.
+void DesktopLook::FollowAgain()
+{
+    if (Living == nullptr)
+        UseLightLook();
+    else {
+        Living->isOurs = true;
+        Living->Follow();
+    }
 }
 
 void DesktopLook::Follow()
 {
+    if (ChosenLook() != LookChoice::Desktop)
+        return;
     const ColourScheme told = source == nullptr ? ColourScheme::Untold : source->Scheme();
     if (isGiven) {
         UseGivenLook();
