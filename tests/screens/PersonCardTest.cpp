@@ -278,9 +278,11 @@ TEST_F(RosterCards, EntriesHaveSignsAndCardsAndFollowWhatIsDone)
         return list->item(row)->data(Qt::AccessibleDescriptionRole).toString().toStdString();
     };
     PickList* scratches = roster.lstPlayer[status::Scratch];
-    EXPECT_EQ(description(scratches, 0), "Needs waivers to go down");
-    EXPECT_EQ(description(scratches, 1), "Injured, condition 87");
-    EXPECT_EQ(description(scratches, 2), "");
+    EXPECT_EQ(description(scratches, 0),
+              "Needs waivers to go down, condition 100%, 25 years old, salary $1,000,000, contract for 2 years");
+    EXPECT_EQ(description(scratches, 1),
+              "Injured, condition 87, condition 87%, 25 years old, salary $1,000,000, contract for 2 years");
+    EXPECT_EQ(description(scratches, 2), "condition 100%, 25 years old, salary $1,000,000, contract for 2 years");
     ClickEntry(status::Scratch, 1);
     Press(scratches, Qt::Key_I, Qt::ControlModifier);
     EXPECT_THAT(Said(roster), AllOf(HasSubstr("Skater 2, LW "), HasSubstr("Condition: 87, Injury: Broken Leg"),
@@ -291,7 +293,8 @@ TEST_F(RosterCards, EntriesHaveSignsAndCardsAndFollowWhatIsDone)
     Click(roster.cmdToFarm);
     EXPECT_EQ(Machine.TakeBoxes().size(), 1U);
     PickList* farm = roster.lstPlayer[status::Farm];
-    EXPECT_EQ(description(farm, farm->count() - 1), "On waivers");
+    EXPECT_EQ(description(farm, farm->count() - 1),
+              "On waivers, condition 100%, 25 years old, salary $1,000,000, contract for 2 years");
 }
 
 class OfferCards : public OnOfferScreen {};

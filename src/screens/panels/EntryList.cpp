@@ -1,7 +1,9 @@
 #include "screens/panels/EntryList.h"
 
+#include "screens/panels/EntryFigures.h"
 #include "screens/panels/EntryName.h"
 #include "screens/panels/EntrySigns.h"
+#include "screens/panels/LetterWidths.h"
 #include "screens/panels/Shades.h"
 #include "screens/panels/TypeAhead.h"
 
@@ -32,6 +34,13 @@ int AsideWidth(const QFontMetrics& metrics, const QString& word)
 // Where text and secondary words of an entry stand.
 QRect ContentArea(const QRect& entry) { return entry.adjusted(SideMargin, 0, -SideMargin, 0); }
 
+// What an entry leaves to all else behind the figures of its list.
+QRect BeforeFigures(const QRect& entry, const QObject* list)
+{
+    const EntryFigures* figures = EntryFigures::On(list);
+    return figures == nullptr ? entry : entry.adjusted(0, 0, -figures->Room(), 0);
+}
+
 // Of an entry, as the list or its model gives it.
 template <class Entry>
 QStringList AsideOf(const Entry& shown)
@@ -41,7 +50,7 @@ QStringList AsideOf(const Entry& shown)
 
 // What secondary words take from the right end of an entry, when `width` gives that of a word.
 template <class Width>
-int RoomFor(const QStringList& aside, const Width& width)
+int RoomFor(const QStringList& aside, Width&& width)
 {
     int room = aside.isEmpty() ? 0 : SideMargin;
     for (const QString& word : aside)
@@ -49,7 +58,44 @@ int RoomFor(const QStringList& aside, const Width& width)
     return room;
 }
 
-// The same, and nothing where they have no room.
+// The widths of secondary words, which are few different ones: each is laid out once.
+class AsideWidths {
+public:
+    explicit AsideWidths(const QFontMetrics& font) : metrics(font) {}
+
+    int operator()(const QString& word)
+    {
+        auto known = words.constFind(word);
+        if (known == words.constEnd())
+            known = words.insert(word, AsideWidth(metrics, word));
+        return *known;
+    }
+
+private:
+    QFontMetrics metrics;
+    QHash<QString, int> words;
+};
+
+// What the widest entry of a list takes of it whole, with all of its signs.
+int WidthOfWholeEntry(const EntryList& list)
+{
+    constexpr int anyRoom = 1000000;
+    const QFontMetrics metrics = list.fontMetrics();
+    LetterWidths letters(metrics);
+    AsideWidths words(metrics);
+    const EntrySigns* signs = EntrySigns::On(&list);
+    int widest = 0;
+    for (int row = 0; row < list.count(); ++row) {
+        const QListWidgetItem& item = *list.item(row);
+        int width = letters.Of(item.text()) + LetterWidths::Kerning + RoomFor(AsideOf(item), words);
+        if (signs != nullptr)
+            width += FitSigns(signs->Of(*NumberOf(&item)), metrics, anyRoom, 0, 0).Room;
+        widest = std::max(widest, width);
+    }
+    return widest + 2 * SideMargin;
+}
+
+// What the secondary words of an entry take, and nothing where they have no room.
 int OwnAsideRoom(const QStyleOptionViewItem& option, const QModelIndex& index)
 {
     const auto wordWidth = [&](const QString& word) { return AsideWidth(option.fontMetrics, word); };
@@ -124,6 +170,14 @@ void EntryDelegate::paint(QPainter* painter, const QStyleOptionViewItem& option,
     const QColor back = item.palette.color(group, isSelected    ? QPalette::Highlight
                                                   : isAlternate ? QPalette::AlternateBase
                                                                 : QPalette::Base);
+    if (const EntryFigures* figures = EntryFigures::On(item.widget)) {
+        painter->save();
+        painter->setFont(item.font);
+        painter->setPen(Muted(front, back));
+        figures->Paint(*painter, item.rect, index.data(entry::NumberRole).toInt());
+        painter->restore();
+    }
+    item.rect = BeforeFigures(item.rect, item.widget);
     const QRect area = ContentArea(item.rect);
     const int room = AsideRoom(item, index);
     const SignStrip signs = SignsOf(item, index, room);
@@ -159,8 +213,10 @@ bool EntryDelegate::helpEvent(QHelpEvent* event, QAbstractItemView* view, const 
                               const QModelIndex& index)
 {
     const QString text = index.data().toString();
-    const int room = AsideRoom(option, index);
-    const int width = ContentArea(option.rect).width() - room - SignsOf(option, index, room).Room;
+    QStyleOptionViewItem before = option;
+    before.rect = BeforeFigures(option.rect, option.widget);
+    const int room = AsideRoom(before, index);
+    const int width = ContentArea(before.rect).width() - room - SignsOf(before, index, room).Room;
     const bool isCut = option.fontMetrics.horizontalAdvance(text) > width;
     if (event->type() == QEvent::ToolTip && isCut && !index.data(Qt::ToolTipRole).isValid()) {
         QToolTip::showText(event->globalPos(), Qt::convertFromPlainText(text), view, option.rect);
@@ -178,8 +234,12 @@ QVariant EntryItem::data(int role) const
         return {};
     case Qt::AccessibleTextRole:
         return QString((QStringList(text()) + data(entry::AsideRole).toStringList()).join(", "));
-    case Qt::AccessibleDescriptionRole:
-        return WordsOf(data(entry::SignsRole).value<PersonSigns>()).join(", ");
+    case Qt::AccessibleDescriptionRole: {
+        QStringList words = WordsOf(data(entry::SignsRole).value<PersonSigns>());
+        if (const EntryFigures* figures = EntryFigures::On(listWidget()))
+            words += figures->WordsOf(data(entry::NumberRole).toInt());
+        return words.join(", ");
+    }
     default:
         return QListWidgetItem::data(role);
     }
@@ -218,44 +278,27 @@ void EntryList::Unchoose()
 }
 
 // Thousands of entries are compared by the widths of their letters alone; only the widest is laid out. Of their secondary
-// words, which are few different ones, each is laid out once.
+// words, each is laid out once.
 int EntryList::WidthOfWidestEntry() const
 {
     const QFontMetrics metrics = fontMetrics();
-    QHash<QChar, int> letters;
-    QHash<QString, int> words;
-    const auto wordWidth = [&](const QString& word) {
-        auto known = words.constFind(word);
-        if (known == words.constEnd())
-            known = words.insert(word, AsideWidth(metrics, word));
-        return *known;
-    };
-    const auto roughWidth = [&](const QString& text) {
-        int width = 0;
-        for (const QChar letter : text) {
-            auto known = letters.constFind(letter);
-            if (known == letters.constEnd())
-                known = letters.insert(letter, metrics.horizontalAdvance(letter));
-            width += *known;
-        }
-        return width;
-    };
+    LetterWidths letters(metrics);
+    AsideWidths words(metrics);
     const EntrySigns* signs = EntrySigns::On(this);
     QString widest;
     int most = 0;
     int room = 0;
     for (int row = 0; row < count(); ++row) {
         const QString text = item(row)->text();
-        if (const int width = roughWidth(text); width > most) {
+        if (const int width = letters.Of(text); width > most) {
             most = width;
             widest = text;
         }
         const int trouble =
             signs == nullptr ? 0 : RoomForTrouble(signs->Of(item(row)->data(entry::NumberRole).toInt()), metrics);
-        room = std::max(room, RoomFor(AsideOf(*item(row)), wordWidth) + trouble);
+        room = std::max(room, RoomFor(AsideOf(*item(row)), words) + trouble);
     }
-    constexpr int kerning = 2;
-    return metrics.horizontalAdvance(widest) + kerning + room + 2 * SideMargin + 2 * frameWidth() +
+    return metrics.horizontalAdvance(widest) + LetterWidths::Kerning + room + 2 * SideMargin + 2 * frameWidth() +
            verticalScrollBar()->sizeHint().width();
 }
 
@@ -277,7 +320,7 @@ bool EntryList::AnAsideHasNoRoom() const
     initViewItemOption(&option);
     for (int row = 0; row < count(); ++row) {
         const QModelIndex entry = model()->index(row, 0);
-        option.rect = visualRect(entry);
+        option.rect = BeforeFigures(visualRect(entry), this);
         if (!AsideOf(entry).join(QString()).isEmpty() && OwnAsideRoom(option, entry) == 0)
             return true;
     }
@@ -292,6 +335,8 @@ QListWidgetItem* EntryList::Chosen() const
 
 void EntryList::paintEvent(QPaintEvent* event)
 {
+    if (EntryFigures* figures = EntryFigures::On(this))
+        figures->Fit(WidthOfWholeEntry(*this));
     leavesAsidesOut = keepsAsidesTogether && AnAsideHasNoRoom();
     QListWidget::paintEvent(event);
 }

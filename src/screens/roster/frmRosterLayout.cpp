@@ -1,7 +1,9 @@
 #include "screens/ElementName.h"
+#include "screens/panels/EntryFigures.h"
 #include "screens/panels/EntrySigns.h"
 #include "screens/panels/Labels.h"
 #include "screens/panels/Layouts.h"
+#include "screens/PersonFigures.h"
 #include "screens/PersonWords.h"
 #include "screens/roster/frmRoster.h"
 #include "screens/RosterEntry.h"
@@ -133,6 +135,7 @@ PickList* frmRoster::MakeList(int index, const QString& caption)
     list->CutNamesFirst(); // positions and overalls are what the eye compares
     const auto signs = [](int number) { return SignsOf(OpenLeague, EntryPerson(number), OwnNumber()); };
     new EntrySigns(list, signs);
+    new EntryFigures(list, PersonFigures(EntryPerson));
     cards->Serve(list, [signs](int number) { return CardOf(EntryPerson(number), signs(number)); });
     connect(list, &PickList::Picked, this, [this, index] { lstPlayer_Click(index); });
     connect(list, &QListWidget::itemDoubleClicked, this, [this, index] { lstPlayer_DblClick(index); });
@@ -156,7 +159,9 @@ QWidget* frmRoster::MakeListColumn(int index)
 {
     auto* panel = new QWidget(this);
     QVBoxLayout* column = MakeColumn(panel, Gap / 2);
-    column->addWidget(lblPlayer[index]);
+    QHBoxLayout* heading = MakeRow({lblPlayer[index]});
+    heading->addWidget(new FigureHeadings(EntryFigures::On(lstPlayer[index]), panel), 1);
+    column->addLayout(heading);
     column->addWidget(lstPlayer[index], 1);
     return panel;
 }
