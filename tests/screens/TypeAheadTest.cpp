@@ -1,5 +1,6 @@
 #include "league/NameMatch.h"
 #include "OnEveryScreen.h"
+#include "PaintedContrast.h"
 #include "screens/panels/EntryName.h"
 #include "screens/panels/PickList.h"
 #include "screens/panels/RankList.h"
@@ -556,6 +557,102 @@ TEST_F(TypeAheadInPicks, ALetterPicksOnceAndAlone)
     EXPECT_EQ(picks.count(), 2);
 }
 
+class FoundLetters : public TypeAheadTest {
+protected:
+    static constexpr int SideMargin = 4; // left of an entry's text
+
+    QImage Painted(int row) const { return Names.viewport()->grab(Names.visualItemRect(Names.item(row))).toImage(); }
+    // The columns of pixels in which two pictures differ, from the text's beginning on.
+    static std::pair<int, int> Differing(const QImage& one, const QImage& other)
+    {
+        std::pair<int, int> columns{-1, -1};
+        for (int x = 0; x < one.width(); ++x)
+            for (int y = 0; y < one.height(); ++y)
+                if (one.pixel(x, y) != other.pixel(x, y))
+                    columns = {columns.first < 0 ? x - SideMargin : columns.first, x - SideMargin + 1};
+        return columns;
+    }
+    int Advance(const QString& text) const { return Names.fontMetrics().horizontalAdvance(text); }
+};
+
+TEST_F(FoundLetters, AreUnderlinedInEveryEntryThatHasThemWhileTheSearchLasts)
+{
+    Fill({"Ward Tilton", "Karl Vanderson", "Luc D'Aubremont", "Evan Derksen"});
+    Names.setCurrentRow(1);
+    Settle();
+    std::vector<QImage> before;
+    for (int row = 0; row < Names.count(); ++row)
+        before.push_back(Painted(row));
+    EXPECT_EQ(Typed("van"), "Karl Vanderson");
+    EXPECT_EQ(Painted(0), before[0]);
+    EXPECT_EQ(Differing(Painted(1), before[1]), std::pair(Advance("Karl "), Advance("Karl Van"))) << "chosen";
+    EXPECT_EQ(Painted(2), before[2]);
+    EXPECT_EQ(Differing(Painted(3), before[3]), std::pair(Advance("E"), Advance("Evan"))) << "not chosen";
+    Keys("d");
+    EXPECT_EQ(Differing(Painted(1), before[1]), std::pair(Advance("Karl "), Advance("Karl Vand")));
+    EXPECT_EQ(Painted(3), before[3]) << "has them no longer";
+    Press(&Names, Qt::Key_Escape);
+    for (int row = 0; row < Names.count(); ++row)
+        EXPECT_EQ(Painted(row), before[static_cast<std::size_t>(row)]) << row;
+}
+
+TEST_F(FoundLetters, AreUnderlinedAsTheNameWritesThemAndNotInItsMarks)
+{
+    Fill({"Piet Vos", "Luc D'Aubremont (A)", "R\xE9mi Gauthi\xE8re (RW)-RFA"});
+    Names.setCurrentRow(1);
+    Settle();
+    QImage before = Painted(1);
+    EXPECT_EQ(Typed("daub"), "Luc D'Aubremont (A)");
+    EXPECT_EQ(Differing(Painted(1), before), std::pair(Advance("Luc "), Advance("Luc D'Aub")));
+    Press(&Names, Qt::Key_Escape);
+    Names.setCurrentRow(2);
+    Settle();
+    before = Painted(2);
+    EXPECT_EQ(Typed("rem"), "R\xE9mi Gauthi\xE8re (RW)-RFA");
+    EXPECT_EQ(Differing(Painted(2), before), std::pair(0, Advance(ToQString("R\xE9m"))));
+}
+
+TEST_F(FoundLetters, AreNotUnderlinedBehindTheSignOfACut)
+{
+    Names.CutNamesFirst();
+    const QString name = QString(40, 'W') + " Vos";
+    Names.Add("Ward Tilton", 0);
+    Names.Add(name, 1);
+    Names.setCurrentRow(1);
+    Settle();
+    const QImage before = Painted(1);
+    EXPECT_EQ(Typed("vos"), name.toStdString());
+    EXPECT_EQ(Painted(1), before);
+    Press(&Names, Qt::Key_Escape);
+    EXPECT_EQ(Typed("w"), "Ward Tilton");
+    EXPECT_EQ(Typed("w"), name.toStdString());
+    EXPECT_EQ(Differing(Painted(1), before), std::pair(0, Advance("W")));
+}
+
+TEST_F(FoundLetters, TheLineStandsOutFromEveryGround)
+{
+    Fill({"Ward Tilton", "Karl Vanderson", "Evan Derksen"});
+    for (const QPalette& palette : DesktopPalettes()) {
+        Names.setPalette(palette);
+        Names.setCurrentRow(1);
+        Settle();
+        const QImage chosen = Painted(1);
+        const QImage other = Painted(2);
+        Keys("van");
+        ASSERT_EQ(Names.currentRow(), 1);
+        for (const auto& [row, before] : {std::pair(1, chosen), std::pair(2, other)}) {
+            const QImage with = Painted(row);
+            double best = 0;
+            for (int x = 0; x < with.width(); ++x)
+                for (int y = 0; y < with.height(); ++y)
+                    if (with.pixel(x, y) != before.pixel(x, y))
+                        best = std::max(best, Contrast(with.pixelColor(x, y), before.pixelColor(x, y)));
+            EXPECT_GE(best, 4.5) << row;
+        }
+        Press(&Names, Qt::Key_Escape);
+    }
+}
+
 using TypeAheadInRanks = TypeAheadIn<RankList>;
 
 TEST_F(TypeAheadInRanks, LettersChooseThereToo)
@@ -593,8 +690,12 @@ TEST_F(TypeAheadOnScreens, EveryListFindsTheLastWordOfANameAndShowsIt)
             ASSERT_NE(tag, nullptr) << where;
             EXPECT_TRUE(tag->isVisible()) << where;
             EXPECT_EQ(tag->text(), word) << where;
+            list->scrollToItem(list->Chosen());
+            const QRect chosen = list->visualItemRect(list->Chosen());
+            const QImage found = list->viewport()->grab(chosen).toImage();
             QTest::keyClick(list, Qt::Key_Escape);
             EXPECT_FALSE(tag->isVisible()) << where;
+            EXPECT_NE(list->viewport()->grab(chosen).toImage(), found) << where << ": no line under what was found";
             seen.insert(name.substr(0, name.find(',')));
         }
     });

@@ -25,6 +25,7 @@ namespace {
 constexpr int RowPadding = 8; // above and below the text together
 constexpr int SideMargin = 4;
 constexpr int AsideGap = 8;
+constexpr int LineShare = 8; // of a row of letters: how thick the line under what was found is
 
 int AsideWidth(const QFontMetrics& metrics, const QString& word)
 {
@@ -140,6 +141,29 @@ QString Cut(const QString& text, const QFontMetrics& metrics, int width)
     return metrics.elidedText(name, Qt::ElideRight, width - metrics.horizontalAdvance(behind)) + behind;
 }
 
+// Draws a line under those letters of an entry's text that somebody is looking for. Of a text that was cut, `shown` is what is
+// left of it, and `keptName` how many letters of its name.
+void Underline(QPainter& painter, const QRect& area, const QString& shown, qsizetype keptName, const NamePart& found)
+{
+    const auto first = static_cast<qsizetype>(found.First);
+    const qsizetype end = std::min(first + static_cast<qsizetype>(found.Length), keptName);
+    if (first >= end)
+        return;
+    const QFontMetrics metrics = painter.fontMetrics();
+    const int left = metrics.horizontalAdvance(shown, static_cast<int>(first));
+    const int right = metrics.horizontalAdvance(shown, static_cast<int>(end));
+    const int thickness = std::max(1, metrics.height() / LineShare);
+    const int baseline = area.top() + (area.height() - metrics.height()) / 2 + metrics.ascent();
+    painter.fillRect(QRect(area.left() + left, baseline + 2, right - left, thickness), painter.pen().color());
+}
+
+// How many letters of `text` still begin `shown`, the same with its name cut.
+qsizetype KeptOf(const QString& text, const QString& shown)
+{
+    const auto [own, cut] = std::mismatch(text.begin(), text.end(), shown.begin(), shown.end());
+    return std::distance(text.begin(), own);
+}
+
 bool MovesChoice(int key)
 {
     return key == Qt::Key_Up || key == Qt::Key_Down || key == Qt::Key_Home || key == Qt::Key_End ||
@@ -185,8 +209,11 @@ void EntryDelegate::paint(QPainter* painter, const QStyleOptionViewItem& option,
     painter->save();
     painter->setFont(item.font);
     painter->setPen(front);
-    painter->drawText(area, Qt::AlignLeft | Qt::AlignVCenter | Qt::TextSingleLine,
-                      Cut(text, item.fontMetrics, area.width() - room - signs.Room));
+    const QString shown = Cut(text, item.fontMetrics, area.width() - room - signs.Room);
+    painter->drawText(area, Qt::AlignLeft | Qt::AlignVCenter | Qt::TextSingleLine, shown);
+    if (const TypeAhead* search = TypeAhead::On(item.widget))
+        if (const auto found = search->PartIn(text))
+            Underline(*painter, area, shown, KeptOf(text, shown), *found);
     PaintSigns(*painter, signs, area.adjusted(0, 0, -room, 0), front, back);
     if (room > 0) {
         painter->setPen(Muted(front, back));

@@ -1,6 +1,5 @@
 #include "screens/panels/TypeAhead.h"
 
-#include "league/NameMatch.h"
 #include "screens/panels/EntryName.h"
 #include "screens/panels/TypedTag.h"
 #include "screens/platform/CodePage.h"
@@ -25,11 +24,14 @@ NameMatch MatchOf(const QString& typed)
     return NameMatch(FromQString(plain));
 }
 
+std::optional<NamePart> PartOf(const QString& text, const NameMatch& match)
+{
+    return match.In(FromQString(text.first(NameLength(text))));
+}
+
 std::optional<NamePart> PartOf(const QListWidget& list, int row, const NameMatch& match)
 {
-    QString name = list.item(row)->text();
-    name.truncate(NameLength(name));
-    return match.In(FromQString(name));
+    return PartOf(list.item(row)->text(), match);
 }
 
 // The place of a row in the order of a search that began at `from`: names of which a word begins with what was typed, from
@@ -91,6 +93,22 @@ TypeAhead::TypeAhead(QListWidget& searched) : QObject(&searched), list(searched)
     connect(list.verticalScrollBar(), &QScrollBar::valueChanged, this, [this] { PlaceTag(); });
     list.installEventFilter(this);
     list.viewport()->installEventFilter(this);
+}
+
+const TypeAhead* TypeAhead::On(const QObject* list)
+{
+    if (list != nullptr)
+        for (const QObject* child : list->children())
+            if (const auto* search = dynamic_cast<const TypeAhead*>(child))
+                return search;
+    return nullptr;
+}
+
+std::optional<NamePart> TypeAhead::PartIn(const QString& text) const
+{
+    if (!IsUnderWay())
+        return std::nullopt;
+    return PartOf(text, MatchOf(typed));
 }
 
 bool TypeAhead::eventFilter(QObject* watched, QEvent* event)
@@ -215,6 +233,7 @@ void TypeAhead::Show(bool isFound)
         tag = new TypedTag(&list);
     tag->Tell(typed, found);
     PlaceTag();
+    list.viewport()->update();
     interval.start(QApplication::keyboardInputInterval());
 }
 
@@ -240,6 +259,8 @@ void TypeAhead::PlaceTag()
 void TypeAhead::End()
 {
     interval.stop();
+    if (IsUnderWay())
+        list.viewport()->update();
     typed.clear();
     repeats = 0;
     found = false;

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "league/NameMatch.h"
+
 #include <optional>
 #include <QKeyEvent>
 #include <QListWidget>
@@ -14,10 +16,13 @@ class TypedTag;
 // behind them come those that have it within a word. A letter behind another makes the text longer; the same letter once
 // more goes on to the next name, unless a longer text has it twice in some name. What nobody has is told, and the choice
 // stays. The search is over when nothing was typed for the toolkit's interval of input, at Escape, and when something else
-// chooses.
+// chooses. Until then the entries are drawn anew with the letters that were found.
 class TypeAhead : public QObject {
 public:
     explicit TypeAhead(QListWidget& list);
+
+    // That of a list, or none.
+    static const TypeAhead* On(const QObject* list);
 
     // Handles the keys that belong to a search under way and would do something else without it: Space is a letter then,
     // Backspace takes one back, Escape ends it. False leaves the key to the list.
@@ -26,6 +31,8 @@ public:
     // sign begins no search; nothing ends one.
     void Type(const QString& letters);
     [[nodiscard]] bool IsUnderWay() const { return !typed.isEmpty(); }
+    // The letters of an entry's text that are what was typed; none where it has none, or no search is under way.
+    [[nodiscard]] std::optional<NamePart> PartIn(const QString& text) const;
 
 protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
