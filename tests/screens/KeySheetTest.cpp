@@ -8,7 +8,10 @@
 #include "screens/lines/frmLine.h"
 #include "screens/lines/SlotPicker.h"
 #include "screens/main/frmMain.h"
+#include "screens/panels/EntryList.h"
+#include "screens/panels/EntrySigns.h"
 #include "screens/panels/KeyTable.h"
+#include "screens/platform/Palettes.h"
 #include "screens/roster/frmRoster.h"
 
 #include <QAction>
@@ -148,9 +151,10 @@ TEST_F(KeySheetTest, TheSignsOfAScreenAreDrawnWithTheirMeaning)
         const bool hasAny = isOwn || name == "FreeAgent" || name == "Draft";
         int drawn = 0;
         for (const SignRow& row : SignTable) {
-            const bool isHere = row.Place == SignPlace::Anybody ? hasAny
-                                : row.Place == SignPlace::Own   ? isOwn
-                                                                : isLines;
+            const bool isHere = row.Kind == Sign::NoContract      ? isOwn
+                                : row.Place == SignPlace::Anybody ? hasAny
+                                : row.Place == SignPlace::Own     ? isOwn
+                                                                  : isLines;
             EXPECT_EQ(text.find("\n" + std::string(row.Meaning) + "\n") != std::string::npos, isHere)
                 << name << row.Meaning;
             drawn += isHere ? 1 : 0;
@@ -168,6 +172,65 @@ TEST_F(KeySheetTest, TheSignsOfAScreenAreDrawnWithTheirMeaning)
         }
         EXPECT_EQ(text.find("\nSigns\n") != std::string::npos, hasAny) << name;
     });
+}
+
+// Somebody with everything that a sign tells of stands in every list.
+TEST_F(KeySheetTest, NoSignIsExplainedThatNoEntryOfTheScreenCanShow)
+{
+    const auto putAll = [](auto& people) {
+        for (auto& person : people) {
+            person.Condition = 50;
+            person.Suspension = 2;
+            person.Contract = 0;
+            person.Rookie = true;
+        }
+    };
+    int compared = 0;
+    EachScreen([&](Screen& screen, const std::string& name) {
+        if (name != "FreeAgent" && name != "Draft")
+            return;
+        putAll(Players);
+        putAll(Goalies);
+        PersonSigns shown;
+        for (const EntryList* list : screen.findChildren<EntryList*>())
+            if (const EntrySigns* signs = EntrySigns::On(list))
+                for (int row = 0; row < list->count(); ++row)
+                    signs->Of(*NumberOf(list->item(row))).Each([&](const PersonSign& sign) { shown.Add(sign.Kind); });
+        ASSERT_TRUE(shown.Has(Sign::Injured) && shown.Has(Sign::Suspended) && shown.Has(Sign::Rookie)) << name;
+        shown.Add(Sign::OnWaivers); // nobody is suspended and on waivers
+        const std::string text = SheetText(screen);
+        for (const SignRow& row : SignTable)
+            EXPECT_EQ(text.find("\n" + std::string(row.Meaning) + "\n") != std::string::npos, shown.Has(row.Kind))
+                << name << row.Meaning;
+        ++compared;
+    });
+    EXPECT_EQ(compared, 2);
+}
+
+TEST_F(KeySheetTest, AnOpenSheetFollowsAChangeOfTheColours)
+{
+    MainWithLeague();
+    CurrentTeam = OwnTeam;
+    CallerScreen = "Main";
+    TheStage.Open("Roster", Main());
+    Settle();
+    Machine.ForgetBoxes("what opening finds in the sample league is not asked here");
+    Screen& roster = *TheStage.Find("Roster");
+    const QPalette usual = QApplication::palette();
+    UseLightLook();
+    PressScreenKey(roster, Qt::Key_F1, {});
+    QTextDocument& sheet = *SheetOf(roster)->txtSheet->document();
+    const auto picture = [&sheet] {
+        return sheet.resource(QTextDocument::ImageResource, QUrl("sign:5")).value<QImage>();
+    };
+    const QImage light = picture();
+    UseDarkLook();
+    Settle();
+    EXPECT_NE(picture(), light);
+    UseLightLook();
+    Settle();
+    EXPECT_EQ(picture(), light);
+    QApplication::setPalette(usual);
 }
 
 // A key of one control is told with a check here that it does what is told.

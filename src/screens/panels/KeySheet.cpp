@@ -13,6 +13,7 @@
 #include <functional>
 #include <QKeyEvent>
 #include <QPainter>
+#include <QScrollBar>
 
 namespace dravik {
 
@@ -70,21 +71,24 @@ private:
     int count = 0;
 };
 
-// Which signs the lists and boards of a screen have.
-bool HasSign(const QString& screen, SignPlace place)
+// On which of the screens with lists of people a sign may stand. Whoever takes offers or is drafted has no contract, and all of them
+// lack the sign of it.
+const char* ScreensWith(const SignRow& row)
 {
-    const bool isLines = screen == "frmLine" || screen == "frmFarmLine";
-    const bool isOwn = isLines || screen == "frmRoster";
-    switch (place) {
-    case SignPlace::Anybody:
-        return isOwn || screen == "frmFreeAgentClient" || screen == "frmDraft";
-    case SignPlace::Own:
-        return isOwn;
-    case SignPlace::Lines:
-        break;
-    }
-    return isLines;
+    constexpr auto lines = "frmLine frmFarmLine";
+    constexpr auto own = "frmRoster frmLine frmFarmLine";
+    constexpr auto all = "frmRoster frmLine frmFarmLine frmFreeAgentClient frmDraft";
+    if (row.Kind == Sign::NoContract)
+        return own;
+    return row.Place == SignPlace::Lines ? lines : row.Place == SignPlace::Own ? own : all;
 }
+
+bool HasSign(const QString& screen, const SignRow& row)
+{
+    return QString(ScreensWith(row)).split(' ').contains(screen);
+}
+
+bool HasDays(const QString& screen) { return screen == "frmLine" || screen == "frmFarmLine"; }
 
 // A number for a sign that has one.
 PersonSign ExampleOf(Sign kind)
@@ -109,14 +113,14 @@ QString SignsOn(const QString& screen, QTextBrowser& sheet)
         rows += "<tr><td>" + picture + "</td><td>&nbsp;&nbsp;</td><td>" + words.toHtmlEscaped() + "</td></tr>";
     };
     for (const SignRow& row : SignTable)
-        if (HasSign(screen, row.Place)) {
+        if (HasSign(screen, row)) {
             const PersonSign sign = ExampleOf(row.Kind);
             add(pictures.Add(
                     WidthOf(sign, sheet.fontMetrics()),
                     [&](QPainter& painter, const QRect& area) { PaintSign(painter, sign, area, front, ground); }),
                 ToQString(row.Meaning));
         }
-    if (HasSign(screen, SignPlace::Lines)) {
+    if (HasDays(screen)) {
         const int side = sheet.fontMetrics().height();
         add(pictures.Add(side, [&](QPainter& painter, const QRect& area) { PaintTick(painter, area, front); }),
             "A day whose lines are complete");
@@ -148,6 +152,7 @@ KeySheet::KeySheet(const QString& screen, QWidget* parent) : QDialog(parent), ab
     txtSheet = new QTextBrowser(this);
     txtSheet->setObjectName("txtSheet");
     txtSheet->setAccessibleName("Keys, signs and ratings");
+    txtSheet->installEventFilter(this);
     auto* column = MakeColumn(this);
     column->setContentsMargins(Margin, Margin, Margin, Margin);
     column->addWidget(txtSheet);
@@ -162,7 +167,25 @@ void KeySheet::keyPressEvent(QKeyEvent* event)
         QDialog::keyPressEvent(event);
 }
 
+bool KeySheet::eventFilter(QObject* watched, QEvent* event)
+{
+    if (event->type() == QEvent::PaletteChange && isVisible()) {
+        const int place = txtSheet->verticalScrollBar()->value();
+        Fill();
+        txtSheet->verticalScrollBar()->setValue(place);
+    }
+    return QDialog::eventFilter(watched, event);
+}
+
 void KeySheet::Open()
+{
+    Fill();
+    show();
+    raise();
+    activateWindow();
+}
+
+void KeySheet::Fill()
 {
     const bool areAllShown = static_cast<bool>(LeagueData.ShowAllRatings);
     QString html = Heading("Keys") + KeysOn(about) + SignsOn(about, *txtSheet);
@@ -171,9 +194,6 @@ void KeySheet::Open()
     html += Heading("Ratings of a goalie");
     html += areAllShown ? RatingsOf(GoalieStatName, GoalieStatWords) : RatingsOf(GoalieGroupName, GoalieGroupWords);
     txtSheet->setHtml(html);
-    show();
-    raise();
-    activateWindow();
 }
 
 } // namespace dravik

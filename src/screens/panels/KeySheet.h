@@ -19,8 +19,12 @@ public:
 
 protected:
     void keyPressEvent(QKeyEvent* event) override;
+    // The signs are pictures in the colours of the sheet.
+    bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
+    void Fill();
+
     QString about;
 };
 
