@@ -13,8 +13,11 @@ namespace dravik::tour {
 
 namespace {
 
-// All but the wait screen, which asks nothing.
-bool WantsAnswer(const QDialog& dialog) { return dialog.objectName() != "frmWait"; }
+// All but the wait screen and the sheet of keys, which ask nothing.
+bool WantsAnswer(const QDialog& dialog)
+{
+    return dialog.objectName() != "frmWait" && dialog.objectName() != "KeySheet";
+}
 
 QString WordsOf(const QDialog& dialog)
 {

@@ -7,6 +7,7 @@
 #include "screens/lines/frmLine.h"
 #include "screens/lines/LineSheet.h"
 #include "screens/lines/SlotPicker.h"
+#include "screens/panels/KeySheet.h"
 #include "screens/panels/PersonCards.h"
 #include "screens/platform/CodePage.h"
 #include "screens/player/frmEditPlayer.h"
@@ -18,6 +19,7 @@
 #include <QFileInfo>
 #include <QKeyEvent>
 #include <QMouseEvent>
+#include <QShortcut>
 
 // The evening itself, and what it does for the team: roster, lines, the lines file.
 namespace dravik::tour {
@@ -111,6 +113,8 @@ void Evening::ShapeRoster()
     Require(SelectedPlayer > 0 && Roster().cmdToScratchesFromPro->isEnabled(), "a player is chosen");
     NoComplaints("the roster is made");
     Photograph(Window::Roster, "roster");
+    Photograph(Window::Roster, "roster-wide", {1920, 1080});
+    PhotographKeys(Window::Roster, "roster-keys");
     const int number = pro->currentItem()->data(entry::NumberRole).toInt();
     Roster().cmdToScratchesFromPro->click();
     PickList* scratches = Roster().lstPlayer[status::Scratch];
@@ -194,6 +198,7 @@ void Evening::MakeLinesOn(QPushButton& command, Window window, const QString& pi
     PickForASlot(screen);
     Photograph(window, picture + "-picker");
     PhotographSheet(screen, picture + "-sheet");
+    PhotographKeys(window, picture + "-keys");
     screen.cmdExit->click();
     QApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
     NoComplaints("the lines are made");
@@ -274,9 +279,21 @@ void Evening::Leave(Window window, const Screen& behind, QPushButton* exit)
     Require(stage.Find(window) == nullptr && behind.isVisible(), "the way back from " + name);
 }
 
-void Evening::Photograph(Window window, const QString& name)
+void Evening::Photograph(Window window, const QString& name, const QSize& size)
 {
-    Require(camera.Photograph(*stage.Find(window), name), "pictures of " + name + " are written");
+    Require(camera.Photograph(*stage.Find(window), name, size), "pictures of " + name + " are written");
+}
+
+// An event that is sent to a window passes its shortcuts by.
+void Evening::PhotographKeys(Window window, const QString& name)
+{
+    for (auto* shortcut : stage.Find(window)->findChildren<QShortcut*>())
+        if (shortcut->key() == QKeySequence(Qt::Key_F1))
+            emit shortcut->activated();
+    auto* sheet = stage.Find(window)->findChild<KeySheet*>();
+    Require(sheet != nullptr && sheet->isVisible(), "the sheet of keys comes up");
+    Require(camera.Photograph(*sheet, name, sheet->size()), "pictures of " + name + " are written");
+    sheet->close();
 }
 
 void Evening::NoComplaints(const QString& step)

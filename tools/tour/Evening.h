@@ -77,7 +77,9 @@ private:
     void BringBackOffers();
 
     static void Fill(EditBox* box, const QString& text);
-    void Photograph(Window window, const QString& name);
+    void Photograph(Window window, const QString& name, const QSize& size = {1280, 800});
+    // The sheet of F1, at its own size.
+    void PhotographKeys(Window window, const QString& name);
     void NoComplaints(const QString& step);
     static void Require(bool holds, const QString& what);
 
