@@ -8,6 +8,7 @@
 #include "bench/FullLeague.h"
 #include "bench/ScreenBench.h"
 #include "screens/roster/frmRoster.h"
+#include "tests/screens/Dragging.h"
 
 #include <benchmark/benchmark.h>
 #include <QTest>
@@ -79,6 +80,40 @@ public:
         Demand(list->count() == before - 1 && Listed() == 60);
     }
 
+    // Somebody dragged from the pro list to the scratches, or back from there, painted.
+    void Drag()
+    {
+        const bool isDown = turn++ % 2 == 0;
+        PickList* list = Roster().lstPlayer[isDown ? status::Pro : status::Scratch];
+        const int before = list->count();
+        DragEntry(list, isDown ? 0 : list->count() - 1, Roster().lstPlayer[isDown ? status::Scratch : status::Pro]);
+        Roster().grab();
+        Demand(list->count() == before - 1 && Listed() == 60);
+    }
+    // Somebody sent from the pro list to the farm by one press with Ctrl, or back by a drag over both: two moves, painted.
+    void TwoMoves()
+    {
+        const bool isDown = turn++ % 2 == 0;
+        PickList* list = Roster().lstPlayer[isDown ? status::Pro : status::Farm];
+        const int before = list->count();
+        const QModelIndex entry = list->model()->index(isDown ? 0 : list->count() - 1, 0);
+        list->scrollTo(entry);
+        if (isDown) {
+            QTest::mouseClick(list->viewport(), Qt::LeftButton, {}, list->visualRect(entry).center());
+            QTest::mouseClick(Roster().cmdToScratchesFromPro, Qt::LeftButton, Qt::ControlModifier);
+        } else {
+            DragEntry(list, entry.row(), Roster().lstPlayer[status::Pro]);
+        }
+        Roster().grab();
+        Demand(list->count() == before - 1 && Listed() == 60);
+    }
+    // A click where the lists are wide enough for all figures, painted.
+    void WideClick()
+    {
+        Roster().resize(1900, 1000);
+        Click();
+    }
+
 private:
     frmRoster& Roster() { return On<frmRoster>(Window::Roster); }
     int Listed()
@@ -103,6 +138,9 @@ BENCHMARK_CAPTURE(AgainstAWalk, Click, &Bench::Click)->Iterations(Rounds)->UseMa
 BENCHMARK_CAPTURE(AgainstAWalk, Letter, &Bench::Letter)->Iterations(Rounds)->UseManualTime();
 BENCHMARK_CAPTURE(AgainstAWalk, Rebuild, &Bench::Rebuild)->Iterations(Rounds)->UseManualTime();
 BENCHMARK_CAPTURE(AgainstAWalk, Move, &Bench::Move)->Iterations(Rounds)->UseManualTime();
+BENCHMARK_CAPTURE(AgainstAWalk, Drag, &Bench::Drag)->Iterations(Rounds)->UseManualTime();
+BENCHMARK_CAPTURE(AgainstAWalk, TwoMoves, &Bench::TwoMoves)->Iterations(Rounds)->UseManualTime();
+BENCHMARK_CAPTURE(AgainstAWalk, WideClick, &Bench::WideClick)->Iterations(Rounds)->UseManualTime();
 
 } // namespace
 } // namespace dravik
