@@ -5,7 +5,7 @@
 #include "machine/SettingsFailure.h"
 #include "screens/main/frmWait.h"
 #include "screens/platform/CodePage.h"
-#include "support/ReferenceMd5.h"
+#include "machine/Md5.h"
 
 #include <gmock/gmock.h>
 #include <QApplication>
@@ -517,7 +517,7 @@ TEST_F(QtPlatformTest, TheDigestIsThatOfTheReference)
 {
     const std::string longText(1000, '\xE9');
     for (const std::string& text : {std::string(), std::string("a"), std::string("a\0b", 3), longText})
-        EXPECT_EQ(Desktop.Md5(text), ReferenceMd5(text));
+        EXPECT_EQ(Desktop.Md5(text), Md5Of(text));
 }
 
 class QtFiles : public QtPlatformTest {

@@ -2,7 +2,7 @@
 
 #include "league/Failure.h"
 #include "machine/SettingsFailure.h"
-#include "support/ReferenceMd5.h"
+#include "machine/Md5.h"
 
 #include <algorithm>
 #include <chrono>
@@ -314,7 +314,7 @@ std::string ScriptedPlatform::ShortTime(double days) const
     return two(time.hours().count()) + ":" + two(time.minutes().count());
 }
 
-std::array<std::uint8_t, 16> ScriptedPlatform::Md5(std::string_view bytes) { return ReferenceMd5(bytes); }
+std::array<std::uint8_t, 16> ScriptedPlatform::Md5(std::string_view bytes) { return Md5Of(bytes); }
 
 void ScriptedPlatform::Count(const std::string& operation, const std::function<void()>& beforeFault)
 {

@@ -1,7 +1,7 @@
 #include "sample-league/ToolMachine.h"
 
 #include "league/Failure.h"
-#include "support/ReferenceMd5.h"
+#include "machine/Md5.h"
 
 namespace dravik::sample {
 
@@ -46,6 +46,6 @@ std::string ToolMachine::Fixed(double /*value*/, int /*decimals*/) const { retur
 std::string ToolMachine::LongDate(double /*days*/) const { return {}; }
 std::string ToolMachine::ShortTime(double /*days*/) const { return {}; }
 
-std::array<std::uint8_t, 16> ToolMachine::Md5(std::string_view bytes) { return ReferenceMd5(bytes); }
+std::array<std::uint8_t, 16> ToolMachine::Md5(std::string_view bytes) { return Md5Of(bytes); }
 
 } // namespace dravik::sample

@@ -1,4 +1,4 @@
-#include "support/ReferenceMd5.h"
+#include "machine/Md5.h"
 
 #include <gtest/gtest.h>
 #include <string>
@@ -9,7 +9,7 @@ namespace {
 std::string Hex(std::string_view text)
 {
     std::string hex;
-    for (const unsigned byte : ReferenceMd5(text)) {
+    for (const unsigned byte : Md5Of(text)) {
         hex += "0123456789abcdef"[byte / 16];
         hex += "0123456789abcdef"[byte % 16];
     }
@@ -22,7 +22,7 @@ struct Vector {
 };
 
 // The test suite in the appendix of RFC 1321.
-TEST(ReferenceMd5Test, TheVectorsOfTheRfcComeOut)
+TEST(Md5Test, TheVectorsOfTheRfcComeOut)
 {
     const Vector vectors[] = {
         {"", "d41d8cd98f00b204e9800998ecf8427e"},
@@ -39,7 +39,7 @@ TEST(ReferenceMd5Test, TheVectorsOfTheRfcComeOut)
 }
 
 // One byte less than a block with its length, exactly that, one more, and a full block: each padded differently.
-TEST(ReferenceMd5Test, TextsAroundTheEndOfABlockComeOut)
+TEST(Md5Test, TextsAroundTheEndOfABlockComeOut)
 {
     const Vector vectors[] = {
         {std::string(55, 'x'), "04364420e25c512fd958a70738aa8f72"},

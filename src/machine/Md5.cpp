@@ -1,4 +1,4 @@
-#include "support/ReferenceMd5.h"
+#include "machine/Md5.h"
 
 #include <bit>
 #include <cmath>
@@ -10,17 +10,19 @@ namespace {
 
 using State = std::array<std::uint32_t, 4>;
 
-// Element i is the integer part of 2^32 x |sin(i + 1)|, i + 1 in radians.
-const std::array<std::uint32_t, 64> Sines = [] {
+// Element i is the integer part of 2^32 x |sin(i + 1)|, i + 1 in radians. It is made where it is used: below the session
+// nothing stands outside of functions that a program would have to fill at its start.
+std::array<std::uint32_t, 64> MakeSines()
+{
     std::array<std::uint32_t, 64> table{};
     for (std::size_t i = 0; i < table.size(); ++i)
         table[i] = static_cast<std::uint32_t>(4294967296.0 * std::fabs(std::sin(static_cast<double>(i + 1))));
     return table;
-}();
+}
 
 constexpr int Shifts[4][4] = {{7, 12, 17, 22}, {5, 9, 14, 20}, {4, 11, 16, 23}, {6, 10, 15, 21}};
 
-void Step(State& state, const unsigned char* block)
+void Step(State& state, const unsigned char* block, const std::array<std::uint32_t, 64>& sines)
 {
     std::array<std::uint32_t, 16> words{};
     for (std::size_t i = 0; i < 64; ++i)
@@ -47,7 +49,7 @@ void Step(State& state, const unsigned char* block)
             mix = c ^ (b | ~d);
             word = (7 * i) % 16;
         }
-        const std::uint32_t turned = b + std::rotl(a + mix + words[word] + Sines[i], Shifts[i / 16][i % 4]);
+        const std::uint32_t turned = b + std::rotl(a + mix + words[word] + sines[i], Shifts[i / 16][i % 4]);
         a = d;
         d = c;
         c = b;
@@ -61,7 +63,7 @@ void Step(State& state, const unsigned char* block)
 
 } // namespace
 
-std::array<std::uint8_t, 16> ReferenceMd5(std::string_view bytes)
+std::array<std::uint8_t, 16> Md5Of(std::string_view bytes)
 {
     std::string padded(bytes);
     padded += static_cast<char>(0x80);
@@ -72,8 +74,9 @@ std::array<std::uint8_t, 16> ReferenceMd5(std::string_view bytes)
         padded += static_cast<char>(bits >> (8 * i) & 0xFFU);
 
     State state{0x67452301, 0xEFCDAB89, 0x98BADCFE, 0x10325476};
+    const auto sines = MakeSines();
     for (std::size_t at = 0; at < padded.size(); at += 64)
-        Step(state, reinterpret_cast<const unsigned char*>(padded.data()) + at);
+        Step(state, reinterpret_cast<const unsigned char*>(padded.data()) + at, sines);
 
     std::array<std::uint8_t, 16> digest{};
     for (std::size_t i = 0; i < digest.size(); ++i)
