@@ -1,6 +1,7 @@
 #include "desk/LinesOfAllDays.h"
 
 #include "desk/LineMakers.h"
+#include "desk/TeamCheck.h"
 #include "league/Failure.h"
 #include "machine/Message.h"
 #include "rules/LineJudge.h"
@@ -112,16 +113,7 @@ std::vector<std::string> ReportOf(const RepairedDays& days)
 DayVerdicts LookAtAllDays(const Tables& league, const Formats& shown, int team, Side side, Tables& scratch)
 {
     scratch = league;
-    MuteVoice mute;
-    bool modified = false;
-    const Work look{scratch, mute, shown, modified};
-    DayVerdicts verdicts;
-    for (int day = 1; day <= LineDays; ++day) {
-        verdicts[static_cast<std::size_t>(day - 1)] = JudgeDay(look, team, side, day, false);
-        // Whom the judge takes out leaves the lines of all days, and lines are all that he changes.
-        scratch.Teams[team] = league.Teams[team];
-    }
-    return verdicts;
+    return LookAtDaysOn(league, shown, team, side, scratch);
 }
 
 RepairedDays RepairAllDays(const Work& work, int team, Side side)

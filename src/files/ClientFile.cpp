@@ -1,13 +1,10 @@
 #include "files/ClientFile.h"
 
-#include <string_view>
+#include "files/Magics.h"
 
 namespace dravik {
 
 namespace {
-
-constexpr std::string_view StartMagic = "DRVK Client Files Version 1.12 - Start";
-constexpr std::string_view EndMagic = "DRVK Client Files Version 1.12 - End";
 
 template <class Table>
 void ReadTable(SlotReader& slots, Table& table)
@@ -20,7 +17,7 @@ void ReadTable(SlotReader& slots, Table& table)
 // Whether both magics are right. After a wrong start magic nothing is read.
 bool ReadSlots(SlotReader& slots, Tables& league)
 {
-    if (!slots.ReadMagic(StartMagic))
+    if (!slots.ReadMagic(ClientFileStart))
         return false;
     slots.Read(league.LeagueData);
     ReadTable(slots, league.Prospects);
@@ -29,7 +26,7 @@ bool ReadSlots(SlotReader& slots, Tables& league)
     ReadTable(slots, league.Goalies);
     ReadTable(slots, league.Coaches);
     ReadTable(slots, league.GameSchedule);
-    return slots.ReadMagic(EndMagic);
+    return slots.ReadMagic(ClientFileEnd);
 }
 
 } // namespace

@@ -4,8 +4,15 @@
 #include "league/Tables.h"
 
 #include <string>
+#include <string_view>
 
 namespace dravik {
+
+// What is told of a client file whose magics are wrong, and of one whose stream does not fit its checksum: such a one gave
+// something all the same, and nobody can tell which records are wrong.
+inline constexpr std::string_view NotWholeWords = "File Integrity is incorrect!";
+inline constexpr std::string_view DamagedWords =
+    "This client file was damaged on its way, and some of it may be wrong. Get it anew.";
 
 // What became of the reading of a client file.
 struct ClientFileRead {

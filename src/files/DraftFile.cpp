@@ -1,5 +1,6 @@
 #include "files/DraftFile.h"
 
+#include "files/Magics.h"
 #include "files/ReplacedFile.h"
 #include "files/SlotFile.h"
 #include "files/TeamFilePath.h"
@@ -10,13 +11,10 @@ namespace dravik {
 
 namespace {
 
-constexpr std::string_view StartMagic = "DRVKFDFV1S";
-constexpr std::string_view EndMagic = "DRVKFDFV1E";
-constexpr std::size_t DraftSlot = MagicLength(StartMagic); // the longest record fills its slot
 constexpr std::int64_t RecordCount = 3 + (DraftRanking::last + 1) + 1;
-constexpr std::int64_t FileLength = SlotFileLength(RecordCount, MagicLength(EndMagic), DraftSlot);
+constexpr std::int64_t FileLength = SlotFileLength(RecordCount, MagicLength(DraftFileEnd), DraftSlotLength);
 
-static_assert(DraftSlot == 12 && RecordCount == 1005 && FileLength == 12060);
+static_assert(DraftSlotLength == 12 && RecordCount == 1005 && FileLength == 12060);
 
 // Whether somebody can have a number.
 bool IsAnId(long long id)
@@ -49,14 +47,14 @@ bool WriteDraftFile(const Tables& league, const FileAccess& access, int team, co
     DeleteIfExists(access.Disk, access.WorkFile);
     ReplacedFile old(access, target);
     const auto write = [&](SlotWriter& slots) {
-        slots.WriteMagic(StartMagic);
+        slots.WriteMagic(DraftFileStart);
         slots.Write(league.LeagueData.LeagueCode);
         slots.Write(Int16(team));
         for (const Int16& id : ranking)
             slots.Write(id);
-        slots.WriteMagic(EndMagic);
+        slots.WriteMagic(DraftFileEnd);
     };
-    if (!WriteSlotFile(SlotFilesOf(access), target, FileLength, write, DraftSlot, access.WorkFile))
+    if (!WriteSlotFile(SlotFilesOf(access), target, FileLength, write, DraftSlotLength, access.WorkFile))
         return false;
     old.Replaced();
     return true;
@@ -68,10 +66,10 @@ TeamFileRead ReadDraftFile(const Tables& league, const FileAccess& access, int t
     const auto takeBack = [&] { ranking = {}; };
     takeBack();
     const auto read = [&](SlotReader& slots) {
-        return ReadTeamFileHead(slots, StartMagic, league, team) && ReadRanks(slots, ranking) &&
-               slots.ReadMagic(EndMagic);
+        return ReadTeamFileHead(slots, DraftFileStart, league, team) && ReadRanks(slots, ranking) &&
+               slots.ReadMagic(DraftFileEnd);
     };
-    return ReadTeamFile(access, path, DraftSlot, read, takeBack);
+    return ReadTeamFile(access, path, DraftSlotLength, read, takeBack);
 }
 
 } // namespace dravik

@@ -1,5 +1,6 @@
 #include "files/LinesFile.h"
 
+#include "files/Magics.h"
 #include "files/ReplacedFile.h"
 #include "files/SlotFile.h"
 #include "files/TeamFilePath.h"
@@ -11,10 +12,8 @@ namespace dravik {
 
 namespace {
 
-constexpr std::string_view StartMagic = "DRVK Lineups Files Version 1.01 - Start";
-constexpr std::string_view EndMagic = "DRVK Lineups Files Version 1.01 - End";
 constexpr std::int64_t RecordCount = 4 + PlayerChangeTable::last + GoalieChangeTable::last + 1;
-constexpr std::int64_t FileLength = SlotFileLength(RecordCount, MagicLength(EndMagic));
+constexpr std::int64_t FileLength = SlotFileLength(RecordCount, MagicLength(LinesFileEnd));
 
 // The records of a file that are in it whole. It is read to its end before anything is taken over, so that a file that
 // cannot be read changes nothing.
@@ -40,13 +39,13 @@ long long ReadChanges(SlotReader& slots, Changes& changes)
 
 void ReadContent(SlotReader& slots, Content& content, const Tables& league, int team)
 {
-    content.HeadFits = ReadTeamFileHead(slots, StartMagic, league, team);
+    content.HeadFits = ReadTeamFileHead(slots, LinesFileStart, league, team);
     if (!content.HeadFits)
         return;
     content.HasTeam = slots.Read(content.Team);
     content.PlayerCount = ReadChanges(slots, content.Players);
     content.GoalieCount = ReadChanges(slots, content.Goalies);
-    content.EndFits = slots.ReadMagic(EndMagic);
+    content.EndFits = slots.ReadMagic(LinesFileEnd);
 }
 
 template <class Changes, class People>
@@ -86,7 +85,7 @@ bool WriteLinesFile(Tables& league, const FileAccess& access, int team, const st
     RefreshStatus(league.RosterChanges, league.Players);
     RefreshStatus(league.RosterChangesGoalie, league.Goalies);
     const auto write = [&](SlotWriter& slots) {
-        slots.WriteMagic(StartMagic);
+        slots.WriteMagic(LinesFileStart);
         slots.Write(league.LeagueData.LeagueCode);
         slots.Write(Int16(team));
         slots.Write(record);
@@ -94,7 +93,7 @@ bool WriteLinesFile(Tables& league, const FileAccess& access, int team, const st
             slots.Write(change);
         for (const RosterChange& change : league.RosterChangesGoalie)
             slots.Write(change);
-        slots.WriteMagic(EndMagic);
+        slots.WriteMagic(LinesFileEnd);
     };
     if (!WriteSlotFile(SlotFilesOf(access), target, FileLength, write, SlotLength, access.WorkFile))
         return false;

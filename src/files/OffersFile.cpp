@@ -1,5 +1,6 @@
 #include "files/OffersFile.h"
 
+#include "files/Magics.h"
 #include "files/ReplacedFile.h"
 #include "files/SlotFile.h"
 #include "files/TeamFilePath.h"
@@ -13,8 +14,6 @@ namespace dravik {
 
 namespace {
 
-constexpr std::string_view StartMagic = "DRVK Free Agents Files Version 1 - Start";
-constexpr std::size_t OfferSlot = sizeof(FreeAgentOffer);
 constexpr int FirstOffer = 4;     // record number
 constexpr int RecordLimit = 1000; // the first record number that is not given out
 
@@ -114,13 +113,13 @@ SavedOffers WriteOffersFile(const Tables& league, const FileAccess& access, cons
         return saved;
     }
     const auto write = [&](SlotWriter& slots) {
-        slots.WriteMagic(StartMagic);
+        slots.WriteMagic(OffersFileStart);
         slots.Write(league.LeagueData.LeagueCode);
         slots.Write(Int16(team));
         EachSaved(league.LeagueData, std::as_const(offers), [&](const FreeAgentOffer& offer) { slots.Write(offer); });
     };
-    const std::int64_t length = SlotFileLength(FirstOffer - 1 + tally.Count, OfferSlot, OfferSlot);
-    if (!WriteSlotFile(SlotFilesOf(access), target, length, write, OfferSlot, access.WorkFile)) {
+    const std::int64_t length = SlotFileLength(FirstOffer - 1 + tally.Count, OffersSlotLength, OffersSlotLength);
+    if (!WriteSlotFile(SlotFilesOf(access), target, length, write, OffersSlotLength, access.WorkFile)) {
         saved.Outcome = OffersFileWrite::NotCompressed;
         return saved;
     }
@@ -135,9 +134,9 @@ TeamFileRead ReadOffersFile(const Tables& league, const FileAccess& access, int 
     const auto takeBack = [&] { offers.clear(); };
     takeBack();
     const auto read = [&](SlotReader& slots) {
-        return ReadTeamFileHead(slots, StartMagic, league, team) && ReadOffers(slots, team, offers);
+        return ReadTeamFileHead(slots, OffersFileStart, league, team) && ReadOffers(slots, team, offers);
     };
-    return ReadTeamFile(access, path, OfferSlot, read, takeBack);
+    return ReadTeamFile(access, path, OffersSlotLength, read, takeBack);
 }
 
 } // namespace dravik

@@ -1,5 +1,7 @@
 #include "session/OpenLeagueClient.h"
 
+#include "desk/DraftCandidates.h"
+#include "desk/OpenMarkets.h"
 #include "desk/PrepareLeague.h"
 #include "files/ClientFile.h"
 #include "league/Failure.h"
@@ -8,7 +10,6 @@
 #include "machine/Reporting.h"
 #include "machine/SettingsFailure.h"
 #include "rules/StatRows.h"
-#include "rules/Waivers.h"
 #include "session/OpenHistory.h"
 #include "session/OpenJournal.h"
 #include "session/OpenMarket.h"
@@ -29,14 +30,12 @@ void TellCritical(std::string_view text)
 void SetMenus(MainWindow& window)
 {
     window.SetDraftMenu(false, "&Draft List");
-    if (!LeagueData.OffSeason) {
-        window.SetFreeAgentsMenu(!IsDeadlineInForce(LeagueData));
+    window.SetFreeAgentsMenu(IsOpenToOffers(LeagueData));
+    if (!IsOpenToDraft(LeagueData))
         return;
-    }
-    window.SetFreeAgentsMenu(true);
     if (LeagueData.FantasyDraft)
         window.SetDraftMenu(true, "Fantasy &Draft List");
-    if (LeagueData.EntryDraft && LeagueData.EntryDraftDone == 0)
+    if (IsEntryDraftAhead(LeagueData))
         window.SetDraftMenu(true, "Entry &Draft List");
 }
 
@@ -81,11 +80,9 @@ void ShowFileDate(MainWindow& window)
     }
 }
 
-// A stream that does not fit its checksum gave something all the same, and nobody can tell which records are wrong.
 void TellOfDamage(bool damaged, MainWindow& window)
 {
-    window.Tell(QuietLine::Damaged,
-                damaged ? "This client file was damaged on its way, and some of it may be wrong. Get it anew." : "");
+    window.Tell(QuietLine::Damaged, std::string(damaged ? DamagedWords : ""));
 }
 
 void ShowLeague(const std::string& path, bool damaged, MainWindow& window)
@@ -121,7 +118,7 @@ void OpenLeagueClient(const std::string& path, MainWindow& window)
         if (outcome.File == SlotFileRead::NotDecompressed)
             return; // told, and the wait screen stays
         if (!outcome.Whole) {
-            TellCritical("File Integrity is incorrect!");
+            TellCritical(NotWholeWords);
             EmptyLeagueTables(OpenLeague);
             return;
         }
