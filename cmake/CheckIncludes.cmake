@@ -10,6 +10,7 @@ set(makers_MAY_INCLUDE league machine rules makers)
 set(desk_MAY_INCLUDE league machine files rules makers desk)
 set(session_MAY_INCLUDE league machine files rules desk session)
 set(screens_MAY_INCLUDE league machine files rules makers desk session screens)
+set(terminal_MAY_INCLUDE league machine files rules makers desk terminal)
 set(WITH_TOOLKIT screens)
 
 set(wrong "")

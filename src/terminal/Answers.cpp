@@ -1,0 +1,155 @@
+#include "terminal/Answers.h"
+
+#include "league/Failure.h"
+#include "terminal/Machine.h"
+#include "terminal/Problem.h"
+
+#include <algorithm>
+#include <atomic>
+#include <chrono>
+#include <condition_variable>
+#include <iostream>
+#include <mutex>
+#include <new>
+#include <optional>
+#include <thread>
+#ifndef _WIN32
+#include <unistd.h>
+#endif
+
+namespace dravik::terminal {
+
+namespace {
+
+Answer FailedWith(const std::string& words)
+{
+    Answer answer;
+    answer.Notes.push_back(OnOneLine(words));
+    answer.Data["error"] = OnOneLine(words);
+    answer.Ending = ending::Failed;
+    return answer;
+}
+
+Answer AnswerFor(const std::string& file, const std::function<Answer(const std::string&)>& work)
+{
+    try {
+        return work(file);
+    } catch (const Problem& problem) {
+        return FailedWith(problem.what());
+    } catch (const Failure& failed) {
+        return FailedWith(failed.what());
+    } catch (const std::bad_alloc&) {
+        return FailedWith(Failure(failure::OutOfMemory).what());
+    } catch (const std::exception& failed) {
+        return FailedWith(failed.what());
+    }
+}
+
+// A bar at the foot of a terminal, for work above a second.
+class Bar {
+public:
+    explicit Bar(std::size_t all) : total(all) {}
+
+    void Show(std::size_t done)
+    {
+        constexpr std::size_t width = 30;
+        constexpr auto patience = std::chrono::seconds(1);
+        if (!isOnTerminal || std::chrono::steady_clock::now() - begin < patience)
+            return;
+        const std::size_t full = width * done / std::max<std::size_t>(total, 1);
+        std::cerr << "\r[" << std::string(full, '#') << std::string(width - full, ' ') << "] " << done << " of "
+                  << total << std::flush;
+        isShown = true;
+    }
+    void TakeAway()
+    {
+        constexpr const char* clearLine = "\r\x1B[K";
+        if (isShown)
+            std::cerr << clearLine << std::flush;
+        isShown = false;
+    }
+
+private:
+    std::size_t total;
+    std::chrono::steady_clock::time_point begin = std::chrono::steady_clock::now();
+    bool isShown = false;
+#ifdef _WIN32
+    bool isOnTerminal = false;
+#else
+    bool isOnTerminal = isatty(STDERR_FILENO) != 0;
+#endif
+};
+
+// The answers as they come, from whichever thread.
+class Row {
+public:
+    explicit Row(std::size_t count) : answers(count) {}
+
+    void Put(std::size_t place, Answer answer)
+    {
+        const std::lock_guard guard(mutex);
+        answers[place] = std::move(answer);
+        ++done;
+        changed.notify_all();
+    }
+    // The answer at a place, once it is there. Meanwhile the bar moves.
+    Answer Take(std::size_t place, Bar& bar)
+    {
+        constexpr auto step = std::chrono::milliseconds(200);
+        std::unique_lock guard(mutex);
+        while (!changed.wait_for(guard, step, [&] { return answers[place].has_value(); }))
+            bar.Show(done);
+        bar.TakeAway();
+        Answer answer = std::move(*answers[place]);
+        answers[place].reset();
+        return answer;
+    }
+
+private:
+    std::mutex mutex;
+    std::condition_variable changed;
+    std::vector<std::optional<Answer>> answers;
+    std::size_t done = 0;
+};
+
+} // namespace
+
+int AnswerEach(const std::vector<std::string>& files, const HowToAnswer& how,
+               const std::function<Answer(const std::string&)>& work)
+{
+    Row row(files.size());
+    std::atomic<std::size_t> next = 0;
+    const auto run = [&] {
+        for (std::size_t place = next++; place < files.size(); place = next++)
+            row.Put(place, AnswerFor(files[place], work));
+    };
+    std::vector<std::jthread> threads;
+    const std::size_t count = std::min(static_cast<std::size_t>(how.Threads), files.size());
+    for (std::size_t thread = 0; thread < count; ++thread)
+        threads.emplace_back(run);
+
+    Bar bar(files.size());
+    Json all = Json::array();
+    int worst = ending::Done;
+    for (std::size_t place = 0; place < files.size(); ++place) {
+        Answer answer = row.Take(place, bar);
+        worst = std::max(worst, answer.Ending);
+        if (how.AsJson) {
+            Json entry = {{"file", files[place]}};
+            entry.update(answer.Data);
+            all.push_back(std::move(entry));
+        } else {
+            std::cout << answer.Text << std::flush;
+        }
+        for (const std::string& note : answer.Notes)
+            std::cerr << "dravik: " << files[place] << ": " << note << std::endl;
+    }
+    if (how.AsJson) {
+        Json page = Json::object();
+        page[how.List] = std::move(all);
+        std::cout << page.dump(2, ' ', false, Json::error_handler_t::replace) << '\n' << std::flush;
+    }
+    return std::cout ? worst : ending::Failed;
+}
+
+} // namespace dravik::terminal

@@ -1,0 +1,12 @@
+#pragma once
+
+#include <optional>
+#include <string>
+
+namespace dravik::terminal {
+
+// Asks for a line on the terminal, without showing what is typed. None where standard input is no terminal, or at its end.
+// One question is asked at a time, whoever asks.
+std::optional<std::string> AskHidden(const std::string& prompt);
+
+} // namespace dravik::terminal

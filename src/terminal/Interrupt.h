@@ -1,0 +1,36 @@
+#pragma once
+
+#include <cstddef>
+#include <string>
+#ifndef _WIN32
+#include <termios.h>
+#endif
+
+// What an interruption (Ctrl+C, the end that another process asks for) must not leave behind.
+namespace dravik::terminal {
+
+// From here on an interruption ends the program as it always does, once what stands below is put in order.
+void PutInOrderAtInterrupt();
+
+// A name beside `target`, in the same folder, that no other process and no other thread uses: what a file is called until it is
+// whole. While this lives, an interruption removes the file of this name, or the empty folder.
+class WorkName {
+public:
+    explicit WorkName(const std::string& target);
+    WorkName(const WorkName&) = delete;
+    WorkName& operator=(const WorkName&) = delete;
+    ~WorkName();
+
+    [[nodiscard]] const std::string& Path() const { return path; }
+
+private:
+    std::string path;
+    std::size_t place;
+};
+
+#ifndef _WIN32
+// An interruption gives the terminal this state back.
+void RestoreTerminalAtInterrupt(const termios& state);
+#endif
+
+} // namespace dravik::terminal

@@ -1,0 +1,16 @@
+#pragma once
+
+#include <string>
+#include <string_view>
+
+// Texts on the edge of the terminal, which is UTF-8; inside they are in the single-byte code page (Windows-1252).
+namespace dravik::terminal {
+
+// `text` of the code page in UTF-8. A byte that the code page does not define becomes the control character of its number.
+std::string ToUtf8(std::string_view text);
+
+// `text` of a terminal or a file in the code page. A character that the code page lacks fails with 5, and so do bytes that are no
+// UTF-8.
+std::string FromUtf8(std::string_view text);
+
+} // namespace dravik::terminal

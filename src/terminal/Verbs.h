@@ -1,0 +1,32 @@
+#pragma once
+
+#include <CLI/CLI.hpp>
+
+namespace dravik::terminal {
+
+// What the program is asked to do: each verb is added to the command line, and says how it ended once it was called.
+struct Verb {
+    CLI::App* Command = nullptr;
+    std::function<int()> Run;
+};
+
+Verb AddCheck(CLI::App& program);
+
+// The options that several verbs have.
+struct CommonOptions {
+    std::vector<std::string> Leagues;
+    std::vector<std::string> Teams;
+    std::string PasswordFile;
+    bool AsJson = false;
+    int Threads = 1;
+};
+
+// The client files, one or more, and the threads for them.
+void AddLeagues(CLI::App& command, CommonOptions& options);
+// One client file.
+void AddLeague(CLI::App& command, std::string& league);
+void AddPasswords(CLI::App& command, std::string& file);
+void AddJson(CLI::App& command, bool& asJson);
+void AddThreads(CLI::App& command, int& threads);
+
+} // namespace dravik::terminal
