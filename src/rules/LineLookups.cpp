@@ -43,15 +43,19 @@ void EachSlotOf(const Tables& league, int team, int player, int day, Side side, 
             found(slot);
 }
 
+std::string TagOf(const LineSlot& slot)
+{
+    const Tag& tag = Tags[static_cast<std::size_t>(slot.Field)];
+    std::string text(tag.Prefix);
+    text += std::to_string(slot.Number);
+    text += tag.Suffix[static_cast<std::size_t>(slot.Place - 1)];
+    return text;
+}
+
 std::string TagsOf(const Tables& league, int team, int player, int day, Side side)
 {
     std::string text;
-    EachSlotOf(league, team, player, day, side, [&](const LineSlot& slot) {
-        const Tag& tag = Tags[static_cast<std::size_t>(slot.Field)];
-        text += tag.Prefix;
-        text += std::to_string(slot.Number);
-        text += tag.Suffix[static_cast<std::size_t>(slot.Place - 1)];
-    });
+    EachSlotOf(league, team, player, day, side, [&](const LineSlot& slot) { text += TagOf(slot); });
     return text;
 }
 
@@ -82,6 +86,14 @@ int PlayOnLineInteger(const Tables& league, int team, int player, int day)
 int PlayOnLineIntegerFarm(const Tables& league, int team, int player, int day)
 {
     return CountOf(league, team, player, day, Side::Farm);
+}
+
+std::string SlotTag(const LineSlot& slot)
+{
+    constexpr std::size_t separator = 2; // behind every tag
+    std::string tag = TagOf(slot);
+    tag.resize(tag.size() - separator);
+    return tag;
 }
 
 } // namespace dravik

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "league/Tables.h"
+#include "rules/LineSlots.h"
 
 #include <string>
 
@@ -12,5 +13,8 @@ std::string PlayOnLineString(const Tables& league, int team, int player, int day
 std::string PlayOnLineStringFarm(const Tables& league, int team, int player, int day);
 int PlayOnLineInteger(const Tables& league, int team, int player, int day);
 int PlayOnLineIntegerFarm(const Tables& league, int team, int player, int day);
+
+// The tag of one slot, "L-1C", as it stands among them. The two places of a pair have the same.
+std::string SlotTag(const LineSlot& slot);
 
 } // namespace dravik

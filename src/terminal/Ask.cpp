@@ -12,13 +12,16 @@
 namespace dravik::terminal {
 
 #ifdef _WIN32
+bool IsAtTerminal() { return false; }
 std::optional<std::string> AskHidden(const std::string& /*prompt*/) { return std::nullopt; }
 #else
+bool IsAtTerminal() { return isatty(STDIN_FILENO) != 0; }
+
 std::optional<std::string> AskHidden(const std::string& prompt)
 {
     static std::mutex one;
     const std::lock_guard guard(one);
-    if (isatty(STDIN_FILENO) == 0)
+    if (!IsAtTerminal())
         return std::nullopt;
     termios before{};
     if (tcgetattr(STDIN_FILENO, &before) != 0)

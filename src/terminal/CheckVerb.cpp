@@ -269,10 +269,7 @@ Verb AddCheck(CLI::App& program)
     CLI::App* command =
         program.add_subcommand("check", "Judge rosters, payrolls and the lines of all ten days, pro and farm");
     AddLeagues(*command, *options);
-    command->add_option("--team", options->Teams, "a team, by number, name or abbreviation; without it all of them")
-        ->type_name("N|NAME")
-        ->take_all()
-        ->expected(1);
+    AddTeams(*command, *options);
     command
         ->add_option("--lines", options->Lines,
                      "a lines file to take in before; without --team its team alone is checked")

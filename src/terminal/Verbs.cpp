@@ -17,6 +17,14 @@ void AddLeagues(CLI::App& command, CommonOptions& options)
     AddThreads(command, options.Threads);
 }
 
+void AddTeams(CLI::App& command, CommonOptions& options)
+{
+    command.add_option("--team", options.Teams, "a team, by number, name or abbreviation; without it all of them")
+        ->type_name("N|NAME")
+        ->take_all()
+        ->expected(1);
+}
+
 void AddLeague(CLI::App& command, std::string& league)
 {
     command.add_option("LEAGUE.dvs", league, "client file of the simulator")->required()->type_name("");

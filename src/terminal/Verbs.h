@@ -11,6 +11,7 @@ struct Verb {
 };
 
 Verb AddCheck(CLI::App& program);
+Verb AddShow(CLI::App& program);
 
 // The options that several verbs have.
 struct CommonOptions {
@@ -23,6 +24,8 @@ struct CommonOptions {
 
 // The client files, one or more, and the threads for them.
 void AddLeagues(CLI::App& command, CommonOptions& options);
+// Teams by number, name or abbreviation; without them all.
+void AddTeams(CLI::App& command, CommonOptions& options);
 // One client file.
 void AddLeague(CLI::App& command, std::string& league);
 void AddPasswords(CLI::App& command, std::string& file);
