@@ -3,6 +3,7 @@
 #include "files/ClientFile.h"
 #include "files/LinesFile.h"
 #include "files/TeamFileRead.h"
+#include "files/VerifyFile.h"
 #include "league/Failure.h"
 #include "terminal/Answers.h"
 #include "terminal/LeagueAtHand.h"

@@ -2,6 +2,7 @@
 
 #include "desk/PrepareLeague.h"
 #include "files/ClientFile.h"
+#include "files/VerifyFile.h"
 #include "league/Failure.h"
 #include "league/LetterCase.h"
 #include "terminal/Problem.h"
@@ -58,18 +59,6 @@ int TeamNamed(const Tables& league, const std::string& wanted)
 
 std::string LeagueAtHand::Name() const { return ToUtf8(League->LeagueData.Name.Trimmed()); }
 std::string LeagueAtHand::NameOf(int team) const { return ToUtf8(League->Teams[team].Name.Trimmed()); }
-
-bool IsPlainFile(Disk& disk, const std::string& path)
-{
-    // Bytes 2 to 5 of a plain file begin its magic; in a wrapper bytes 4 and 5 are the head of a zlib stream.
-    constexpr std::string_view word = "DRVK";
-    std::array<char, 6> head{};
-    const auto file = disk.OpenFile(path);
-    std::size_t length = 0;
-    for (std::size_t came = 1; came > 0 && length < head.size(); length += came)
-        came = file->Read(head.data() + length, head.size() - length);
-    return std::string_view(head.data() + 2, word.size()) == word;
-}
 
 LeagueAtHand OpenLeague(const std::string& path)
 {

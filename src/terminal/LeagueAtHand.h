@@ -29,7 +29,4 @@ LeagueAtHand OpenLeague(const std::string& path);
 // it names none. What names no team, and what names several, is a Problem.
 std::vector<int> TeamsNamed(const Tables& league, const std::vector<std::string>& wanted);
 
-// Whether the file begins as a plain slot file does. Fails as the disk does.
-bool IsPlainFile(Disk& disk, const std::string& path);
-
 } // namespace dravik::terminal

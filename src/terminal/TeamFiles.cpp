@@ -1,6 +1,7 @@
 #include "terminal/TeamFiles.h"
 
 #include "files/Magics.h"
+#include "files/VerifyFile.h"
 #include "league/Failure.h"
 #include "terminal/Problem.h"
 

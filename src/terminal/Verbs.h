@@ -12,6 +12,7 @@ struct Verb {
 
 Verb AddCheck(CLI::App& program);
 Verb AddShow(CLI::App& program);
+Verb AddVerify(CLI::App& program);
 
 // The options that several verbs have.
 struct CommonOptions {
