@@ -23,10 +23,10 @@ void BehindWait(Platform& machine, const std::function<void()>& endWait, Body&& 
     }
 }
 
-} // namespace
-
-void SaveLines(const Work& work, const FileAccess& files, Platform& machine, int team,
-               const std::function<void()>& endWait, const std::function<void(const std::string& path)>& saved)
+// `where` names the target once all is well up to there.
+void Save(const Work& work, const FileAccess& files, Platform& machine, int team,
+          const std::function<std::string()>& where, const std::function<void()>& endWait,
+          const std::function<void(const std::string& path)>& saved)
 {
     if (!JudgeDay(work, team, Side::Pro, 1, false)) {
         work.Says.ShowBox("Lines #1 are incomplete!" + std::string(LineBreak) +
@@ -37,7 +37,7 @@ void SaveLines(const Work& work, const FileAccess& files, Platform& machine, int
     if (!CheckPassword(work.League, machine, team))
         return;
     BehindWait(machine, endWait, [&] {
-        const std::string target = LinesFilePath(work.League, files.Disk, team);
+        const std::string target = where();
         if (!WriteLinesFile(work.League, files, team, target))
             return; // told, and the wait screen stays
         saved(target);
@@ -46,6 +46,22 @@ void SaveLines(const Work& work, const FileAccess& files, Platform& machine, int
                               std::string(LineBreak) + target,
                           box::Information);
     });
+}
+
+} // namespace
+
+void SaveLines(const Work& work, const FileAccess& files, Platform& machine, int team,
+               const std::function<void()>& endWait, const std::function<void(const std::string& path)>& saved)
+{
+    Save(
+        work, files, machine, team, [&] { return LinesFilePath(work.League, files.Disk, team); }, endWait, saved);
+}
+
+void SaveLinesAs(const Work& work, const FileAccess& files, Platform& machine, int team, const std::string& target,
+                 const std::function<void()>& endWait, const std::function<void(const std::string& path)>& saved)
+{
+    Save(
+        work, files, machine, team, [&] { return target; }, endWait, saved);
 }
 
 void LoadLines(const Work& work, const FileAccess& files, Platform& machine, int team, const std::string& path,

@@ -18,6 +18,12 @@ void SaveLines(
     const Work& work, const FileAccess& files, Platform& machine, int team, const std::function<void()>& endWait,
     const std::function<void(const std::string& path)>& saved = [](const std::string& /*path*/) {});
 
+// The same, to `target` in the place of that path.
+void SaveLinesAs(
+    const Work& work, const FileAccess& files, Platform& machine, int team, const std::string& target,
+    const std::function<void()>& endWait,
+    const std::function<void(const std::string& path)>& saved = [](const std::string& /*path*/) {});
+
 // Loads the lines file `path` over `team` (1..100), as ReadLinesFile does, shows the team anew by `showAnew` where it was taken
 // over, and tells what became of it. The wait screen goes as above.
 void LoadLines(const Work& work, const FileAccess& files, Platform& machine, int team, const std::string& path,

@@ -165,7 +165,12 @@ std::string OfferInShort(const Tables& league, const Formats& shown, const Offer
 
 std::optional<std::string> SaveOffers(const Work& work, const FileAccess& files, int team, OfferTable& offers)
 {
-    const std::string target = OffersFilePath(work.League, files.Disk, team);
+    return SaveOffersAs(work, files, team, OffersFilePath(work.League, files.Disk, team), offers);
+}
+
+std::optional<std::string> SaveOffersAs(const Work& work, const FileAccess& files, int team, const std::string& target,
+                                        OfferTable& offers)
+{
     const SavedOffers saved = WriteOffersFile(work.League, files, work.Shown, team, target, offers);
     switch (saved.Outcome) {
     case OffersFileWrite::NotCompressed:

@@ -53,6 +53,10 @@ std::string OfferInShort(const Tables& league, const Formats& shown, const Offer
 // the file could not be compressed, which is told. Fails as the disk does.
 std::optional<std::string> SaveOffers(const Work& work, const FileAccess& files, int team, OfferTable& offers);
 
+// The same, to `target` in the place of that path.
+std::optional<std::string> SaveOffersAs(const Work& work, const FileAccess& files, int team, const std::string& target,
+                                        OfferTable& offers);
+
 // Every offer that says something, complete or not, in order of the ids.
 std::vector<FreeAgentOffer> WrittenOffers(const OfferTable& offers);
 

@@ -91,7 +91,13 @@ bool MaySaveRanking(const Work& work, int count)
 std::optional<std::string> SaveRanking(const Tables& league, const FileAccess& files, int team,
                                        const DraftRanking& ranking, const std::string& type)
 {
-    const std::string target = DraftFilePath(league, files.Disk, team);
+    return SaveRankingAs(league, files, team, DraftFilePath(league, files.Disk, team), ranking, type);
+}
+
+std::optional<std::string> SaveRankingAs(const Tables& league, const FileAccess& files, int team,
+                                         const std::string& target, const DraftRanking& ranking,
+                                         const std::string& type)
+{
     if (!WriteDraftFile(league, files, team, ranking, target))
         return std::nullopt;
     return type + " File save for " + league.Teams[team].Name.Trimmed() + " succesfully at" + std::string(LineBreak) +

@@ -45,6 +45,11 @@ bool MaySaveRanking(const Work& work, int count);
 std::optional<std::string> SaveRanking(const Tables& league, const FileAccess& files, int team,
                                        const DraftRanking& ranking, const std::string& type);
 
+// The same, to `target` in the place of that path.
+std::optional<std::string> SaveRankingAs(const Tables& league, const FileAccess& files, int team,
+                                         const std::string& target, const DraftRanking& ranking,
+                                         const std::string& type);
+
 // Puts the people of `from`, best first, in the place of all who are ranked. Whoever can no longer be drafted, and whoever stands
 // there a second time, is left out; the first are told.
 TakenIn TakeInRanking(const Tables& league, DraftRanking& ranking, const DraftRanking& from);

@@ -64,7 +64,9 @@ void PutInOrderAtInterrupt()
 #endif
 }
 
-WorkName::WorkName(const std::string& target) : path(target + "." + Number() + ".part"), place(0)
+WorkName::WorkName(const std::string& target) : WorkName(target + "." + Number() + ".part", AsItIs) {}
+
+WorkName::WorkName(const std::string& name, Unchanged /*asItIs*/) : path(name), place(0)
 {
     while (place < Places.size() && Places[place].IsTaken.exchange(true))
         ++place;

@@ -17,6 +17,10 @@ void PutInOrderAtInterrupt();
 class WorkName {
 public:
     explicit WorkName(const std::string& target);
+    // The name `path` itself, within a folder that has such a name.
+    struct Unchanged {};
+    static constexpr Unchanged AsItIs{};
+    WorkName(const std::string& path, Unchanged asItIs);
     WorkName(const WorkName&) = delete;
     WorkName& operator=(const WorkName&) = delete;
     ~WorkName();

@@ -83,8 +83,9 @@ Proof Prove(const Tables& league, Machine& machine, int team, const Passwords& k
     return Proof::Wrong;
 }
 
-void Demand(const Tables& league, Machine& machine, int team, const Passwords& known)
+std::string Demand(const Tables& league, Machine& machine, int team, const Passwords& known)
 {
+    Passwords tried = known;
     const std::string name = std::to_string(team) + " " + ToUtf8(league.Teams[team].Name.Trimmed());
     Proof proof = Prove(league, machine, team, known);
     if (proof == Proof::Unknown) {
@@ -92,10 +93,20 @@ void Demand(const Tables& league, Machine& machine, int team, const Passwords& k
             AskHidden("Password of " + name + " (" + ToUtf8(league.LeagueData.Name.Trimmed()) + "): ");
         if (!typed)
             throw Problem("team " + name + ": Password Required!");
-        proof = Prove(league, machine, team, {{team, {InCodePage(*typed)}}});
+        tried = {{team, {InCodePage(*typed)}}};
+        proof = Prove(league, machine, team, tried);
     }
     if (proof != Proof::Proven)
         throw Problem("team " + name + ": Password is incorrect!");
+    for (const std::string& password : tried[team]) {
+        machine.Answer(password);
+        const bool fits = CheckPassword(league, machine, team);
+        machine.Answer({});
+        (void)machine.TakeTold();
+        if (fits)
+            return password;
+    }
+    return {};
 }
 
 } // namespace dravik::terminal

@@ -26,8 +26,8 @@ enum class Proof {
 // Proves the password of `team` (1..100) by the same call as the windows, with what `known` holds of it.
 Proof Prove(const Tables& league, Machine& machine, int team, const Passwords& known);
 
-// The same for a team that was asked for by name. Where no password is known and a terminal is at hand, it asks there, without
+// The same for a team that was asked for by name; the password that proves it, for a call that asks once more. Where no password is known and a terminal is at hand, it asks there, without
 // showing what is typed. What is not proven is a Problem.
-void Demand(const Tables& league, Machine& machine, int team, const Passwords& known);
+std::string Demand(const Tables& league, Machine& machine, int team, const Passwords& known);
 
 } // namespace dravik::terminal

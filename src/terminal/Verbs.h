@@ -13,6 +13,8 @@ struct Verb {
 Verb AddCheck(CLI::App& program);
 Verb AddShow(CLI::App& program);
 Verb AddVerify(CLI::App& program);
+Verb AddMake(CLI::App& program);
+Verb AddExport(CLI::App& program);
 
 // The options that several verbs have.
 struct CommonOptions {
