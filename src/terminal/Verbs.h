@@ -15,6 +15,8 @@ Verb AddShow(CLI::App& program);
 Verb AddVerify(CLI::App& program);
 Verb AddMake(CLI::App& program);
 Verb AddExport(CLI::App& program);
+Verb AddOffers(CLI::App& program);
+Verb AddDraft(CLI::App& program);
 
 // The options that several verbs have.
 struct CommonOptions {

@@ -1,0 +1,57 @@
+#include "terminal/CsvFile.h"
+
+#include "league/Failure.h"
+#include "terminal/Problem.h"
+#include "terminal/Table.h"
+#include "terminal/Utf8.h"
+
+#include <algorithm>
+#include <charconv>
+#include <fstream>
+#include <iterator>
+
+namespace dravik::terminal {
+
+CsvFile::CsvFile(const std::string& path, const std::vector<std::string>& needed) : name(path)
+{
+    std::ifstream file(path, std::ios::binary);
+    std::string text((std::istreambuf_iterator<char>(file)), {});
+    if (!file.is_open() || file.bad())
+        throw Problem(path + ": cannot be read");
+    constexpr const char* byteOrderMark = "\xEF\xBB\xBF"; // spreadsheets put one in front
+    if (text.rfind(byteOrderMark, 0) == 0)
+        text.erase(0, 3);
+    try {
+        rows = ReadCsv(FromUtf8(text));
+    } catch (const Failure&) {
+        throw Problem(path + ": holds a character that no file of the system can hold, or a quote that does not end");
+    }
+    if (!rows.empty()) {
+        columns = rows.front();
+        rows.erase(rows.begin());
+    }
+    for (const std::string& column : needed)
+        if (std::find(columns.begin(), columns.end(), column) == columns.end())
+            throw Problem(path + ": has no column \"" + column + "\" in its first row");
+}
+
+std::string CsvFile::Cell(std::size_t row, const std::string& column) const
+{
+    const auto at = static_cast<std::size_t>(std::find(columns.begin(), columns.end(), column) - columns.begin());
+    return at < rows.at(row).size() ? rows[row][at] : std::string();
+}
+
+int CsvFile::Number(std::size_t row, const std::string& column, int least, int most) const
+{
+    const std::string text = Cell(row, column);
+    int number = 0;
+    const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), number);
+    if (error != std::errc() || end != text.data() + text.size() || number < least || number > most)
+        throw Problem(Place(row) + ": the " + column + " \"" + ToUtf8(text) + "\" is no number from " +
+                      std::to_string(least) + " to " + std::to_string(most));
+    return number;
+}
+
+std::string CsvFile::Place(std::size_t row) const { return name + ", row " + std::to_string(row + 2); }
+
+} // namespace dravik::terminal

@@ -1,0 +1,103 @@
+#include "desk/DraftCandidates.h"
+#include "desk/OpenMarkets.h"
+#include "desk/Ranking.h"
+#include "files/VerifyFile.h"
+#include "terminal/Answers.h"
+#include "terminal/CsvFile.h"
+#include "terminal/Interrupt.h"
+#include "terminal/LeagueAtHand.h"
+#include "terminal/MarketOptions.h"
+#include "terminal/Passwords.h"
+#include "terminal/Problem.h"
+#include "terminal/Table.h"
+#include "terminal/Utf8.h"
+
+#include <memory>
+
+// `dravik draft`: the ranking for a draft, from a table and to one.
+namespace dravik::terminal {
+
+namespace {
+
+Answer ReadRanking(LeagueAtHand& league, int team, const std::string& path)
+{
+    Machine& machine = *league.Machine;
+    const auto ranking = std::make_unique<DraftRanking>();
+    machine.UsePlainFiles(IsPlainFile(machine, path));
+    if (ReadDraftFile(*league.League, machine.Files(), team, path, *ranking) != TeamFileRead::Loaded)
+        throw Problem(path + ": this is no draft file of this league and this team, or it is damaged");
+    Table table({"rank", "id", "name"});
+    int rank = 0;
+    for (const long long id : *ranking)
+        if (id != 0)
+            table.Add({++rank, static_cast<int>(id), ToUtf8(NameOfNumber(*league.League, static_cast<int>(id)))});
+    Answer answer;
+    answer.Text = table.Csv();
+    answer.Data = {{"team", team}, {"name", league.NameOf(team)}, {"ranking", table.Data()}};
+    return answer;
+}
+
+Answer WriteRanking(LeagueAtHand& league, int team, const MarketOptions& options)
+{
+    constexpr int lastProspect = ProspectOffset + ProspectTable::last;
+    if (!IsOpenToDraft(league.League->LeagueData))
+        throw Problem("no draft is ahead");
+    const CsvFile table(options.Csv, {"id"});
+    const auto wanted = std::make_unique<DraftRanking>();
+    for (std::size_t row = 0; row < table.Count(); ++row) {
+        if (!DraftRanking::Has(static_cast<long long>(row)))
+            throw Problem(table.Place(row) + ": nobody more can be ranked");
+        (*wanted)[static_cast<long long>(row)] = table.Number(row, "id", 1, lastProspect);
+    }
+    const auto ranking = std::make_unique<DraftRanking>();
+    const TakenIn taken = TakeInRanking(*league.League, *ranking, *wanted);
+    Answer answer;
+    for (const std::string& words : taken.Told)
+        answer.Notes.push_back(ToUtf8(words));
+    const auto isLeftOut = static_cast<std::size_t>(taken.Count) < table.Count();
+    bool isSaved = false;
+    if (MaySaveRanking(league.AtWork(), taken.Count)) {
+        const WorkName name(options.Out);
+        const auto report = SaveRankingAs(*league.League, league.Machine->Files(name.Path()), team, options.Out,
+                                          *ranking, DraftTypeOf(league.League->LeagueData));
+        isSaved = report.has_value();
+        if (report)
+            answer.Text = OnOneLine(ToUtf8(*report)) + "\n";
+    }
+    for (const std::string& words : league.Machine->TakeTold())
+        answer.Notes.push_back(ToUtf8(words));
+    answer.Data = {{"team", team},     {"name", league.NameOf(team)}, {"out", options.Out},
+                   {"saved", isSaved}, {"ranked", taken.Count},       {"told", answer.Notes}};
+    answer.Ending = !isSaved ? ending::Failed : isLeftOut ? ending::Findings : ending::Done;
+    return answer;
+}
+
+} // namespace
+
+Verb AddDraft(CLI::App& program)
+{
+    const auto options = std::make_shared<MarketOptions>();
+    CLI::App* command =
+        program.add_subcommand("draft", "Show a team's draft file as a table, or write one from a table");
+    AddMarket(*command, *options, ".dvd");
+    command->footer(
+        "The table has a row a person, best first, with the column id: a skater's number, a goalie's + 10000, a\n"
+        "prospect's + 20000. Whoever cannot be drafted, and whoever stands there a second time, is left out.\n"
+        "Ends with 0, 1 when somebody was left out, 2 when nothing was written.\n\n"
+        "Examples:\n"
+        "  dravik draft League.dvs --team 7 --csv ranking.csv --out Gulls.dvd\n"
+        "  dravik draft League.dvs --team 7 --read Gulls.dvd > ranking.csv");
+    return {command, [options] {
+                const Passwords known = ReadPasswords(options->PasswordFile);
+                return AnswerEach({options->League}, {.AsJson = options->AsJson, .List = "leagues"},
+                                  [&](const std::string& path) {
+                                      LeagueAtHand league = OpenLeague(path);
+                                      const int team = TeamsNamed(*league.League, {options->Team}).front();
+                                      Demand(*league.League, *league.Machine, team, known);
+                                      return options->Csv.empty() ? ReadRanking(league, team, options->Read)
+                                                                  : WriteRanking(league, team, *options);
+                                  });
+            }};
+}
+
+} // namespace dravik::terminal
