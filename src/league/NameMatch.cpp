@@ -1,5 +1,7 @@
 #include "league/NameMatch.h"
 
+#include "league/Trimming.h"
+
 #include <array>
 
 namespace dravik {
@@ -92,17 +94,25 @@ std::optional<std::size_t> LengthFrom(std::string_view name, std::size_t first, 
     return std::nullopt;
 }
 
+// `text` byte by byte as it is read.
+std::string ReadPlainly(std::string_view text)
+{
+    std::string plain;
+    plain.reserve(text.size());
+    for (const char byte : text) {
+        const PlainLetters letters = PlainOf(byte);
+        plain += letters.First;
+        if (letters.Second != 0)
+            plain += letters.Second;
+    }
+    return plain;
+}
+
 } // namespace
 
-NameMatch::NameMatch(std::string_view typed)
-{
-    for (const char byte : typed) {
-        const PlainLetters letters = PlainOf(byte);
-        sought += letters.First;
-        if (letters.Second != 0)
-            sought += letters.Second;
-    }
-}
+NameMatch::NameMatch(std::string_view typed) : sought(ReadPlainly(typed)) {}
+
+std::string PlainLettersOf(std::string_view name) { return WithoutOuterBlanks(ReadPlainly(name)); }
 
 std::optional<NamePart> NameMatch::In(std::string_view name) const
 {

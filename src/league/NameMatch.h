@@ -31,4 +31,8 @@ private:
     std::string sought; // in plain letters
 };
 
+// A name in the letters that names are compared by, so that names stand in the order of the alphabet: small, without accents, a
+// letter that is two in one as both, blanks at its ends left out.
+std::string PlainLettersOf(std::string_view name);
+
 } // namespace dravik
