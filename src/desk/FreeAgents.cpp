@@ -68,6 +68,12 @@ std::optional<PersonId> FreeAgentOf(const Tables& league, int id)
     return who;
 }
 
+bool MayBeAsked(const Tables& league, int team, PersonId who)
+{
+    const auto isOut = [&league](const auto& person) { return CanBeMadeAnOffer(league.LeagueData, person); };
+    return who.HasSlot() && who.Slot != 0 && OnPerson(league, who, isOut) && !IsBarred(league, team, who);
+}
+
 bool IsRestricted(const Tables& league, PersonId who)
 {
     return OnPerson(league, who, [&league](const auto& person) { return IsYoungOfATeam(league.LeagueData, person); });

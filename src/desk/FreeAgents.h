@@ -31,6 +31,10 @@ void EachFreeAgent(const Tables& league, const OfferTable& offers, const FreeAge
 // behind the last goalie but one, who can be listed and not be shown. A number below 0 fails with 9.
 std::optional<PersonId> FreeAgentOf(const Tables& league, int id);
 
+// Whether `team` may make somebody an offer: his contract is out, or he belongs to nobody where the league lets such people be
+// asked, and he is not so young that only his own team may sign him. Nobody can be asked outside the tables.
+bool MayBeAsked(const Tables& league, int team, PersonId who);
+
 // Whether a person of a team is too young to be unrestricted: RFA, not UFA.
 bool IsRestricted(const Tables& league, PersonId who);
 
