@@ -1,6 +1,7 @@
 #include "screens/panels/TypeAhead.h"
 
 #include "screens/panels/EntryName.h"
+#include "screens/panels/TypedName.h"
 #include "screens/panels/TypedTag.h"
 #include "screens/platform/CodePage.h"
 
@@ -14,15 +15,7 @@ namespace dravik {
 
 namespace {
 
-// A letter that only the desktop knows comes without its accents, too.
-NameMatch MatchOf(const QString& typed)
-{
-    QString plain;
-    for (const QChar letter : typed.normalized(QString::NormalizationForm_D))
-        if (!letter.isMark())
-            plain += letter;
-    return NameMatch(FromQString(plain));
-}
+NameMatch MatchOf(const QString& typed) { return NameMatch(TypedName(typed)); }
 
 std::optional<NamePart> PartOf(const QString& text, const NameMatch& match)
 {
