@@ -91,6 +91,10 @@ Screen::Screen(Stage& stage, const QString& name) : Owner(stage)
             keySheet = new KeySheet(objectName(), this);
         keySheet->Open();
     });
+    connect(new QShortcut(QKeySequence("Ctrl+T"), this), &QShortcut::activated, this, [this] {
+        if (SettleFocus())
+            RunEvent("frmSquad", [this] { Owner.ShowSquad(*this); });
+    });
 }
 
 void Screen::CentreOnScreen()
@@ -237,7 +241,10 @@ QString Screen::WordsOfChange(const QWidget& box) const
 
 void Screen::RunStep(const QString& words, const std::function<void()>& change, quint64 drag)
 {
-    const auto showHistory = qScopeGuard([this] { ShowHistory(); });
+    const auto showHistory = qScopeGuard([this] {
+        ShowHistory();
+        Owner.ShowSquadAnew();
+    });
     const OpenStep step = OpenHistory().Open({.Words = FromQString(words),
                                               .Where = std::string(Owner.NameOf(*this)),
                                               .Team = static_cast<int>(CurrentTeam),

@@ -11,6 +11,7 @@
 #include "screens/player/frmEditPlayer.h"
 #include "screens/player/frmProspect.h"
 #include "screens/roster/frmRoster.h"
+#include "screens/squad/frmSquad.h"
 #include "screens/team/frmTeam.h"
 #include "screens/team/frmTicket.h"
 #include "session/Session.h"
@@ -63,21 +64,6 @@ const Role* RoleOf(Window window)
     const auto* found =
         std::find_if(std::begin(Roles), std::end(Roles), [window](const Role& role) { return role.Opens == window; });
     return found == std::end(Roles) ? nullptr : found;
-}
-
-// Whom the player viewer returns to, by `ViewerReturnMode`.
-Window ViewerOpener()
-{
-    switch (static_cast<int>(ViewerReturnMode)) {
-    case return_mode::Roster:
-        return Window::Roster;
-    case return_mode::Offers:
-        return Window::FreeAgent;
-    case return_mode::Draft:
-        return Window::Draft;
-    default:
-        return Window::Main;
-    }
 }
 
 } // namespace
@@ -158,6 +144,7 @@ void Stage::ShowAnew()
     }
     Machine().MessagesAllowed = messagesWereAllowed;
     Modified = wasModified;
+    ShowSquadAnew();
 }
 
 void Stage::PlaceTeam()
@@ -172,9 +159,28 @@ void Stage::EnableSaveToFile()
         team->EnableSaveToFile();
 }
 
+// Whom the player viewer returns to, by `ViewerReturnMode`, unless the squad table showed it.
+Window Stage::BehindViewer() const
+{
+    if (lookedFrom)
+        return lookedFrom->At;
+    switch (static_cast<int>(ViewerReturnMode)) {
+    case return_mode::Roster:
+        return Window::Roster;
+    case return_mode::Offers:
+        return Window::FreeAgent;
+    case return_mode::Draft:
+        return Window::Draft;
+    default:
+        return Window::Main;
+    }
+}
+
 void Stage::ViewerClosed(bool changed)
 {
-    if (Screen* opener = Find(ViewerOpener()))
+    if (lookedFrom)
+        SelectPerson(lookedFrom->Chosen);
+    if (Screen* opener = Find(BehindViewer()))
         opener->ViewerClosed(changed);
 }
 
@@ -193,6 +199,7 @@ void Stage::Closed(Screen& screen)
         ended = true;
         for (const auto& [window, other] : screens)
             other->hide();
+        squad.reset();
         QCoreApplication::exit(0);
         return;
     }
@@ -217,6 +224,7 @@ void Stage::Show(Screen& screen)
     screen.activateWindow();
     RunEvent("Form_Activate", [&screen] { screen.FormActivate(); });
     screen.ShowHistory();
+    ShowSquadAnew();
 }
 
 void Stage::ShowBehind(Window closed)
@@ -237,7 +245,9 @@ void Stage::ShowBehind(Window closed)
             Machine().ShowIntegrityFailure();
         break;
     case Behind::Viewer:
-        ShowReturningTo(ViewerOpener());
+        ShowReturningTo(BehindViewer());
+        lookedFrom.reset();
+        ShowSquadAnew();
         break;
     }
 }

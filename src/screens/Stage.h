@@ -1,10 +1,12 @@
 #pragma once
 
+#include "league/PersonId.h"
 #include "screens/Window.h"
 
 #include <functional>
 #include <map>
 #include <memory>
+#include <optional>
 #include <QPointer>
 #include <string_view>
 #include <vector>
@@ -12,6 +14,7 @@
 namespace dravik {
 
 class frmMain;
+class frmSquad;
 class frmTeam;
 class Screen;
 
@@ -54,6 +57,27 @@ public:
     // Tells the screen that the player viewer returns to that the viewer closes, and whether it changed something.
     void ViewerClosed(bool changed);
 
+    // The squad table stands beside the screen in front. Shows it, and goes back from it; none is made before it is asked for.
+    void ShowSquad(const Screen& asking);
+    void BackFromSquad();
+    // Has it show the tables once more, if it is seen.
+    void ShowSquadAnew();
+    [[nodiscard]] frmSquad* Squad() const { return squad.get(); }
+
+    // What it can do on the screen in front. The team whose screens are open behind its password, 0 without one:
+    [[nodiscard]] int ProvedTeam() const;
+    // what its command is called there, nothing where there is none; whether that screen lists somebody, by his common number (a
+    // prospect's slot + 20000);
+    [[nodiscard]] std::string_view PickCaption() const;
+    [[nodiscard]] bool Lists(int commonId) const;
+    // chooses him in that list as a press on him does, and on a lines screen puts him into the slot that has the focus, if one
+    // has; or shows the record of a skater or goalie, from which one comes back to where one was, whoever was chosen there.
+    void Pick(int commonId);
+    void ShowRecord(PersonId who);
+    // Whether a record that the viewer shows may show its flags, which are a team's decisions: not where the squad table showed it,
+    // unless it is of the team whose screens are open.
+    [[nodiscard]] bool ShowsFlagsOf(PersonId who) const;
+
     // For the screens themselves: whether one is being loaded, and what happens when one has closed.
     [[nodiscard]] bool IsLoading(const Screen& screen) const { return loading == &screen; }
     void Closed(Screen& screen);
@@ -69,6 +93,19 @@ private:
     void ShowReturningTo(Window window);
     void Dispose(std::unique_ptr<Screen> screen);
 
+    // The window whose screen is in front of the others; none before the start.
+    [[nodiscard]] std::optional<Window> InFront() const;
+    // Whom the viewer comes back to.
+    [[nodiscard]] Window BehindViewer() const;
+
+    // Where one was when the squad table showed a record, and who was chosen there.
+    struct LookedFrom {
+        Window At;
+        PersonId Chosen;
+    };
+
+    std::optional<LookedFrom> lookedFrom;
+    std::unique_ptr<frmSquad> squad;
     std::map<Window, Factory> provided;
     std::map<Window, std::unique_ptr<Screen>> screens;
     std::vector<QPointer<Screen>> disposed; // closed, and deleted as soon as the events at hand are done

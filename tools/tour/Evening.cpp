@@ -27,7 +27,9 @@ namespace dravik::tour {
 void Evening::Spend()
 {
     Start();
+    LookAtEmptySquad();
     OpenLeague();
+    LookAtSquad();
     EnterOffice();
     Photograph(Window::Team, "team-first");
     ShapeRoster();
@@ -35,6 +37,7 @@ void Evening::Spend()
     Photograph(Window::Team, "team");
     SaveLines();
     LoadLines();
+    LookAtOwnSquad();
     ShowTickets();
     LeaveOffice();
     MakeOffers();

@@ -6,6 +6,7 @@
 #include "screens/main/frmMain.h"
 #include "screens/market/frmFreeAgentClient.h"
 #include "screens/roster/frmRoster.h"
+#include "screens/squad/frmSquad.h"
 #include "screens/Stage.h"
 #include "screens/team/frmTeam.h"
 
@@ -61,6 +62,11 @@ private:
     void LoadLines();
     // Raises the price of the first seats by one.
     void ShowTickets();
+    // The squad table without a league, of the whole league, and of the own team beside its screen.
+    void LookAtEmptySquad();
+    void LookAtSquad();
+    void LookAtOwnSquad();
+    frmSquad& SquadBeside(Window window);
     // Ranks four free agents, moves the third to the top, shows him and saves the list. The league is taken for one that is
     // about to draft.
     void RankDraft();

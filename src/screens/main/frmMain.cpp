@@ -316,6 +316,7 @@ void frmMain::PlaceTeam()
             resize(allSix ? WideWidth : NarrowWidth, FilledHeight);
             FitToDisplay();
         }
+        Owner.ShowSquadAnew();
     });
 }
 

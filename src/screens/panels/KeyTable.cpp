@@ -16,8 +16,11 @@ constexpr auto OnMarket = "frmFreeAgentClient frmDraft";
 constexpr auto Slot = "a slot";
 constexpr auto List = "a list";
 
+constexpr auto OnSquad = "frmSquad";
+
 constexpr KeyRow Rows[] = {
     {Everywhere, KeyScope::Screen, "F1", "", "Keys, signs and ratings"},
+    {Everywhere, KeyScope::Screen, "Ctrl+T", "", "The squad table, and back from it"},
     {WithHistory, KeyScope::Screen, "Ctrl+Z", "", "Undo"},
     {WithHistory, KeyScope::Screen, "Ctrl+Shift+Z / Ctrl+Y", "", "Redo"},
     {OnMain, KeyScope::Screen, "", "", "Open a client file", QKeySequence::Open},
@@ -37,6 +40,15 @@ constexpr KeyRow Rows[] = {
     {OnLines, KeyScope::Screen, "Ctrl+Shift+Tab", "", "Page before"},
     {OnLines, KeyScope::Screen, "F6", "", "From the list to the board and back"},
     {OnLines, KeyScope::Screen, "Ctrl+B", "", "The whole line-up on one sheet, and away; Esc closes it too"},
+    {OnSquad, KeyScope::Screen, "Ctrl+F", "", "Type a part of a name"},
+    {OnSquad, KeyScope::Screen, "Ctrl+Tab", "", "Next table"},
+    {OnSquad, KeyScope::Screen, "Ctrl+Shift+Tab", "", "Table before"},
+    {OnSquad, KeyScope::Screen, "Alt+Down / Alt+Up", "", "Sort by the column at hand, downwards or upwards"},
+    {OnSquad, KeyScope::Screen, "Alt+Shift+Down / Alt+Shift+Up", "", "Sort by it behind the first column"},
+    {OnSquad, KeyScope::Screen, "Alt+Left / Alt+Right", "", "Move the column at hand"},
+    {OnSquad, KeyScope::Screen, "Ctrl+C", "", "Copy the chosen rows"},
+    {OnSquad, KeyScope::Screen, "Ctrl+S", "", "Save the table as CSV"},
+    {OnSquad, KeyScope::Screen, "Esc", "", "Take back what was typed, or close"},
     {WithLists, KeyScope::Control, "Up / Down / Home / End", List, "Choose somebody"},
     {WithLists, KeyScope::Control, "letters", List, "Go to a name with these letters in it; Backspace takes one back"},
     {OnLines, KeyScope::Control, "Left / Right / Up / Down", Slot, "Walk the board"},

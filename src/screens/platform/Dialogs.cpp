@@ -262,23 +262,53 @@ QStringList NameFilters(const QString& filter)
     return filters;
 }
 
+namespace {
+
+// A dialog for files, which begins in `folder`. `filter` is that of AskForFile.
+class FileQuestion : public QFileDialog {
+public:
+    FileQuestion(const QString& title, const QString& folder, const QString& filter) :
+        QFileDialog(DialogParent(), title, folder)
+    {
+        setObjectName("dlgCommon");
+        KeepProgramRunning(*this);
+        // The captions carry their pattern in words.
+        setOption(QFileDialog::HideNameFilterDetails);
+        // Without a window system there is no dialog but the toolkit's own.
+        setOption(QFileDialog::DontUseNativeDialog, QGuiApplication::platformName() == "offscreen");
+        setNameFilters(NameFilters(filter));
+    }
+
+    std::optional<QString> Ask()
+    {
+        resize(sizeHint().expandedTo(QSize(760, 480)));
+        if (exec() != QDialog::Accepted || selectedFiles().isEmpty())
+            return std::nullopt;
+        return selectedFiles().constFirst();
+    }
+};
+
+} // namespace
+
 std::optional<QString> AskForFile(const QString& folder, const QString& filter)
 {
-    QFileDialog dialog(DialogParent(), "Open", folder);
-    dialog.setObjectName("dlgCommon");
-    KeepProgramRunning(dialog);
+    FileQuestion dialog("Open", folder, filter);
     dialog.setAcceptMode(QFileDialog::AcceptOpen);
     dialog.setFileMode(QFileDialog::ExistingFile);
-    // The captions carry their pattern in words.
-    dialog.setOption(QFileDialog::HideNameFilterDetails);
     dialog.setOption(QFileDialog::ReadOnly);
-    // Without a window system there is no dialog but the toolkit's own.
-    dialog.setOption(QFileDialog::DontUseNativeDialog, QGuiApplication::platformName() == "offscreen");
-    dialog.setNameFilters(NameFilters(filter));
-    dialog.resize(dialog.sizeHint().expandedTo(QSize(760, 480)));
-    if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty())
-        return std::nullopt;
-    return dialog.selectedFiles().constFirst();
+    return dialog.Ask();
+}
+
+std::optional<QString> AskForFileToSave(const QString& folder, const QString& name, const QString& filter,
+                                        const QString& ending)
+{
+    FileQuestion dialog("Save", folder, filter);
+    dialog.setAcceptMode(QFileDialog::AcceptSave);
+    dialog.setFileMode(QFileDialog::AnyFile);
+    dialog.setDefaultSuffix(ending);
+    dialog.selectFile(name);
+    const std::optional<QString> file = dialog.Ask();
+    return file ? std::optional(QDir::toNativeSeparators(*file)) : std::nullopt;
 }
 
 } // namespace dravik

@@ -27,6 +27,11 @@ std::optional<QString> AskForText(const QString& prompt, const QString& title, c
 // cancel.
 std::optional<QString> AskForFile(const QString& folder, const QString& filter);
 
+// Asks where to save, beginning with `name` in `folder`; an ending that was not typed is `ending` ("csv"). A file that is there
+// is asked about. Nothing on cancel; else the path in the desktop's own way.
+std::optional<QString> AskForFileToSave(const QString& folder, const QString& name, const QString& filter,
+                                        const QString& ending);
+
 // `filter` as the toolkit wants it: one entry a caption. Patterns match whatever the case of a name, and "*.*" matches
 // every name.
 QStringList NameFilters(const QString& filter);

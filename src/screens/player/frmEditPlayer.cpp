@@ -160,6 +160,8 @@ void frmEditPlayer::ShowRecord(PersonId person)
         chkNoTrade->setChecked(static_cast<bool>(record.NoTrade));
         chkNoApplyRerate->setChecked(static_cast<bool>(record.NoApplyRerate));
     });
+    for (QCheckBox* flag : {chkNoTrade, chkNoApplyRerate})
+        flag->setVisible(Owner.ShowsFlagsOf(person));
     ShowRatings(person);
 }
 
