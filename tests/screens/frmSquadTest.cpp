@@ -16,6 +16,7 @@
 
 #include <cstring>
 #include <fstream>
+#include <QAbstractItemModelTester>
 #include <QAccessible>
 #include <QClipboard>
 #include <QFileDialog>
@@ -138,6 +139,27 @@ TEST_F(frmSquadTest, LettersFindNamesAndEscTakesThemBackBeforeItCloses)
     EXPECT_TRUE(squad.isVisible());
     Press(squad.txtName, Qt::Key_Escape);
     EXPECT_FALSE(squad.isVisible());
+}
+
+TEST_F(frmSquadTest, WhoIsCurrentStaysSoAndInSight)
+{
+    frmSquad& squad = SquadOver(MainWithLeague());
+    Type(squad, "aub");
+    Press(squad.txtName, Qt::Key_Down);
+    const auto who = squad.Table().Current();
+    const auto isInSight = [&squad] {
+        return squad.Table().viewport()->rect().contains(
+            squad.Table().visualRect(squad.Table().currentIndex()).center());
+    };
+    squad.txtName->clear();
+    Settle();
+    EXPECT_EQ(squad.Table().Current(), who);
+    EXPECT_TRUE(isInSight());
+    ClickHeading(squad, "Salary");
+    EXPECT_EQ(squad.Table().Current(), who);
+    EXPECT_TRUE(isInSight());
+    Click(squad.cmdPin); // the table becomes lower
+    EXPECT_TRUE(isInSight());
 }
 
 TEST_F(frmSquadTest, APressOnAHeadingSortsAndWithShiftAsTheSecondKey)
@@ -500,6 +522,84 @@ TEST_F(frmSquadTest, WhatIsDoneOnTheScreenInFrontIsSeenAtOnce)
     EXPECT_EQ(stands(), "Scratch");
     Undo(roster);
     EXPECT_EQ(stands(), "Pro");
+}
+
+TEST_F(frmSquadTest, WhoIsPinnedIsComparedInTheFiguresOfTheRules)
+{
+    frmSquad& squad = SquadOver(MainWithLeague());
+    EXPECT_FALSE(squad.Comparison->isVisible());
+    std::vector<SquadPerson> people;
+    for (int at = 0; at < 4; ++at) {
+        people.push_back(People(squad).PersonAt(at * 50));
+        GoTo(squad, people.back());
+        Press(&squad.Table(), Qt::Key_M, Qt::ControlModifier);
+        EXPECT_TRUE(squad.Comparison->isVisible());
+        EXPECT_EQ(squad.tblCompare->Figures->rowCount(), at + 1);
+    }
+    const CompareModel& figures = *squad.tblCompare->Figures;
+    const QAbstractItemModelTester tester(squad.tblCompare->Figures,
+                                          QAbstractItemModelTester::FailureReportingMode::Fatal);
+    ASSERT_EQ(figures.columnCount(), 3 + static_cast<int>(PlayerStatCount)); // name, age, overall
+    for (int row = 0; row < 4; ++row) {
+        const PersonId who = people[static_cast<std::size_t>(row)].Id();
+        const StatRows own = StatRowsOf(who);
+        const StatRows first = StatRowsOf(people.front().Id());
+        EXPECT_EQ(figures.index(row, 0).data().toString(), NameOf(who));
+        for (int column = 2; column < figures.columnCount(); ++column) {
+            const auto value = [column](const StatRows& rows) {
+                return column == 2 ? rows.OverallRow->Value : rows.Ratings[static_cast<std::size_t>(column - 3)].Value;
+            };
+            const int difference = value(own) - value(first);
+            EXPECT_EQ(figures.index(row, column).data().toInt(), value(own));
+            const QString shown = figures.index(row, column).data(CompareModel::DifferenceRole).toString();
+            if (row == 0) {
+                EXPECT_EQ(shown, "");
+            } else if (difference == 0) {
+                EXPECT_EQ(shown, "=");
+            } else {
+                EXPECT_EQ(shown,
+                          (difference > 0 ? QString("+") : QString(u'\u2212')) + QString::number(std::abs(difference)));
+            }
+        }
+    }
+    EXPECT_THAT(figures.index(1, 2).data(Qt::AccessibleTextRole).toString().toStdString(),
+                HasSubstr(NameOf(people.front().Id()).toStdString()));
+    // A fifth is one too many; who is pinned is let go by the same key.
+    GoTo(squad, People(squad).PersonAt(300));
+    Press(&squad.Table(), Qt::Key_M, Qt::ControlModifier);
+    EXPECT_EQ(figures.rowCount(), 4);
+    EXPECT_EQ(squad.lblTold->text(), "4 people are compared at most.");
+    GoTo(squad, people[1]);
+    EXPECT_EQ(squad.cmdPin->text(), "Unpi&n");
+    EXPECT_THAT(squad.Table().currentIndex().data(Qt::AccessibleTextRole).toString().toStdString(),
+                HasSubstr(", pinned"));
+    Press(&squad.Table(), Qt::Key_M, Qt::ControlModifier);
+    EXPECT_EQ(figures.rowCount(), 3);
+    Click(squad.cmdLetGo);
+    EXPECT_FALSE(squad.Comparison->isVisible());
+}
+
+TEST_F(frmSquadTest, ThePinnedStayWhateverIsFilteredAndGoWithTheirLeague)
+{
+    frmSquad& squad = SquadOver(MainWithLeague());
+    const SquadPerson who = People(squad).PersonAt(3);
+    GoTo(squad, who);
+    Click(squad.cmdPin);
+    Type(squad, "zzzz");
+    EXPECT_EQ(People(squad).rowCount(), 0);
+    EXPECT_TRUE(squad.Comparison->isVisible());
+    EXPECT_FALSE(squad.cmdPin->isEnabled());
+    squad.tabKind->setCurrentIndex(1); // skaters are compared among skaters
+    EXPECT_FALSE(squad.Comparison->isVisible());
+    squad.tabKind->setCurrentIndex(0);
+    EXPECT_TRUE(squad.Comparison->isVisible());
+    LeagueData.ShowOverall = false;
+    LeagueData.ShowAllRatings = false;
+    Main().PlaceTeam();
+    EXPECT_EQ(squad.tblCompare->Figures->columnCount(), 2 + RatingsShownBy(LeagueData).Skater);
+    Players[who.Slot].Name = "Somebody Else";
+    Main().PlaceTeam();
+    EXPECT_FALSE(squad.Comparison->isVisible());
 }
 
 TEST_F(frmSquadTest, AnEmptyLeagueAndAnEmptyTeamSaySo)

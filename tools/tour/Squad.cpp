@@ -48,7 +48,14 @@ void Evening::LookAtSquad()
     Require(squad.Table().People().rowCount() < squad.Table().People().People(), "letters find a few");
     PressKey(*squad.txtName, Qt::Key_Down);
     Require(camera.Photograph(squad, "squad-typed"), "pictures of what was typed are written");
+    for (int row = 0; row < 3; ++row) {
+        squad.Table().setCurrentIndex(squad.Table().People().index(row, 0));
+        squad.cmdPin->click();
+    }
+    Require(squad.tblCompare->Figures->rowCount() == 3, "three people are compared");
     squad.txtName->clear();
+    Require(camera.Photograph(squad, "squad-compared"), "pictures of a comparison are written");
+    squad.cmdLetGo->click();
     squad.tabKind->setCurrentIndex(1);
     Require(camera.Photograph(squad, "squad-goalies"), "pictures of the goalies are written");
     squad.tabKind->setCurrentIndex(2);

@@ -46,6 +46,7 @@ constexpr KeyRow Rows[] = {
     {OnSquad, KeyScope::Screen, "Alt+Down / Alt+Up", "", "Sort by the column at hand, downwards or upwards"},
     {OnSquad, KeyScope::Screen, "Alt+Shift+Down / Alt+Shift+Up", "", "Sort by it behind the first column"},
     {OnSquad, KeyScope::Screen, "Alt+Left / Alt+Right", "", "Move the column at hand"},
+    {OnSquad, KeyScope::Screen, "Ctrl+M", "", "Pin somebody to compare him with others, or let him go"},
     {OnSquad, KeyScope::Screen, "Ctrl+C", "", "Copy the chosen rows"},
     {OnSquad, KeyScope::Screen, "Ctrl+S", "", "Save the table as CSV"},
     {OnSquad, KeyScope::Screen, "Esc", "", "Take back what was typed, or close"},

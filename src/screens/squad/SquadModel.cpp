@@ -63,6 +63,9 @@ void SquadModel::Look(const SquadSight& newSight, const SquadFilter& newFilter, 
     typedText = newTyped;
     typed = NameMatch(typedText);
     columns = SquadColumnsOf(kind, sight);
+    std::erase_if(pinned, [this](const auto& each) {
+        return !IsSomebody(*sight.League, each.first) || NameOf(*sight.League, each.first) != each.second;
+    });
     if (!isSortedByHand)
         keys = {ColumnOf("Overall") >= 0 ? SquadKey{.Column = "Overall", .IsDownwards = true}
                                          : SquadKey{.Column = "Name"}};
@@ -136,6 +139,40 @@ int SquadModel::RowOf(SquadPerson who) const
         return -1;
     const auto found = std::find(shown.begin(), shown.end(), static_cast<std::uint16_t>(who.Slot));
     return found == shown.end() ? -1 : static_cast<int>(found - shown.begin());
+}
+
+bool SquadModel::TogglePin(SquadPerson who)
+{
+    const auto found =
+        std::find_if(pinned.begin(), pinned.end(), [&who](const auto& each) { return each.first == who; });
+    if (found != pinned.end())
+        pinned.erase(found);
+    else if (pinned.size() == MostPinned || who.Kind == SquadKind::Prospects)
+        return false;
+    else
+        pinned.emplace_back(who, NameOf(*sight.League, who));
+    if (const int row = RowOf(who); row >= 0)
+        emit dataChanged(index(row, 0), index(row, columnCount() - 1));
+    return true;
+}
+
+void SquadModel::LetGoOfPinned()
+{
+    while (!pinned.empty())
+        TogglePin(pinned.back().first);
+}
+
+std::vector<SquadPerson> SquadModel::Pinned() const
+{
+    std::vector<SquadPerson> people;
+    for (const auto& [who, name] : pinned)
+        people.push_back(who);
+    return people;
+}
+
+bool SquadModel::IsPinned(SquadPerson who) const
+{
+    return std::any_of(pinned.begin(), pinned.end(), [&who](const auto& each) { return each.first == who; });
 }
 
 std::optional<NamePart> SquadModel::TypedPart(int row) const
@@ -224,8 +261,12 @@ QVariant SquadModel::data(const QModelIndex& index, int role) const
     case Qt::TextAlignmentRole:
         return QVariant::fromValue(
             Qt::Alignment((column.IsAtRight() ? Qt::AlignRight : Qt::AlignLeft) | Qt::AlignVCenter));
-    case Qt::AccessibleTextRole:
-        return ToQString(SquadSpokenText(column, sight, who));
+    case Qt::AccessibleTextRole: {
+        const bool isTold = column.Cells == SquadCells::Name && IsPinned(who);
+        return ToQString(SquadSpokenText(column, sight, who) + (isTold ? ", pinned" : ""));
+    }
+    case PinnedRole:
+        return column.Cells == SquadCells::Name && IsPinned(who);
     case Qt::ToolTipRole: // shown as written, whatever characters a name holds
         return Qt::convertFromPlainText(ToQString(SquadSpokenText(column, sight, who)));
     case CellsRole:

@@ -31,6 +31,7 @@ public:
     static constexpr int CellsRole = Qt::UserRole;
     static constexpr int SignRole = Qt::UserRole + 1;
     static constexpr int NumberRole = Qt::UserRole + 2;
+    static constexpr int PinnedRole = Qt::UserRole + 3; // whether it is the name of somebody pinned
 
     explicit SquadModel(SquadKind kind, QObject* parent = nullptr);
 
@@ -45,6 +46,14 @@ public:
     // The same in a direction.
     void SortBy(int column, bool downwards, bool asSecond);
     [[nodiscard]] const std::vector<SquadKey>& Keys() const { return keys; }
+
+    // Whom somebody holds fast in order to compare them: skaters or goalies, who stay pinned whatever is let through as long as
+    // their slots are theirs. Pins somebody, or lets him go again; false where MostPinned are pinned already, or of a prospect.
+    static constexpr std::size_t MostPinned = 4;
+    bool TogglePin(SquadPerson who);
+    void LetGoOfPinned();
+    [[nodiscard]] std::vector<SquadPerson> Pinned() const;
+    [[nodiscard]] bool IsPinned(SquadPerson who) const;
 
     [[nodiscard]] SquadKind Kind() const { return kind; }
     [[nodiscard]] const std::vector<SquadColumn>& Columns() const { return columns; }
@@ -82,6 +91,8 @@ private:
     Slots sorted; // whom the filter lets through,
     Slots shown;  // and of them those who have what was typed
     int people = 0;
+    std::vector<std::pair<SquadPerson, std::string>>
+        pinned;                  // with their names, by which one knows that it is still they
     bool isSortedByHand = false; // until then the best stand first, where overalls are shown
 };
 

@@ -9,6 +9,7 @@
 #include <QApplication>
 #include <QKeyEvent>
 #include <QPainter>
+#include <QResizeEvent>
 #include <QScopeGuard>
 #include <QStringList>
 #include <utility>
@@ -41,15 +42,6 @@ QString KeyOf(const QString& part)
 // Where the words of a cell stand.
 QRect WordsIn(const QRect& cell) { return cell.adjusted(SideMargin, 0, -SideMargin, 0); }
 
-void DrawBar(QPainter& painter, const QRect& cell, int rating, const QColor& front, const QColor& back,
-             const QColor& accent)
-{
-    QRectF bar(cell.left() + SideMargin, cell.bottom() - BarHeight, cell.width() - 2 * SideMargin, BarHeight);
-    painter.fillRect(bar, Mixed(back, front, GroundPart));
-    bar.setWidth(bar.width() * std::clamp(rating, 0, FullRating) / FullRating);
-    painter.fillRect(bar, Mixed(back, accent, BarPart));
-}
-
 // A line under the part of a name that was typed, as far as it is in sight.
 void Underline(QPainter& painter, const QFontMetrics& metrics, const QRect& words, const QString& name,
                const NamePart& part)
@@ -61,6 +53,15 @@ void Underline(QPainter& painter, const QFontMetrics& metrics, const QRect& word
 }
 
 } // namespace
+
+void DrawRatingBar(QPainter& painter, const QRect& cell, int rating, const QColor& front, const QColor& back,
+                   const QColor& accent)
+{
+    QRectF bar(cell.left() + SideMargin, cell.bottom() - BarHeight, cell.width() - 2 * SideMargin, BarHeight);
+    painter.fillRect(bar, Mixed(back, front, GroundPart));
+    bar.setWidth(bar.width() * std::clamp(rating, 0, FullRating) / FullRating);
+    painter.fillRect(bar, Mixed(back, accent, BarPart));
+}
 
 void SquadDelegate::paint(QPainter* painter, const QStyleOptionViewItem& option, const QModelIndex& index) const
 {
@@ -80,7 +81,7 @@ void SquadDelegate::paint(QPainter* painter, const QStyleOptionViewItem& option,
     const QColor back = item.palette.color(group, isChosen      ? QPalette::Highlight
                                                   : isAlternate ? QPalette::AlternateBase
                                                                 : QPalette::Base);
-    const QRect words = WordsIn(item.rect);
+    QRect words = WordsIn(item.rect);
     const SquadCells cells = CellsOf(index);
 
     painter->save();
@@ -93,14 +94,22 @@ void SquadDelegate::paint(QPainter* painter, const QStyleOptionViewItem& option,
         const int right = words.right() - item.fontMetrics.horizontalAdvance(text) - Gap / 2;
         PaintShape(*painter, kind, QRectF(right - side, words.center().y() - side / 2.0, side, side), ink, back);
     }
+    if (index.data(SquadModel::PinnedRole).toBool()) {
+        const int side = item.fontMetrics.height() / 2;
+        painter->setRenderHint(QPainter::Antialiasing);
+        painter->setPen(Qt::NoPen);
+        painter->setBrush(front);
+        painter->drawEllipse(QRectF(words.right() - side, words.center().y() - side / 2.0, side, side));
+        words.setRight(words.right() - side - Gap / 2);
+    }
     painter->setPen(ink);
     const auto alignment = static_cast<int>(item.displayAlignment) | Qt::TextSingleLine;
     painter->drawText(words, alignment,
                       text.isEmpty() ? QString(Nothing)
                                      : item.fontMetrics.elidedText(text, Qt::ElideRight, words.width()));
     if (cells == SquadCells::Rating && !text.isEmpty())
-        DrawBar(*painter, item.rect, index.data(SquadModel::NumberRole).toInt(), front, back,
-                isChosen ? front : item.palette.color(group, QPalette::Highlight));
+        DrawRatingBar(*painter, item.rect, index.data(SquadModel::NumberRole).toInt(), front, back,
+                      isChosen ? front : item.palette.color(group, QPalette::Highlight));
     if (cells == SquadCells::Name)
         if (const auto part = static_cast<const SquadModel*>(index.model())->TypedPart(index.row()))
             Underline(*painter, item.fontMetrics, words, text, *part);
@@ -148,8 +157,11 @@ void SquadTable::KeepCurrent(const std::function<void()>& change)
     change();
     const int row = before ? std::max(0, model->RowOf(*before)) : 0;
     const QModelIndex wanted = model->index(row, std::clamp(wantedColumn, 0, std::max(0, model->columnCount() - 1)));
-    if (wanted.isValid())
+    if (wanted.isValid()) {
         setCurrentIndex(wanted);
+        executeDelayedItemsLayout(); // or the scroll bar would still be that of the rows before
+        scrollTo(wanted);
+    }
     emit CurrentChanged();
 }
 
@@ -353,6 +365,16 @@ void SquadTable::keyPressEvent(QKeyEvent* event)
         return;
     }
     QTableView::keyPressEvent(event);
+}
+
+// A current row that was in sight stays there.
+void SquadTable::resizeEvent(QResizeEvent* event)
+{
+    const QRect row = visualRect(currentIndex());
+    const bool wasSeen = row.isValid() && row.top() >= 0 && row.bottom() <= event->oldSize().height();
+    QTableView::resizeEvent(event);
+    if (wasSeen)
+        scrollTo(currentIndex());
 }
 
 void SquadTable::currentChanged(const QModelIndex& current, const QModelIndex& previous)

@@ -9,7 +9,11 @@
 
 namespace dravik {
 
-// Draws a cell: of a name the part that was typed underlined, a rating over a thin bar from 0 to 99, a low condition behind its
+// Draws a thin bar from 0 to 99 at the foot of a cell, whose words are `front` on `back`.
+void DrawRatingBar(QPainter& painter, const QRect& cell, int rating, const QColor& front, const QColor& back,
+                   const QColor& accent);
+
+// Draws a cell: of a name the part that was typed underlined and a dot behind who is pinned, a rating over a thin bar from 0 to 99, a low condition behind its
 // sign, and a dash where there is nothing to show.
 class SquadDelegate : public QStyledItemDelegate {
 public:
@@ -63,6 +67,7 @@ signals:
 
 protected:
     void keyPressEvent(QKeyEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
     void currentChanged(const QModelIndex& current, const QModelIndex& previous) override;
 
 private:

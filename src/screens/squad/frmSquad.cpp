@@ -34,6 +34,10 @@ constexpr int LeastRoomBeside = 760; // a window narrower than that shows too li
 constexpr const char* Captions[] = {"Skaters", "Goalies", "Prospects"};
 constexpr const char* NotProved = "Where people stand is shown for the team whose screens are open.";
 
+constexpr const char* Hint =
+    "Ratings as the league shows them. Where somebody stands, his slots and flags are shown for your own "
+    "team, while its screens are open.";
+
 std::optional<int> ValueOf(const QSpinBox* box)
 {
     return box->value() == box->minimum() ? std::nullopt : std::optional(box->value());
@@ -79,6 +83,7 @@ void frmSquad::Open(const QRect& front)
         }
     }
     isStale.fill(true);
+    lblTold->setText(Hint);
     show();
     raise();
     activateWindow();
@@ -106,6 +111,7 @@ void frmSquad::LookAtTable()
     if (std::exchange(isStale[at], false))
         Table().Look(Sight(), filter, TypedName(txtName->text()));
     stack->setCurrentWidget(&Table());
+    ShowComparison();
     ShowCounts();
     ShowCommands();
 }
@@ -170,6 +176,7 @@ SquadFilter frmSquad::TypedFilter() const
 
 void frmSquad::tabKind_Changed(int /*index*/)
 {
+    lblTold->setText(Hint);
     ShowFilters();
     LookAtTable();
 }
@@ -233,6 +240,8 @@ void frmSquad::ShowCommands()
     const std::optional<SquadPerson> current = Table().Current();
     const bool isPerson = current && current->Kind != SquadKind::Prospects;
     cmdShowPlayer->setEnabled(isPerson);
+    cmdPin->setEnabled(isPerson);
+    cmdPin->setText(current && Table().People().IsPinned(*current) ? "Unpi&n" : "Pi&n");
     cmdPick->setText(ToQString(owner.PickCaption()));
     cmdPick->setVisible(!cmdPick->text().isEmpty());
     cmdPick->setEnabled(current && owner.Lists(CommonIdOf(*current)));
@@ -258,6 +267,37 @@ void frmSquad::cmdPick_Click()
 {
     if (const auto current = Table().Current())
         owner.Pick(CommonIdOf(*current));
+}
+
+void frmSquad::cmdPin_Click()
+{
+    const auto current = Table().Current();
+    if (!current)
+        return;
+    const QString name = ToQString(NameOf(OpenLeague, *current));
+    if (!Table().People().TogglePin(*current))
+        Tell(QString("%1 people are compared at most.").arg(SquadModel::MostPinned));
+    else
+        Tell(name + (Table().People().IsPinned(*current) ? " is pinned." : " is let go."));
+    ShowComparison();
+    ShowCommands();
+}
+
+void frmSquad::cmdLetGo_Click()
+{
+    Table().People().LetGoOfPinned();
+    ShowComparison();
+    ShowCommands();
+    Table().setFocus(Qt::OtherFocusReason);
+}
+
+void frmSquad::ShowComparison()
+{
+    const std::vector<SquadPerson> pinned = Table().People().Pinned();
+    Comparison->setVisible(!pinned.empty());
+    lblCompare->setText(pinned.size() < 2 ? "Pin another one to compare them."
+                                          : "Differences are to the one pinned first.");
+    tblCompare->Compare(Sight(), pinned);
 }
 
 QString frmSquad::InText() const

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "screens/squad/CompareTable.h"
 #include "screens/squad/SquadTable.h"
 
 #include <array>
@@ -42,6 +43,9 @@ public:
     void cmdSaveCsv_Click();
     void cmdShowPlayer_Click();
     void cmdPick_Click();
+    // Pins who is current, or lets him go: those who are pinned are compared below the table.
+    void cmdPin_Click();
+    void cmdLetGo_Click();
     // What Enter and a double press do: picks whoever is current on the screen in front if that lists him, else shows him.
     void Choose();
 
@@ -59,6 +63,10 @@ public:
     QCheckBox* chkMayBeAsked = nullptr;
     QPushButton *cmdShowAll = nullptr, *cmdColumns = nullptr, *cmdCopy = nullptr, *cmdSaveCsv = nullptr;
     QPushButton *cmdShowPlayer = nullptr, *cmdPick = nullptr, *cmdClose = nullptr;
+    QPushButton *cmdPin = nullptr, *cmdLetGo = nullptr;
+    QWidget* Comparison = nullptr; // with its heading
+    CompareTable* tblCompare = nullptr;
+    QLabel* lblCompare = nullptr;
     QMenu* mnuColumns = nullptr;
 
 protected:
@@ -73,6 +81,7 @@ private:
     void LayOut();
     [[nodiscard]] QWidget* MakeFilterRow();
     [[nodiscard]] QWidget* MakeTableArea();
+    [[nodiscard]] QWidget* MakeComparison();
 
     // Through whose eyes the table is seen now.
     [[nodiscard]] SquadSight Sight() const;
@@ -81,6 +90,7 @@ private:
     void ListTeams();
     void ShowCounts();
     void ShowCommands();
+    void ShowComparison();
     void ShowFilters();
     [[nodiscard]] SquadFilter TypedFilter() const;
     void FillColumnMenu();

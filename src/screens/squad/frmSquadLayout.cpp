@@ -49,7 +49,7 @@ frmSquad::frmSquad(Stage& stage) : owner(stage)
     setWindowTitle("Squad");
     MakeTables();
     MakeFilters();
-    cmdColumns = new QPushButton("Colum&ns", this);
+    cmdColumns = new QPushButton("Col&umns", this);
     cmdColumns->setObjectName("cmdColumns");
     mnuColumns = new QMenu(this);
     mnuColumns->setObjectName("mnuColumns");
@@ -60,6 +60,9 @@ frmSquad::frmSquad(Stage& stage) : owner(stage)
     cmdShowAll = MakeCommand("cmdShowAll", "Show &All", &frmSquad::cmdShowAll_Click);
     cmdShowPlayer = MakeCommand("cmdShowPlayer", "Show &Player", &frmSquad::cmdShowPlayer_Click);
     cmdPick = MakeCommand("cmdPick", {}, &frmSquad::cmdPick_Click);
+    cmdPin = MakeCommand("cmdPin", "Pi&n", &frmSquad::cmdPin_Click);
+    cmdPin->setToolTip("Compare him with others who are pinned (Ctrl+M)");
+    cmdLetGo = MakeCommand("cmdLetGo", "Let All &Go", &frmSquad::cmdLetGo_Click);
     cmdClose = new QPushButton("C&lose", this);
     cmdClose->setObjectName("cmdClose");
     connect(cmdClose, &QPushButton::clicked, this, &QWidget::close);
@@ -183,6 +186,7 @@ void frmSquad::MakeKeys()
     add("Alt+Shift+Up", [this] { Table().SortAtHand(false, true); });
     add("Alt+Left", [this] { Table().MoveColumnAtHand(-1); });
     add("Alt+Right", [this] { Table().MoveColumnAtHand(1); });
+    add("Ctrl+M", [this] { cmdPin->click(); });
     add("Esc", [this] { Leave(); });
 }
 
@@ -227,6 +231,23 @@ QWidget* frmSquad::MakeTableArea()
     return area;
 }
 
+QWidget* frmSquad::MakeComparison()
+{
+    Comparison = new QWidget(this);
+    Comparison->setObjectName("Comparison");
+    QVBoxLayout* column = MakeColumn(Comparison, Gap / 2);
+    lblCompare = new MutedLabel(Comparison);
+    lblCompare->setObjectName("lblCompare");
+    QHBoxLayout* heading = MakeRow({MakeHeading("Compare", Comparison), lblCompare});
+    heading->addStretch(1);
+    heading->addWidget(cmdLetGo);
+    column->addLayout(heading);
+    tblCompare = new CompareTable(Comparison);
+    column->addWidget(tblCompare);
+    Comparison->hide();
+    return Comparison;
+}
+
 void frmSquad::LayOut()
 {
     auto* content = new QWidget(this);
@@ -251,22 +272,20 @@ void frmSquad::LayOut()
     column->addLayout(finding);
     column->addWidget(MakeFilterRow());
     column->addWidget(MakeTableArea(), 1);
+    column->addWidget(MakeComparison());
 
     lblTold = new ElidedLabel(content, ElidedLabel::Words::Muted);
     lblTold->setObjectName("lblTold");
-    lblTold->setText(
-        "Ratings as the league shows them. Where somebody stands, his slots and flags are shown for your own "
-        "team, while its screens are open.");
     QHBoxLayout* footer = MakeRow({lblTold});
     footer->setStretch(0, 1);
-    for (QWidget* command : {cmdShowPlayer, cmdPick, cmdClose})
+    for (QWidget* command : {cmdPin, cmdShowPlayer, cmdPick, cmdClose})
         footer->addWidget(command);
     column->addLayout(footer);
     setCentralWidget(content);
-    ChainTabs({txtName,        cmdShowAll,     tabKind,    cboTeam,    chkPosition[0], chkPosition[1],
-               chkPosition[2], chkPosition[3], cboStands,  spnAgeFrom, spnAgeTo,       spnOverall,
-               spnContract,    chkMayBeAsked,  tables[0],  tables[1],  tables[2],      cmdShowPlayer,
-               cmdPick,        cmdClose,       cmdColumns, cmdCopy,    cmdSaveCsv});
+    ChainTabs({txtName,        cmdShowAll, tabKind,    cboTeam,    chkPosition[0], chkPosition[1], chkPosition[2],
+               chkPosition[3], cboStands,  spnAgeFrom, spnAgeTo,   spnOverall,     spnContract,    chkMayBeAsked,
+               tables[0],      tables[1],  tables[2],  tblCompare, cmdLetGo,       cmdPin,         cmdShowPlayer,
+               cmdPick,        cmdClose,   cmdColumns, cmdCopy,    cmdSaveCsv});
 }
 
 } // namespace dravik

@@ -1,0 +1,176 @@
+#include "screens/squad/CompareTable.h"
+
+#include "screens/panels/Shades.h"
+#include "screens/platform/CodePage.h"
+#include "screens/squad/SquadTable.h"
+
+#include <QHeaderView>
+#include <QPainter>
+#include <QTextDocument>
+
+namespace dravik {
+
+namespace {
+
+constexpr int SideMargin = 4;
+constexpr int RowPadding = 10; // above and below the text together
+constexpr int NameInLetters = 24;
+
+// A difference with its sign: "+12", "-5" with the sign of subtraction, "=" for none.
+QString SignedText(long long difference)
+{
+    if (difference == 0)
+        return "=";
+    return difference > 0 ? '+' + QString::number(difference) : QChar(0x2212) + QString::number(-difference);
+}
+
+} // namespace
+
+void CompareModel::Compare(const SquadSight& newSight, const std::vector<SquadPerson>& newPeople)
+{
+    beginResetModel();
+    sight = newSight;
+    people = newPeople;
+    columns.clear();
+    if (!people.empty())
+        for (const SquadColumn& column : SquadColumnsOf(people.front().Kind, sight))
+            if (column.Cells == SquadCells::Name || column.Cells == SquadCells::Rating || column.Key == "Age")
+                columns.push_back(column);
+    endResetModel();
+}
+
+int CompareModel::rowCount(const QModelIndex& parent) const
+{
+    return parent.isValid() ? 0 : static_cast<int>(people.size());
+}
+
+int CompareModel::columnCount(const QModelIndex& parent) const
+{
+    return parent.isValid() ? 0 : static_cast<int>(columns.size());
+}
+
+std::optional<long long> CompareModel::NumberIn(int row, int column) const
+{
+    const SquadColumn& shown = columns[static_cast<std::size_t>(column)];
+    if (shown.NumberOf == nullptr)
+        return std::nullopt;
+    return shown.NumberOf(sight, people[static_cast<std::size_t>(row)], shown.Rating);
+}
+
+std::optional<long long> CompareModel::Difference(int row, int column) const
+{
+    const auto own = NumberIn(row, column);
+    const auto first = NumberIn(0, column);
+    if (row == 0 || !own || !first)
+        return std::nullopt;
+    return *own - *first;
+}
+
+QString CompareModel::SpokenCell(int row, int column) const
+{
+    const SquadColumn& shown = columns[static_cast<std::size_t>(column)];
+    QString words = ToQString(SquadSpokenText(shown, sight, people[static_cast<std::size_t>(row)]));
+    const auto difference = Difference(row, column);
+    if (!difference)
+        return words;
+    const QString first = ToQString(NameOf(*sight.League, people.front()));
+    if (*difference == 0)
+        return words + ", the same as " + first;
+    return words + QString(", %1 %2 than %3").arg(std::abs(*difference)).arg(*difference > 0 ? "more" : "less", first);
+}
+
+QVariant CompareModel::data(const QModelIndex& index, int role) const
+{
+    if (!checkIndex(index, CheckIndexOption::IndexIsValid))
+        return {};
+    const SquadColumn& column = columns[static_cast<std::size_t>(index.column())];
+    switch (role) {
+    case Qt::DisplayRole:
+        return ToQString(SquadText(column, sight, people[static_cast<std::size_t>(index.row())]));
+    case Qt::AccessibleTextRole:
+        return SpokenCell(index.row(), index.column());
+    case Qt::ToolTipRole:
+        return Qt::convertFromPlainText(SpokenCell(index.row(), index.column()));
+    case NumberRole:
+        if (const auto number = NumberIn(index.row(), index.column()); number && column.Cells == SquadCells::Rating)
+            return static_cast<qlonglong>(*number);
+        return {};
+    case DifferenceRole:
+        if (const auto difference = Difference(index.row(), index.column()))
+            return SignedText(*difference);
+        return {};
+    default:
+        return {};
+    }
+}
+
+QVariant CompareModel::headerData(int section, Qt::Orientation orientation, int role) const
+{
+    if (orientation != Qt::Horizontal || section < 0 || section >= columnCount())
+        return {};
+    const SquadColumn& column = columns[static_cast<std::size_t>(section)];
+    switch (role) {
+    case Qt::DisplayRole:
+        return ToQString(column.Caption);
+    case Qt::AccessibleTextRole:
+    case Qt::ToolTipRole:
+        return ToQString(column.Meaning);
+    case Qt::TextAlignmentRole:
+        return QVariant::fromValue(Qt::Alignment(Qt::AlignLeft | Qt::AlignVCenter));
+    default:
+        return {};
+    }
+}
+
+void CompareDelegate::paint(QPainter* painter, const QStyleOptionViewItem& option, const QModelIndex& index) const
+{
+    const QColor front = option.palette.color(QPalette::Active, QPalette::Text);
+    const QColor back = option.palette.color(QPalette::Active, QPalette::Base);
+    const QRect words = option.rect.adjusted(SideMargin, 0, -SideMargin, -SideMargin);
+    const QString text = index.data().toString();
+    const QString difference = index.data(CompareModel::DifferenceRole).toString();
+    painter->save();
+    painter->setFont(option.font);
+    painter->setPen(front);
+    painter->drawText(words, Qt::AlignLeft | Qt::AlignVCenter | Qt::TextSingleLine,
+                      option.fontMetrics.elidedText(text, Qt::ElideRight, words.width()));
+    painter->setPen(Muted(front, back));
+    painter->drawText(words, Qt::AlignRight | Qt::AlignVCenter | Qt::TextSingleLine, difference);
+    if (const QVariant number = index.data(CompareModel::NumberRole); number.isValid())
+        DrawRatingBar(*painter, option.rect, number.toInt(), front, back,
+                      option.palette.color(QPalette::Active, QPalette::Highlight));
+    painter->restore();
+}
+
+CompareTable::CompareTable(QWidget* parent) : QTableView(parent), Figures(new CompareModel(this))
+{
+    setObjectName("tblCompare");
+    setAccessibleName("Comparison");
+    setItemDelegate(new CompareDelegate(this));
+    setModel(Figures);
+    setShowGrid(false);
+    setWordWrap(false);
+    setTabKeyNavigation(false);
+    setSelectionMode(QAbstractItemView::NoSelection);
+    setHorizontalScrollMode(QAbstractItemView::ScrollPerPixel);
+    verticalHeader()->hide();
+    verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
+    verticalHeader()->setDefaultSectionSize(fontMetrics().height() + RowPadding);
+    horizontalHeader()->setSectionResizeMode(QHeaderView::Stretch);
+    horizontalHeader()->setHighlightSections(false);
+}
+
+void CompareTable::Compare(const SquadSight& sight, const std::vector<SquadPerson>& people)
+{
+    Figures->Compare(sight, people);
+    if (Figures->columnCount() == 0)
+        return;
+    QHeaderView* heading = horizontalHeader();
+    heading->setSectionResizeMode(0, QHeaderView::Fixed);
+    heading->resizeSection(0, fontMetrics().averageCharWidth() * NameInLetters);
+    heading->setMinimumSectionSize(fontMetrics().horizontalAdvance("00 +00") + 2 * SideMargin + 2);
+    setFixedHeight(heading->sizeHint().height() +
+                   static_cast<int>(people.size()) * verticalHeader()->defaultSectionSize() + 2 * frameWidth());
+}
+
+} // namespace dravik
