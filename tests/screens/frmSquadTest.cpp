@@ -269,13 +269,13 @@ TEST_F(frmSquadTest, ColumnsAreHiddenMovedAndRemembered)
     EXPECT_THAT(keys(again), ::testing::Contains("Age"));
 }
 
-TEST_F(frmSquadTest, SettingsThatCannotBeWrittenAreToldAndStopNothing)
+TEST_F(frmSquadTest, SettingsThatCannotBeWrittenStopNothing)
 {
     frmSquad& squad = SquadOver(MainWithLeague());
     Machine.SaveSettingFailure = 75;
     squad.close();
     EXPECT_FALSE(squad.isVisible());
-    EXPECT_THAT(Plain(squad.cmdColumns->toolTip()), HasSubstr("could not be written"));
+    EXPECT_TRUE(SquadOver(Main()).isVisible());
 }
 
 TEST_F(frmSquadTest, CopiesTheChosenRowsPartedByTabs)

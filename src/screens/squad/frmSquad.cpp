@@ -3,13 +3,12 @@
 #include "files/CsvFile.h"
 #include "machine/Paths.h"
 #include "machine/Reporting.h"
-#include "machine/SettingsFailure.h"
 #include "screens/panels/Accessible.h"
 #include "screens/panels/TypedName.h"
 #include "screens/platform/CodePage.h"
 #include "screens/platform/Dialogs.h"
+#include "screens/Remembered.h"
 #include "screens/Screen.h"
-#include "screens/squad/SquadSettings.h"
 #include "screens/Stage.h"
 #include "session/Session.h"
 
@@ -31,6 +30,7 @@ namespace {
 constexpr QSize UsualSize(1240, 720);
 constexpr int LeastRoomBeside = 760; // a window narrower than that shows too little to stand beside another
 
+constexpr const char* ColumnKeys[] = {"SquadSkaters", "SquadGoalies", "SquadProspects"}; // in what is remembered
 constexpr const char* Captions[] = {"Skaters", "Goalies", "Prospects"};
 constexpr const char* NotProved = "Where people stand is shown for the team whose screens are open.";
 
@@ -69,7 +69,7 @@ void frmSquad::Open(const QRect& front)
 {
     if (!isVisible()) {
         for (std::size_t at = 0; at < tables.size(); ++at)
-            tables[at]->Arrange(ColumnsKept(SquadKinds[at]));
+            tables[at]->Arrange(Remembered(ColumnKeys[at]));
         const QRect area = screen()->availableGeometry();
         const int frame = style()->pixelMetric(QStyle::PM_TitleBarHeight, nullptr, this);
         const QRect right(front.right() + 1, area.top() + frame, area.right() - front.right(), area.height() - frame);
@@ -385,15 +385,9 @@ void frmSquad::FillColumnMenu()
 
 void frmSquad::KeepColumns()
 {
-    try {
-        for (std::size_t at = 0; at < tables.size(); ++at)
-            if (tables[at]->People().columnCount() > 0)
-                dravik::KeepColumns(SquadKinds[at], tables[at]->Arrangement());
-        cmdColumns->setToolTip({});
-    } catch (const SettingsFailure& failed) {
-        cmdColumns->setToolTip(Qt::convertFromPlainText(ToQString(
-            "The settings could not be written to " + failed.File + ". The next start does not know of this.")));
-    }
+    for (std::size_t at = 0; at < tables.size(); ++at)
+        if (tables[at]->People().columnCount() > 0)
+            Remember(ColumnKeys[at], tables[at]->Arrangement());
 }
 
 void frmSquad::TurnTab(int by)
