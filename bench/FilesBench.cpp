@@ -9,6 +9,7 @@
 #include "bench/Ratio.h"
 #include "files/LinesFile.h"
 #include "files/SlotFile.h"
+#include "session/OpenChanges.h"
 #include "session/OpenLeagueClient.h"
 #include "session/Session.h"
 #include "support/ClientFileBytes.h"
@@ -17,6 +18,7 @@
 #include "support/SmallLeague.h"
 
 #include <benchmark/benchmark.h>
+#include <filesystem>
 #include <iostream>
 #include <random>
 #include <string_view>
@@ -157,6 +159,48 @@ void OpenAgainstZlib(benchmark::State& state)
     HoldTo(state, Compare(state, opening, inflating, Millisecond), InflaterHasFastPaths() ? 0.45 : 1.25);
 }
 BENCHMARK(OpenAgainstZlib)->Iterations(41)->UseManualTime()->Unit(benchmark::kMillisecond);
+
+// What is remembered of a league costs at each opening, against an opening that remembers nothing: of the same file, and of a newer
+// one, in which people of every team were hurt and rated anew.
+void OpenRemembering(benchmark::State& state, bool isNewer)
+{
+    Bench& bench = TheBench();
+    const std::filesystem::path folder = std::filesystem::path(bench.Machine.Folder()) / "leagues";
+    const std::filesystem::path kept = folder / "earlier";
+    bench.Open();
+    for (int id = 1; id <= PlayerTable::last; id += 3) {
+        Players[id].Condition = 40;
+        Players[id].Stats[1] = 1;
+    }
+    LeagueData.FileDate = LeagueData.FileDate - 1;
+    std::filesystem::create_directories(folder);
+    WriteWhole(kept.string(), [] {
+        const std::string bytes = WriteDigest(DigestOf(OpenLeague));
+        return ByteVector(bytes.begin(), bytes.end());
+    }());
+    const auto opening = [&] { bench.Open(); };
+    const auto remembering = [&] {
+        KeepDigests(folder);
+        bench.Open();
+        Demand(OpenChanges().All.empty() != isNewer);
+        KeepDigests({});
+    };
+    const auto prepare = [&] {
+        if (isNewer)
+            std::filesystem::copy_file(kept, folder / "42454e4348.digest",
+                                       std::filesystem::copy_options::overwrite_existing);
+    };
+    if (!isNewer) {
+        KeepDigests(folder);
+        bench.Open();
+        KeepDigests({});
+    }
+    HoldTo(state, Compare(state, remembering, opening, Millisecond, prepare), isNewer ? 1.30 : 1.20);
+}
+void OpenTheSameFile(benchmark::State& state) { OpenRemembering(state, false); }
+void OpenANewerFile(benchmark::State& state) { OpenRemembering(state, true); }
+BENCHMARK(OpenTheSameFile)->Iterations(41)->UseManualTime()->Unit(benchmark::kMillisecond);
+BENCHMARK(OpenANewerFile)->Iterations(41)->UseManualTime()->Unit(benchmark::kMillisecond);
 
 // Against the same compressing in memory, and the same bytes written, flushed and renamed.
 void SaveLinesAgainstCompress2(benchmark::State& state)

@@ -10,6 +10,7 @@
 #include "machine/Reporting.h"
 #include "machine/SettingsFailure.h"
 #include "rules/StatRows.h"
+#include "session/OpenChanges.h"
 #include "session/OpenHistory.h"
 #include "session/OpenJournal.h"
 #include "session/OpenMarket.h"
@@ -105,6 +106,7 @@ void ShowLeague(const std::string& path, bool damaged, MainWindow& window)
 void OpenLeagueClient(const std::string& path, MainWindow& window)
 {
     bool isOpen = false;
+    ForgetChanges();
     Reporting(Machine(), " in OpenLeagueClient!", [&] {
         EmptyLeagueTables(OpenLeague);
         if (!FileExist(Machine(), path)) {
@@ -124,6 +126,7 @@ void OpenLeagueClient(const std::string& path, MainWindow& window)
         }
         PrepareLeague(OpenLeague);
         isOpen = true;
+        LookForChanges(outcome.File == SlotFileRead::Damaged);
         const ShownRatings shown = RatingsShownBy(LeagueData);
         PlayerStatCount = shown.Skater;
         GoalieStatCount = shown.Goalie;
@@ -135,6 +138,7 @@ void OpenLeagueClient(const std::string& path, MainWindow& window)
     if (isOpen)
         BeginJournal();
     TellOfJournal(window);
+    window.ShowChanges();
 }
 
 void TellOfJournal(MainWindow& window)

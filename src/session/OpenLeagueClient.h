@@ -33,6 +33,8 @@ public:
     virtual void SetDateLabel(const std::string& text) = 0;
     // Says `text` in the quiet line of its kind until it is told another; the empty text takes the line away.
     virtual void Tell(QuietLine line, const std::string& text) = 0;
+    // Shows what changed since the last client file of the league, or that nothing did.
+    virtual void ShowChanges() {}
 };
 
 // Reads the client file `path` into the open league and shows the league in `window`. It has no result: a file that is
