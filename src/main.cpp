@@ -9,6 +9,7 @@
 #include "screens/platform/QtPlatform.h"
 #include "screens/platform/SamplePlace.h"
 #include "screens/Stage.h"
+#include "session/OpenChanges.h"
 #include "session/OpenJournal.h"
 #include "session/Session.h"
 
@@ -56,6 +57,7 @@ int main(int argc, char** argv)
     dravik::UseMachine(platform);
     dravik::KeepJournals(dravik::JournalPlace(), dravik::LocalTime);
     OfferSample();
+    dravik::KeepDigests(dravik::DigestPlace());
     dravik::Stage stage;
     return stage.Start() ? dravik::Application::exec() : 0;
 }

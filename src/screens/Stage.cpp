@@ -4,6 +4,7 @@
 #include "screens/lines/frmFarmLine.h"
 #include "screens/lines/frmLine.h"
 #include "screens/main/frmAbout.h"
+#include "screens/main/frmCompare.h"
 #include "screens/main/frmMain.h"
 #include "screens/market/frmDraft.h"
 #include "screens/market/frmFreeAgentClient.h"
@@ -26,7 +27,7 @@ namespace dravik {
 namespace {
 
 // Who comes back when a screen closes.
-enum class Behind { Main, Team, Caller, Viewer };
+enum class Behind { Main, Team, Office, Caller, Viewer };
 
 template <class T>
 std::unique_ptr<Screen> Make(Stage& stage)
@@ -49,13 +50,14 @@ constexpr Role Roles[] = {
     {Window::Roster,     "Roster",      Behind::Caller, true,  Make<frmRoster>},
     {Window::Line,       "Lines",       Behind::Caller, true,  Make<frmLine>},
     {Window::FarmLine,   "Farm Lines",  Behind::Caller, true,  Make<frmFarmLine>},
-    {Window::FreeAgent,  "Free Agents", Behind::Main,   true,  Make<frmFreeAgentClient>},
-    {Window::Draft,      "Draft List",  Behind::Main,   true,  Make<frmDraft>},
+    {Window::FreeAgent,  "Free Agents", Behind::Office, true,  Make<frmFreeAgentClient>},
+    {Window::Draft,      "Draft List",  Behind::Office, true,  Make<frmDraft>},
     {Window::Ticket,     "Tickets",     Behind::Team,   true,  Make<frmTicket>},
     {Window::EditPlayer, "Player",      Behind::Viewer, true,  Make<frmEditPlayer>},
     {Window::About,      "About",       Behind::Main,   false, Make<frmAbout>},
     {Window::Coach,      "Coach",       Behind::Main,   true,  Make<frmCoach>},
     {Window::Prospect,   "Prospects",   Behind::Main,   true,  Make<frmProspect>},
+    {Window::Compare,    "Compare",     Behind::Main,   false, Make<frmCompare>},
 };
 // clang-format on
 
@@ -171,6 +173,8 @@ Window Stage::BehindViewer() const
         return Window::FreeAgent;
     case return_mode::Draft:
         return Window::Draft;
+    case return_mode::Office:
+        return Window::Team;
     default:
         return Window::Main;
     }
@@ -235,6 +239,9 @@ void Stage::ShowBehind(Window closed)
         break;
     case Behind::Team:
         ShowReturningTo(Window::Team);
+        break;
+    case Behind::Office: // the team's screen where it opened the closed one
+        ShowReturningTo(Find(Window::Team) != nullptr ? Window::Team : Window::Main);
         break;
     case Behind::Caller:
         if (CallerScreen == caller_screen::Main)

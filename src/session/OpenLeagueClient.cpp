@@ -1,7 +1,6 @@
 #include "session/OpenLeagueClient.h"
 
-#include "desk/DraftCandidates.h"
-#include "desk/OpenMarkets.h"
+#include "desk/MarketDoors.h"
 #include "desk/PrepareLeague.h"
 #include "files/ClientFile.h"
 #include "league/Failure.h"
@@ -30,13 +29,12 @@ void TellCritical(std::string_view text)
 
 void SetMenus(MainWindow& window)
 {
+    const MarketDoors doors = DoorsOf(LeagueData);
     window.SetDraftMenu(false, "&Draft List");
-    window.SetFreeAgentsMenu(IsOpenToOffers(LeagueData));
-    if (!IsOpenToDraft(LeagueData))
-        return;
-    if (LeagueData.FantasyDraft)
+    window.SetFreeAgentsMenu(doors.AreFreeAgentsOpen);
+    if (doors.IsFantasyDraftOpen)
         window.SetDraftMenu(true, "Fantasy &Draft List");
-    if (IsEntryDraftAhead(LeagueData))
+    if (doors.IsEntryDraftOpen)
         window.SetDraftMenu(true, "Entry &Draft List");
 }
 

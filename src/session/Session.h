@@ -48,6 +48,7 @@ namespace return_mode {
 inline constexpr int Roster = 2;
 inline constexpr int Offers = 3;
 inline constexpr int Draft = 4;
+inline constexpr int Office = 5;
 inline constexpr int ProTeam = 2;
 inline constexpr int FarmTeam = 3;
 } // namespace return_mode

@@ -1,5 +1,5 @@
 #include "desk/DraftCandidates.h"
-#include "desk/OpenMarkets.h"
+#include "desk/MarketDoors.h"
 #include "desk/Ranking.h"
 #include "files/VerifyFile.h"
 #include "terminal/Answers.h"
@@ -40,7 +40,7 @@ Answer ReadRanking(LeagueAtHand& league, int team, const std::string& path)
 Answer WriteRanking(LeagueAtHand& league, int team, const MarketOptions& options)
 {
     constexpr int lastProspect = ProspectOffset + ProspectTable::last;
-    if (!IsOpenToDraft(league.League->LeagueData))
+    if (!DoorsOf(league.League->LeagueData).IsDraftOpen())
         throw Problem("no draft is ahead");
     const CsvFile table(options.Csv, {"id"});
     const auto wanted = std::make_unique<DraftRanking>();

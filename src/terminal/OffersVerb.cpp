@@ -1,7 +1,7 @@
 #include "desk/FreeAgents.h"
 #include "desk/Market.h"
+#include "desk/MarketDoors.h"
 #include "desk/Offers.h"
-#include "desk/OpenMarkets.h"
 #include "files/OffersFile.h"
 #include "files/VerifyFile.h"
 #include "terminal/Answers.h"
@@ -71,7 +71,7 @@ void Enter(LeagueAtHand& league, int team, OfferTable& offers, const std::set<in
 
 Answer WriteOffers(LeagueAtHand& league, int team, const MarketOptions& options)
 {
-    if (!IsOpenToOffers(league.League->LeagueData))
+    if (!DoorsOf(league.League->LeagueData).AreFreeAgentsOpen)
         throw Problem("no offers can be made: the trade deadline is in force");
     const CsvFile table(options.Csv, {"id", "salary", "years"});
     const Work work = league.AtWork();

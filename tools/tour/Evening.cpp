@@ -63,6 +63,7 @@ void Evening::OpenLeague()
     Require(ListOf(plan.Team) != nullptr, "the team stands in a list");
     Choose();
     Photograph(Window::Main, "main");
+    ShowChanges();
 }
 
 void Evening::Choose()

@@ -38,6 +38,8 @@ public:
 private:
     void Start();
     void OpenLeague();
+    // Has the league as it was some days before beside the file, and then the file opened behind that.
+    void ShowChanges();
     // Goes to the team's entry as by keyboard.
     void Choose();
     void EnterOffice();

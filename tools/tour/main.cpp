@@ -2,6 +2,7 @@
 #include "machine/Clock.h"
 #include "screens/platform/Application.h"
 #include "screens/platform/QtPlatform.h"
+#include "session/OpenChanges.h"
 #include "session/OpenJournal.h"
 #include "session/Session.h"
 
@@ -53,6 +54,9 @@ int Run(const Plan& plan)
     const QString journals = plan.Out + "/journal";
     QDir(journals).removeRecursively();
     KeepJournals(QFile::encodeName(journals).toStdString(), LocalTime);
+    const QString leagues = plan.Out + "/leagues";
+    QDir(leagues).removeRecursively();
+    KeepDigests(QFile::encodeName(leagues).toStdString());
     try {
         Evening(plan).Spend();
     } catch (const StepFailed& failed) {

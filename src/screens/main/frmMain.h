@@ -15,6 +15,8 @@
 
 namespace dravik {
 
+class ChangeList;
+
 // The main screen: the teams of the open league in their divisions, and the way to every other screen. Closing it ends the
 // program.
 class frmMain : public Screen, public MainWindow {
@@ -34,10 +36,14 @@ public:
     void SetFreeAgentsMenu(bool enabled) override;
     void SetDateLabel(const std::string& text) override;
     void Tell(QuietLine line, const std::string& text) override;
+    // What anybody may know of what changed since the last client file, the chosen team's first.
+    void ShowChanges() override;
 
     void lstDivision_Click(int division);
     void lstDivision_DblClick(int division);
     void mnuOpen_Click();
+    // Has another client file beside the open league, which it does not touch.
+    void mnuCompare_Click();
     void mnuExit_Click();
     void mnuViewTeam_Click();
     void mnuSetRoster_Click();
@@ -109,6 +115,9 @@ private:
 
     bool ListClickReady = false;
     std::optional<bool> placedSix; // whether all six lists are laid out; empty before the first league
+
+    QAction* mnuCompare = nullptr;
+    ChangeList* changes;
 };
 
 } // namespace dravik

@@ -315,7 +315,7 @@ int EntryList::WidthOfWidestEntry() const
     QString widest;
     int most = 0;
     int room = 0;
-    for (int row = 0; row < count(); ++row) {
+    for (int row = 0; row < (givesWay ? 0 : count()); ++row) {
         const QString text = item(row)->text();
         if (const int width = letters.Of(text); width > most) {
             most = width;

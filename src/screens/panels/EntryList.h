@@ -62,6 +62,8 @@ public:
     void SetCurrentToNone();
     // The width at which the list shows its widest entry whole, in pixels, frame and scroll bar included.
     [[nodiscard]] int WidthOfWidestEntry() const;
+    // Has the list count as one without entries there: they are sentences, which are cut where they have no room.
+    void GiveWay() { givesWay = true; }
     // Asks the layout for that width from now on.
     void AskForWidth(int width);
     [[nodiscard]] QSize sizeHint() const override;
@@ -94,6 +96,7 @@ private:
     bool cutsNamesFirst = false;
     bool keepsAsidesTogether = false;
     bool leavesAsidesOut = false;
+    bool givesWay = false;
     int askedWidth = 0;
     TypeAhead* typeAhead;
 };

@@ -8,4 +8,7 @@ namespace dravik {
 // knows of no such place.
 std::filesystem::path JournalPlace();
 
+// The folder beside it for what is remembered of leagues, likewise.
+std::filesystem::path DigestPlace();
+
 } // namespace dravik

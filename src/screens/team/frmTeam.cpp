@@ -131,6 +131,8 @@ void frmTeam::FormActivate()
     tell(pro, Side::Pro);
     tell(farm, Side::Farm);
     ShowSaveHint(reasons, details);
+    ShowEvening();
+    ShowChanges();
 }
 
 void frmTeam::EnableSaveToFile()

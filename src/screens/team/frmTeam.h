@@ -17,6 +17,9 @@
 
 namespace dravik {
 
+class ChangeList;
+class EveningRows;
+enum class EveningTask;
 struct SeasonFigures;
 
 // The office of the chosen team: who it is, what it has and will have, the way to its roster, lines and tickets, and the
@@ -68,6 +71,10 @@ public:
     void cmdTakeLines_Click();
     void TakeLinesFrom(const std::vector<Side>& sides);
     void cmdExit_Click();
+    // Goes to the screen of a task of the evening.
+    void GoTo(EveningTask task);
+    // Opens the record of whom an entry of the changes is about, if he is of the team or of none.
+    void OpenChanged(int entry);
 
     EditBox *txtTeamName = nullptr, *txtAbbre = nullptr, *txtCity = nullptr, *txtGm = nullptr, *txtProMorale = nullptr;
     EditBox *txtFarmTeamName = nullptr, *txtFarmAbbre = nullptr, *txtFarmMorale = nullptr;
@@ -97,6 +104,7 @@ private:
     QWidget* MakeContactGroup();
     QWidget* MakeFinanceGroup();
     QWidget* MakeProjectionGroup();
+    QWidget* MakeEveningColumn();
     void SetTabOrder();
     // A label that shows something of the team under its `name`.
     QLabel* MakeFigure(const char* name, bool isNumber = true);
@@ -108,6 +116,9 @@ private:
     // The boxes show what the record holds, where a text may be less than was typed.
     void ShowBoxes(const Team& team);
     void ShowTexts(const Team& team);
+    // How far the evening is, and what changed since the last client file; the judges look at a copy.
+    void ShowEvening();
+    void ShowChanges();
     void ShowCoach(long long coach, QLabel* label, QPushButton* fire);
     void CloseWhatTheLeagueKeeps();
     // Shows the figures that were reached.
@@ -127,6 +138,8 @@ private:
 
     QLabel* lblTitle = nullptr;
     QWidget* signSaveHint = nullptr;
+    EveningRows* evening = nullptr;
+    ChangeList* changes = nullptr;
 };
 
 } // namespace dravik

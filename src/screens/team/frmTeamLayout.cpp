@@ -1,6 +1,8 @@
+#include "screens/panels/ChangeList.h"
 #include "screens/panels/ElidedLabel.h"
 #include "screens/panels/Labels.h"
 #include "screens/panels/Layouts.h"
+#include "screens/team/EveningRows.h"
 #include "screens/team/frmTeam.h"
 #include "session/OpenSaves.h"
 
@@ -49,12 +51,14 @@ frmTeam::frmTeam(Stage& stage) : Screen(stage, "frmTeam")
     money->addStretch(1);
     auto* grid = new QGridLayout;
     grid->setSpacing(Margin);
-    grid->addWidget(MakeCommandGroup(), 0, 0);
-    grid->addWidget(MakeFileGroup(), 0, 1);
-    grid->addLayout(identity, 1, 0);
-    grid->addLayout(money, 1, 1);
-    grid->setColumnStretch(0, 1);
-    grid->setColumnStretch(1, 1);
+    // Two groups side by side above, three columns below them.
+    grid->addWidget(MakeCommandGroup(), 0, 0, 1, 3);
+    grid->addWidget(MakeFileGroup(), 0, 3, 1, 3);
+    grid->addLayout(identity, 1, 0, 1, 2);
+    grid->addLayout(money, 1, 2, 1, 2);
+    grid->addWidget(MakeEveningColumn(), 1, 4, 1, 2);
+    for (int part = 0; part < grid->columnCount(); ++part)
+        grid->setColumnStretch(part, 1);
     grid->setRowStretch(1, 1);
     column->addLayout(grid, 1);
 
@@ -285,11 +289,15 @@ QWidget* frmTeam::MakeProjectionGroup()
 
 void frmTeam::SetTabOrder()
 {
-    const QList<QWidget*> order{CmdRoster,        cmdLines,           cmdFarmLines, cmdTicketArena,  cmdSaveToFile,
-                                cmdLoadFile,      txtTeamName,        txtCity,      txtAbbre,        txtGm,
-                                txtProMorale,     cmdChangeCoach,     cmdFirePro,   txtFarmTeamName, txtFarmAbbre,
-                                txtFarmMorale,    cmdFarmChangeCoach, cmdFireFarm,  txtMessenger,    txtEmail,
-                                cmdChangeFinance, cmdPayrollBonus,    cmdPassword,  cmdProspect,     cmdExit};
+    QList<QWidget*> order{CmdRoster,        cmdLines,           cmdFarmLines, cmdTicketArena,  cmdSaveToFile,
+                          cmdLoadFile,      txtTeamName,        txtCity,      txtAbbre,        txtGm,
+                          txtProMorale,     cmdChangeCoach,     cmdFirePro,   txtFarmTeamName, txtFarmAbbre,
+                          txtFarmMorale,    cmdFarmChangeCoach, cmdFireFarm,  txtMessenger,    txtEmail,
+                          cmdChangeFinance, cmdPayrollBonus};
+    for (const EveningTask task : {EveningTask::Roster, EveningTask::Lines, EveningTask::FarmLines,
+                                   EveningTask::Tickets, EveningTask::Offers, EveningTask::Ranking})
+        order << evening->CommandOf(task);
+    order << changes->List() << cmdPassword << cmdProspect << cmdExit;
     ChainTabs(order);
 }
 
