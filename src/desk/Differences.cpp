@@ -19,7 +19,7 @@ namespace {
 using enum DifferenceKind;
 using enum DifferenceTone;
 
-// In the words, %a stands for the number behind the change, %B and %A for what it was and is as money, %c for what that
+// In the words, %a stands for the number behind the change, %A for what it is as money, %c for what that
 // is more or less, %g for games and %y for years, %s and %S for the statuses, %f and %t for the team before and the team now, %i
 // for the injury, %r for the ratings and %l for lines.
 constexpr std::array<DifferenceRow, 22> Rows{{
@@ -40,10 +40,10 @@ constexpr std::array<DifferenceRow, 22> Rows{{
     {Fell, Down, false, "", "%r"},
     {Shifted, News, false, "", "%r"},
     {Placed, News, true, "", "%s to %S"},
-    {Cash, Money, true, "Bank account", "%B to %A (%c)"},
-    {Payroll, Money, true, "Payroll", "%B to %A (%c)"},
+    {Cash, Money, true, "Bank account", "%c, %A now"},
+    {Payroll, Money, true, "Payroll", "%c, %A now"},
     {LinesLoaded, Good, true, "Your lines", "loaded, %a times by now"},
-    {SalaryCap, Money, false, "Salary cap", "%B to %A (%c)"},
+    {SalaryCap, Money, false, "Salary cap", "%c, %A now"},
     {Deadline, News, false, "Trade deadline", "is over"},
 }};
 static_assert([] {
@@ -371,8 +371,6 @@ std::string Filled(const Tables& league, const Formats& shown, const Difference&
     switch (letter) {
     case 'a':
         return std::to_string(difference.After);
-    case 'B':
-        return MoneyWords(shown, difference.Before);
     case 'A':
         return MoneyWords(shown, difference.After);
     case 'c':

@@ -52,6 +52,7 @@ void WriteWhole(const fs::path& path, std::string_view bytes)
     fs::path fresh = path;
     fresh += ".new";
     std::ofstream file(fresh, std::ios::binary);
+    fs::permissions(fresh, fs::perms::owner_read | fs::perms::owner_write, ignored); // it tells of teams' money
     file.write(bytes.data(), static_cast<std::streamsize>(bytes.size()));
     file.close();
     if (!file || RenameReplacing(fresh, path))

@@ -224,7 +224,7 @@ TEST_F(DifferencesTest, MoneyPayrollLoadsAndStatusesAreTheTeamsOwn)
     const auto told = Told(5, true);
     ASSERT_EQ(told.size(), 4U);
     EXPECT_EQ(told[0], "Skater 1: pro to farm");
-    EXPECT_EQ(told[1], "Bank account: 0.000000 to 500.000000 (+500.000000)");
+    EXPECT_EQ(told[1], "Bank account: +500.000000, 500.000000 now");
     EXPECT_TRUE(told[2].starts_with("Payroll: ")) << told[2];
     EXPECT_EQ(told[3], "Your lines: loaded, 4 times by now");
     EXPECT_EQ(Told(6, true).size(), 2U + 0U) << "the money and the status of team 6";
@@ -237,7 +237,7 @@ TEST_F(DifferencesTest, TheCapAndTheDeadlineAreEverybodys)
     Remember();
     LeagueData.SalaryCap = 90;
     LeagueData.TradeDeadlinePassed = true;
-    EXPECT_THAT(Told(), ElementsAre("Salary cap: 100.000000 to 90.000000 (-10.000000)", "Trade deadline: is over"));
+    EXPECT_THAT(Told(), ElementsAre("Salary cap: -10.000000, 90.000000 now", "Trade deadline: is over"));
     LeagueData.SalaryCapMode = 0;
     EXPECT_THAT(Told(), ElementsAre("Trade deadline: is over"));
 }

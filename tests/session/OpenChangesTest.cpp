@@ -64,6 +64,9 @@ TEST_F(OpenChangesTest, TheFirstFileOfALeagueIsKeptAndTellsNothing)
     EXPECT_FALSE(OpenChanges().FileDate);
     EXPECT_THAT(Kept(), ElementsAre("412f422031.digest"));
     EXPECT_LE(fs::file_size(Folder / Kept()[0]), MostDigestBytes);
+#ifndef _WIN32
+    EXPECT_EQ(fs::status(Folder / Kept()[0]).permissions(), fs::perms::owner_read | fs::perms::owner_write);
+#endif
 }
 
 TEST_F(OpenChangesTest, ANewerFileTellsWhatChangedAndOpenedAgainNothing)

@@ -10,8 +10,8 @@ constexpr auto Everywhere = "*";
 constexpr auto WithHistory = "frmTeam frmRoster frmLine frmFarmLine frmFreeAgentClient frmDraft frmTicket";
 constexpr auto OnLines = "frmLine frmFarmLine";
 constexpr auto OnMain = "frmMain";
-constexpr auto WithLists = "frmMain frmRoster frmLine frmFarmLine frmFreeAgentClient frmDraft";
-constexpr auto WithCards = "frmRoster frmLine frmFarmLine frmFreeAgentClient frmDraft";
+constexpr auto WithLists = "frmMain frmTeam frmRoster frmLine frmFarmLine frmFreeAgentClient frmDraft frmCompare";
+constexpr auto WithCards = "frmMain frmTeam frmRoster frmLine frmFarmLine frmFreeAgentClient frmDraft";
 constexpr auto OnMarket = "frmFreeAgentClient frmDraft";
 constexpr auto Slot = "a slot";
 constexpr auto List = "a list";
@@ -31,7 +31,8 @@ constexpr KeyRow Rows[] = {
     {OnMain, KeyScope::Screen, "Ctrl+Shift+L", "", "Set the farm's lines"},
     {OnMain, KeyScope::Screen, "Ctrl+Shift+A", "", "Free agents"},
     {OnMain, KeyScope::Screen, "Ctrl+D", "", "Draft list"},
-    {"frmAbout", KeyScope::Screen, "Esc", "", "Exit"},
+    {OnMain, KeyScope::Screen, "Ctrl+Shift+C", "", "Compare with another client file"},
+    {"frmAbout frmCompare", KeyScope::Screen, "Esc", "", "Exit"},
     {WithCards, KeyScope::Screen, "Ctrl+I", "", "The card of a person"},
     {OnMarket, KeyScope::Screen, "F3", "", "Find next"},
     {OnLines, KeyScope::Screen,

@@ -135,6 +135,20 @@ EveningRows::EveningRows(const std::function<QPushButton*(EveningTask task, cons
         grid->addLayout(words, line, WordsColumn);
         grid->addWidget(row.Command, line, OpenColumn);
     }
+    FitCommands();
+}
+
+void EveningRows::FitCommands()
+{
+    for (const Row& row : rows)
+        row.Command->setFixedWidth(row.Command->fontMetrics().horizontalAdvance(row.Command->text()) + 2 * Margin);
+}
+
+void EveningRows::changeEvent(QEvent* event)
+{
+    QWidget::changeEvent(event);
+    if (event->type() == QEvent::FontChange)
+        FitCommands();
 }
 
 void EveningRows::Show(const EveningItem& item, const Saved& saved)

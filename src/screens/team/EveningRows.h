@@ -28,6 +28,9 @@ public:
     void Show(const EveningItem& item, const Saved& saved);
     [[nodiscard]] QPushButton* CommandOf(EveningTask task) const { return rows.at(IndexOf(task)).Command; }
 
+protected:
+    void changeEvent(QEvent* event) override;
+
 private:
     struct Row {
         QWidget* Sign = nullptr;
@@ -36,6 +39,9 @@ private:
         QPushButton* Command = nullptr;
     };
     static std::size_t IndexOf(EveningTask task) { return static_cast<std::size_t>(task); }
+
+    // The commands are as narrow as their words, so that those beside them have room.
+    void FitCommands();
 
     std::array<Row, EveningTasks> rows;
 };
