@@ -39,13 +39,14 @@ EveningItem LookAtRoster(const Tables& league, const Formats& shown, int team, T
     if (!verdict.Complete || verdict.Failed) {
         item.State = EveningState::Wrong;
         item.Count = static_cast<int>(std::max<std::size_t>(1, item.Findings.size()));
-        item.Words = item.Findings.empty() ? "incomplete" : item.Findings.front();
+        item.Words = Counted(item.Count, "finding");
         return item;
     }
     try {
         const CapStanding standing = StandingAgainstCap(league, team);
-        item.Words = "complete, " + MoneyWords(shown, standing.Total) +
-                     (standing.Cap ? " of " + MoneyWords(shown, *standing.Cap) : "");
+        item.Words = "complete, payroll " + MoneyWords(shown, standing.Total);
+        if (standing.Cap)
+            item.Findings.push_back("The payroll may reach " + MoneyWords(shown, *standing.Cap) + '.');
     } catch (const Failure&) {
         item.Words = "complete";
     }

@@ -26,7 +26,7 @@ struct EveningItem {
     EveningState State{};
     int Count = 0;                     // of what is wrong: findings of a roster, days of lines
     std::string Words;                 // "7 of 10 days complete"
-    std::vector<std::string> Findings; // the judges' own words, a line each
+    std::vector<std::string> Findings; // what more there is to say, a line each: the judges' own words, the cap
 };
 using EveningBoard = std::array<EveningItem, EveningTasks>;
 

@@ -49,8 +49,8 @@ TEST_F(EveningTest, AllIsDoneWhereTheJudgesAreContent)
     const EveningItem roster = Of(EveningTask::Roster);
     EXPECT_EQ(roster.State, EveningState::Done);
     EXPECT_THAT(roster.Findings, IsEmpty());
-    EXPECT_EQ(roster.Words,
-              "complete, " + Shown.CurrencyNoDecimals(static_cast<double>(StandingAgainstCap(OpenLeague, 5).Total)));
+    EXPECT_EQ(roster.Words, "complete, payroll " +
+                                Shown.CurrencyNoDecimals(static_cast<double>(StandingAgainstCap(OpenLeague, 5).Total)));
     for (const EveningTask lines : {EveningTask::Lines, EveningTask::FarmLines}) {
         EXPECT_EQ(Of(lines).State, EveningState::Done);
         EXPECT_EQ(Of(lines).Words, "10 of 10 days complete");
@@ -61,12 +61,13 @@ TEST_F(EveningTest, TheCapStandsBesideThePayroll)
 {
     LeagueData.SalaryCapMode = 1;
     LeagueData.SalaryCap = 90000000;
-    EXPECT_TRUE(Of(EveningTask::Roster).Words.ends_with(" of 90000000.000000")) << Of(EveningTask::Roster).Words;
+    EXPECT_THAT(Of(EveningTask::Roster).Findings, ElementsAre("The payroll may reach 90000000.000000."));
     LeagueData.SalaryCap = 10;
     const EveningItem roster = Of(EveningTask::Roster);
     EXPECT_EQ(roster.State, EveningState::Wrong);
     EXPECT_EQ(roster.Count, 1);
-    EXPECT_EQ(roster.Words, roster.Findings.at(0));
+    EXPECT_EQ(roster.Words, "1 finding");
+    ASSERT_EQ(roster.Findings.size(), 1U);
 }
 
 TEST_F(EveningTest, WhatTheRosterJudgeFindsIsCountedAndSaid)
@@ -82,7 +83,7 @@ TEST_F(EveningTest, WhatTheRosterJudgeFindsIsCountedAndSaid)
     const EveningItem roster = Of(EveningTask::Roster);
     EXPECT_EQ(roster.State, EveningState::Wrong);
     EXPECT_EQ(roster.Count, static_cast<int>(verdict.Findings.size()));
-    EXPECT_EQ(roster.Words, WordsOf(*copy, verdict.Findings.front()));
+    EXPECT_EQ(roster.Findings.at(0), WordsOf(*copy, verdict.Findings.front()));
 }
 
 TEST_F(EveningTest, DaysOfLinesThatAreIncompleteAreCounted)

@@ -153,6 +153,18 @@ TEST_F(ChangesShownTest, EnterOnAnEntryOpensTheRecordAndComesBack)
     EXPECT_FALSE(Main().isVisible());
 }
 
+TEST_F(ChangesShownTest, F6LeadsToTheListAndBack)
+{
+    PlayOn();
+    frmTeam& team = OpenTeam(5);
+    team.CmdRoster->setFocus();
+    for (int step = 0; step < 2; ++step)
+        Press(team.focusWidget(), Qt::Key_F6);
+    EXPECT_TRUE(ListOf(team).List()->hasFocus());
+    Press(team.focusWidget(), Qt::Key_F6);
+    EXPECT_TRUE(team.CmdRoster->hasFocus());
+}
+
 TEST_F(ChangesShownTest, OtherTeamsPeopleAndMoneyOpenNoRecord)
 {
     PlayOn();
@@ -282,6 +294,21 @@ TEST_F(EveningShownTest, RowsSayHowFarTheEveningIs)
     Teams[5].ProLines[2] = Teams[5].ProLines[1];
     Office().FormActivate();
     EXPECT_EQ(Words("lblEveningLines"), "2 of 10 days complete") << "fresh as the screen comes forward";
+}
+
+TEST_F(EveningShownTest, F6GoesToTheBoardAndTheArrowsWalkIt)
+{
+    CompleteTeam(5);
+    Office().cmdExit->setFocus();
+    Press(Office().cmdExit, Qt::Key_F6);
+    EXPECT_TRUE(Command("cmdEveningRoster").hasFocus());
+    Press(Office().focusWidget(), Qt::Key_Up);
+    EXPECT_TRUE(Command("cmdEveningRoster").hasFocus());
+    for (int step = 0; step < 6; ++step)
+        Press(Office().focusWidget(), Qt::Key_Down);
+    EXPECT_TRUE(Command("cmdEveningOffers").hasFocus()) << "the draft is closed";
+    Press(Office().focusWidget(), Qt::Key_F6);
+    EXPECT_TRUE(Office().CmdRoster->hasFocus()) << "nothing has changed";
 }
 
 TEST_F(EveningShownTest, TheBoardRepairsNothing)

@@ -38,7 +38,7 @@ TEST_F(DesignWordsTest, OfTheMainScreen)
 
 TEST_F(DesignWordsTest, OfTheTeamScreen)
 {
-    const std::vector<DesignWords> expected = {
+    std::vector<DesignWords> expected = {
         {"frmTeam", ""},
         {"lblTitle", ""},
         {"lblDivision", ""},
@@ -124,7 +124,20 @@ TEST_F(DesignWordsTest, OfTheTeamScreen)
         {"mnuTakePro", "&Pro Lines ..."},
         {"mnuTakeFarm", "&Farm Lines ..."},
         {"mnuMovedOn", "Moved &On by the Days Played Since"},
+        {"grpEvening", "This Evening"},
+        {"lblChanges", ""},
+        {"lstChanges", ""},
     };
+    const std::pair<const char*, const char*> tasks[] = {{"Roster", "Roster"},        {"Lines", "Lines"},
+                                                         {"FarmLines", "Farm Lines"}, {"Tickets", "Tickets & Arena"},
+                                                         {"Offers", "Free Agents"},   {"Ranking", "Draft List"}};
+    for (const auto& [name, caption] : tasks) {
+        const std::string row = std::string("Evening") + name;
+        expected.push_back({"lbl" + row + "Caption", caption});
+        expected.push_back({"lbl" + row, ""});
+        expected.push_back({"lbl" + row + "Saved", ""});
+        expected.push_back({"cmd" + row, "Open"});
+    }
     const auto screen = std::make_unique<frmTeam>(TheStage); // too large for a stack
     EXPECT_THAT(DesignWordsOf(*screen), UnorderedElementsAreArray(expected));
 }

@@ -63,7 +63,7 @@ protected:
 TEST_F(MainState, EachMenuHoldsItsCommandsInOrder)
 {
     EXPECT_THAT(NamesOf(Main().menuBar()->actions()), ElementsAre("mnuFile", "mnuTeam", "mnuView", "mnuHelp"));
-    EXPECT_THAT(NamesOf(Main().mnuFile->actions()), ElementsAre("mnuOpen", "mnuRecent", "", "mnuExit"));
+    EXPECT_THAT(NamesOf(Main().mnuFile->actions()), ElementsAre("mnuOpen", "mnuRecent", "mnuCompare", "", "mnuExit"));
     EXPECT_THAT(NamesOf(Main().mnuTeam->actions()), ElementsAre("mnuViewTeam", "mnuSetRoster", "mnuSetLines",
                                                                 "mnuSetFarmLines", "mnuFreeAgents", "mnuDraft"));
     EXPECT_THAT(NamesOf(Main().mnuHelp->actions()), ElementsAre("mnuAbout", "mnuOutputRatingCSV"));

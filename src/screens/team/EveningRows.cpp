@@ -6,6 +6,8 @@
 #include "screens/panels/VerdictSigns.h"
 #include "screens/platform/CodePage.h"
 
+#include <algorithm>
+#include <QKeyEvent>
 #include <QPainter>
 #include <QTextDocument>
 
@@ -127,6 +129,8 @@ EveningRows::EveningRows(const std::function<QPushButton*(EveningTask task, cons
         row.SavedWords = new ElidedLabel(this, ElidedLabel::Words::Muted);
         row.SavedWords->setObjectName("lblEvening" + name + "Saved");
         row.Command = makeCommand(static_cast<EveningTask>(index), "cmdEvening" + name);
+        row.Command->setFocusPolicy(Qt::ClickFocus);
+        row.Command->installEventFilter(this);
         grid->addWidget(row.Sign, line, SignColumn);
         grid->addWidget(caption, line, NameColumn);
         QVBoxLayout* words = MakeColumn({row.Words, row.SavedWords}, 0);
@@ -135,20 +139,33 @@ EveningRows::EveningRows(const std::function<QPushButton*(EveningTask task, cons
         grid->addLayout(words, line, WordsColumn);
         grid->addWidget(row.Command, line, OpenColumn);
     }
-    FitCommands();
 }
 
-void EveningRows::FitCommands()
+void EveningRows::Enter()
 {
     for (const Row& row : rows)
-        row.Command->setFixedWidth(row.Command->fontMetrics().horizontalAdvance(row.Command->text()) + 2 * Margin);
+        if (row.Command->isEnabled()) {
+            row.Command->setFocus(Qt::ShortcutFocusReason);
+            return;
+        }
 }
 
-void EveningRows::changeEvent(QEvent* event)
+bool EveningRows::eventFilter(QObject* watched, QEvent* event)
 {
-    QWidget::changeEvent(event);
-    if (event->type() == QEvent::FontChange)
-        FitCommands();
+    if (event->type() != QEvent::KeyPress)
+        return false;
+    const int key = static_cast<QKeyEvent*>(event)->key();
+    if (key != Qt::Key_Up && key != Qt::Key_Down)
+        return false;
+    const auto here = std::find_if(rows.begin(), rows.end(), [&](const Row& row) { return row.Command == watched; });
+    const int step = key == Qt::Key_Down ? 1 : -1;
+    for (auto at = static_cast<int>(here - rows.begin()) + step; at >= 0 && at < static_cast<int>(EveningTasks);
+         at += step)
+        if (QPushButton* command = rows.at(static_cast<std::size_t>(at)).Command; command->isEnabled()) {
+            command->setFocus(Qt::OtherFocusReason);
+            break;
+        }
+    return true;
 }
 
 void EveningRows::Show(const EveningItem& item, const Saved& saved)
@@ -168,6 +185,7 @@ void EveningRows::Show(const EveningItem& item, const Saved& saved)
     const QString name = QString(task.Caption).replace("&&", "&");
     row.Command->setAccessibleName("Open " + name);
     QStringList description{SignWords(item.State, saved.IsUnsaved), ToQString(item.Words), saved.Words};
+    description << findings;
     description.removeAll(QString());
     row.Command->setAccessibleDescription(description.join(", "));
 }

@@ -14,7 +14,8 @@ namespace dravik {
 class ElidedLabel;
 
 // What an evening is for, a row each: its sign, what it is, how far it is, whether that is saved, and the command that goes there.
-// The signs differ in shape: a tick, a number on a disc, a triangle, a dash.
+// The signs differ in shape: a tick, a number on a disc, an exclamation mark in a ring, a dash. The tab key passes the commands over, as most
+// of them stand elsewhere on the screen too; `Enter` goes to the first.
 class EveningRows : public QWidget {
 public:
     // `makeCommand(task, name)` makes the command of a row.
@@ -26,10 +27,13 @@ public:
         bool IsUnsaved = false;
     };
     void Show(const EveningItem& item, const Saved& saved);
+    // Gives the focus to the first command that is open.
+    void Enter();
     [[nodiscard]] QPushButton* CommandOf(EveningTask task) const { return rows.at(IndexOf(task)).Command; }
 
 protected:
-    void changeEvent(QEvent* event) override;
+    // Up and Down go from command to command.
+    bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
     struct Row {
@@ -39,9 +43,6 @@ private:
         QPushButton* Command = nullptr;
     };
     static std::size_t IndexOf(EveningTask task) { return static_cast<std::size_t>(task); }
-
-    // The commands are as narrow as their words, so that those beside them have room.
-    void FitCommands();
 
     std::array<Row, EveningTasks> rows;
 };

@@ -105,6 +105,8 @@ private:
     QWidget* MakeFinanceGroup();
     QWidget* MakeProjectionGroup();
     QWidget* MakeEveningColumn();
+    // From the page to the evening, on to the changes, and back.
+    void GoAround();
     void SetTabOrder();
     // A label that shows something of the team under its `name`.
     QLabel* MakeFigure(const char* name, bool isNumber = true);

@@ -16,6 +16,7 @@
 
 #include <algorithm>
 #include <QGroupBox>
+#include <QShortcut>
 
 // The evening on the team screen: how far it is, and what the last client file changed.
 namespace dravik {
@@ -90,12 +91,28 @@ QWidget* frmTeam::MakeEveningColumn()
         const auto who = PersonOfEntry(entry);
         return who ? CardOf(*who, SignsOf(OpenLeague, *who, OwnNumber())) : std::nullopt;
     });
+    // Beside the way of the tab key, which stays what it is.
+    changes->List()->setFocusPolicy(Qt::ClickFocus);
+    connect(new QShortcut(Qt::Key_F6, this), &QShortcut::activated, this, [this] { GoAround(); });
     auto* panel = new QWidget(this);
     QVBoxLayout* column = MakeColumn(panel, Margin);
     column->addWidget(group);
     column->addWidget(changes, 1);
     column->addStretch(0);
     return panel;
+}
+
+void frmTeam::GoAround()
+{
+    const QWidget* here = focusWidget();
+    if (here != nullptr && changes->isAncestorOf(here))
+        CmdRoster->setFocus(Qt::ShortcutFocusReason);
+    else if (here == nullptr || !evening->isAncestorOf(here))
+        evening->Enter();
+    else if (changes->isVisible())
+        changes->List()->setFocus(Qt::ShortcutFocusReason);
+    else
+        CmdRoster->setFocus(Qt::ShortcutFocusReason);
 }
 
 void frmTeam::ShowEvening()

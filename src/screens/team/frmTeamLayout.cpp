@@ -51,14 +51,16 @@ frmTeam::frmTeam(Stage& stage) : Screen(stage, "frmTeam")
     money->addStretch(1);
     auto* grid = new QGridLayout;
     grid->setSpacing(Margin);
-    // Two groups side by side above, three columns below them.
+    // Two groups side by side above, three columns below them, of which the last has the longest words.
     grid->addWidget(MakeCommandGroup(), 0, 0, 1, 3);
     grid->addWidget(MakeFileGroup(), 0, 3, 1, 3);
     grid->addLayout(identity, 1, 0, 1, 2);
     grid->addLayout(money, 1, 2, 1, 2);
     grid->addWidget(MakeEveningColumn(), 1, 4, 1, 2);
+    constexpr int usual = 5;
+    constexpr int wide = 6;
     for (int part = 0; part < grid->columnCount(); ++part)
-        grid->setColumnStretch(part, 1);
+        grid->setColumnStretch(part, part < 4 ? usual : wide);
     grid->setRowStretch(1, 1);
     column->addLayout(grid, 1);
 
@@ -289,15 +291,11 @@ QWidget* frmTeam::MakeProjectionGroup()
 
 void frmTeam::SetTabOrder()
 {
-    QList<QWidget*> order{CmdRoster,        cmdLines,           cmdFarmLines, cmdTicketArena,  cmdSaveToFile,
-                          cmdLoadFile,      txtTeamName,        txtCity,      txtAbbre,        txtGm,
-                          txtProMorale,     cmdChangeCoach,     cmdFirePro,   txtFarmTeamName, txtFarmAbbre,
-                          txtFarmMorale,    cmdFarmChangeCoach, cmdFireFarm,  txtMessenger,    txtEmail,
-                          cmdChangeFinance, cmdPayrollBonus};
-    for (const EveningTask task : {EveningTask::Roster, EveningTask::Lines, EveningTask::FarmLines,
-                                   EveningTask::Tickets, EveningTask::Offers, EveningTask::Ranking})
-        order << evening->CommandOf(task);
-    order << changes->List() << cmdPassword << cmdProspect << cmdExit;
+    const QList<QWidget*> order{CmdRoster,        cmdLines,           cmdFarmLines, cmdTicketArena,  cmdSaveToFile,
+                                cmdLoadFile,      txtTeamName,        txtCity,      txtAbbre,        txtGm,
+                                txtProMorale,     cmdChangeCoach,     cmdFirePro,   txtFarmTeamName, txtFarmAbbre,
+                                txtFarmMorale,    cmdFarmChangeCoach, cmdFireFarm,  txtMessenger,    txtEmail,
+                                cmdChangeFinance, cmdPayrollBonus,    cmdPassword,  cmdProspect,     cmdExit};
     ChainTabs(order);
 }
 
