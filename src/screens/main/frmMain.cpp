@@ -10,19 +10,14 @@
 #include "rules/RosterJudge.h"
 #include "screens/ElementName.h"
 #include "screens/main/RecentLeagues.h"
-#include "screens/panels/ChangeList.h"
 #include "screens/panels/ElidedLabel.h"
 #include "screens/panels/Labels.h"
 #include "screens/panels/Layouts.h"
-#include "screens/panels/PersonCards.h"
-#include "screens/PersonWords.h"
 #include "screens/platform/CodePage.h"
 #include "screens/Shown.h"
 #include "screens/Stage.h"
-#include "session/OpenChanges.h"
 #include "session/OpenJournal.h"
 #include "session/OpenSaves.h"
-#include "session/OtherLeague.h"
 #include "session/Session.h"
 
 #include <QMenuBar>
@@ -41,7 +36,6 @@ constexpr int FilledHeight = 480;
 constexpr int NarrowWidth = 920;
 constexpr int WideWidth = 1240;
 constexpr int LeastListWidth = 130;
-constexpr int MostChangesShown = 6;
 
 } // namespace
 
@@ -76,19 +70,10 @@ frmMain::frmMain(Stage& stage) : Screen(stage, "frmMain")
     emptySpace = new QWidget(content);
     column->addWidget(emptySpace, 1);
     column->addWidget(lists);
-    changes = new ChangeList("Changes", MostChangesShown, content);
-    column->addWidget(changes);
+    column->addWidget(MakeChanges());
     column->addWidget(cmdOpen, 0, Qt::AlignHCenter | Qt::AlignTop);
     firstStart = MakeFirstStart();
     column->addWidget(firstStart);
-    // Here no password is proved: of somebody else's people the card tells what everybody may know.
-    (new PersonCards(this))->Serve(changes->List(), [this](int entry) -> std::optional<CardWords> {
-        const auto told = ChangesToldTo(static_cast<int>(CurrentTeam), false);
-        if (entry < 0 || static_cast<std::size_t>(entry) >= told.size() || !told[static_cast<std::size_t>(entry)].Who)
-            return std::nullopt;
-        const PersonId who = *told[static_cast<std::size_t>(entry)].Who;
-        return CardOf(who, SignsOf(OpenLeague, who, 0));
-    });
 
     teamBar = MakeTeamBar();
     column->addWidget(teamBar);
@@ -381,14 +366,6 @@ void frmMain::SetDateLabel(const std::string& text) { lblDate->setText(ToQString
 
 void frmMain::Tell(QuietLine line, const std::string& text) { quiet->Tell(line, ToQString(text)); }
 
-void frmMain::ShowChanges()
-{
-    const int team = static_cast<int>(CurrentTeam);
-    const ChangesSince& since = OpenChanges();
-    changes->Tell(since.FileDate ? "Since the file of " + ToQString(Machine().LongDate(*since.FileDate)) : QString(),
-                  EntriesOf(OpenLeague, ChangesToldTo(team, false), team));
-}
-
 void frmMain::lstDivision_Click(int division)
 {
     const QListWidgetItem* chosen = lstDivision[division]->Chosen();
@@ -420,16 +397,6 @@ void frmMain::mnuOpen_Click()
         const std::string path = Machine().OpenFileDialog(Machine().ProgramFolder(),
                                                           "DRVK Client File (*.dvs) |*.dvs|All Files (*.*) | *.*");
         OpenFile(path);
-    });
-}
-
-void frmMain::mnuCompare_Click()
-{
-    ReportingUnlessCancelled(Machine(), " in mnuCompare!", [this] {
-        const std::string path = Machine().OpenFileDialog(Machine().ProgramFolder(),
-                                                          "DRVK Client File (*.dvs) |*.dvs|All Files (*.*) | *.*");
-        if (OpenOtherLeague(path))
-            Open(Window::Compare);
     });
 }
 

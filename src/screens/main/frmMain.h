@@ -92,6 +92,7 @@ private:
     QAction* MakeItem(QMenu* menu, const char* name, const QString& caption, void (frmMain::*click)());
     QWidget* MakeConference(int conference);
     QWidget* MakeTeamBar();
+    QWidget* MakeChanges();
     // A button that stands for a menu command.
     QPushButton* MakeShortcut(QAction* action);
     std::string LastLeague();
@@ -117,7 +118,7 @@ private:
     std::optional<bool> placedSix; // whether all six lists are laid out; empty before the first league
 
     QAction* mnuCompare = nullptr;
-    ChangeList* changes;
+    ChangeList* changes = nullptr;
 };
 
 } // namespace dravik
