@@ -26,7 +26,7 @@ constexpr int LeastRows = 2;
 constexpr int RowPadding = 8;        // as entries of all lists have it
 constexpr int FrameWidth = 4;        // above and below the entries together
 constexpr double SubjectPart = 0.34; // of the width, at the most
-constexpr int SubjectLetters = 26;   // likewise
+constexpr int SubjectLetters = 34;   // likewise
 
 // Where the parts of an entry stand, from left to right.
 struct Parts {
