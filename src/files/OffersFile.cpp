@@ -93,6 +93,12 @@ OffersTally TallyOffers(const Tables& league, int team, const OfferTable& offers
     return tally;
 }
 
+void EachOfferToSave(const League& rules, const OfferTable& offers,
+                     const std::function<void(const FreeAgentOffer&)>& tell)
+{
+    EachSaved(rules, offers, tell);
+}
+
 SavedOffers WriteOffersFile(const Tables& league, const FileAccess& access, const Formats& shown, int team,
                             const std::string& target, OfferTable& offers)
 {

@@ -5,6 +5,7 @@
 #include "league/Tables.h"
 #include "machine/Formats.h"
 
+#include <functional>
 #include <string>
 #include <vector>
 
@@ -27,6 +28,9 @@ struct OffersTally {
     bool operator==(const OffersTally&) const = default;
 };
 OffersTally TallyOffers(const Tables& league, int team, const OfferTable& offers);
+// Tells each of them, in order of the ids.
+void EachOfferToSave(const League& rules, const OfferTable& offers,
+                     const std::function<void(const FreeAgentOffer&)>& tell);
 
 enum class OffersFileWrite {
     Saved,

@@ -14,6 +14,8 @@ struct CapStanding {
     long long Farm = 0;
     long long Total = 0;          // what counts against the cap: pro, with farm and coaches where the league says so
     std::optional<long long> Cap; // none in the modes without a cap
+
+    bool operator==(const CapStanding&) const = default;
 };
 
 // Where a team of 1..100 stands. Payrolls or a cap beyond 32 bits fail with 6.
