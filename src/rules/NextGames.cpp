@@ -34,13 +34,15 @@ NextGame GameInRow(const Tables& league, Side side, long long row, bool isAway)
             .IsAway = isAway};
 }
 
-std::vector<NextGame> NextGames(const Tables& league, int team, Side side)
+namespace {
+
+std::vector<NextGame> FirstGames(const Tables& league, int team, Side side, std::ptrdiff_t most)
 {
     std::vector<NextGame> games;
     if (!IsScheduleOpen(league.LeagueData))
         return games;
     const Columns& columns = ColumnsOf(side);
-    for (auto row = ScheduleTable::first; row <= ScheduleTable::last && std::ssize(games) < LineDays; ++row) {
+    for (auto row = ScheduleTable::first; row <= ScheduleTable::last && std::ssize(games) < most; ++row) {
         const ScheduleRow& game = league.GameSchedule[row];
         // A word that is neither True nor False is no game, and a game that is neither played nor not is none to come.
         const bool isToCome = game.*columns.Game && (game.*columns.Played).Word() == 0;
@@ -49,6 +51,18 @@ std::vector<NextGame> NextGames(const Tables& league, int team, Side side)
             games.push_back(GameInRow(league, side, row, !isHome));
     }
     return games;
+}
+
+} // namespace
+
+std::vector<NextGame> NextGames(const Tables& league, int team, Side side)
+{
+    return FirstGames(league, team, side, LineDays);
+}
+
+std::vector<NextGame> GamesToCome(const Tables& league, int team, Side side)
+{
+    return FirstGames(league, team, side, ScheduleTable::last);
 }
 
 } // namespace dravik

@@ -23,6 +23,9 @@ bool IsScheduleOpen(const League& rules);
 // first of them. None where the league hides its calendar.
 std::vector<NextGame> NextGames(const Tables& league, int team, Side side);
 
+// All of them to the end of the season, which NextGames begins with.
+std::vector<NextGame> GamesToCome(const Tables& league, int team, Side side);
+
 // What a row (1..5000) of the calendar says to the home team or to the visitor. Fails with 9 outside the calendar.
 NextGame GameInRow(const Tables& league, Side side, long long row, bool isAway);
 

@@ -30,6 +30,7 @@ protected:
         game.FarmAway = away;
     }
     static std::vector<NextGame> Pro() { return NextGames(OpenLeague, 5, Side::Pro); }
+    static std::vector<NextGame> Left() { return GamesToCome(OpenLeague, 5, Side::Pro); }
     static std::vector<NextGame> Farm() { return NextGames(OpenLeague, 5, Side::Farm); }
 };
 
@@ -69,6 +70,8 @@ TEST_F(NextGamesTest, TheLastRowIsReachedAndTheEleventhGameIsNot)
         PutPro(row, 5, 6);
     ASSERT_EQ(Pro().size(), 10U);
     EXPECT_EQ(Pro().back().Row, 4999);
+    ASSERT_EQ(Left().size(), 11U);
+    EXPECT_EQ(Left().back().Row, 5000);
     GameSchedule[4990].ProPlayed = true;
     EXPECT_EQ(Pro().back().Row, 5000);
 }
@@ -80,6 +83,7 @@ TEST_F(NextGamesTest, AHiddenOrBlockedCalendarHoldsNone)
     const auto expectOpen = [](bool isOpen) {
         EXPECT_EQ(IsScheduleOpen(LeagueData), isOpen);
         EXPECT_EQ(Pro().empty(), !isOpen);
+        EXPECT_EQ(Left().empty(), !isOpen);
         EXPECT_EQ(Farm().empty(), !isOpen);
     };
     expectOpen(true);
@@ -142,6 +146,7 @@ TEST_F(NextGamesTest, RandomCalendarsReadTheSame)
             else if (game.ProAway == 5)
                 expected.push_back({row, static_cast<int>(game.GameDay), static_cast<int>(game.ProHome), true});
         }
+        EXPECT_EQ(Left(), expected) << round;
         if (expected.size() > 10)
             expected.resize(10);
         EXPECT_EQ(Pro(), expected) << round;
