@@ -3,6 +3,7 @@
 #include "screens/panels/DayStrip.h"
 #include "screens/panels/LinkLabel.h"
 #include "screens/panels/PersonCard.h"
+#include "screens/panels/Plot.h"
 #include "screens/panels/SlotLabel.h"
 #include "screens/panels/TypedTag.h"
 #include "screens/panels/Verdict.h"
@@ -150,6 +151,8 @@ QAccessibleInterface* InterfaceOf(const QString& /*className*/, QObject* object)
         return new MessageInterface(typed);
     if (auto* card = dynamic_cast<PersonCard*>(object))
         return new QAccessibleWidget(card, QAccessible::ToolTip, card->InWords());
+    if (auto* plot = dynamic_cast<Plot*>(object))
+        return new QAccessibleWidget(plot, QAccessible::Chart);
     if (auto* days = dynamic_cast<DayStrip*>(object))
         return new DayInterface(days);
     if (const auto* gauge = dynamic_cast<Gauge*>(object))

@@ -1,0 +1,146 @@
+#include "screens/panels/Plot.h"
+
+#include "screens/panels/FigureTable.h"
+#include "screens/platform/Palettes.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+#include <QAccessible>
+#include <QApplication>
+#include <QHelpEvent>
+#include <QImage>
+#include <QToolTip>
+#include <set>
+
+namespace dravik {
+namespace {
+
+PlotData Data(QList<PlotSeries> series)
+{
+    return {.Caption = "Goals by line",
+            .Categories = {"First", "Second"},
+            .Series = std::move(series),
+            .Mark = {},
+            .Worded = [](double value) { return QString::number(value); }};
+}
+
+class PlotTest : public ::testing::Test {
+protected:
+    PlotTest() { Bars.resize(600, 400); }
+    ~PlotTest() override { UseLightLook(); }
+
+    void Show(const PlotData& data)
+    {
+        Bars.Show(data);
+        Bars.show();
+        QApplication::processEvents();
+    }
+    QImage Painted() { return Bars.grab().toImage(); }
+
+    Plot Bars;
+};
+
+TEST_F(PlotTest, ABarIsAsHighAsItsFigure)
+{
+    Show(Data({{"Ours", {10, 40}}, {"Theirs", {std::nullopt, 20}}}));
+    const double base = Bars.HeightOf(0);
+    EXPECT_DOUBLE_EQ(Bars.BarOf(0, 0).bottom(), base);
+    EXPECT_NEAR(Bars.BarOf(0, 1).height(), 4 * Bars.BarOf(0, 0).height(), 0.01);
+    EXPECT_NEAR(Bars.BarOf(1, 1).height(), 2 * Bars.BarOf(0, 0).height(), 0.01);
+    EXPECT_TRUE(Bars.BarOf(1, 0).isNull());
+    EXPECT_GE(Bars.BarOf(1, 1).left(), Bars.BarOf(0, 1).right());
+    EXPECT_TRUE(QRectF(Bars.rect()).contains(Bars.BarOf(0, 1)));
+}
+
+TEST_F(PlotTest, AScaleThatBeginsHigherHasRoomBelowTheLeast)
+{
+    PlotData data = Data({{"Ours", {70, 74}}});
+    data.BeginsAtZero = false;
+    Show(data);
+    EXPECT_GT(Bars.BarOf(0, 0).height(), 10);
+    EXPECT_GT(Bars.BarOf(0, 1).height(), Bars.BarOf(0, 0).height() * 1.2);
+}
+
+TEST_F(PlotTest, AMarkStandsOnTheScaleThoughEveryBarIsLower)
+{
+    PlotData data = Data({{"Ours", {10, 20}}});
+    data.Mark = PlotMark{"Cap", 100};
+    Show(data);
+    EXPECT_LT(Bars.HeightOf(100), Bars.BarOf(0, 1).top());
+    EXPECT_TRUE(Bars.accessibleDescription().endsWith("; Cap 100"));
+}
+
+TEST_F(PlotTest, FiguresAreToldToAScreenReaderAndUnderTheMouse)
+{
+    Show(Data({{"ours", {10, 40}}, {"theirs", {std::nullopt, 20}}}));
+    EXPECT_EQ(Bars.accessibleName(), "Goals by line");
+    EXPECT_EQ(Bars.accessibleDescription(), "First: ours 10, theirs -; Second: ours 40, theirs 20");
+    EXPECT_EQ(QAccessible::queryAccessibleInterface(&Bars)->role(), QAccessible::Chart);
+    const QPoint spot = Bars.BarOf(0, 1).center().toPoint();
+    QHelpEvent help(QEvent::ToolTip, spot, Bars.mapToGlobal(spot));
+    QApplication::sendEvent(&Bars, &help);
+    EXPECT_EQ(QToolTip::text(), "Second: ours 40, theirs 20");
+    QToolTip::hideText();
+}
+
+// Without colours, as a printer has them: no two series have the same shades in the same share and the same rows of one shade.
+TEST_F(PlotTest, SeriesDifferWithoutColours)
+{
+    QList<PlotSeries> series;
+    for (int number = 0; number < Plot::MostSeries; ++number)
+        series << PlotSeries{QString("S%1").arg(number), {50, 50}};
+    for (const bool dark : {false, true}) {
+        dark ? UseDarkLook() : UseLightLook();
+        Show(Data(series));
+        const QImage picture = Painted().convertToFormat(QImage::Format_Grayscale8);
+        std::set<std::vector<int>> seen;
+        for (int number = 0; number < Plot::MostSeries; ++number) {
+            const QRect inside = Bars.BarOf(number, 0).toRect().adjusted(3, 3, -3, -3);
+            std::vector<int> shades(9); // in eight steps, and behind them the rows of one shade
+            for (int y = inside.top(); y < inside.top() + 32; ++y) {
+                std::set<int> row;
+                for (int x = inside.left(); x < inside.left() + 24; ++x) {
+                    row.insert(qGray(picture.pixel(x, y)));
+                    ++shades[static_cast<std::size_t>(qGray(picture.pixel(x, y)) / 32)];
+                }
+                shades.back() += row.size() == 1 ? 1 : 0;
+            }
+            EXPECT_TRUE(seen.insert(shades).second) << number << (dark ? " dark" : " light");
+        }
+    }
+}
+
+TEST_F(PlotTest, NothingAtAllIsPaintedWithoutHarm)
+{
+    Show({.Caption = "Nothing", .Categories = {}, .Series = {}, .Mark = {}, .Worded = [](double value) {
+              return QString::number(value);
+          }});
+    EXPECT_FALSE(Painted().isNull());
+    Show(Data({{"Ours", {std::nullopt, std::nullopt}}}));
+    EXPECT_TRUE(Bars.BarOf(0, 0).isNull());
+    EXPECT_FALSE(Painted().isNull());
+}
+
+TEST_F(PlotTest, FiguresBelowZeroHangFromTheLine)
+{
+    Show(Data({{"Ours", {-10, 10}}}));
+    EXPECT_DOUBLE_EQ(Bars.BarOf(0, 0).top(), Bars.HeightOf(0));
+    EXPECT_DOUBLE_EQ(Bars.BarOf(0, 1).bottom(), Bars.HeightOf(0));
+}
+
+TEST(FigureTableTest, NumbersStandAtTheRightAndRowsGoAndComeBack)
+{
+    FigureTable table({{"Name", false}, {"Sum"}}, nullptr);
+    table.Show({{"a", "1"}, {"b", "22"}});
+    EXPECT_EQ(table.rowCount(), 2);
+    EXPECT_TRUE(table.item(1, 1)->textAlignment() & Qt::AlignRight);
+    EXPECT_FALSE(table.item(1, 0)->textAlignment() & Qt::AlignRight);
+    table.Show({{"c", "3"}});
+    EXPECT_EQ(table.rowCount(), 1);
+    EXPECT_EQ(table.TextAt(0, 0), "c");
+    EXPECT_EQ(table.TextAt(5, 0), "");
+    EXPECT_EQ(table.editTriggers(), QAbstractItemView::NoEditTriggers);
+}
+
+} // namespace
+} // namespace dravik
