@@ -8,6 +8,7 @@
 #include "rules/StatRows.h"
 #include "screens/BehindWait.h"
 #include "screens/EventGuard.h"
+#include "screens/market/WhatIfWindow.h"
 #include "screens/panels/TellTakenIn.h"
 #include "screens/PersonWords.h"
 #include "screens/platform/CodePage.h"
@@ -78,7 +79,7 @@ void frmFreeAgentClient::FormLoad()
         CentreOnScreen();
         if (!TeamTable::Has(CurrentTeam)) {
             Machine().ShowIntegrityFailure();
-            for (QWidget* closed : std::initializer_list<QWidget*>{chkShowPlayerWithOffer, cmdLoad})
+            for (QWidget* closed : std::initializer_list<QWidget*>{chkShowPlayerWithOffer, cmdLoad, cmdWhatIf})
                 closed->setEnabled(false); // the list stays empty
             return;
         }
@@ -381,6 +382,17 @@ void frmFreeAgentClient::cmdLoad_Click()
     });
 }
 
+void frmFreeAgentClient::cmdWhatIf_Click()
+{
+    ShowWaitingBox();
+    if (WhatIf == nullptr)
+        WhatIf = new WhatIfWindow(this, offers);
+    if (WhatIf->isVisible())
+        WhatIf->close();
+    else
+        WhatIf->Open();
+}
+
 void frmFreeAgentClient::cmdExit_Click() { Unload(); }
 
 void frmFreeAgentClient::ShowTally()
@@ -395,6 +407,8 @@ void frmFreeAgentClient::ShowTally()
                                .arg(ToQString(Money(tally.Salaries)), ToQString(Money(tally.Bonuses))));
     lstPlayers->viewport()->update();
     ShowKept();
+    if (WhatIf != nullptr && WhatIf->isVisible())
+        WhatIf->ShowAnew();
 }
 
 void frmFreeAgentClient::ShowKept()

@@ -18,6 +18,8 @@
 
 namespace dravik {
 
+class WhatIfWindow;
+
 // The offers of the chosen team to people without a contract or a team: who can be made one, what he is offered, and the
 // offer file that the simulator takes. They begin empty with the screen; what
 // was there when it closed is kept until the program ends, and can be brought back.
@@ -51,6 +53,8 @@ public:
     // Takes in the offers that were there when the screen closed last, or those of a file.
     void cmdBringBack_Click();
     void cmdLoad_Click();
+    // Shows what the team would look like with all offers taken.
+    void cmdWhatIf_Click();
     void cmdExit_Click();
 
     // The id of the person shown.
@@ -68,7 +72,8 @@ public:
     VerdictLabel* lblOffersMade = nullptr; // offers to others against what is left of them
     QLabel* lblOffersCost = nullptr;       // what all offers come to
     QPushButton *cmdSearch = nullptr, *cmdSaveToFile = nullptr, *cmdExit = nullptr;
-    QPushButton *cmdFindNext = nullptr, *cmdLoad = nullptr, *cmdBringBack = nullptr;
+    QPushButton *cmdFindNext = nullptr, *cmdLoad = nullptr, *cmdBringBack = nullptr, *cmdWhatIf = nullptr;
+    WhatIfWindow* WhatIf = nullptr; // made when it is asked for
 
 protected:
     // Whom the offer at hand is made to.

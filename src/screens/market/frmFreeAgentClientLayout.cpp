@@ -45,7 +45,7 @@ frmFreeAgentClient::frmFreeAgentClient(Stage& stage) : Screen(stage, "frmFreeAge
     column->addLayout(middle, 1);
     column->addLayout(MakeLimitRow());
 
-    SetPage(content, MakeFooter({cmdSearch, cmdFindNext, cmdLoad, cmdBringBack},
+    SetPage(content, MakeFooter({cmdSearch, cmdFindNext, cmdLoad, cmdBringBack, cmdWhatIf},
                                 {MakeSaveLine(SavedFile::Offers), MakeHistoryCommands(), cmdSaveToFile, cmdExit}));
     SetTabOrder();
     resize(DefaultSize.expandedTo(content->minimumSizeHint()));
@@ -116,7 +116,9 @@ void frmFreeAgentClient::MakeControls()
     cmdLoad = MakeCommand("cmdLoad", "Load Off&ers ...", AsStep("Load offers", [this] { cmdLoad_Click(); }));
     cmdBringBack = MakeCommand("cmdBringBack", "Bring Bac&k Offers",
                                AsStep("Bring back offers", [this] { cmdBringBack_Click(); }));
-    for (QPushButton* command : {cmdFindNext, cmdLoad, cmdBringBack})
+    cmdWhatIf = MakeCommand("cmdWhatIf", "&What If", [this] { cmdWhatIf_Click(); });
+    cmdWhatIf->setToolTip("The team with all offers taken");
+    for (QPushButton* command : {cmdFindNext, cmdLoad, cmdBringBack, cmdWhatIf})
         command->setFocusPolicy(Qt::NoFocus); // the tab key goes its way as without them
     cmdBringBack->hide();
 }

@@ -1,5 +1,6 @@
 #include "screens/roster/frmRoster.h"
 
+#include "desk/WhatIf.h"
 #include "machine/Platform.h"
 #include "machine/Reporting.h"
 #include "rules/Overall.h"
@@ -173,6 +174,7 @@ void frmRoster::HidePlayerDetails()
              cmdAssistant, cmdRelease, cmdSendToWaiver, chkProtected, chkNoApplyRerate, chkNoTrade})
         command->setEnabled(false);
     Stats->HideRows();
+    lblRelease->clear();
 }
 
 void frmRoster::lstPlayer_Click(int index)
@@ -245,6 +247,24 @@ void frmRoster::ShowRatings(PersonId who)
                        who.IsGoalie ? GoalieOverallRow(LeagueData, overall) : SkaterOverallRow(LeagueData, overall));
 }
 
+// Figures beyond 32 bits are told where they are judged; here nobody asked for them.
+void frmRoster::ShowRelease(PersonId who)
+{
+    const auto money = [](long long amount) {
+        return ToQString(Machine().CurrencyNoDecimals(static_cast<double>(amount)));
+    };
+    try {
+        const Released released = WithRelease(OpenLeague, OwnNumber(), who);
+        QString words = "With this release: rest of the contract " + money(released.RestOfContract) + ", payroll " +
+                        money(released.After.Total) + " instead of " + money(released.Before.Total);
+        if (released.After.Cap)
+            words += ", cap " + money(*released.After.Cap);
+        lblRelease->setText(words);
+    } catch (const Failure&) {
+        lblRelease->clear();
+    }
+}
+
 template <class Person>
 void frmRoster::ShowFlags(const Person& person)
 {
@@ -267,6 +287,7 @@ void frmRoster::ShowStats()
         OnPerson(OpenLeague, who, [&](const auto& person) {
             Stats->SetName(ToQString(person.Name.Trimmed()));
             ShowRatings(who);
+            ShowRelease(who);
             ShowFlags(person);
             if (who.IsGoalie || person.Status == status::Farm) {
                 cmdCaptain->setEnabled(false);

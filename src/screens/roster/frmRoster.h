@@ -78,6 +78,7 @@ public:
     QCheckBox *chkProtected = nullptr, *chkNoApplyRerate = nullptr, *chkNoTrade = nullptr;
     QPushButton *cmdAutoRoster = nullptr, *cmdAutoRosterPartial = nullptr, *cmdExit = nullptr;
     QLabel *lblTeamName = nullptr, *lblProtectedTotal = nullptr;
+    QLabel* lblRelease = nullptr; // what a release of whoever is chosen would mean
     VerdictLabel* lblComplete = nullptr;
     ReasonsBox* txtReasons = nullptr; // what the last judgement found, in its own words
     PayrollBar* Payroll = nullptr;
@@ -101,6 +102,7 @@ private:
     void ShowReasons(const RosterVerdict& verdict);
     void ShowPayroll();
     void ShowRatings(PersonId who);
+    void ShowRelease(PersonId who);
     template <class Person>
     void ShowFlags(const Person& person);
 

@@ -64,6 +64,10 @@ void frmRoster::MakeControls()
     lblProtectedTotal->setObjectName("lblProtectedTotal");
     lblProtectedTotal->setTextFormat(Qt::PlainText);
     lblProtectedTotal->hide();
+    lblRelease = new MutedLabel(this);
+    lblRelease->setObjectName("lblRelease");
+    lblRelease->setTextFormat(Qt::PlainText);
+    lblRelease->setWordWrap(true);
 
     txtReasons = new ReasonsBox("this roster", this);
     txtReasons->setObjectName("txtReasons");
@@ -185,6 +189,7 @@ QWidget* frmRoster::MakePersonColumn()
         commands->setColumnStretch(half, 1);
     column->addLayout(commands);
     column->addWidget(lblProtectedTotal);
+    column->addWidget(lblRelease);
     column->addStretch(1);
     panel->setFixedWidth(std::max(PersonColumnWidth, panel->minimumSizeHint().width()));
     return panel;
