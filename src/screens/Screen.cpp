@@ -3,6 +3,7 @@
 #include "machine/Location.h"
 #include "machine/Paths.h"
 #include "machine/Reporting.h"
+#include "screens/Looks.h"
 #include "screens/panels/EditBox.h"
 #include "screens/panels/EntryList.h"
 #include "screens/panels/HistoryCommands.h"
@@ -95,6 +96,16 @@ Screen::Screen(Stage& stage, const QString& name) : Owner(stage)
         if (SettleFocus())
             RunEvent("frmSquad", [this] { Owner.ShowSquad(*this); });
     });
+    if (name == "frmAbout") // nothing comes up beside it
+        return;
+    for (const auto& [key, look] : {std::pair("Ctrl+Shift+C", Look::Calendar), std::pair("Ctrl+Shift+G", Look::Graphs)})
+        connect(new QShortcut(QKeySequence(key), this), &QShortcut::activated, this, [this, opened = look] {
+            if (SettleFocus())
+                RunEvent("Look", [&] {
+                    OpenLook(opened, Owner, *this,
+                             [this](const QString& words, const auto& change) { RunStep(words, change); });
+                });
+        });
 }
 
 void Screen::CentreOnScreen()

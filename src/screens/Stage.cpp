@@ -3,6 +3,7 @@
 #include "league/Failure.h"
 #include "screens/lines/frmFarmLine.h"
 #include "screens/lines/frmLine.h"
+#include "screens/Looks.h"
 #include "screens/main/frmAbout.h"
 #include "screens/main/frmCompare.h"
 #include "screens/main/frmMain.h"
@@ -144,6 +145,8 @@ void Stage::ShowAnew()
         RunEvent("ShowAnew", [&showing = *screen] { showing.ShowAnew(); });
         OpenLeague = *kept;
     }
+    for (const auto& [window, screen] : screens)
+        RunEvent("ShowAnew", [&showing = *screen] { ShowLooksAnew(showing); });
     Machine().MessagesAllowed = messagesWereAllowed;
     Modified = wasModified;
     ShowSquadAnew();

@@ -113,6 +113,8 @@ TEST_F(DesignWordsTest, OfTheTeamScreen)
         {"lblEstimatedBankAccount", ""},
         {"cmdPassword", "Change &Password ..."},
         {"cmdProspect", "Prospects"},
+        {"cmdCalendar", "&Calendar"},
+        {"cmdGraphs", "&Graphs"},
         {"cmdExit", "E&xit"},
         {"cmdUndo", "\u21B6", "Nothing to undo"},
         {"cmdRedo", "\u21B7", "Nothing to redo"},

@@ -8,6 +8,9 @@ namespace {
 
 constexpr auto Everywhere = "*";
 constexpr auto WithHistory = "frmTeam frmRoster frmLine frmFarmLine frmFreeAgentClient frmDraft frmTicket";
+constexpr auto WithLooks =
+    "frmMain frmTeam frmRoster frmLine frmFarmLine frmFreeAgentClient frmDraft frmTicket frmEditPlayer "
+    "frmCoach frmProspect";
 constexpr auto OnLines = "frmLine frmFarmLine";
 constexpr auto OnMain = "frmMain";
 constexpr auto WithLists = "frmMain frmTeam frmRoster frmLine frmFarmLine frmFreeAgentClient frmDraft frmCompare";
@@ -23,6 +26,8 @@ constexpr KeyRow Rows[] = {
     {Everywhere, KeyScope::Screen, "Ctrl+T", "", "The squad table, and back from it"},
     {WithHistory, KeyScope::Screen, "Ctrl+Z", "", "Undo"},
     {WithHistory, KeyScope::Screen, "Ctrl+Shift+Z / Ctrl+Y", "", "Redo"},
+    {WithLooks, KeyScope::Screen, "Ctrl+Shift+C", "", "Calendar of the team, and away; Esc closes it too"},
+    {WithLooks, KeyScope::Screen, "Ctrl+Shift+G", "", "Graphs of the team, and away; Esc closes them too"},
     {OnMain, KeyScope::Screen, "", "", "Open a client file", QKeySequence::Open},
     {OnMain, KeyScope::Screen, "", "", "Exit", QKeySequence::Quit},
     {OnMain, KeyScope::Screen, "Ctrl+Return", "", "View the team"},

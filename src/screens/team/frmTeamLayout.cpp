@@ -1,3 +1,4 @@
+#include "screens/Looks.h"
 #include "screens/panels/ChangeList.h"
 #include "screens/panels/ElidedLabel.h"
 #include "screens/panels/Labels.h"
@@ -64,7 +65,17 @@ frmTeam::frmTeam(Stage& stage) : Screen(stage, "frmTeam")
     grid->setRowStretch(1, 1);
     column->addLayout(grid, 1);
 
-    SetPage(content, MakeFooter({cmdPassword, cmdProspect}, {MakeHistoryCommands(), cmdExit}));
+    const auto makeLook = [this](const char* name, const QString& caption, Look look) {
+        QPushButton* command = MakeCommand(name, caption, [this, look] {
+            OpenLook(look, Owner, *this, [this](const QString& words, const auto& change) { RunStep(words, change); });
+        });
+        command->setFocusPolicy(Qt::NoFocus);
+        return command;
+    };
+    QPushButton* calendar = makeLook("cmdCalendar", "&Calendar", Look::Calendar);
+    QPushButton* graphs = makeLook("cmdGraphs", "&Graphs", Look::Graphs);
+
+    SetPage(content, MakeFooter({cmdPassword, cmdProspect, calendar, graphs}, {MakeHistoryCommands(), cmdExit}));
 
     CloseWhatTheLeagueKeeps();
     SetTabOrder();
