@@ -12,6 +12,8 @@
 #include "screens/platform/CodePage.h"
 #include "screens/player/frmEditPlayer.h"
 #include "screens/RosterEntry.h"
+#include "screens/team/CalendarWindow.h"
+#include "screens/team/GraphsWindow.h"
 #include "session/Session.h"
 
 #include <iostream>
@@ -20,6 +22,7 @@
 #include <QKeyEvent>
 #include <QMouseEvent>
 #include <QShortcut>
+#include <QToolButton>
 
 // The evening itself, and what it does for the team: roster, lines, the lines file.
 namespace dravik::tour {
@@ -35,6 +38,7 @@ void Evening::Spend()
     ShapeRoster();
     MakeLines();
     Photograph(Window::Team, "team");
+    ShowLooks();
     SaveLines();
     LoadLines();
     LookAtOwnSquad();
@@ -236,6 +240,39 @@ void Evening::PickFirst(LinesScreen& screen)
     QKeyEvent down(QEvent::KeyPress, Qt::Key_Down, Qt::NoModifier);
     QApplication::sendEvent(screen.lstPlayer, &down);
     Require(SelectedPlayer > 0 && !screen.lblPlaying->text().isEmpty(), "a player is picked");
+}
+
+void Evening::ShowLooks()
+{
+    Team().findChild<QPushButton*>("cmdCalendar")->click();
+    auto* calendar = Team().findChild<CalendarWindow*>();
+    Require(calendar != nullptr && calendar->isVisible(), "the calendar comes up");
+    constexpr QSize ofCalendar(940, 640);
+    Require(camera.Photograph(*calendar, "calendar", ofCalendar), "pictures of the calendar are written");
+    if (QComboBox* starter = calendar->StarterOf(2);
+        starter != nullptr && starter->isEnabled() && starter->count() > 1) {
+        const Lines before = Teams[plan.Team].ProLines[2];
+        starter->setFocus();
+        QKeyEvent other(QEvent::KeyPress, starter->currentIndex() == 0 ? Qt::Key_Down : Qt::Key_Up, Qt::NoModifier);
+        QApplication::sendEvent(starter, &other);
+        NoComplaints("another goalie starts");
+        Require(Teams[plan.Team].ProLines[2].StartGoalie != before.StartGoalie, "another goalie starts");
+        Team().findChild<QToolButton*>("cmdUndo")->click();
+        QApplication::processEvents();
+        Require(Teams[plan.Team].ProLines[2].StartGoalie == before.StartGoalie, "that is taken back");
+    }
+    calendar->close();
+    Team().findChild<QPushButton*>("cmdGraphs")->click();
+    auto* graphs = Team().findChild<GraphsWindow*>();
+    Require(graphs != nullptr && graphs->isVisible(), "the graphs come up");
+    constexpr QSize ofGraphs(1120, 600);
+    for (int page = 0; page < graphs->tabPages->count(); ++page) {
+        graphs->tabPages->setCurrentIndex(page);
+        Require(camera.Photograph(*graphs, QString("graphs-%1").arg(page + 1), ofGraphs),
+                "pictures of the graphs are written");
+    }
+    graphs->close();
+    NoComplaints("the looks are shown");
 }
 
 void Evening::SaveLines()

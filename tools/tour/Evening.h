@@ -57,6 +57,8 @@ private:
     void PhotographSheet(LinesScreen& screen, const QString& name);
     // Opens the picker at the second line's center by keyboard.
     void PickForASlot(LinesScreen& screen);
+    // Opens the calendar, has another goalie start on the second day and takes that back; then turns the pages of the graphs.
+    void ShowLooks();
     void SaveLines();
     // A team without a password is entered without a question.
     void ExpectPassword();

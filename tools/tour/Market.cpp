@@ -3,6 +3,7 @@
 #include "files/OffersFile.h"
 #include "screens/main/frmAbout.h"
 #include "screens/market/frmDraft.h"
+#include "screens/market/WhatIfWindow.h"
 #include "screens/platform/CodePage.h"
 #include "screens/player/frmEditPlayer.h"
 #include "screens/team/frmTicket.h"
@@ -147,6 +148,10 @@ void Evening::MakeOffers()
     Require(made == 2, "two people can be made an offer");
     NoComplaints("the offers are made");
     Photograph(Window::FreeAgent, "offers");
+    Offers().cmdWhatIf->click();
+    Require(Offers().WhatIf != nullptr && Offers().WhatIf->isVisible(), "what the offers come to comes up");
+    Require(camera.Photograph(*Offers().WhatIf, "offers-what-if", {560, 500}), "pictures of it are written");
+    Offers().WhatIf->close();
     Offers().chkShowPlayerWithOffer->click();
     Require(Offers().lstPlayers->count() == 2, "those with an offer are listed alone");
     Photograph(Window::FreeAgent, "offers-made");
