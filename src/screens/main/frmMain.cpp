@@ -116,7 +116,7 @@ void frmMain::MakeMenus()
     mnuRecent->setToolTipsVisible(true);
     connect(mnuFile, &QMenu::aboutToShow, this, [this] { ListRecent(); });
     mnuCompare = MakeItem(mnuFile, "mnuCompare", "&Compare With ...", &frmMain::mnuCompare_Click);
-    mnuCompare->setShortcut(QKeySequence("Ctrl+Shift+C"));
+    mnuCompare->setShortcut(QKeySequence("Ctrl+Shift+O"));
     mnuCompare->setVisible(false);
     mnuFile->addSeparator();
     mnuExit = MakeItem(mnuFile, "mnuExit", "E&xit", &frmMain::mnuExit_Click);

@@ -36,7 +36,7 @@ constexpr KeyRow Rows[] = {
     {OnMain, KeyScope::Screen, "Ctrl+Shift+L", "", "Set the farm's lines"},
     {OnMain, KeyScope::Screen, "Ctrl+Shift+A", "", "Free agents"},
     {OnMain, KeyScope::Screen, "Ctrl+D", "", "Draft list"},
-    {OnMain, KeyScope::Screen, "Ctrl+Shift+C", "", "Compare with another client file"},
+    {OnMain, KeyScope::Screen, "Ctrl+Shift+O", "", "Compare with another client file"},
     {"frmAbout frmCompare", KeyScope::Screen, "Esc", "", "Exit"},
     {WithCards, KeyScope::Screen, "Ctrl+I", "", "The card of a person"},
     {OnMarket, KeyScope::Screen, "F3", "", "Find next"},
