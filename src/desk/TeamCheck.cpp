@@ -50,6 +50,8 @@ TeamCheck LookAtTeam(const Tables& league, const Formats& shown, int team, Table
     MuteVoice mute;
     bool modified = false;
     check.Roster = CheckRoster({scratch, mute, shown, modified}, team, false, true, false);
+    if (!check.Roster.Repaired && !check.Roster.Failed)
+        return check; // he has moved nobody
     PutBack(league.Players, league.RosterChanges, team, scratch.Players, scratch.RosterChanges);
     PutBack(league.Goalies, league.RosterChangesGoalie, team, scratch.Goalies, scratch.RosterChangesGoalie);
     scratch.Teams[team] = league.Teams[team];

@@ -7,6 +7,7 @@
 #include <array>
 #include <cstring>
 #include <functional>
+#include <iterator>
 #include <string_view>
 
 namespace dravik {
@@ -20,7 +21,7 @@ struct KindOfFile {
     std::string_view Start;
     std::size_t Slot;
 };
-constexpr std::array Kinds{
+constexpr KindOfFile Kinds[] = {
     KindOfFile{SystemFile::Client, ClientFileStart, SlotLength},
     KindOfFile{SystemFile::Lines, LinesFileStart, SlotLength},
     KindOfFile{SystemFile::Offers, OffersFileStart, OffersSlotLength},
@@ -212,10 +213,10 @@ private:
 
 const KindOfFile* KindNamed(std::string_view start)
 {
-    const auto* kind = std::find_if(Kinds.begin(), Kinds.end(), [&](const KindOfFile& one) {
+    const auto* kind = std::find_if(std::begin(Kinds), std::end(Kinds), [&](const KindOfFile& one) {
         return start.size() >= MagicLength(one.Start) && start.substr(2, one.Start.size()) == one.Start;
     });
-    return kind == Kinds.end() ? nullptr : kind;
+    return kind == std::end(Kinds) ? nullptr : kind;
 }
 
 // The first bytes of what a file holds.

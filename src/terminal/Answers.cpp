@@ -54,8 +54,11 @@ public:
     {
         constexpr std::size_t width = 30;
         constexpr auto patience = std::chrono::seconds(1);
-        if (!isOnTerminal || std::chrono::steady_clock::now() - begin < patience)
+        constexpr auto step = std::chrono::milliseconds(100); // no terminal is asked to show more than an eye sees
+        const auto now = std::chrono::steady_clock::now();
+        if (!isOnTerminal || now - begin < patience || (isShown && now - shown < step))
             return;
+        shown = now;
         const std::size_t full = width * done / std::max<std::size_t>(total, 1);
         std::cerr << "\r[" << std::string(full, '#') << std::string(width - full, ' ') << "] " << done << " of "
                   << total << std::flush;
@@ -72,6 +75,7 @@ public:
 private:
     std::size_t total;
     std::chrono::steady_clock::time_point begin = std::chrono::steady_clock::now();
+    std::chrono::steady_clock::time_point shown;
     bool isShown = false;
 #ifdef _WIN32
     bool isOnTerminal = false;
@@ -99,7 +103,6 @@ public:
         std::unique_lock guard(mutex);
         while (!changed.wait_for(guard, step, [&] { return answers[place].has_value(); }))
             bar.Show(done);
-        bar.TakeAway();
         Answer answer = std::move(*answers[place]);
         answers[place].reset();
         return answer;
@@ -139,11 +142,16 @@ int AnswerEach(const std::vector<std::string>& files, const HowToAnswer& how,
             entry.update(answer.Data);
             all.push_back(std::move(entry));
         } else {
+            bar.TakeAway();
             std::cout << answer.Text << std::flush;
         }
+        if (!answer.Notes.empty())
+            bar.TakeAway();
         for (const std::string& note : answer.Notes)
             std::cerr << "dravik: " << files[place] << ": " << note << std::endl;
+        bar.Show(place + 1);
     }
+    bar.TakeAway();
     if (how.AsJson) {
         Json page = Json::object();
         page[how.List] = std::move(all);

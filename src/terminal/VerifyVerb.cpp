@@ -90,7 +90,7 @@ Verb AddVerify(CLI::App& program)
     AddJson(*command, options->AsJson);
     command->footer(
         "Looks at the magics, the length, the checksum, and the range of every field of every record that is in\n"
-        "use. No password is needed: nothing private is told.\n"
+        "use. No password is needed: of what is private only what cannot be is told.\n"
         "Ends with 0 when all files are sound, 1 when something was found, 2 when a file could not be read.\n\n"
         "Examples:\n"
         "  dravik verify League.dvs\n"

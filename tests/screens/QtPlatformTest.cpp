@@ -2,10 +2,10 @@
 
 #include "AnswerDialog.h"
 #include "league/Failure.h"
+#include "machine/Md5.h"
 #include "machine/SettingsFailure.h"
 #include "screens/main/frmWait.h"
 #include "screens/platform/CodePage.h"
-#include "machine/Md5.h"
 
 #include <gmock/gmock.h>
 #include <QApplication>

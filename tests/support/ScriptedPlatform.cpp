@@ -1,8 +1,8 @@
 #include "support/ScriptedPlatform.h"
 
 #include "league/Failure.h"
-#include "machine/SettingsFailure.h"
 #include "machine/Md5.h"
+#include "machine/SettingsFailure.h"
 
 #include <algorithm>
 #include <chrono>

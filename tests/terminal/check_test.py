@@ -194,6 +194,18 @@ class CheckTest(TerminalTest):
         (self.folder / "League.dvl").write_bytes(b"something else altogether")
         self.expect_failure(self.run_it("check", other, "--lines", "League.dvl"), "League.dvl: this is no lines file")
 
+    def test_work_above_a_second_has_a_bar_on_a_terminal_alone(self):
+        league = self.league()
+        many = [league] * 150
+        shown, _ = self.on_terminal("check", *many, "--json", "--team", 1)
+        self.assertRegex(shown, r"\r\[#* *\] [0-9]+ of 150\r\x1b\[K")
+        self.assertTrue(shown.rstrip().endswith("}"))
+        shown, _ = self.on_terminal("check", league, "--team", 1)
+        self.assertNotIn("[", shown)
+        ended = self.run_it("check", *many, "--team", 1)
+        self.assertEqual((ended.code, ended.err), (0, ""))
+        self.assertNotIn("\r", ended.out)
+
     def test_what_is_asked_wrongly_ends_with_2_and_one_line(self):
         for arguments in ((), ("check",), ("nothing",), ("check", "x.dvs", "-j", 0), ("check", "x.dvs", "-j", 65),
                           ("check", "x.dvs", "--lnes", "y")):
