@@ -64,6 +64,7 @@ TEST_F(LineCaptions, EveryCaptionIsAsWritten)
                        "Copy To A&ll Days",
                        "Repa&ir All Days",
                        "Whole Line-&Up",
+                       "Share ...",
                        "Show Player",
                        "E&xit",
                        "W&hy are my lines incomplete?"};

@@ -1,3 +1,4 @@
+#include "desk/LineUpPaper.h"
 #include "desk/Strategy.h"
 #include "screens/ElementName.h"
 #include "screens/EventGuard.h"
@@ -5,6 +6,8 @@
 #include "screens/panels/Labels.h"
 #include "screens/panels/Layouts.h"
 #include "screens/panels/PersonCards.h"
+#include "screens/panels/ShareCommand.h"
+#include "session/Session.h"
 
 #include <QCoreApplication>
 #include <QGroupBox>
@@ -257,6 +260,12 @@ QWidget* LinesScreen::MakeLinesColumn()
     QHBoxLayout* playing = MakeRow({new MutedLabel("Playing the Following Lines : ", panel)});
     playing->addWidget(lblPlaying, 1);
     playing->addWidget(cmdSheet);
+    auto* share = new ShareCommand(panel);
+    share->Offer("Day", "This &Day",
+                 [this] { return LineUpPaper(OpenLeague, OwnNumber(), Kind.Side, ShownDay(), ShownDay(), {}); });
+    share->Offer("AllDays", "&All Days",
+                 [this] { return LineUpPaper(OpenLeague, OwnNumber(), Kind.Side, 1, LineDays, {}); });
+    playing->addWidget(share);
     column->addLayout(playing);
     return panel;
 }
@@ -269,8 +278,8 @@ void LinesScreen::SetTabOrder()
     order << vscDay << TabLine->tabBar() << TabLine->Parts.Walk;
     for (QScrollBar* bar : hscStats)
         order << bar;
-    order << txtPullGoalerMinGoal << txtPullGoalerMinPct << cmdSheet << cmdDebug << txtReasons << cmdAutoLines
-          << cmdRepairAll << cmdWipeLines << cmdCopy << cmdCopyAll << cmdExit;
+    order << txtPullGoalerMinGoal << txtPullGoalerMinPct << cmdSheet << findChild<ShareCommand*>() << cmdDebug
+          << txtReasons << cmdAutoLines << cmdRepairAll << cmdWipeLines << cmdCopy << cmdCopyAll << cmdExit;
     ChainTabs(order);
     setTabOrder(txtReasons, cmdFoldAdvice);
 }
