@@ -103,7 +103,8 @@ protected:
         switch (Roll(7)) {
         case 0:
         case 1:
-            if (auto* command = OneOf(Pressable<QPushButton>(screen)))
+            // A menu waits for its user, and those there are change nothing.
+            if (auto* command = OneOf(Pressable<QPushButton>(screen)); command != nullptr && command->menu() == nullptr)
                 Click(command);
             break;
         case 2:

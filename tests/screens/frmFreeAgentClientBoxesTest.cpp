@@ -1,4 +1,6 @@
+#include "OnHistory.h"
 #include "OnOfferScreen.h"
+#include "session/OpenHistory.h"
 
 #include <QApplication>
 #include <QClipboard>
@@ -26,6 +28,35 @@ TEST_F(OfferBoxes, ASalaryIsStored)
     EXPECT_EQ(First().Salary, 750000);
     EXPECT_THAT(Machine.Boxes(), IsEmpty());
     EXPECT_FALSE(Modified);
+}
+
+// Behind the undo nobody has an offer, and the box with the focus closes: no other box acts, and the way again stays open.
+TEST_F(OfferBoxes, AnUndoThatClosesTheBoxAtHandTakesNothingElse)
+{
+    Open();
+    Enter(Offers().txtOffer, "750000");
+    Enter(Offers().txtDuration, "2");
+    Offers().close();
+    Settle();
+    Open();
+    QTest::mouseClick(Offers().findChild<QPushButton*>("cmdBringBack"), Qt::LeftButton);
+    Settle();
+    Machine.ForgetBoxes("who was brought back is told");
+    Offers().chkShowPlayerWithOffer->setChecked(true);
+    Settle();
+    Offers().activateWindow();
+    Settle();
+    Offers().txtOffer->setFocus();
+    ASSERT_TRUE(Offers().txtOffer->hasFocus());
+    QTest::mouseClick(HistoryCommand(Offers(), "cmdUndo"), Qt::LeftButton);
+    Settle();
+    EXPECT_FALSE(Offers().txtOffer->isEnabled());
+    EXPECT_THAT(Machine.TakeBoxes(), IsEmpty());
+    EXPECT_NE(OpenHistory().ToRedo(), nullptr);
+    EXPECT_TRUE(Offers().lstPlayers->hasFocus());
+    QTest::mouseClick(HistoryCommand(Offers(), "cmdRedo"), Qt::LeftButton);
+    Settle();
+    EXPECT_EQ(First().Salary, 750000);
 }
 
 TEST_F(OfferBoxes, ASalaryOfZeroLeavesTheFormerOneWhileTheBoxShowsZero)

@@ -18,6 +18,7 @@
 #include "session/OpenSaves.h"
 #include "session/Session.h"
 
+#include <algorithm>
 #include <QApplication>
 #include <QSignalBlocker>
 #include <utility>
@@ -224,9 +225,13 @@ void frmFreeAgentClient::ShowOffer(const FreeAgentOffer& offer)
     txtComment->setPlainText(ToQString(offer.Comment.Trimmed()));
 }
 
+// A box that is closed hands the focus on to the next one, whose text would act when that is closed in its turn.
 void frmFreeAgentClient::EnableOffer(bool enabled)
 {
-    for (QWidget* box : std::initializer_list<QWidget*>{txtOffer, txtDuration, txtBonus, txtComment})
+    const std::initializer_list<QWidget*> boxes{txtOffer, txtDuration, txtBonus, txtComment};
+    if (!enabled && std::find(boxes.begin(), boxes.end(), focusWidget()) != boxes.end())
+        lstPlayers->setFocus(Qt::OtherFocusReason);
+    for (QWidget* box : boxes)
         box->setEnabled(enabled);
 }
 
