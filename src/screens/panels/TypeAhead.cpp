@@ -72,7 +72,7 @@ bool EndsSearch(const QKeyEvent& key)
 
 } // namespace
 
-TypeAhead::TypeAhead(QListWidget& searched) : QObject(&searched), list(searched)
+TypeAhead::TypeAhead(QListWidget& searched) : QObject(&searched), list(searched), surface(searched.viewport())
 {
     interval.setSingleShot(true);
     connect(&interval, &QTimer::timeout, this, [this] { End(); });
@@ -252,8 +252,8 @@ void TypeAhead::PlaceTag()
 void TypeAhead::End()
 {
     interval.stop();
-    if (IsUnderWay())
-        list.viewport()->update();
+    if (IsUnderWay() && surface != nullptr)
+        surface->update();
     typed.clear();
     repeats = 0;
     found = false;

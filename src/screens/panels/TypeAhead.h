@@ -5,6 +5,7 @@
 #include <optional>
 #include <QKeyEvent>
 #include <QListWidget>
+#include <QPointer>
 #include <QTimer>
 
 namespace dravik {
@@ -52,6 +53,8 @@ private:
     void End();
 
     QListWidget& list;
+    QPointer<QWidget>
+        surface; // on which the entries are painted; the list itself may be on its way out when a search ends
     TypedTag* tag = nullptr; // there is none before something is typed
     QTimer interval;
     QString typed;
