@@ -98,6 +98,10 @@ Screen::Screen(Stage& stage, const QString& name) : Owner(stage)
     });
     if (name == "frmAbout") // nothing comes up beside it
         return;
+    connect(new QShortcut(QKeySequence("Shift+F1"), this), &QShortcut::activated, this, [this] {
+        if (SettleFocus())
+            Owner.ShowGuide(*this);
+    });
     for (const auto& [key, look] : {std::pair("Ctrl+Shift+C", Look::Calendar), std::pair("Ctrl+Shift+G", Look::Graphs)})
         connect(new QShortcut(QKeySequence(key), this), &QShortcut::activated, this, [this, opened = look] {
             if (SettleFocus())

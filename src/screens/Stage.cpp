@@ -7,6 +7,7 @@
 #include "screens/main/frmAbout.h"
 #include "screens/main/frmCompare.h"
 #include "screens/main/frmMain.h"
+#include "screens/main/GuideWindow.h"
 #include "screens/market/frmDraft.h"
 #include "screens/market/frmFreeAgentClient.h"
 #include "screens/player/frmCoach.h"
@@ -164,6 +165,13 @@ void Stage::EnableSaveToFile()
         team->EnableSaveToFile();
 }
 
+void Stage::ShowGuide(const Screen& asking)
+{
+    if (guide == nullptr)
+        guide = std::make_unique<GuideWindow>();
+    guide->Open(asking);
+}
+
 // Whom the player viewer returns to, by `ViewerReturnMode`, unless the squad table showed it.
 Window Stage::BehindViewer() const
 {
@@ -207,6 +215,7 @@ void Stage::Closed(Screen& screen)
         for (const auto& [window, other] : screens)
             other->hide();
         squad.reset();
+        guide.reset();
         QCoreApplication::exit(0);
         return;
     }

@@ -16,6 +16,7 @@ namespace dravik {
 class frmMain;
 class frmSquad;
 class frmTeam;
+class GuideWindow;
 class Screen;
 
 // Knows all screens, and is the only one who does. Screens stand in front of each other: one that opens another is hidden
@@ -56,6 +57,10 @@ public:
     void EnableSaveToFile();
     // Tells the screen that the player viewer returns to that the viewer closes, and whether it changed something.
     void ViewerClosed(bool changed);
+
+    // The guide stands for itself, beside whatever is in front.
+    void ShowGuide(const Screen& asking);
+    [[nodiscard]] GuideWindow* Guide() const { return guide.get(); }
 
     // The squad table stands beside the screen in front. Shows it, and goes back from it; none is made before it is asked for.
     void ShowSquad(const Screen& asking);
@@ -106,6 +111,7 @@ private:
 
     std::optional<LookedFrom> lookedFrom;
     std::unique_ptr<frmSquad> squad;
+    std::unique_ptr<GuideWindow> guide;
     std::map<Window, Factory> provided;
     std::map<Window, std::unique_ptr<Screen>> screens;
     std::vector<QPointer<Screen>> disposed; // closed, and deleted as soon as the events at hand are done

@@ -38,6 +38,7 @@ inline std::vector<DesignWords> MainScreenWords(const std::string& title, const 
         {"mnuHelp", "&Help"},
         {"mnuAbout", "&About"},
         {"mnuOutputRatingCSV", "Output Ratings CSV"},
+        {"mnuGuide", "&Guide"},
         {"lblTitle", "Dravik Hockey Simulator Client"},
         {"lblDate", "Client File Date : "},
         {"lblConference(1)", "No League File Load!"},

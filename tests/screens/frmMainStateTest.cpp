@@ -66,7 +66,7 @@ TEST_F(MainState, EachMenuHoldsItsCommandsInOrder)
     EXPECT_THAT(NamesOf(Main().mnuFile->actions()), ElementsAre("mnuOpen", "mnuRecent", "mnuCompare", "", "mnuExit"));
     EXPECT_THAT(NamesOf(Main().mnuTeam->actions()), ElementsAre("mnuViewTeam", "mnuSetRoster", "mnuSetLines",
                                                                 "mnuSetFarmLines", "mnuFreeAgents", "mnuDraft"));
-    EXPECT_THAT(NamesOf(Main().mnuHelp->actions()), ElementsAre("mnuAbout", "mnuOutputRatingCSV"));
+    EXPECT_THAT(NamesOf(Main().mnuHelp->actions()), ElementsAre("mnuAbout", "mnuOutputRatingCSV", "mnuGuide"));
 }
 
 TEST_F(MainState, PlacingTheTeamsBringsUpTheTeamMenuAlone)

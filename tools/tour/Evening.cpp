@@ -49,6 +49,7 @@ void Evening::Spend()
     ExportTheRatings();
     BringBackTheWork();
     ShowAbout();
+    ReadGuide();
     ShowEmptyScreens();
 }
 

@@ -78,6 +78,8 @@ private:
     // The league is opened once more, as after a crash, and the work of the evening brought back.
     void BringBackTheWork();
     void ShowAbout();
+    // The guide where it begins, at a picture, and where it tells of signs.
+    void ReadGuide();
     // The screens whose commands are hidden.
     void ShowEmptyScreens();
     // Leaves a screen, which brings `behind` back.

@@ -2,6 +2,7 @@
 #include "files/DraftFile.h"
 #include "files/OffersFile.h"
 #include "screens/main/frmAbout.h"
+#include "screens/main/GuideWindow.h"
 #include "screens/market/frmDraft.h"
 #include "screens/market/WhatIfWindow.h"
 #include "screens/platform/CodePage.h"
@@ -108,6 +109,21 @@ void Evening::ShowAbout()
     Require(about != nullptr && about->isVisible() && Main().isVisible(), "the about screen opens beside the main one");
     Photograph(Window::About, "about");
     Leave(Window::About, Main(), about->cmdExit);
+}
+
+void Evening::ReadGuide()
+{
+    Main().mnuGuide->trigger();
+    GuideWindow* guide = stage.Guide();
+    Require(guide != nullptr && guide->isVisible() && Main().isVisible(), "the guide opens beside the main screen");
+    int part = 0;
+    for (const char* chapter : {"the-guide", "4-set-the-lines", "signs"}) {
+        QApplication::processEvents();
+        Require(guide->GoTo(chapter), "the guide has its chapters");
+        const QString name = QString("guide-%1").arg(++part);
+        Require(camera.Photograph(*guide, name, guide->size()), "pictures of the guide are written");
+    }
+    guide->close();
 }
 
 void Evening::ShowEmptyScreens()

@@ -143,6 +143,7 @@ void frmMain::MakeMenus()
     mnuAbout = MakeItem(mnuHelp, "mnuAbout", "&About", &frmMain::mnuAbout_Click);
     mnuOutputRatingCSV =
         MakeItem(mnuHelp, "mnuOutputRatingCSV", "Output Ratings CSV", &frmMain::mnuOutputRatingCSV_Click);
+    mnuGuide = MakeItem(mnuHelp, "mnuGuide", "&Guide", &frmMain::mnuGuide_Click);
 }
 
 QAction* frmMain::MakeItem(QMenu* menu, const char* name, const QString& caption, void (frmMain::*click)())
@@ -485,6 +486,8 @@ void frmMain::cmdForget_Click()
 }
 
 void frmMain::mnuAbout_Click() { Open(Window::About); }
+
+void frmMain::mnuGuide_Click() { Owner.ShowGuide(*this); }
 
 void frmMain::mnuOutputRatingCSV_Click()
 {

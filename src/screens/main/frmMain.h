@@ -53,6 +53,8 @@ public:
     void mnuDraft_Click();
     void mnuAbout_Click();
     void mnuOutputRatingCSV_Click();
+    // Has the guide beside whatever screen is in front.
+    void mnuGuide_Click();
     void cmdBringBack_Click();
     void cmdForget_Click();
     // Opens a file that was opened before, as the dialog does one that was chosen.
@@ -70,7 +72,8 @@ public:
     QMenu *mnuRecent = nullptr, *mnuView = nullptr;
     QAction *mnuOpen = nullptr, *mnuExit = nullptr;
     QAction *mnuViewTeam = nullptr, *mnuSetRoster = nullptr, *mnuSetLines = nullptr, *mnuSetFarmLines = nullptr;
-    QAction *mnuFreeAgents = nullptr, *mnuDraft = nullptr, *mnuAbout = nullptr, *mnuOutputRatingCSV = nullptr;
+    QAction *mnuFreeAgents = nullptr, *mnuDraft = nullptr, *mnuAbout = nullptr, *mnuOutputRatingCSV = nullptr,
+            *mnuGuide = nullptr;
 
 protected:
     // A client file that is dropped on the window is opened, too.

@@ -28,6 +28,7 @@ constexpr KeyRow Rows[] = {
     {WithHistory, KeyScope::Screen, "Ctrl+Shift+Z / Ctrl+Y", "", "Redo"},
     {WithLooks, KeyScope::Screen, "Ctrl+Shift+C", "", "Calendar of the team, and away; Esc closes it too"},
     {WithLooks, KeyScope::Screen, "Ctrl+Shift+G", "", "Graphs of the team, and away; Esc closes them too"},
+    {WithLooks, KeyScope::Screen, "Shift+F1", "", "The guide: an evening in ten steps"},
     {OnMain, KeyScope::Screen, "", "", "Open a client file", QKeySequence::Open},
     {OnMain, KeyScope::Screen, "", "", "Exit", QKeySequence::Quit},
     {OnMain, KeyScope::Screen, "Ctrl+Return", "", "View the team"},

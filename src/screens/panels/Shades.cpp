@@ -79,6 +79,22 @@ void MutePlaceholder(QWidget& widget)
     widget.setPalette(own);
 }
 
+void KeepPlaceholderMuted(QWidget& widget)
+{
+    class Keeper : public QObject {
+    public:
+        explicit Keeper(QWidget& kept) : QObject(&kept) {}
+        bool eventFilter(QObject* watched, QEvent* event) override
+        {
+            if (event->type() == QEvent::PaletteChange)
+                MutePlaceholder(*static_cast<QWidget*>(watched));
+            return false;
+        }
+    };
+    MutePlaceholder(widget);
+    widget.installEventFilter(new Keeper(widget));
+}
+
 QColor Alarming(const QColor& background) { return Coloured(QColor(0xC0, 0x39, 0x2B), background); }
 
 QColor Cautioning(const QColor& background) { return Coloured(QColor(0xD9, 0x82, 0x00), background); }

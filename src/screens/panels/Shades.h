@@ -28,6 +28,8 @@ QColor LinkText(const QPalette& palette);
 // Gives a widget's placeholder text the colour of secondary words, mixed from the palette at hand. To be called anew when the
 // palette changes.
 void MutePlaceholder(QWidget& widget);
+// The same now and at every change of the palette.
+void KeepPlaceholderMuted(QWidget& widget);
 
 // Red for what is wrong, readable on `background`. It never stands without a sign.
 QColor Alarming(const QColor& background);

@@ -116,7 +116,7 @@ void frmSquad::MakeTables()
     txtName->setAccessibleName("Part of a name");
     txtName->setPlaceholderText("Part of a name");
     txtName->setClearButtonEnabled(true);
-    MutePlaceholder(*txtName);
+    KeepPlaceholderMuted(*txtName);
     txtName->installEventFilter(this);
     connect(txtName, &QLineEdit::textChanged, this, [this] { RunEvent("txtName", [this] { txtName_Changed(); }); });
 }
