@@ -2,16 +2,24 @@
 #include "PaintedContrast.h"
 #include "screens/lines/LineSheet.h"
 #include "screens/lines/LinesScreen.h"
+#include "screens/Looks.h"
+#include "screens/main/GuideWindow.h"
 #include "screens/panels/DayStrip.h"
 #include "screens/panels/EditBox.h"
 #include "screens/panels/Labels.h"
 #include "screens/panels/LinkLabel.h"
+#include "screens/panels/LookWindow.h"
+#include "screens/panels/Plot.h"
 #include "screens/panels/ReasonsBox.h"
 #include "screens/panels/Shades.h"
 #include "screens/panels/SlotLabel.h"
 #include "screens/panels/TypedTag.h"
 #include "screens/panels/Verdict.h"
 #include "screens/platform/FusionLook.h"
+#include "screens/squad/frmSquad.h"
+#include "screens/squad/SquadModel.h"
+#include "screens/team/CalendarWindow.h"
+#include "screens/team/GraphsWindow.h"
 
 #include <map>
 #include <QGroupBox>
@@ -96,6 +104,34 @@ protected:
                 Measure(picture, *box, box->rect().adjusted(4, 4, -4, -4), "closed box");
     }
 
+    // The cells of its tables, the words below its graphs and in its empty boxes.
+    void MeasureTables(QWidget& window)
+    {
+        const QImage picture = window.grab().toImage();
+        Window = &window;
+        constexpr int edge = 4;
+        constexpr int barBelow = 7; // a bar may stand below a number
+        for (const auto* table : window.findChildren<QTableView*>())
+            for (int row = 0; row < std::min(table->model()->rowCount(), 4); ++row)
+                for (int column = 0; column < table->model()->columnCount(); ++column) {
+                    const QModelIndex cell = table->model()->index(row, column);
+                    if (table->isColumnHidden(column) || table->indexWidget(cell) != nullptr)
+                        continue;
+                    QRect words = table->visualRect(cell).adjusted(1, 1, -edge, -barBelow);
+                    if (cell.data(SquadModel::SignRole).isValid()) // a shape with soft edges
+                        words.setLeft(words.right() - table->fontMetrics().horizontalAdvance(cell.data().toString()));
+                    if (table->viewport()->rect().contains(words))
+                        Measure(picture, *table->viewport(), words, "cell");
+                }
+        for (const auto* part : window.findChildren<QWidget*>())
+            if (const auto* plot = dynamic_cast<const Plot*>(part))
+                Measure(picture, *plot, plot->rect().adjusted(0, plot->height() - plot->fontMetrics().height(), -2, 0),
+                        "words below a graph");
+        for (const auto* box : window.findChildren<QLineEdit*>())
+            if (box->text().isEmpty() && !box->placeholderText().isEmpty())
+                Measure(picture, *box, box->rect().adjusted(edge, edge, -2 * edge, -edge), "placeholder");
+    }
+
     const QFont Font = QApplication::font();
     std::map<std::string, int> Measured;
     std::string Where;
@@ -156,6 +192,38 @@ TEST_F(ContrastTest, EverySecondaryWordOnEveryGroundCanBeReadUnderEveryPalette)
     for (const char* what :
          {"muted label", "verdict", "tag of a slot", "overall in a slot", "day", "empty reasons", "closed box", "link",
           "beside an entry", "beside an alternate entry", "beside the chosen entry"})
+        EXPECT_GE(Measured[what], static_cast<int>(palettes.size())) << what;
+}
+
+TEST_F(ContrastTest, TheWindowsBesideTheScreensCanBeReadUnderEveryPalette)
+{
+    Teams[OwnTeam].Password = "";
+    MainWithLeague();
+    CurrentTeam = OwnTeam;
+    for (const auto look : {dravik::Look::Calendar, dravik::Look::Graphs})
+        OpenLook(look, TheStage, Main(), {});
+    TheStage.ShowSquad(Main());
+    TheStage.ShowGuide(Main());
+    auto* graphs = Main().findChild<LookWindow*>(GraphsWindow::Name);
+    auto* pages = graphs->findChild<QTabWidget*>();
+    const std::vector<QPalette> palettes = AllPalettes();
+    for (std::size_t i = 0; i < palettes.size(); ++i) {
+        Use(palettes[i]);
+        for (int page = 0; page < pages->count(); ++page) {
+            pages->setCurrentIndex(page);
+            Settle();
+            Where = "graph " + std::to_string(page) + ", palette " + std::to_string(i);
+            MeasureAll(*graphs);
+            MeasureTables(*graphs);
+        }
+        for (QWidget* window : std::initializer_list<QWidget*>{Main().findChild<LookWindow*>(CalendarWindow::Name),
+                                                               TheStage.Squad(), TheStage.Guide()}) {
+            Where = window->objectName().toStdString() + ", palette " + std::to_string(i);
+            MeasureAll(*window);
+            MeasureTables(*window);
+        }
+    }
+    for (const char* what : {"muted label", "cell", "words below a graph", "placeholder"})
         EXPECT_GE(Measured[what], static_cast<int>(palettes.size())) << what;
 }
 
