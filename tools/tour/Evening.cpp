@@ -51,6 +51,7 @@ void Evening::Spend()
     ShowAbout();
     ReadGuide();
     ShowEmptyScreens();
+    LookAtTeamOfNobody();
 }
 
 void Evening::Start()

@@ -82,6 +82,8 @@ private:
     void ReadGuide();
     // The screens whose commands are hidden.
     void ShowEmptyScreens();
+    // The team screen, the calendar and the graphs when nobody is left of the team.
+    void LookAtTeamOfNobody();
     // Leaves a screen, which brings `behind` back.
     void Leave(Window window, const Screen& behind, QPushButton* exit);
     // Makes the first two people an offer who may take one, looks at those with an offer alone, and saves the offer file.
