@@ -1,6 +1,7 @@
 #include "screens/panels/Plot.h"
 
 #include "screens/panels/FigureTable.h"
+#include "screens/panels/Shades.h"
 #include "screens/platform/Palettes.h"
 
 #include <gmock/gmock.h>
@@ -50,6 +51,30 @@ TEST_F(PlotTest, ABarIsAsHighAsItsFigure)
     EXPECT_TRUE(Bars.BarOf(1, 0).isNull());
     EXPECT_GE(Bars.BarOf(1, 1).left(), Bars.BarOf(0, 1).right());
     EXPECT_TRUE(QRectF(Bars.rect()).contains(Bars.BarOf(0, 1)));
+}
+
+TEST_F(PlotTest, WordsThatFindNoRoomBelowTheirBarsStandInTwoLines)
+{
+    PlotData data = Data({{"Ours", {10, 40}}});
+    data.Categories = {"thirty-six or more", "all of them"};
+    Show(data);
+    const int line = Bars.fontMetrics().height();
+    const double oneLine = Bars.HeightOf(0);
+    const auto isWritten = [&](double top) {
+        const QImage picture = Painted();
+        const QColor ground = picture.pixelColor(picture.width() - 2, static_cast<int>(top) + 1);
+        for (int y = static_cast<int>(top); y < static_cast<int>(top) + line; ++y)
+            for (int x = static_cast<int>(Bars.BarOf(0, 0).left()); x < picture.width() / 2; ++x)
+                if (y < picture.height() && picture.pixelColor(x, y) != ground)
+                    return true;
+        return false;
+    };
+    EXPECT_TRUE(isWritten(oneLine + Gap));
+    Bars.resize(Bars.fontMetrics().horizontalAdvance("thirty-six or more") * 2, 400);
+    QApplication::processEvents();
+    EXPECT_DOUBLE_EQ(Bars.HeightOf(0), oneLine - line);
+    EXPECT_TRUE(isWritten(Bars.HeightOf(0) + Gap));
+    EXPECT_TRUE(isWritten(Bars.HeightOf(0) + Gap + line)) << "the second line";
 }
 
 TEST_F(PlotTest, AScaleThatBeginsHigherHasRoomBelowTheLeast)

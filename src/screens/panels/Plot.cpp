@@ -5,6 +5,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <cstdlib>
 #include <limits>
 #include <QHelpEvent>
 #include <QPainter>
@@ -40,6 +41,17 @@ double RoundStep(double least)
         if (factor * power >= least)
             return factor * power;
     return 10 * power;
+}
+
+// Words parted at the blank that is nearest to their middle.
+QStringList InTwo(const QString& words)
+{
+    qsizetype best = -1;
+    const qsizetype middle = words.size() / 2;
+    for (qsizetype at = words.indexOf(' '); at >= 0; at = words.indexOf(' ', at + 1))
+        if (best < 0 || std::abs(at - middle) < std::abs(best - middle))
+            best = at;
+    return best < 0 ? QStringList{words} : QStringList{words.left(best), words.mid(best + 1)};
 }
 
 } // namespace
@@ -125,18 +137,32 @@ QList<Plot::LegendEntry> Plot::Legend() const
     return entries;
 }
 
-QRectF Plot::Ground() const
+int Plot::ScaleWidth() const
 {
     int scale = 0;
     for (double at = from; at <= to + step / 2; at += step)
         scale = std::max(scale, fontMetrics().horizontalAdvance(shown.Worded(at)));
+    return scale + Gap;
+}
+
+QRectF Plot::Ground() const
+{
     const int line = fontMetrics().height();
-    return QRectF(rect()).adjusted(scale + Gap, LegendHeight() + line / 2.0, -1, -(line + Gap));
+    return QRectF(rect()).adjusted(ScaleWidth(), LegendHeight() + line / 2.0, -1, -(LinesBelow() * line + Gap));
 }
 
 double Plot::CategoryWidth() const
 {
-    return Ground().width() / static_cast<double>(std::max<qsizetype>(1, shown.Categories.size()));
+    return (width() - 1 - ScaleWidth()) / static_cast<double>(std::max<qsizetype>(1, shown.Categories.size()));
+}
+
+int Plot::LinesBelow() const
+{
+    const double room = CategoryWidth();
+    return std::any_of(shown.Categories.begin(), shown.Categories.end(),
+                       [&](const QString& words) { return fontMetrics().horizontalAdvance(words) > room; })
+               ? 2
+               : 1;
 }
 
 double Plot::HeightOf(double value) const
@@ -228,13 +254,17 @@ void Plot::PaintBars(QPainter& painter) const
 void Plot::PaintCategories(QPainter& painter) const
 {
     const QRectF ground = Ground();
+    const int lines = LinesBelow();
     painter.setPen(palette().color(QPalette::WindowText));
     for (int category = 0; category < shown.Categories.size(); ++category) {
-        const QRectF place(ground.left() + category * CategoryWidth(), ground.bottom() + Gap / 2.0, CategoryWidth(),
-                           fontMetrics().height());
-        painter.drawText(
-            place, Qt::AlignHCenter | Qt::AlignTop,
-            fontMetrics().elidedText(shown.Categories[category], Qt::ElideRight, static_cast<int>(place.width())));
+        QRectF place(ground.left() + category * CategoryWidth(), ground.bottom() + Gap / 2.0, CategoryWidth(),
+                     fontMetrics().height());
+        for (const QString& words :
+             lines == 1 ? QStringList{shown.Categories[category]} : InTwo(shown.Categories[category])) {
+            painter.drawText(place, Qt::AlignHCenter | Qt::AlignTop,
+                             fontMetrics().elidedText(words, Qt::ElideRight, static_cast<int>(place.width())));
+            place.translate(0, place.height());
+        }
     }
 }
 

@@ -55,6 +55,9 @@ private:
     [[nodiscard]] QRectF Ground() const;
     [[nodiscard]] int LegendHeight() const;
     [[nodiscard]] double CategoryWidth() const;
+    // The room of the scale at the left, and how many lines the words below the categories take.
+    [[nodiscard]] int ScaleWidth() const;
+    [[nodiscard]] int LinesBelow() const;
     // What stands in the legend one behind the other, each with its place; the mark comes last.
     struct LegendEntry {
         QPoint At;

@@ -77,8 +77,8 @@ GraphsWindow::Page GraphsWindow::MakePage(const QString& name, const QString& ti
     QVBoxLayout* column = dravik::MakePage(sheet);
     column->addWidget(page.lblCaption);
     QHBoxLayout* row = MakeRow({}, 2 * Margin);
-    row->addWidget(page.Bars, 3);
-    row->addWidget(page.tblFigures, 2);
+    row->addWidget(page.Bars, 1); // the table takes the room of its words, as far as the graph can spare it
+    row->addWidget(page.tblFigures);
     column->addLayout(row, 1);
     column->addStretch(0);
     tabPages->addTab(sheet, title);
