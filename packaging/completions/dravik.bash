@@ -9,6 +9,8 @@ _dravik() {
         [offers]="--team --read --csv --out --passwords --json --help"
         [draft]="--team --read --csv --out --passwords --json --help"
         [export]="--out --json --help"
+        [diff]="--team --passwords --json --help"
+        [sheet]="--team --lines --days --farm --roster --text --forum --markdown --html --out --passwords --help"
     )
     COMPREPLY=()
     if ((COMP_CWORD == 1)); then

@@ -199,10 +199,10 @@ std::string MarkdownOf(const Paper& paper)
     return text;
 }
 
-std::string HtmlOf(const Paper& paper)
+std::string HtmlOf(const Paper& paper, std::string_view encoding)
 {
-    std::string text = "<!DOCTYPE html>\n<html lang=\"en\">\n<head>\n<meta charset=\"windows-1252\">\n" +
-                       Tagged("title", paper.Title) +
+    std::string text = "<!DOCTYPE html>\n<html lang=\"en\">\n<head>\n<meta charset=\"" + std::string(encoding) +
+                       "\">\n" + Tagged("title", paper.Title) +
                        "\n<style>table { border-collapse: collapse } th, td { text-align: left; padding: 0 1em 0 0 }"
                        "</style>\n</head>\n<body>\n" +
                        Tagged("h1", paper.Title) + '\n' + HtmlFactsOf(paper.Facts);

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <string>
+#include <string_view>
 #include <vector>
 
 // A paper to share with others, and the texts that are made of it. It is a value of words alone: what a league hides has been
@@ -44,7 +45,8 @@ std::string ForumTextOf(const Paper& paper);
 // Headings, lists and tables with bars. Whatever would count as a mark in a name stands behind a backslash.
 std::string MarkdownOf(const Paper& paper);
 
-// A whole page of HTML, which names its code page, needs nothing from elsewhere and runs nothing.
-std::string HtmlOf(const Paper& paper);
+// A whole page of HTML, which names its encoding, needs nothing from elsewhere and runs nothing. The bytes are those of the code page;
+// who makes another encoding of them names it in `encoding`.
+std::string HtmlOf(const Paper& paper, std::string_view encoding = "windows-1252");
 
 } // namespace dravik

@@ -1,9 +1,5 @@
-#include "desk/TakenIn.h"
 #include "desk/TeamCheck.h"
 #include "files/ClientFile.h"
-#include "files/LinesFile.h"
-#include "files/TeamFileRead.h"
-#include "files/VerifyFile.h"
 #include "league/Failure.h"
 #include "terminal/Answers.h"
 #include "terminal/LeagueAtHand.h"
@@ -152,7 +148,7 @@ public:
                 continue;
             Note(file.Path);
             Demand(*league.League, *league.Machine, team, known);
-            Load(league, file.Path, team);
+            TakeInLines(league, file.Path, team);
             taken.push_back(team);
         }
         std::sort(taken.begin(), taken.end());
@@ -190,19 +186,6 @@ private:
     {
         const std::lock_guard guard(mutex);
         used.insert(path);
-    }
-
-    static void Load(LeagueAtHand& league, const std::string& path, int team)
-    {
-        Machine& machine = *league.Machine;
-        machine.UsePlainFiles(IsPlainFile(machine, path));
-        const TeamFileRead read = ReadLinesFile(*league.League, machine.Files(), team, path);
-        const std::vector<std::string> told = machine.TakeTold();
-        if (read == TeamFileRead::NotDecompressed)
-            throw Problem(path + ": " + (told.empty() ? "" : ToUtf8(told.front())));
-        if (read == TeamFileRead::Refused)
-            throw Problem(OnOneLine(
-                ToUtf8(LoadedWords(read, "Lines file", league.League->Teams[team].Name.Trimmed(), "")) + path));
     }
 
     std::vector<File> files;

@@ -7,6 +7,7 @@
 #include "rules/LineJudge.h"
 #include "rules/RosterJudge.h"
 #include "terminal/Answers.h"
+#include "terminal/DayRange.h"
 #include "terminal/Interrupt.h"
 #include "terminal/LeagueAtHand.h"
 #include "terminal/Passwords.h"
@@ -15,7 +16,6 @@
 #include "terminal/Verbs.h"
 
 #include <algorithm>
-#include <charconv>
 #include <memory>
 
 // `dravik make`: a team's roster and lines by the makers, saved as the windows save them.
@@ -36,30 +36,6 @@ struct MakeOptions {
     bool Farm = false;
     bool AsJson = false;
 };
-
-struct DayRange {
-    int First;
-    int Last;
-};
-
-// "3" or "1-10".
-DayRange DaysOf(const std::string& text)
-{
-    const auto number = [&](const std::string& digits) {
-        int value = 0;
-        const auto [end, error] = std::from_chars(digits.data(), digits.data() + digits.size(), value);
-        if (error != std::errc() || end != digits.data() + digits.size() || value < 1 || value > LineDays)
-            throw Problem("--days " + text + ": a day from 1 to 10, or two of them as 1-10");
-        return value;
-    };
-    const std::size_t dash = text.find('-');
-    const DayRange days = dash == std::string::npos
-                              ? DayRange{number(text), number(text)}
-                              : DayRange{number(text.substr(0, dash)), number(text.substr(dash + 1))};
-    if (days.First > days.Last)
-        throw Problem("--days " + text + ": the first day stands in front");
-    return days;
-}
 
 // Runs the makers that were asked for, in the order in which a manager goes through his screens.
 void RunMakers(const Work& work, int team, const MakeOptions& options, const DayRange& days)
@@ -156,9 +132,7 @@ Verb AddMake(CLI::App& program)
                     "keep what is usable of the pro lines, and fill the rest");
     lines->require_option(0, 1);
     command->add_flag("--farm", options->Farm, "make the farm lines");
-    command->add_option("--days", options->Days, "the days of the lines, 1 the next game")
-        ->type_name("DAY|FIRST-LAST")
-        ->capture_default_str();
+    AddDays(*command, options->Days);
     command->add_option("--out", options->Out, "the lines file that is written")->type_name("FILE.dvl")->required();
     AddPasswords(*command, options->PasswordFile);
     AddJson(*command, options->AsJson);

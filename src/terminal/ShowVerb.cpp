@@ -5,7 +5,6 @@
 #include "rules/LineLookups.h"
 #include "rules/NextGames.h"
 #include "rules/People.h"
-#include "terminal/Ask.h"
 #include "terminal/People.h"
 #include "terminal/Problem.h"
 #include "terminal/TeamFiles.h"
@@ -59,23 +58,13 @@ Shown TeamsOf(LeagueAtHand& league, const std::vector<int>& teams)
     return shown;
 }
 
-// Whether the private part of a team may be shown: one that was asked for by name is asked for its password at a terminal.
-bool MayShowPrivate(LeagueAtHand& league, int team, bool named, const Passwords& known, LeftOut& left)
-{
-    if (named && IsAtTerminal()) {
-        Demand(*league.League, *league.Machine, team, known);
-        return true;
-    }
-    return left.MayWorkOn(league, team, known);
-}
-
 Shown RosterOf(LeagueAtHand& league, const std::vector<int>& teams, bool named, const Passwords& known)
 {
     Shown shown{.Rows = Table(Joined(FactColumns(*league.League), PrivateColumns())),
                 .Left = {},
                 .LeftWhat = "Statuses and flags are not shown"};
     for (const int team : teams) {
-        const bool isProven = MayShowPrivate(league, team, named, known, shown.Left);
+        const bool isProven = shown.Left.MayShow(league, team, named, known);
         const auto add = [&](const auto& person, int index) {
             const PersonId who = PersonIn<std::remove_cvref_t<decltype(person)>>(index);
             shown.Rows.Add(Joined(FactsOf(league, who), PrivateCells(*league.League, who, isProven)));

@@ -1,9 +1,14 @@
 #include "terminal/TeamFiles.h"
 
+#include "desk/TakenIn.h"
+#include "files/LinesFile.h"
 #include "files/Magics.h"
+#include "files/TeamFileRead.h"
 #include "files/VerifyFile.h"
 #include "league/Failure.h"
+#include "terminal/Ask.h"
 #include "terminal/Problem.h"
+#include "terminal/Utf8.h"
 
 #include <array>
 #include <string_view>
@@ -53,12 +58,39 @@ TeamFileHead HeadOf(const std::string& path, TeamFileKind kind)
     return head;
 }
 
+void TakeInLines(LeagueAtHand& league, const std::string& path, int team)
+{
+    Machine& machine = *league.Machine;
+    TeamFileRead read{};
+    try {
+        machine.UsePlainFiles(IsPlainFile(machine, path));
+        read = ReadLinesFile(*league.League, machine.Files(), team, path);
+    } catch (const Failure& failed) {
+        throw Problem(path + ": " + failed.what());
+    }
+    const std::vector<std::string> told = machine.TakeTold();
+    if (read == TeamFileRead::NotDecompressed)
+        throw Problem(path + ": " + (told.empty() ? "" : ToUtf8(told.front())));
+    if (read == TeamFileRead::Refused)
+        throw Problem(
+            OnOneLine(ToUtf8(LoadedWords(read, "Lines file", league.League->Teams[team].Name.Trimmed(), "")) + path));
+}
+
 bool LeftOut::MayWorkOn(const LeagueAtHand& league, int team, const Passwords& known)
 {
     const Proof proof = Prove(*league.League, *league.Machine, team, known);
     if (proof != Proof::Proven)
         teams.push_back({.Number = team, .Name = league.NameOf(team), .IsWrong = proof == Proof::Wrong});
     return proof == Proof::Proven;
+}
+
+bool LeftOut::MayShow(LeagueAtHand& league, int team, bool named, const Passwords& known)
+{
+    if (named && IsAtTerminal()) {
+        Demand(*league.League, *league.Machine, team, known);
+        return true;
+    }
+    return MayWorkOn(league, team, known);
 }
 
 std::string LeftOut::Text(const std::string& what) const

@@ -17,6 +17,8 @@ Verb AddMake(CLI::App& program);
 Verb AddExport(CLI::App& program);
 Verb AddOffers(CLI::App& program);
 Verb AddDraft(CLI::App& program);
+Verb AddDiff(CLI::App& program);
+Verb AddSheet(CLI::App& program);
 
 // The options that several verbs have.
 struct CommonOptions {

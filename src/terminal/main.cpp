@@ -20,8 +20,9 @@ int main(int argc, char** argv)
         "Ends with 0 when it is done and all is well, 1 when something was found, 2 when something failed.\n"
         "A team with a password shows what is private behind it alone: it is asked for at the terminal, or read\n"
         "from --passwords FILE.");
-    const Verb verbs[] = {AddCheck(program),  AddShow(program),   AddVerify(program), AddMake(program),
-                          AddExport(program), AddOffers(program), AddDraft(program)};
+    const Verb verbs[] = {AddCheck(program), AddShow(program),   AddVerify(program),
+                          AddMake(program),  AddExport(program), AddOffers(program),
+                          AddDraft(program), AddDiff(program),   AddSheet(program)};
     try {
         program.parse(argc, argv);
     } catch (const CLI::ParseError& asked) {

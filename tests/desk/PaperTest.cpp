@@ -99,5 +99,14 @@ TEST(PaperTest, HtmlNamesItsCodePageAndHoldsNoTagOfAName)
               "</body>\n</html>\n");
 }
 
+TEST(PaperTest, APageOfHtmlNamesTheEncodingThatItsReaderWillMeet)
+{
+    std::string expected = HtmlOf(Marked());
+    const std::string own = "<meta charset=\"windows-1252\">";
+    ASSERT_NE(expected.find(own), std::string::npos);
+    expected.replace(expected.find(own), own.size(), "<meta charset=\"utf-8\">");
+    EXPECT_EQ(HtmlOf(Marked(), "utf-8"), expected);
+}
+
 } // namespace
 } // namespace dravik

@@ -36,7 +36,7 @@ printf '%s\\n' "${{COMPREPLY[@]}}" """
 
     def test_bash_completes_every_verb_and_option(self):
         verbs = self.verbs()
-        self.assertEqual(len(verbs), 7)
+        self.assertEqual(len(verbs), 9)
         self.assertEqual(self.complete_in_bash(), set(verbs) | {"--help", "--version"})
         for verb in verbs:
             self.assertEqual(self.complete_in_bash(verb, "--"), self.options(verb), verb)
@@ -62,6 +62,25 @@ printf '%s\\n' "${{COMPREPLY[@]}}" """
         self.assertEqual(set(re.findall(OPTION, page)), every | {"--version"})
         for verb in self.verbs():
             self.assertRegex(page, rf"\n\.TP\n\.B {verb}\n")
+
+    def test_nothing_is_wrong_with_the_form_of_the_manual(self):
+        judges = [judge for judge in (["mandoc", "-T", "lint", "-W", "warning"], ["man", "--warnings", "-l"]) if shutil.which(judge[0])]
+        if not judges:
+            self.skipTest("there is neither mandoc nor man")
+        for page in PACKAGING.glob("*.1"):
+            for judge in judges:
+                ended = subprocess.run([*judge, page], env={"PATH": "/usr/bin:/bin", "LC_ALL": "C.UTF-8"}, stdout=subprocess.PIPE,
+                                       stderr=subprocess.PIPE, text=True, check=False)
+                told = ended.stderr + (ended.stdout if judge[0] == "mandoc" else "")
+                self.assertEqual((ended.returncode, told), (0, ""), f"{judge[0]} {page.name}")
+
+    def test_the_judges_of_the_manual_find_what_is_wrong(self):
+        if not shutil.which("mandoc"):
+            self.skipTest("there is no mandoc")
+        page = self.folder / "wrong.1"
+        page.write_text((PACKAGING / "dravik.1").read_text().replace(".SH EXAMPLES", ".SS EXAMPLES\n.ZZ", 1))
+        ended = subprocess.run(["mandoc", "-T", "lint", "-W", "warning", page], capture_output=True, text=True, check=False)
+        self.assertNotEqual((ended.returncode, ended.stdout), (0, ""))
 
 
 if __name__ == "__main__":

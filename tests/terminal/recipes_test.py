@@ -7,10 +7,11 @@
 import os
 import pathlib
 import re
+import struct
 import subprocess
 import unittest
 
-from harness import PATIENCE, PROGRAM, TerminalTest
+from harness import PATIENCE, PROGRAM, TerminalTest, player_record, record, team_record, unwrapped, write_wrapped
 
 PAGE = pathlib.Path(__file__).resolve().parents[2] / "docs" / "terminal.md"
 
@@ -35,6 +36,23 @@ def fits(lines, wanted):
     return bool(lines) and lines[0] == wanted[0] and fits(lines[1:], wanted[1:])
 
 
+def evening_before(league):
+    """The slots of a league a day before: of team 7 one was healthy, one was hurt, one was with team 12, and there was less money."""
+    slots = bytearray(league)
+    team, condition, cash, date = 44, 112, 319, 501  # offsets in the records
+    own = [player_record(index) for index in range(1, 10001)
+           if slots[player_record(index):player_record(index) + 2] == b"\xff\xff"
+           and struct.unpack_from("<h", slots, player_record(index) + team)[0] == 7]
+    healthy = [at for at in own if slots[at + condition] >= 95]
+    hurt = next(at for at in own if slots[at + condition] < 95)
+    slots[hurt + condition] = 100
+    slots[healthy[0] + condition] = 60
+    struct.pack_into("<h", slots, healthy[1] + team, 12)
+    for at, form, step in ((team_record(7) + cash, "<i", -250000), (record(2) + date, "<d", -1)):
+        struct.pack_into(form, slots, at, struct.unpack_from(form, slots, at)[0] + step)
+    return bytes(slots)
+
+
 class RecipesTest(TerminalTest):
     def setUp(self):
         super().setUp()
@@ -43,6 +61,7 @@ class RecipesTest(TerminalTest):
         self.league("Tuesday.dvs", "--seed", "3")
         self.league("Friday.dvs", "--seed", "4")
         self.league("Summer.dvs", "--off-season")
+        write_wrapped(self.folder / "Yesterday.dvs", evening_before(unwrapped(self.folder / "League.dvs")))
         (self.folder / self.passwords()).rename(self.folder / "secret.txt")
         (self.folder / "incoming").mkdir()
         self.run_it("make", "League.dvs", "--team", 1, "--out", "incoming/01.dvl")

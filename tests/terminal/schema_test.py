@@ -37,7 +37,7 @@ def faults(value, schema, where="$"):
             return found + [f"{where} is no {' or '.join(names)}"]
     if "enum" in schema and value not in schema["enum"]:
         found.append(f"{where}: {value!r} is none of {schema['enum']}")
-    if "minimum" in schema and value < schema["minimum"] or "maximum" in schema and value > schema["maximum"]:
+    if is_of(value, "integer") and not schema.get("minimum", value) <= value <= schema.get("maximum", value):
         found.append(f"{where}: {value} is out of range")
     if "oneOf" in schema:
         fitting = [one for one in schema["oneOf"] if not faults(value, one, where)]
@@ -87,6 +87,9 @@ class SchemaTest(TerminalTest):
         self.tell("saved", "draft", "Summer.dvs", "--team", 1, "--csv", "d.csv", "--out", "d.dvd")
         self.tell("table", "draft", "Summer.dvs", "--team", 1, "--read", "d.dvd")
         self.tell("export", "export", "League.dvs")
+        self.league("Yesterday.dvs", "--seed", "1", "--deadline")
+        for arguments in (("League.dvs",), ("League.dvs", "--team", 7), ("Yesterday.dvs",), ("bad.dvs",), ("missing.dvs",)):
+            self.tell("diff", "diff", "Yesterday.dvs", *arguments, "--passwords", "passwords")
         for kind, arguments in (("show", ("show",)), ("saved", ("make", "--team", 1, "--out", "x")), ("export", ("export",)),
                                 ("table", ("offers", "--team", 1, "--read", "x"))):
             self.tell(kind, *arguments, "missing.dvs")
@@ -97,6 +100,9 @@ class SchemaTest(TerminalTest):
         for bad in ({}, {"leagues": 1}, {"leagues": [{"file": "x"}]}, {"leagues": [{**good["leagues"][0], "more": 1}]},
                     {"leagues": [{**good["leagues"][0], "written": [1]}]}, {**good, "more": 1}):
             self.assertNotEqual(faults(bad, SCHEMA["$defs"]["export"]), [], bad)
+        for good, bad in ((1, 0), (100, 101), (None, "1")):
+            team = SCHEMA["$defs"]["change"]["properties"]["team"]
+            self.assertEqual((faults(good, team), len(faults(bad, team))), ([], 1))
 
 
 if __name__ == "__main__":
