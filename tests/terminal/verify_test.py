@@ -15,6 +15,7 @@ from harness import (SLOT, TerminalTest, goalie_record, player_record, record, s
                      write_wrapped)
 
 LEAGUE = bytes(unwrapped(sample_league()))
+CODE = 373  # of the league, in its record
 CORPUS = pathlib.Path(__file__).resolve().parents[2] / "fuzz" / "corpus"
 
 
@@ -189,7 +190,7 @@ class VerifyTest(TerminalTest):
         self.assertEqual([line.split(":")[0] for line in heads], names)
         self.assertEqual([line[:2] for line in heads if line.endswith("damaged")], ["03", "10", "17", "24"])
 
-    def test_hostile_files_end_well_in_verify_and_check(self):
+    def test_hostile_files_end_well(self):
         dice = random.Random(12)
         files = []
         for path in sorted(CORPUS.rglob("*")):
@@ -206,6 +207,16 @@ class VerifyTest(TerminalTest):
                 broken[dice.randrange(len(broken))] = dice.randrange(256)
             (self.folder / f"broken{number}").write_bytes(broken)
             files.append(f"broken{number}")
+        # Behind a sound wrapper a league opens: its rules, its first teams and their people hold anything.
+        for number in range(24):
+            inside = bytearray(LEAGUE)
+            starts = [record(2)] + [at(index) for at, most in ((team_record, 8), (player_record, 300), (goalie_record, 40))
+                                    for index in range(1, most)]
+            for _ in range(10 ** dice.randint(1, 4)):
+                inside[dice.choice(starts) + dice.randrange(SLOT)] = dice.randrange(256)
+            inside[record(2) + CODE:record(2) + CODE + 5] = LEAGUE[record(2) + CODE:record(2) + CODE + 5]
+            write_wrapped(self.folder / f"inside{number}", bytes(inside))
+            files.append(f"inside{number}")
         self.assertGreater(len(files), 200)
         for verb in ("verify", "check"):
             ended = self.run_it(verb, "-j", 2, "--json", *files)
@@ -215,6 +226,16 @@ class VerifyTest(TerminalTest):
             for line in ended.err.splitlines():
                 self.assertTrue(line.startswith("dravik: "), line)
             self.assertEqual(len(ended.err.splitlines()), sum("error" in answer for answer in answers))
+        self.league()
+        opened = [answer["file"] for answer in answers if "error" not in answer]
+        self.assertGreaterEqual(len(opened), 24)
+        for name in opened:
+            for arguments in (("diff", "League.dvs", name), ("diff", name, "League.dvs"),
+                              ("sheet", name, "--team", 1, "--days", "1-10"), ("sheet", name, "--team", 1, "--roster", "--html")):
+                ended = self.run_it(*arguments)
+                self.assertIn(ended.code, (0, 1, 2), arguments)
+                self.assertTrue(all(line.startswith("dravik: ") for line in ended.err.splitlines()), arguments)
+                self.assertEqual(ended.code == 2, ended.out == "", arguments)
 
 
 if __name__ == "__main__":
