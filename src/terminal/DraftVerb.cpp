@@ -4,10 +4,8 @@
 #include "files/VerifyFile.h"
 #include "terminal/Answers.h"
 #include "terminal/CsvFile.h"
-#include "terminal/Interrupt.h"
 #include "terminal/LeagueAtHand.h"
-#include "terminal/MarketOptions.h"
-#include "terminal/Passwords.h"
+#include "terminal/MarketVerb.h"
 #include "terminal/Problem.h"
 #include "terminal/Table.h"
 #include "terminal/Utf8.h"
@@ -51,25 +49,19 @@ Answer WriteRanking(LeagueAtHand& league, int team, const MarketOptions& options
     }
     const auto ranking = std::make_unique<DraftRanking>();
     const TakenIn taken = TakeInRanking(*league.League, *ranking, *wanted);
-    Answer answer;
+    MarketTaken notes;
     for (const std::string& words : taken.Told)
-        answer.Notes.push_back(ToUtf8(words));
-    const auto isLeftOut = static_cast<std::size_t>(taken.Count) < table.Count();
-    bool isSaved = false;
-    if (MaySaveRanking(league.AtWork(), taken.Count)) {
-        const WorkName name(options.Out);
-        const auto report = SaveRankingAs(*league.League, league.Machine->Files(name.Path()), team, options.Out,
-                                          *ranking, DraftTypeOf(league.League->LeagueData));
-        isSaved = report.has_value();
-        if (report)
-            answer.Text = OnOneLine(ToUtf8(*report)) + "\n";
-    }
-    for (const std::string& words : league.Machine->TakeTold())
-        answer.Notes.push_back(ToUtf8(words));
-    answer.Data = {{"team", team},     {"name", league.NameOf(team)}, {"out", options.Out},
-                   {"saved", isSaved}, {"ranked", taken.Count},       {"told", answer.Notes}};
-    answer.Ending = !isSaved ? ending::Failed : isLeftOut ? ending::Findings : ending::Done;
-    return answer;
+        notes.Notes.push_back(ToUtf8(words));
+    notes.IsHeld = static_cast<std::size_t>(taken.Count) < table.Count();
+    notes.Counts["ranked"] = taken.Count;
+    return SavedMarket(league, team, options, std::move(notes),
+                       [&](const FileAccess& files) -> std::optional<std::string> {
+                           if (!MaySaveRanking(league.AtWork(), taken.Count))
+                               return std::nullopt;
+                           const auto report = SaveRankingAs(*league.League, files, team, options.Out, *ranking,
+                                                             DraftTypeOf(league.League->LeagueData));
+                           return report ? std::optional(OnOneLine(*report) + "\n") : std::nullopt;
+                       });
 }
 
 } // namespace
@@ -87,17 +79,7 @@ Verb AddDraft(CLI::App& program)
         "Examples:\n"
         "  dravik draft League.dvs --team 7 --csv ranking.csv --out Gulls.dvd\n"
         "  dravik draft League.dvs --team 7 --read Gulls.dvd > ranking.csv");
-    return {command, [options] {
-                const Passwords known = ReadPasswords(options->PasswordFile);
-                return AnswerEach({options->League}, {.AsJson = options->AsJson, .List = "leagues"},
-                                  [&](const std::string& path) {
-                                      LeagueAtHand league = OpenLeague(path);
-                                      const int team = TeamsNamed(*league.League, {options->Team}).front();
-                                      Demand(*league.League, *league.Machine, team, known);
-                                      return options->Csv.empty() ? ReadRanking(league, team, options->Read)
-                                                                  : WriteRanking(league, team, *options);
-                                  });
-            }};
+    return MarketVerb(command, options, {.Show = ReadRanking, .Write = WriteRanking});
 }
 
 } // namespace dravik::terminal

@@ -6,10 +6,8 @@
 #include "files/VerifyFile.h"
 #include "terminal/Answers.h"
 #include "terminal/CsvFile.h"
-#include "terminal/Interrupt.h"
 #include "terminal/LeagueAtHand.h"
-#include "terminal/MarketOptions.h"
-#include "terminal/Passwords.h"
+#include "terminal/MarketVerb.h"
 #include "terminal/Problem.h"
 #include "terminal/Table.h"
 #include "terminal/Utf8.h"
@@ -79,30 +77,17 @@ Answer WriteOffers(LeagueAtHand& league, int team, const MarketOptions& options)
     OpenOffers(work, team, market->Offers);
     std::set<int> agents;
     EachFreeAgent(*league.League, market->Offers, {}, [&](const FreeAgent& agent) { agents.insert(agent.Id); });
-    Answer answer;
+    MarketTaken taken;
     std::set<int> entered;
     for (std::size_t row = 0; row < table.Count(); ++row) {
-        Enter(league, team, market->Offers, agents, table, row, answer.Notes);
+        Enter(league, team, market->Offers, agents, table, row, taken.Notes);
         if (!entered.insert(table.Number(row, "id", 1, OfferTable::last)).second)
             throw Problem(table.Place(row) + ": this person has an offer above");
     }
-    const std::size_t changed = answer.Notes.size();
-    const WorkName name(options.Out);
-    const auto report = SaveOffersAs(work, league.Machine->Files(name.Path()), team, options.Out, market->Offers);
-    for (const std::string& words : league.Machine->TakeTold())
-        answer.Notes.push_back(ToUtf8(words));
-    const bool isSaved = report && !report->empty();
-    if (isSaved)
-        for (const char c : ToUtf8(*report))
-            if (c != '\r')
-                answer.Text += c;
-    answer.Data = {{"team", team},
-                   {"name", league.NameOf(team)},
-                   {"out", options.Out},
-                   {"saved", isSaved},
-                   {"told", answer.Notes}};
-    answer.Ending = !isSaved ? ending::Failed : changed > 0 ? ending::Findings : ending::Done;
-    return answer;
+    taken.IsHeld = !taken.Notes.empty();
+    return SavedMarket(league, team, options, std::move(taken), [&](const FileAccess& files) {
+        return SaveOffersAs(work, files, team, options.Out, market->Offers);
+    });
 }
 
 } // namespace
@@ -121,17 +106,7 @@ Verb AddOffers(CLI::App& program)
         "Examples:\n"
         "  dravik offers League.dvs --team 7 --csv offers.csv --out Gulls.dvf\n"
         "  dravik offers League.dvs --team 7 --read Gulls.dvf > offers.csv");
-    return {command, [options] {
-                const Passwords known = ReadPasswords(options->PasswordFile);
-                return AnswerEach({options->League}, {.AsJson = options->AsJson, .List = "leagues"},
-                                  [&](const std::string& path) {
-                                      LeagueAtHand league = OpenLeague(path);
-                                      const int team = TeamsNamed(*league.League, {options->Team}).front();
-                                      Demand(*league.League, *league.Machine, team, known);
-                                      return options->Csv.empty() ? ReadOffers(league, team, options->Read)
-                                                                  : WriteOffers(league, team, *options);
-                                  });
-            }};
+    return MarketVerb(command, options, {.Show = ReadOffers, .Write = WriteOffers});
 }
 
 } // namespace dravik::terminal
