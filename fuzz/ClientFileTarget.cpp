@@ -64,7 +64,7 @@ void RunTarget(Input input)
     LeagueData = {};
     Coaches = {};
     TempFile = InFolder("ClientTemp.dvt");
-    machine.SkipsWrapper = FilesArePlain();
+    machine.UsePlainFiles(FilesArePlain());
     machine.Files[InFolder("League.dvs")] = FileOf(input);
     Window window;
     OpenLeagueClient(InFolder("League.dvs"), window);

@@ -40,7 +40,7 @@ void RunTarget(Input input)
     RosterChanges = changes;
     RosterChangesGoalie = goalieChanges;
     machine.BoxCount = 0;
-    machine.SkipsWrapper = FilesArePlain();
+    machine.UsePlainFiles(FilesArePlain());
     machine.Files = {{InFolder("Lines.dvl"), FileOf(input)}};
     CurrentTeam = 1;
     TempFile = InFolder("ClientTemp.dvt");

@@ -93,7 +93,7 @@ void RunTarget(Input input)
     if (input.empty())
         return;
     const bool isDraft = (input[0] & 1U) != 0;
-    machine.SkipsWrapper = (input[0] & 2U) != 0;
+    machine.UsePlainFiles((input[0] & 2U) != 0);
     machine.BoxCount = 0;
     EmptyOpenMarket();
     const std::string path = InFolder(isDraft ? "Team.dvd" : "Team.dvf");

@@ -76,30 +76,6 @@ int MemoryPlatform::MessageBox(const std::string& text, int kind, const std::str
     return kind == box::YesNo || kind == box::YesNoCancel ? button::Yes : button::Ok;
 }
 
-std::string MemoryPlatform::InputBox(const std::string& /*prompt*/, const std::string& /*title*/,
-                                     const std::string& /*text*/)
-{
-    return {};
-}
-
-std::string MemoryPlatform::OpenFileDialog(const std::string& /*folder*/, const std::string& /*filter*/)
-{
-    Fail(failure::Cancelled);
-}
-
-std::string MemoryPlatform::GetSetting(const std::string& /*section*/, const std::string& key,
-                                       const std::string& otherwise)
-{
-    return SkipsWrapper && key == "SkipZIPClient" ? "YES" : otherwise;
-}
-
-void MemoryPlatform::SaveSetting(const std::string& /*section*/, const std::string& /*key*/,
-                                 const std::string& /*value*/)
-{
-}
-
-int MemoryPlatform::OpenLocation(const std::string& /*location*/, int /*showMode*/) { return 42; }
-
 // The digits do not matter here; that the amount is a number does.
 std::string MemoryPlatform::Currency(double amount) const
 {

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "machine/Platform.h"
+#include "machine/WithoutDesktop.h"
 
 #include <cstddef>
 #include <cstdint>
@@ -40,24 +40,14 @@ private:
 
 // A machine whose disk is memory. It shows nothing, remembers how often it should have, and answers every question with
 // the default.
-class MemoryPlatform final : public Platform {
+class MemoryPlatform final : public WithoutDesktop<Platform> {
 public:
     std::map<std::string, std::shared_ptr<const Content>> Files;
-    bool SkipsWrapper = false; // the setting `SkipZIPClient`
     long BoxCount = 0;
-    bool WaitShown = false;
 
     int MessageBox(const std::string& text, int kind, const std::string& title) override;
-    std::string InputBox(const std::string& prompt, const std::string& title, const std::string& text) override;
-    std::string OpenFileDialog(const std::string& folder, const std::string& filter) override;
-    std::string GetSetting(const std::string& section, const std::string& key, const std::string& otherwise) override;
-    void SaveSetting(const std::string& section, const std::string& key, const std::string& value) override;
     std::string ProgramFolder() override { return "folder"; }
     std::string Version() override { return "1.0"; }
-    bool AnotherInstanceRuns() override { return false; }
-    void ShowWait() override { WaitShown = true; }
-    void CloseWait() override { WaitShown = false; }
-    int OpenLocation(const std::string& location, int showMode) override;
     std::string Currency(double amount) const override;
     std::string CurrencyNoDecimals(double amount) const override;
     std::string Fixed(double value, int decimals) const override;

@@ -1,7 +1,6 @@
 #include "terminal/Machine.h"
 
 #include "league/Failure.h"
-#include "machine/Md5.h"
 #include "terminal/Amounts.h"
 
 #include <filesystem>
@@ -35,21 +34,6 @@ std::string Machine::InputBox(const std::string& /*prompt*/, const std::string& 
     return std::exchange(answer, {});
 }
 
-std::string Machine::OpenFileDialog(const std::string& /*folder*/, const std::string& /*filter*/)
-{
-    Fail(failure::Cancelled);
-}
-
-std::string Machine::GetSetting(const std::string& /*section*/, const std::string& key, const std::string& otherwise)
-{
-    return plain && key == "SkipZIPClient" ? "YES" : otherwise;
-}
-
-void Machine::SaveSetting(const std::string& /*section*/, const std::string& /*key*/, const std::string& /*value*/)
-{
-    Fail(failure::InvalidCall);
-}
-
 std::optional<std::string> Machine::FindEntry(const std::string& path)
 {
     const std::filesystem::path wanted = NativePath(path);
@@ -61,14 +45,10 @@ std::optional<std::string> Machine::FindEntry(const std::string& path)
 
 std::string Machine::Version() { return DRAVIK_VERSION; }
 
-int Machine::OpenLocation(const std::string& /*location*/, int /*showMode*/) { Fail(failure::InvalidCall); }
-
 std::string Machine::Currency(double amount) const { return MoneyText(amount, 2); }
 std::string Machine::CurrencyNoDecimals(double amount) const { return MoneyText(amount, 0); }
 std::string Machine::Fixed(double value, int decimals) const { return FixedText(value, decimals); }
 std::string Machine::LongDate(double days) const { return LongDateText(days); }
 std::string Machine::ShortTime(double days) const { return ShortTimeText(days); }
-
-std::array<std::uint8_t, 16> Machine::Md5(std::string_view bytes) { return Md5Of(bytes); }
 
 } // namespace dravik::terminal
