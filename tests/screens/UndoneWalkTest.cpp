@@ -113,8 +113,9 @@ protected:
             break;
         case 3:
             if (auto* box = OneOf(Pressable<EditBox>(screen)); box != nullptr && !box->isReadOnly()) {
-                box->window()->activateWindow(); // a window beside the screen may stand in front
-                ASSERT_TRUE(QTest::qWaitForWindowActive(box->window()));
+                box->window()
+                    ->activateWindow(); // a window beside the screen may stand in front, and counts as the screen
+                ASSERT_TRUE(QTest::qWaitFor([box] { return QApplication::activeWindow() == box->window(); }));
                 TypeInto(box, QString::number(Roll(2000000) >> Roll(20)));
                 Press(box, Qt::Key_Tab);
             }

@@ -261,10 +261,11 @@ QWidget* LinesScreen::MakeLinesColumn()
     playing->addWidget(lblPlaying, 1);
     playing->addWidget(cmdSheet);
     auto* share = new ShareCommand(panel);
-    share->Offer("Day", "This &Day",
-                 [this] { return LineUpPaper(OpenLeague, OwnNumber(), Kind.Side, ShownDay(), ShownDay(), {}); });
+    share->Offer("Day", "This &Day", [this] {
+        return LineUpPaper(OpenLeague, OwnNumber(), Kind.Side, ShownDay(), ShownDay(), DateOfFile());
+    });
     share->Offer("AllDays", "&All Days",
-                 [this] { return LineUpPaper(OpenLeague, OwnNumber(), Kind.Side, 1, LineDays, {}); });
+                 [this] { return LineUpPaper(OpenLeague, OwnNumber(), Kind.Side, 1, LineDays, DateOfFile()); });
     playing->addWidget(share);
     column->addLayout(playing);
     return panel;

@@ -1,8 +1,10 @@
+#include "desk/RosterPaper.h"
 #include "screens/ElementName.h"
 #include "screens/panels/EntryFigures.h"
 #include "screens/panels/EntrySigns.h"
 #include "screens/panels/Labels.h"
 #include "screens/panels/Layouts.h"
+#include "screens/panels/ShareCommand.h"
 #include "screens/PersonFigures.h"
 #include "screens/PersonWords.h"
 #include "screens/roster/frmRoster.h"
@@ -48,7 +50,9 @@ frmRoster::frmRoster(Stage& stage) : Screen(stage, "frmRoster")
     column->addLayout(lists, 1);
     column->addWidget(Payroll);
 
-    SetPage(content, MakeFooter({cmdAutoRoster, cmdAutoRosterPartial}, {MakeHistoryCommands(), cmdExit}));
+    auto* share = new ShareCommand(content);
+    share->Offer("Roster", {}, [] { return RosterPaper(OpenLeague, Machine(), OwnNumber(), DateOfFile()); });
+    SetPage(content, MakeFooter({cmdAutoRoster, cmdAutoRosterPartial, share}, {MakeHistoryCommands(), cmdExit}));
     SetTabOrder();
     HidePlayerDetails();
     resize(DefaultSize.expandedTo(content->minimumSizeHint()));
@@ -216,6 +220,7 @@ void frmRoster::SetTabOrder()
                                 txtReasons,
                                 cmdAutoRoster,
                                 cmdAutoRosterPartial,
+                                findChild<ShareCommand*>(),
                                 cmdExit};
     ChainTabs(order);
 }
