@@ -55,6 +55,11 @@ void Answers::Answer(QDialog& dialog)
     }
     const Expected next = expected.front();
     expected.pop_front();
+    if (next.Look) {
+        next.Look(dialog);
+        dialog.reject();
+        return;
+    }
     if (auto* box = qobject_cast<QMessageBox*>(&dialog)) {
         box->defaultButton()->click();
         return;

@@ -1,9 +1,11 @@
 #pragma once
 
 #include <deque>
+#include <functional>
 #include <QDialog>
 #include <QObject>
 #include <QStringList>
+#include <utility>
 
 namespace dravik::tour {
 
@@ -18,6 +20,11 @@ public:
     void Confirm(const QString& text) { expected.push_back({"msgBox", text, {}}); }
     void Type(const QString& prompt, const QString& answer) { expected.push_back({"inputBox", prompt, answer}); }
     void Choose(const QString& path) { expected.push_back({"dlgCommon", {}, path}); }
+    // The dialog of that name, which is looked at and then dismissed.
+    void LookAt(const QString& dialog, std::function<void(QDialog&)> look)
+    {
+        expected.push_back({dialog, {}, {}, std::move(look)});
+    }
 
     // While on, any message box is confirmed, whatever it says: what a judge finds depends on the league.
     void ConfirmAll(bool on) { confirmsAll = on; }
@@ -33,6 +40,7 @@ private:
         QString Dialog;
         QString Says;
         QString Answer;
+        std::function<void(QDialog&)> Look = {};
     };
 
     void Answer(QDialog& dialog);

@@ -17,6 +17,7 @@
 #include "session/Session.h"
 
 #include <iostream>
+#include <QAction>
 #include <QApplication>
 #include <QFileInfo>
 #include <QKeyEvent>
@@ -208,6 +209,7 @@ void Evening::MakeLinesOn(QPushButton& command, Window window, const QString& pi
     PickForASlot(screen);
     Photograph(window, picture + "-picker");
     PhotographSheet(screen, picture + "-sheet");
+    ShareLines(screen, picture);
     PhotographKeys(window, picture + "-keys");
     screen.cmdExit->click();
     QApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
@@ -224,6 +226,28 @@ void Evening::PhotographSheet(LinesScreen& screen, const QString& name)
     Require(camera.Photograph(*screen.Sheet, name) && camera.Photograph(*screen.Sheet, name + "-wide", onWideDisplay),
             "pictures of " + name + " are written");
     screen.Sheet->close();
+}
+
+void Evening::ShareLines(LinesScreen& screen, const QString& name)
+{
+    const auto take = [&screen](const char* item) {
+        auto* action = screen.findChild<QAction*>(item);
+        Require(action != nullptr, QString(item) + " is offered");
+        action->trigger();
+    };
+    QFile pdf(plan.Out + "/" + name + ".pdf");
+    pdf.remove(); // of a tour before this one
+    answers.Choose(pdf.fileName());
+    take("mnuShareAllDaysPdf");
+    Require(pdf.open(QIODevice::ReadOnly) && pdf.read(4) == "%PDF", "the sheets are saved as " + pdf.fileName());
+    bool isSeen = false;
+    answers.LookAt("dlgPrintPreview", [this, &name, &isSeen](QDialog& dialog) {
+        constexpr QSize upright(800, 1000);
+        QApplication::processEvents();
+        isSeen = camera.Photograph(dialog, name + "-preview", upright);
+    });
+    take("mnuShareDayPreview");
+    Require(isSeen, "pictures of the preview of " + name + " are written");
 }
 
 void Evening::PickForASlot(LinesScreen& screen)

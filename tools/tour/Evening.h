@@ -55,6 +55,8 @@ private:
     static void PickFirst(LinesScreen& screen);
     // Opens the sheet of the whole line-up, and looks at it as on a small display and as on a wide one.
     void PhotographSheet(LinesScreen& screen, const QString& name);
+    // Saves all days as PDF, and looks at the day's sheet before it is printed.
+    void ShareLines(LinesScreen& screen, const QString& name);
     // Opens the picker at the second line's center by keyboard.
     void PickForASlot(LinesScreen& screen);
     // Opens the calendar, has another goalie start on the second day and takes that back; then turns the pages of the graphs.
