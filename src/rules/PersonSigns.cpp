@@ -12,7 +12,7 @@ namespace dravik {
 
 namespace {
 
-constexpr std::array<SignRow, 14> Rows{{
+constexpr std::array<SignRow, 15> Rows{{
     {Sign::MayNotPlay, SignPlace::Lines, "May not play", "May not play: he is injured, suspended or not on this team"},
     {Sign::UsedTwice, SignPlace::Lines, "Used twice", "Stands where he may not stand a second time"},
     {Sign::Injured, SignPlace::Anybody, "Injured, condition #", "Injured, with his condition"},
@@ -27,12 +27,13 @@ constexpr std::array<SignRow, 14> Rows{{
     {Sign::NeedsWaivers, SignPlace::Own, "Needs waivers to go down", "Has to pass waivers to go down to the farm"},
     {Sign::NoTrade, SignPlace::Own, "No trade", "May not be traded"},
     {Sign::Rookie, SignPlace::Anybody, "Rookie", "Rookie"},
+    {Sign::Pinned, SignPlace::Anybody, "Pinned", "Pinned: others are held against him"},
 }};
 static_assert([] {
     for (std::size_t index = 0; index < Rows.size(); ++index)
         if (Rows[index].Kind != static_cast<Sign>(index))
             return false;
-    return static_cast<std::size_t>(Sign::Rookie) + 1 == Rows.size();
+    return static_cast<std::size_t>(Sign::Pinned) + 1 == Rows.size();
 }());
 
 constexpr int WaivedGames = 99; // how a record says that somebody is on waivers
@@ -75,7 +76,7 @@ void AddOffice(PersonSigns& signs, const Team& team, PersonId who)
 
 } // namespace
 
-const std::array<SignRow, 14> SignTable = Rows;
+const std::array<SignRow, 15> SignTable = Rows;
 
 std::string WordsOf(const PersonSign& sign)
 {

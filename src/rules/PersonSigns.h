@@ -27,7 +27,8 @@ enum class Sign {
     Assistant,
     NeedsWaivers,
     NoTrade,
-    Rookie
+    Rookie,
+    Pinned
 };
 
 // Where a sign may stand beside a person.
@@ -46,7 +47,7 @@ struct SignRow {
 };
 
 // Every sign once, in the order of `Sign`.
-extern const std::array<SignRow, 14> SignTable;
+extern const std::array<SignRow, 15> SignTable;
 
 // One sign of a person. `Number` is the condition of an injured one, the games of a suspended one and the slots of one who stands
 // in some; 0 with the others.
@@ -100,7 +101,8 @@ constexpr bool IsTrouble(Sign kind) { return kind <= Sign::NoContract; }
 
 // The signs of a person, seen by the manager of `team`: all of them for somebody of that team, facts alone for everybody else;
 // team 0 sees facts alone. That somebody needs waivers depends on his overall, and stays hidden with it. Nobody has a sign
-// outside the tables, in a slot that is not in use, or as the placeholder of slot 0. No box is shown, nothing fails.
+// outside the tables, in a slot that is not in use, or as the placeholder of slot 0. Who is pinned is no matter of the tables, and
+// added by who knows. No box is shown, nothing fails.
 PersonSigns SignsOf(const Tables& league, PersonId who, int team);
 
 } // namespace dravik

@@ -1,6 +1,7 @@
 #include "screens/PersonWords.h"
 
 #include "rules/Overall.h"
+#include "screens/Pins.h"
 #include "screens/platform/CodePage.h"
 #include "screens/RosterEntry.h"
 #include "screens/Shown.h"
@@ -54,13 +55,30 @@ StatRows StatRowsOf(PersonId who)
                         : SkaterStatRows(OpenLeague, Machine(), who.Slot, static_cast<int>(PlayerStatCount));
 }
 
+StatRows QuietStatRowsOf(PersonId who)
+{
+    try {
+        MuteVoice mute; // who only looks is told of nothing else
+        return who.IsGoalie ? GoalieStatRows(OpenLeague, mute, who.Slot, static_cast<int>(GoalieStatCount))
+                            : SkaterStatRows(OpenLeague, mute, who.Slot, static_cast<int>(PlayerStatCount));
+    } catch (const Failure&) {
+        return {};
+    }
+}
+
 std::optional<CardWords> CardOf(PersonId who, const PersonSigns& signs, const QString& standsIn,
                                 const QStringList& remarks)
 {
     const auto isSomebody = [](const auto& person) { return static_cast<bool>(person.InUse); };
     if (!who.HasSlot() || who.Slot == 0 || !OnPerson(OpenLeague, who, isSomebody))
         return std::nullopt;
-    CardWords words{.Name = NameOf(who), .Aside = {}, .Facts = {}, .Signs = signs, .Remarks = remarks, .Ratings = {}};
+    CardWords words{.Who = who,
+                    .Name = NameOf(who),
+                    .Aside = {},
+                    .Facts = {},
+                    .Signs = WithPin(signs, who),
+                    .Remarks = remarks,
+                    .Ratings = QuietStatRowsOf(who)};
     if (ShownPosition(who) != 0)
         words.Aside = AsideOf(who).join(' ');
     OnPerson(OpenLeague, who, [&](const auto& person) {
@@ -73,13 +91,6 @@ std::optional<CardWords> CardOf(PersonId who, const PersonSigns& signs, const QS
     });
     if (!standsIn.isEmpty())
         words.Facts << "Today: " + standsIn;
-    try {
-        MuteVoice mute; // who looks at a card is told of nothing else
-        words.Ratings = who.IsGoalie ? GoalieStatRows(OpenLeague, mute, who.Slot, static_cast<int>(GoalieStatCount))
-                                     : SkaterStatRows(OpenLeague, mute, who.Slot, static_cast<int>(PlayerStatCount));
-    } catch (const Failure&) {
-        words.Ratings = {}; // ratings that no row can hold have none
-    }
     return words;
 }
 

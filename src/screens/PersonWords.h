@@ -25,6 +25,9 @@ QString NameOf(PersonId who);
 // The rows of his ratings, as many as the windows show. Somebody outside the tables fails with 9.
 StatRows StatRowsOf(PersonId who);
 
+// The same without a box; none of somebody outside the tables, or whose ratings no row can hold.
+StatRows QuietStatRowsOf(PersonId who);
+
 // The tooltip of a person: name, position, overall where the league shows it, condition, and behind those the slots that
 // he `standsIn`, if any, and what the judge said. Somebody without a position, or outside the tables, has the judge's words
 // alone. Shown as written, whatever characters a name holds.

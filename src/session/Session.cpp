@@ -4,6 +4,7 @@
 #include "session/OpenHistory.h"
 #include "session/OpenMarket.h"
 #include "session/OpenSaves.h"
+#include "session/PinnedPeople.h"
 
 #include <cstring>
 
@@ -53,6 +54,7 @@ void ResetClientVariables()
     ListEventGuard = false;
     ViewerReturnMode = 0;
     EmptyOpenMarket();
+    OpenPins().LetGoOfAll();
     BeginHistory();
 }
 

@@ -30,6 +30,14 @@ void AddElements(std::vector<DesignWords>& expected, const char* name, int first
         expected.push_back({ElementName(name, index).toStdString(), ""});
 }
 
+// What stands beside ratings that are held against somebody who is pinned.
+void AddPins(std::vector<DesignWords>& expected)
+{
+    AddElements(expected, "lblGhost", 1, 16);
+    expected.push_back({"lblPinned", ""});
+    expected.push_back({"cmdPin", "Pin", "Pin him to hold others against him"});
+}
+
 TEST_F(DesignWordsTest, OfTheMainScreen)
 {
     const auto screen = std::make_unique<frmMain>(TheStage); // too large for a stack
@@ -200,6 +208,7 @@ TEST_F(DesignWordsTest, OfTheRoster)
     };
     AddElements(expected, "lblStat", 0, 16);
     AddElements(expected, "lblStatLabel", 1, 16);
+    AddPins(expected);
     const auto screen = std::make_unique<frmRoster>(TheStage); // too large for a stack
     EXPECT_THAT(DesignWordsOf(*screen), UnorderedElementsAreArray(expected));
     for (const QCheckBox* filter : screen->chkPosition)
@@ -254,6 +263,7 @@ TEST_F(DesignWordsTest, OfTheViewer)
         {"cmdExit", "E&xit"},
     };
     AddElements(expected, "lblStatLabel", 1, 16);
+    AddPins(expected);
     AddElements(expected, "txtStats", 1, 16);
     const auto screen = std::make_unique<frmEditPlayer>(TheStage); // too large for a stack
     EXPECT_THAT(DesignWordsOf(*screen), UnorderedElementsAreArray(expected));
@@ -339,6 +349,7 @@ TEST_F(DesignWordsTest, OfTheOffers)
     };
     AddElements(expected, "txtStats", 0, 16);
     AddElements(expected, "lblStatLabel", 1, 16);
+    AddPins(expected);
     const auto screen = std::make_unique<frmFreeAgentClient>(TheStage); // too large for a stack
     EXPECT_THAT(DesignWordsOf(*screen), UnorderedElementsAreArray(expected));
     for (int row = 1; row <= 16; ++row) {

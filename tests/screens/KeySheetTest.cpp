@@ -13,6 +13,7 @@
 #include "screens/panels/KeyTable.h"
 #include "screens/platform/Palettes.h"
 #include "screens/roster/frmRoster.h"
+#include "session/PinnedPeople.h"
 
 #include <QAction>
 #include <QMenu>
@@ -191,6 +192,11 @@ TEST_F(KeySheetTest, NoSignIsExplainedThatNoEntryOfTheScreenCanShow)
             return;
         putAll(Players);
         putAll(Goalies);
+        for (const EntryList* list : screen.findChildren<EntryList*>())
+            for (int row = 0; row < list->count(); ++row) // of prospects none is pinned
+                if (const PersonId who = PersonOf(*NumberOf(list->item(row)));
+                    OpenPins().Has(OpenLeague, who) || OpenPins().Toggle(OpenLeague, who))
+                    break;
         PersonSigns shown;
         for (const EntryList* list : screen.findChildren<EntryList*>())
             if (const EntrySigns* signs = EntrySigns::On(list))

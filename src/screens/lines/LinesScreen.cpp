@@ -133,6 +133,7 @@ void LinesScreen::ShowPicked()
     OnPerson(OpenLeague, SelectedPerson(),
              [this](const auto& person) { ShowPickedName(ToQString(person.Name.Trimmed())); });
     frmStat->ShowRows(StatRowsOf(SelectedPerson()));
+    frmStat->HoldAgainstPinned(SelectedPerson());
     if (!SelectedIsGoalie)
         RefreshPlaying();
 }

@@ -7,6 +7,7 @@
 #include "screens/panels/Layouts.h"
 #include "screens/panels/PersonCards.h"
 #include "screens/panels/ShareCommand.h"
+#include "screens/Pins.h"
 #include "session/Session.h"
 
 #include <QCoreApplication>
@@ -116,6 +117,7 @@ void LinesScreen::MakeControls()
             [this](int index) { RunStep(WordsOfPlacing(index), [this, index] { Slot_Click(index); }); });
     connect(&TabLine->Parts, &BoardParts::HeadingPressed, this, [this](int index) { Heading_Click(index); });
     cards = new PersonCards(this);
+    connect(&NewsOfPins(), &PinNews::Changed, this, [this] { RefreshMarks(); });
     MakeHands();
     for (const BoardHeading& heading : TabLine->Parts.Headings)
         heading.Label->installEventFilter(this);

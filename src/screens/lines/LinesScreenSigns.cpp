@@ -3,6 +3,7 @@
 #include "screens/panels/EntrySigns.h"
 #include "screens/panels/PersonCards.h"
 #include "screens/PersonWords.h"
+#include "screens/Pins.h"
 #include "screens/RosterEntry.h"
 #include "session/Session.h"
 
@@ -11,7 +12,7 @@ namespace dravik {
 
 PersonSigns LinesScreen::SignsBeside(PersonId who) const
 {
-    PersonSigns signs = SignsOf(OpenLeague, who, OwnNumber());
+    PersonSigns signs = WithPin(SignsOf(OpenLeague, who, OwnNumber()), who);
     if (!who.HasSlot() || !HasLineDay(OwnNumber(), ShownDay()))
         return signs;
     if (const int held = SlotsHeld(ShownLines(), who); held > 0)
@@ -23,7 +24,7 @@ PersonSigns LinesScreen::SignsBeside(PersonId who) const
 
 PersonSigns LinesScreen::SignsIn(const BoardSlot& slot, PersonId who) const
 {
-    PersonSigns signs = SignsOf(OpenLeague, who, OwnNumber());
+    PersonSigns signs = WithPin(SignsOf(OpenLeague, who, OwnNumber()), who);
     if (!who.IsGoalie && who.HasSlot() && who.Slot != 0 &&
         IsOutOfPosition(slot.Slot, PositionOf(OpenLeague.Players[who.Slot])))
         signs.Add(Sign::OutOfPosition);

@@ -136,6 +136,7 @@ void LinesScreen::Heading_Click(int index)
     });
 }
 
+        frmStat->HoldAgainstPinned(PersonIn<Player>(0));
 QString LinesScreen::SlotsOf(PersonId who) const
 {
     if (who.IsGoalie)

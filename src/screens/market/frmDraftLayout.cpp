@@ -5,6 +5,7 @@
 #include "screens/panels/Layouts.h"
 #include "screens/panels/PersonCards.h"
 #include "screens/PersonWords.h"
+#include "screens/Pins.h"
 #include "session/OpenMarket.h"
 #include "session/OpenSaves.h"
 #include "session/Session.h"
@@ -76,7 +77,9 @@ void frmDraft::MakeControls()
     lstDraftList->setAccessibleName("Draft List");
     // Facts alone, since the screen asks for no password; a prospect has none. Whoever is listed belongs to no team,
     // so that a contract says nothing of him.
-    const auto signs = [](int id) { return SignsOf(OpenLeague, PersonOf(id), 0).Without(Sign::NoContract); };
+    const auto signs = [](int id) {
+        return WithPin(SignsOf(OpenLeague, PersonOf(id), 0).Without(Sign::NoContract), PersonOf(id));
+    };
     auto* cards = new PersonCards(this);
     for (EntryList* list : {lstPlayers, static_cast<EntryList*>(lstDraftList)}) {
         new EntrySigns(list, signs);

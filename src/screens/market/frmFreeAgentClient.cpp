@@ -198,6 +198,7 @@ void frmFreeAgentClient::ShowPerson(PersonId who)
     OnPerson(OpenLeague, who, [&](const auto& person) {
         Stats->ShowRows(StatRowsOf(who));
         Stats->SetName(ToQString(person.Name.Trimmed()));
+        Stats->HoldAgainstPinned(who);
         txtAge->setText(QString::number(person.Age));
         txtSalary->setText(QString::number(person.Salary));
         txtSalary->setToolTip(ToQString(Money(person.Salary)));

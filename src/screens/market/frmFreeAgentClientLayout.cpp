@@ -5,6 +5,7 @@
 #include "screens/panels/Layouts.h"
 #include "screens/panels/PersonCards.h"
 #include "screens/PersonWords.h"
+#include "screens/Pins.h"
 #include "session/OpenMarket.h"
 #include "session/OpenSaves.h"
 #include "session/Session.h"
@@ -71,7 +72,9 @@ void frmFreeAgentClient::MakeControls()
     lstPlayers->CutNamesFirst(); // offers and overalls are what the eye compares
     lstPlayers->viewport()->installEventFilter(this);
     // Facts alone, since the screen asks for no password. Whoever is listed is without a contract.
-    const auto signs = [](int id) { return SignsOf(OpenLeague, PersonOf(id), 0).Without(Sign::NoContract); };
+    const auto signs = [](int id) {
+        return WithPin(SignsOf(OpenLeague, PersonOf(id), 0).Without(Sign::NoContract), PersonOf(id));
+    };
     new EntrySigns(lstPlayers, signs);
     (new PersonCards(this))->Serve(lstPlayers, [signs](int id) { return CardOf(PersonOf(id), signs(id)); });
     lblPlayer->setBuddy(lstPlayers);

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "league/PersonId.h"
 #include "rules/PersonSigns.h"
 #include "rules/StatRows.h"
 
@@ -10,6 +11,7 @@ namespace dravik {
 
 // What a card tells of a person.
 struct CardWords {
+    PersonId Who;
     QString Name;
     QString Aside;       // beside the name: position and overall
     QStringList Facts;   // a line each

@@ -2,6 +2,7 @@
 
 #include "screens/panels/EntryList.h"
 #include "screens/panels/SignShapes.h"
+#include "screens/Pins.h"
 #include "screens/platform/CodePage.h"
 
 #include <algorithm>
@@ -20,7 +21,10 @@ bool IsColumn(const SignStrip::Drawn& drawn)
 
 } // namespace
 
-EntrySigns::EntrySigns(EntryList* list, OfEntry signs) : QObject(list), ofEntry(std::move(signs)) {}
+EntrySigns::EntrySigns(EntryList* list, OfEntry signs) : QObject(list), ofEntry(std::move(signs))
+{
+    connect(&NewsOfPins(), &PinNews::Changed, list, [list] { list->viewport()->update(); });
+}
 
 const EntrySigns* EntrySigns::On(const QObject* list)
 {

@@ -15,6 +15,7 @@ constexpr auto OnLines = "frmLine frmFarmLine";
 constexpr auto OnMain = "frmMain";
 constexpr auto WithLists = "frmMain frmTeam frmRoster frmLine frmFarmLine frmFreeAgentClient frmDraft frmCompare";
 constexpr auto WithCards = "frmMain frmTeam frmRoster frmLine frmFarmLine frmFreeAgentClient frmDraft";
+constexpr auto WithPins = "frmMain frmTeam frmRoster frmLine frmFarmLine frmFreeAgentClient frmDraft frmEditPlayer";
 constexpr auto OnMarket = "frmFreeAgentClient frmDraft";
 constexpr auto Slot = "a slot";
 constexpr auto List = "a list";
@@ -40,6 +41,7 @@ constexpr KeyRow Rows[] = {
     {OnMain, KeyScope::Screen, "Ctrl+Shift+O", "", "Compare with another client file"},
     {"frmAbout frmCompare", KeyScope::Screen, "Esc", "", "Exit"},
     {WithCards, KeyScope::Screen, "Ctrl+I", "", "The card of a person"},
+    {WithPins, KeyScope::Screen, "Ctrl+M", "", "Pin a person to hold others against him, or let him go"},
     {OnMarket, KeyScope::Screen, "F3", "", "Find next"},
     {OnLines, KeyScope::Screen,
      "Ctrl+1 / Ctrl+2 / Ctrl+3 / Ctrl+4 / Ctrl+5 / Ctrl+6 / Ctrl+7 / Ctrl+8 / Ctrl+9 / Ctrl+0", "", "Day 1 to day 10"},

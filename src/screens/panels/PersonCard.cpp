@@ -1,10 +1,13 @@
 #include "screens/panels/PersonCard.h"
 
 #include "screens/panels/EntrySigns.h"
+#include "screens/panels/GhostWords.h"
 #include "screens/panels/Labels.h"
 #include "screens/panels/Layouts.h"
+#include "screens/panels/PinParts.h"
 #include "screens/panels/RatingRows.h"
 #include "screens/panels/SignShapes.h"
+#include "screens/Pins.h"
 #include "screens/platform/CodePage.h"
 #include "screens/platform/Palettes.h"
 
@@ -63,8 +66,14 @@ QString InWords(const CardWords& words)
 {
     QStringList said{words.Name, words.Aside};
     said << words.Facts << WordsOf(words.Signs) << words.Remarks;
-    for (const StatRow& row : words.Ratings.Ratings)
-        said << QString("%1 %2").arg(ToQString(row.Label)).arg(row.Value);
+    const auto pinned = PinnedAgainst(words.Who);
+    const std::vector<int> others = pinned ? NumbersOf(pinned->Rows) : std::vector<int>();
+    std::size_t at = 0;
+    for (const StatRow& row : words.Ratings.Ratings) {
+        const bool isHeld = at < others.size();
+        said << ToQString(row.Label) + ' ' + (isHeld ? GhostWords(row.Value, others[at]) : QString::number(row.Value));
+        ++at;
+    }
     said.removeAll(QString());
     return said.join(", ");
 }
@@ -167,6 +176,8 @@ PersonCard::PersonCard(QWidget* window) : QFrame(window)
     column->addWidget(signLines);
     column->addWidget(lblRemarks);
     column->addLayout(ratings);
+    lblPinned = new PinLine(this);
+    column->addWidget(lblPinned);
     hide();
 }
 
@@ -185,6 +196,9 @@ void PersonCard::Fill(const CardWords& words)
         numbers[row - 1]->setText(QString::number(shown.Value));
         ratings->Show(row++, ToQString(shown.Label), shown.Value);
     }
+    const auto pinned = PinnedAgainst(words.Who);
+    lblPinned->Tell(pinned && !words.Ratings.Ratings.empty() ? pinned->Name : QString());
+    ratings->ShowGhosts(pinned ? NumbersOf(pinned->Rows) : std::vector<int>());
     setAccessibleName(dravik::InWords(words));
 }
 

@@ -7,6 +7,7 @@
 
 namespace dravik {
 
+class PinLine;
 class RatingRows;
 
 // The card of a person: a panel over a window, beside the entry or slot that it tells of. It takes no focus and no press. A
@@ -37,6 +38,7 @@ private:
     QLabel *lblName, *lblAside, *lblFacts, *lblRemarks;
     SignLines* signLines;
     RatingRows* ratings;
+    PinLine* lblPinned;
     QList<QLabel*> numbers; // of the ratings, from row 1 on
 };
 

@@ -1,13 +1,18 @@
 #include "screens/panels/PersonCards.h"
 
+#include "screens/panels/Accessible.h"
 #include "screens/panels/EntryList.h"
 #include "screens/panels/SlotLabel.h"
+#include "screens/panels/StatPanel.h"
+#include "screens/Pins.h"
 
 #include <QApplication>
+#include <QGroupBox>
 #include <QHelpEvent>
 #include <QKeyEvent>
 #include <QMouseEvent>
 #include <QShortcut>
+#include <QToolTip>
 
 namespace dravik {
 
@@ -30,11 +35,22 @@ QRect PlaceOfTooltip()
     return {};
 }
 
+// Whose ratings the panel of a window shows.
+std::optional<PersonId> WhoseRatingsAreShown(const QWidget& window)
+{
+    const QList<QGroupBox*> groups = window.findChildren<QGroupBox*>();
+    for (const QGroupBox* group : groups)
+        if (const auto* panel = dynamic_cast<const StatPanel*>(group))
+            return panel->Person();
+    return std::nullopt;
+}
+
 } // namespace
 
 PersonCards::PersonCards(QWidget* shownOver) : QObject(shownOver), window(shownOver)
 {
     connect(new QShortcut(QKeySequence(CardKey), window), &QShortcut::activated, this, &PersonCards::ShowAtFocus);
+    connect(new QShortcut(QKeySequence("Ctrl+M"), window), &QShortcut::activated, this, &PersonCards::PinAtFocus);
 }
 
 void PersonCards::Serve(EntryList* list, EntryWords words)
@@ -51,25 +67,43 @@ void PersonCards::Serve(SlotLabel* slot, SlotWords words)
 
 PersonCard* PersonCards::Shown() const { return card != nullptr && card->isVisible() ? card.data() : nullptr; }
 
+PersonCards::AtFocus PersonCards::Focused() const
+{
+    // The focus is in the window, or in one that belongs to it.
+    QWidget* focus = QApplication::focusWidget();
+    if (focus == nullptr || focus->window()->parentWidget() != window)
+        focus = window->focusWidget();
+    if (const auto found = slotLabels.constFind(focus); found != slotLabels.constEnd())
+        return {focus, focus->rect(), (*found)()};
+    const auto* list = qobject_cast<const EntryList*>(focus);
+    const QListWidgetItem* current = list == nullptr ? nullptr : list->currentItem();
+    const auto found = list == nullptr ? lists.constEnd() : lists.constFind(list->viewport());
+    if (current == nullptr || found == lists.constEnd())
+        return {};
+    return {list->viewport(), list->visualItemRect(current), (*found)(*NumberOf(current))};
+}
+
 void PersonCards::ShowAtFocus()
 {
     if (Shown() != nullptr) {
         Close();
         return;
     }
-    // The focus is in the window, or in one that belongs to it.
-    QWidget* focus = QApplication::focusWidget();
-    if (focus == nullptr || focus->window()->parentWidget() != window)
-        focus = window->focusWidget();
-    if (const auto found = slotLabels.constFind(focus); found != slotLabels.constEnd()) {
-        ShowCard(*focus, focus->rect(), (*found)(), false);
+    if (const AtFocus at = Focused(); at.Place != nullptr)
+        ShowCard(*at.Place, at.Anchor, at.Words, false);
+}
+
+void PersonCards::PinAtFocus()
+{
+    const AtFocus at = Focused();
+    const auto who = at.Words ? std::optional(at.Words->Who) : WhoseRatingsAreShown(*window);
+    const QString outcome = who ? TogglePin(*who) : QString();
+    if (outcome.isEmpty())
         return;
-    }
-    const auto* list = qobject_cast<const EntryList*>(focus);
-    const QListWidgetItem* current = list == nullptr ? nullptr : list->currentItem();
-    const auto found = list == nullptr ? lists.constEnd() : lists.constFind(list->viewport());
-    if (current != nullptr && found != lists.constEnd())
-        ShowCard(*list->viewport(), list->visualItemRect(current), (*found)(*NumberOf(current)), false);
+    QWidget& told = at.Words ? *at.Place : *window;
+    if (at.Words)
+        QToolTip::showText(told.mapToGlobal(at.Anchor.bottomLeft()), outcome, &told);
+    Announce(told, outcome);
 }
 
 void PersonCards::ShowUnderMouse(QWidget* place, const QPoint& point)

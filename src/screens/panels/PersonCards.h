@@ -15,7 +15,7 @@ class EntryList;
 class SlotLabel;
 
 // Shows the card of a person in a window, or in one that belongs to it: while the mouse rests on his entry or slot, and with Ctrl+I on the entry or slot that
-// has the focus. Any key, press or turn of the wheel takes it away, and so does the mouse that leaves; Escape does nothing else.
+// has the focus; Ctrl+M pins him there. Any key, press or turn of the wheel takes it away, and so does the mouse that leaves; Escape does nothing else.
 class PersonCards : public QObject {
     Q_OBJECT
 public:
@@ -28,6 +28,9 @@ public:
     void Serve(EntryList* list, EntryWords words);
     void Serve(SlotLabel* slot, SlotWords words);
 
+    // Pins whoever is at the focus, or else whose ratings the window's panel shows, or lets him go, as Ctrl+M does. What became of it
+    // is told beside him.
+    void PinAtFocus();
     // Shows the card at the focus, as Ctrl+I does, or takes away the one that is up.
     void ShowAtFocus();
     // The card that is up, or none.
@@ -37,6 +40,13 @@ protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
+    // Whoever is at the focus, and where.
+    struct AtFocus {
+        QWidget* Place = nullptr;
+        QRect Anchor;
+        std::optional<CardWords> Words;
+    };
+    [[nodiscard]] AtFocus Focused() const;
     void ShowUnderMouse(QWidget* place, const QPoint& point);
     void ShowCard(const QWidget& place, const QRect& anchor, const std::optional<CardWords>& words, bool isPointedAt);
     void Close();

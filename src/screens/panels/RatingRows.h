@@ -5,6 +5,7 @@
 
 #include <QGridLayout>
 #include <QLabel>
+#include <vector>
 
 namespace dravik {
 
@@ -22,6 +23,11 @@ public:
     // Shows a row with its caption and, in the bar, its rating. The number has its text from the caller.
     void Show(int row, const QString& caption, int rating);
     void SetRating(int row, int rating);
+    // Holds the ratings that are shown against `pinned`, row by row; none ends that. Beside each number stands the pinned one's,
+    // with how much it is above or below that.
+    void ShowGhosts(const std::vector<int>& pinned);
+    // What a row says where it is held against another: "75, pinned man 71, plus 4"; its number where it is not.
+    [[nodiscard]] QString InWords(int row) const { return bars[row]->InWords(); }
 
     Row<QLabel*, 1, 16> Captions;
 
@@ -29,7 +35,10 @@ private:
     void SetVisible(int row, bool isVisible);
 
     Numbers numbers;
+    void ShowGhost(int row);
+
     Row<RatingBar*, 1, 16> bars;
+    Row<QLabel*, 1, 16> ghosts;
 };
 
 } // namespace dravik

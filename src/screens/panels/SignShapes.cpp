@@ -172,13 +172,24 @@ void DrawSprout(const Pens& pens)
     pens.Painter.drawPath(leaf(-1));
 }
 
+// A drawing pin, upright: its head, its collar and its point.
+void DrawPin(const Pens& pens)
+{
+    pens.Fill();
+    pens.Painter.drawRoundedRect(QRectF(5, 1.2, 6, 6.2), 1, 1);
+    const std::array collar{QPointF(2.6, 10), QPointF(5.6, 6.8), QPointF(10.4, 6.8), QPointF(13.4, 10)};
+    pens.Painter.drawPolygon(collar.data(), static_cast<int>(collar.size()));
+    pens.Outline(1.8);
+    pens.Painter.drawLine(QPointF(8, 10), QPointF(8, 15));
+}
+
 struct Look {
     Sign Kind;
     Ink Colour;
     void (*Draw)(const Pens&); // none: words alone
 };
 
-constexpr std::array<Look, 14> Looks{{
+constexpr std::array<Look, 15> Looks{{
     {Sign::MayNotPlay, Ink::Alarm, DrawWarning},
     {Sign::UsedTwice, Ink::Alarm, DrawTwo},
     {Sign::Injured, Ink::Alarm, DrawAidBox},
@@ -193,6 +204,7 @@ constexpr std::array<Look, 14> Looks{{
     {Sign::NeedsWaivers, Ink::Quiet, DrawDown},
     {Sign::NoTrade, Ink::Quiet, DrawLock},
     {Sign::Rookie, Ink::Quiet, DrawSprout},
+    {Sign::Pinned, Ink::Quiet, DrawPin},
 }};
 static_assert([] {
     for (std::size_t index = 0; index < Looks.size(); ++index)

@@ -22,7 +22,7 @@ constexpr double PickedPart = 0.16; // how much of the highlight is in the groun
 constexpr int LeastNamePart = 2;    // an office has no sign where less of the slot is left to the name
 
 // What is drawn of the signs of who stands there, from right to left; the mark tells what is wrong.
-constexpr Sign SignsOfSlots[] = {Sign::Captain, Sign::Assistant, Sign::OutOfPosition};
+constexpr Sign SignsOfSlots[] = {Sign::Captain, Sign::Assistant, Sign::OutOfPosition, Sign::Pinned};
 
 } // namespace
 

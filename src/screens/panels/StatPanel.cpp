@@ -3,6 +3,7 @@
 #include "screens/ElementName.h"
 #include "screens/panels/Labels.h"
 #include "screens/panels/Layouts.h"
+#include "screens/Pins.h"
 #include "screens/platform/CodePage.h"
 
 namespace dravik {
@@ -36,6 +37,8 @@ StatPanel::StatPanel(QWidget* parent, const char* numberName) : QGroupBox("Stats
     auto* heading = new QHBoxLayout;
     heading->setSpacing(Gap);
     heading->addWidget(lblName, 1);
+    pin = new PinCommand(this);
+    heading->addWidget(pin);
     heading->addWidget(lblStatLabel[0]);
     heading->addWidget(lblStat[0]);
     column->addLayout(heading);
@@ -49,6 +52,9 @@ StatPanel::StatPanel(QWidget* parent, const char* numberName) : QGroupBox("Stats
     for (int row = RatingRows::Numbers::first; row <= RatingRows::Numbers::last; ++row)
         lblStatLabel[row] = ratings->Captions[row];
     column->addLayout(ratings);
+    lblPinned = new PinLine(this);
+    column->addWidget(lblPinned);
+    connect(&NewsOfPins(), &PinNews::Changed, this, [this] { ShowGhosts(); });
     HideRows();
 }
 
@@ -63,10 +69,39 @@ void StatPanel::HideRows()
     HideRatings();
 }
 
-void StatPanel::HideRatings() { ratings->Hide(); }
+void StatPanel::HideRatings()
+{
+    ratings->Hide();
+    LetGo();
+}
+
+void StatPanel::LetGo()
+{
+    held.reset();
+    pin->SetPerson(std::nullopt);
+    ShowGhosts();
+}
+
+void StatPanel::HoldAgainstPinned(PersonId whose)
+{
+    held = whose;
+    pin->SetPerson(whose.Slot == 0 ? std::nullopt : std::optional(whose));
+    ShowGhosts();
+}
+
+void StatPanel::ShowGhosts()
+{
+    const auto pinned = held ? PinnedAgainst(*held) : std::nullopt;
+    lblPinned->Tell(pinned ? pinned->Name : QString());
+    ratings->ShowGhosts(pinned ? NumbersOf(pinned->Rows) : std::vector<int>());
+    for (int row = RatingRows::Numbers::first; row <= RatingRows::Numbers::last; ++row)
+        if (held && !lblStat[row]->isHidden())
+            lblStat[row]->setAccessibleName(lblStatLabel[row]->text() + ' ' + ratings->InWords(row));
+}
 
 void StatPanel::ClearNumbers()
 {
+    LetGo();
     lblName->clear();
     for (int row = RatingRows::Numbers::first; row <= RatingRows::Numbers::last; ++row) {
         lblStat[row]->clear();

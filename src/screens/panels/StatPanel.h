@@ -1,7 +1,9 @@
 #pragma once
 
 #include "league/Field.h"
+#include "league/PersonId.h"
 #include "rules/StatRows.h"
+#include "screens/panels/PinParts.h"
 #include "screens/panels/RatingRows.h"
 
 #include <QGroupBox>
@@ -31,13 +33,25 @@ public:
     // Shows one of the rows 1 to 16.
     void ShowRow(int row, const StatRow& shown);
 
+    // Holds the ratings that stand there against those of whoever is pinned: they are a person's, whom the panel's command pins, or
+    // of slot 0 those of a line. Whoever shows others calls it behind them.
+    void HoldAgainstPinned(PersonId whose);
+    // Whose ratings stand there; nobody where they are a line's.
+    [[nodiscard]] std::optional<PersonId> Person() const { return pin->Person(); }
+
     using Labels = Row<QLabel*, 0, 16>;
     Labels lblStat;
     Labels lblStatLabel;
 
 private:
+    void ShowGhosts();
+    void LetGo();
+
+    std::optional<PersonId> held;
     QLabel* lblName;
     QLabel* lblHint;
+    PinCommand* pin;
+    PinLine* lblPinned;
     RatingRows* ratings;
 };
 

@@ -5,6 +5,7 @@
 #include "rules/StatRows.h"
 #include "screens/EventGuard.h"
 #include "screens/PersonWords.h"
+#include "screens/Pins.h"
 #include "screens/platform/CodePage.h"
 #include "screens/RosterEntry.h"
 #include "screens/Stage.h"
@@ -136,6 +137,7 @@ void frmEditPlayer::lstPlayer_Click()
             listPosition = lstPlayer->currentRow();
         }
         ratings->Hide();
+        ShowPinned();
         if (current == nullptr)
             return;
         if (const auto person = ShownPerson())
@@ -163,6 +165,7 @@ void frmEditPlayer::ShowRecord(PersonId person)
     for (QCheckBox* flag : {chkNoTrade, chkNoApplyRerate})
         flag->setVisible(Owner.ShowsFlagsOf(person));
     ShowRatings(person);
+    ShowPinned();
 }
 
 void frmEditPlayer::ClearPositions()
@@ -202,6 +205,19 @@ void frmEditPlayer::ShowRow(int row, std::string_view label, int rating)
 {
     txtStats[row]->setAccessibleName(ToQString(label));
     ratings->Show(row, ToQString(label), rating);
+}
+
+// While a record is made, and where nobody is shown, nobody is held against anybody.
+void frmEditPlayer::ShowPinned()
+{
+    const bool isMade = newPlayerMode || newGoalieMode;
+    const auto who = IsPersonShown() && !isMade && lstPlayer->currentItem() != nullptr
+                         ? std::optional(PersonWith(playerPosition))
+                         : std::nullopt;
+    cmdPin->SetPerson(who);
+    const auto pinned = who ? PinnedAgainst(*who) : std::nullopt;
+    lblPinned->Tell(pinned ? pinned->Name : QString());
+    ratings->ShowGhosts(pinned ? NumbersOf(pinned->Rows) : std::vector<int>());
 }
 
 // Shows the overall anew after a rating has changed.

@@ -4,6 +4,7 @@
 #include "desk/PlayerFields.h"
 #include "screens/panels/EditBox.h"
 #include "screens/panels/EntryList.h"
+#include "screens/panels/PinParts.h"
 #include "screens/panels/RatingRows.h"
 #include "screens/Screen.h"
 #include "session/Session.h"
@@ -106,6 +107,8 @@ private:
     void ClearPositions();
     void TickPosition(QRadioButton* option);
     void ShowRatings(PersonId person);
+    // Holds the ratings against whoever is pinned.
+    void ShowPinned();
     void ShowRow(int row, std::string_view label, int rating);
     void SetRow(int row, const StatRow& shown);
     void ShowOverall();
@@ -149,6 +152,8 @@ private:
     bool isChanged = false;
     QButtonGroup* positions = nullptr;
     RatingRows* ratings = nullptr;
+    PinCommand* cmdPin = nullptr;
+    PinLine* lblPinned = nullptr;
 };
 
 } // namespace dravik

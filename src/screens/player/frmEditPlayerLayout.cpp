@@ -1,11 +1,13 @@
 #include "screens/ElementName.h"
 #include "screens/panels/Labels.h"
 #include "screens/panels/Layouts.h"
+#include "screens/Pins.h"
 #include "screens/player/frmEditPlayer.h"
 
 #include <algorithm>
 #include <QEvent>
 #include <QGroupBox>
+#include <QShortcut>
 
 // What the player viewer is made of and where it stands.
 namespace dravik {
@@ -236,8 +238,18 @@ QWidget* frmEditPlayer::MakeStatsGroup()
     RatingRows::Numbers numbers;
     std::copy(txtStats.begin(), txtStats.end(), numbers.begin());
     ratings = new RatingRows(group, numbers);
-    SetGroupMargins(ratings);
-    group->setLayout(ratings);
+    auto* column = new QVBoxLayout(group);
+    SetGroupMargins(column);
+    column->setSpacing(Gap / 2);
+    column->addLayout(ratings);
+    cmdPin = new PinCommand(group);
+    lblPinned = new PinLine(group);
+    QHBoxLayout* foot = MakeRow({lblPinned});
+    foot->addStretch(1);
+    foot->addWidget(cmdPin);
+    column->addLayout(foot);
+    connect(&NewsOfPins(), &PinNews::Changed, this, [this] { ShowPinned(); });
+    connect(new QShortcut(QKeySequence("Ctrl+M"), this), &QShortcut::activated, cmdPin, &QToolButton::click);
     lblStatLabel = ratings->Captions;
     return group;
 }

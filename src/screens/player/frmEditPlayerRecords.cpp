@@ -71,6 +71,7 @@ void frmEditPlayer::BeginRecord(PersonId person)
     }
     // A new record needs every single rating, so all of them are there to be typed even where the league shows groups.
     ratings->Hide();
+    ShowPinned();
     const auto offer = [this](const auto& labels) {
         for (int row = labels.first; row < labels.last; ++row) {
             ShowRow(row, labels[row], 0);

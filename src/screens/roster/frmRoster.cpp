@@ -287,6 +287,7 @@ void frmRoster::ShowStats()
         OnPerson(OpenLeague, who, [&](const auto& person) {
             Stats->SetName(ToQString(person.Name.Trimmed()));
             ShowRatings(who);
+            Stats->HoldAgainstPinned(who);
             ShowRelease(who);
             ShowFlags(person);
             if (who.IsGoalie || person.Status == status::Farm) {

@@ -7,6 +7,7 @@
 #include "screens/panels/ShareCommand.h"
 #include "screens/PersonFigures.h"
 #include "screens/PersonWords.h"
+#include "screens/Pins.h"
 #include "screens/roster/frmRoster.h"
 #include "screens/RosterEntry.h"
 #include "session/Session.h"
@@ -141,7 +142,9 @@ PickList* frmRoster::MakeList(int index, const QString& caption)
     list->setAccessibleName(caption);
     list->setMinimumWidth(LeastListWidth);
     list->CutNamesFirst(); // positions and overalls are what the eye compares
-    const auto signs = [](int number) { return SignsOf(OpenLeague, EntryPerson(number), OwnNumber()); };
+    const auto signs = [](int number) {
+        return WithPin(SignsOf(OpenLeague, EntryPerson(number), OwnNumber()), EntryPerson(number));
+    };
     new EntrySigns(list, signs);
     new EntryFigures(list, PersonFigures(EntryPerson));
     cards->Serve(list, [signs](int number) { return CardOf(EntryPerson(number), signs(number)); });

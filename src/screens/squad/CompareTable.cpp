@@ -1,11 +1,10 @@
 #include "screens/squad/CompareTable.h"
 
-#include "screens/panels/Shades.h"
+#include "screens/panels/CompareCells.h"
+#include "screens/panels/GhostWords.h"
 #include "screens/platform/CodePage.h"
-#include "screens/squad/SquadTable.h"
 
 #include <QHeaderView>
-#include <QPainter>
 #include <QTextDocument>
 
 namespace dravik {
@@ -15,14 +14,6 @@ namespace {
 constexpr int SideMargin = 4;
 constexpr int RowPadding = 10; // above and below the text together
 constexpr int NameInLetters = 24;
-
-// A difference with its sign: "+12", "-5" with the sign of subtraction, "=" for none.
-QString SignedText(long long difference)
-{
-    if (difference == 0)
-        return "=";
-    return difference > 0 ? '+' + QString::number(difference) : QChar(0x2212) + QString::number(-difference);
-}
 
 } // namespace
 
@@ -120,26 +111,6 @@ QVariant CompareModel::headerData(int section, Qt::Orientation orientation, int 
     default:
         return {};
     }
-}
-
-void CompareDelegate::paint(QPainter* painter, const QStyleOptionViewItem& option, const QModelIndex& index) const
-{
-    const QColor front = option.palette.color(QPalette::Active, QPalette::Text);
-    const QColor back = option.palette.color(QPalette::Active, QPalette::Base);
-    const QRect words = option.rect.adjusted(SideMargin, 0, -SideMargin, -SideMargin);
-    const QString text = index.data().toString();
-    const QString difference = index.data(CompareModel::DifferenceRole).toString();
-    painter->save();
-    painter->setFont(option.font);
-    painter->setPen(front);
-    painter->drawText(words, Qt::AlignLeft | Qt::AlignVCenter | Qt::TextSingleLine,
-                      option.fontMetrics.elidedText(text, Qt::ElideRight, words.width()));
-    painter->setPen(Muted(front, back));
-    painter->drawText(words, Qt::AlignRight | Qt::AlignVCenter | Qt::TextSingleLine, difference);
-    if (const QVariant number = index.data(CompareModel::NumberRole); number.isValid())
-        DrawRatingBar(*painter, option.rect, number.toInt(), front, back,
-                      option.palette.color(QPalette::Active, QPalette::Highlight));
-    painter->restore();
 }
 
 CompareTable::CompareTable(QWidget* parent) : QTableView(parent), Figures(new CompareModel(this))

@@ -1,9 +1,9 @@
 #pragma once
 
+#include "screens/panels/CompareCells.h"
 #include "screens/squad/SquadColumns.h"
 
 #include <QAbstractTableModel>
-#include <QStyledItemDelegate>
 #include <QTableView>
 #include <vector>
 
@@ -14,9 +14,9 @@ namespace dravik {
 class CompareModel : public QAbstractTableModel {
     Q_OBJECT
 public:
-    static constexpr int NumberRole = Qt::UserRole; // of the cell, if it has one
+    static constexpr int NumberRole = compare::NumberRole; // of the cell, if it has one
     static constexpr int DifferenceRole =
-        Qt::UserRole + 1; // to the first one's, in words: "+12"; nothing in his own row
+        compare::DifferenceRole; // to the first one's, in words: "+12"; nothing in his own row
 
     using QAbstractTableModel::QAbstractTableModel;
 
@@ -36,14 +36,6 @@ private:
     SquadSight sight;
     std::vector<SquadPerson> people;
     std::vector<SquadColumn> columns; // the name and the figures
-};
-
-// Draws a figure over its bar, and behind it the difference in small muted letters.
-class CompareDelegate : public QStyledItemDelegate {
-public:
-    using QStyledItemDelegate::QStyledItemDelegate;
-
-    void paint(QPainter* painter, const QStyleOptionViewItem& option, const QModelIndex& index) const override;
 };
 
 // That comparison as a table as high as its people need.

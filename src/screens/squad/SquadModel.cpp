@@ -2,6 +2,7 @@
 
 #include "rules/PersonSigns.h"
 #include "screens/platform/CodePage.h"
+#include "session/PinnedPeople.h"
 
 #include <algorithm>
 #include <limits>
@@ -63,9 +64,6 @@ void SquadModel::Look(const SquadSight& newSight, const SquadFilter& newFilter, 
     typedText = newTyped;
     typed = NameMatch(typedText);
     columns = SquadColumnsOf(kind, sight);
-    std::erase_if(pinned, [this](const auto& each) {
-        return !IsSomebody(*sight.League, each.first) || NameOf(*sight.League, each.first) != each.second;
-    });
     if (!isSortedByHand)
         keys = {ColumnOf("Overall") >= 0 ? SquadKey{.Column = "Overall", .IsDownwards = true}
                                          : SquadKey{.Column = "Name"}};
@@ -141,38 +139,15 @@ int SquadModel::RowOf(SquadPerson who) const
     return found == shown.end() ? -1 : static_cast<int>(found - shown.begin());
 }
 
-bool SquadModel::TogglePin(SquadPerson who)
-{
-    const auto found =
-        std::find_if(pinned.begin(), pinned.end(), [&who](const auto& each) { return each.first == who; });
-    if (found != pinned.end())
-        pinned.erase(found);
-    else if (pinned.size() == MostPinned || who.Kind == SquadKind::Prospects)
-        return false;
-    else
-        pinned.emplace_back(who, NameOf(*sight.League, who));
-    if (const int row = RowOf(who); row >= 0)
-        emit dataChanged(index(row, 0), index(row, columnCount() - 1));
-    return true;
-}
-
-void SquadModel::LetGoOfPinned()
-{
-    while (!pinned.empty())
-        TogglePin(pinned.back().first);
-}
-
-std::vector<SquadPerson> SquadModel::Pinned() const
-{
-    std::vector<SquadPerson> people;
-    for (const auto& [who, name] : pinned)
-        people.push_back(who);
-    return people;
-}
-
 bool SquadModel::IsPinned(SquadPerson who) const
 {
-    return std::any_of(pinned.begin(), pinned.end(), [&who](const auto& each) { return each.first == who; });
+    return who.Kind != SquadKind::Prospects && OpenPins().Has(*sight.League, who.Id());
+}
+
+void SquadModel::TellOfPins()
+{
+    if (rowCount() > 0 && columnCount() > 0)
+        emit dataChanged(index(0, 0), index(rowCount() - 1, 0), {PinnedRole, Qt::AccessibleTextRole});
 }
 
 std::optional<NamePart> SquadModel::TypedPart(int row) const

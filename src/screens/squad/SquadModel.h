@@ -47,17 +47,14 @@ public:
     void SortBy(int column, bool downwards, bool asSecond);
     [[nodiscard]] const std::vector<SquadKey>& Keys() const { return keys; }
 
-    // Whom somebody holds fast in order to compare them: skaters or goalies, who stay pinned whatever is let through as long as
-    // their slots are theirs. Pins somebody, or lets him go again; false where MostPinned are pinned already, or of a prospect.
-    static constexpr std::size_t MostPinned = 4;
-    bool TogglePin(SquadPerson who);
-    void LetGoOfPinned();
-    [[nodiscard]] std::vector<SquadPerson> Pinned() const;
+    // Whether somebody is pinned, which no prospect is.
     [[nodiscard]] bool IsPinned(SquadPerson who) const;
 
     [[nodiscard]] SquadKind Kind() const { return kind; }
     [[nodiscard]] const std::vector<SquadColumn>& Columns() const { return columns; }
     [[nodiscard]] int ColumnOf(std::string_view key) const; // -1 where the league does not show it
+    // Says that others are pinned now.
+    void TellOfPins();
     [[nodiscard]] SquadPerson PersonAt(int row) const;
     [[nodiscard]] int RowOf(SquadPerson who) const; // -1 where he is not shown
     // How many there are, whatever is let through.
@@ -91,8 +88,6 @@ private:
     Slots sorted; // whom the filter lets through,
     Slots shown;  // and of them those who have what was typed
     int people = 0;
-    std::vector<std::pair<SquadPerson, std::string>>
-        pinned;                  // with their names, by which one knows that it is still they
     bool isSortedByHand = false; // until then the best stand first, where overalls are shown
 };
 

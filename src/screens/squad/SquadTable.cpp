@@ -1,9 +1,9 @@
 #include "screens/squad/SquadTable.h"
 
+#include "screens/panels/CompareCells.h"
 #include "screens/panels/Shades.h"
 #include "screens/panels/SignShapes.h"
 #include "screens/platform/CodePage.h"
-#include "screens/platform/Palettes.h"
 
 #include <algorithm>
 #include <QApplication>
@@ -20,10 +20,6 @@ namespace {
 
 constexpr int SideMargin = 4;
 constexpr int RowPadding = 8; // above and below the text together
-constexpr int BarHeight = 2;
-constexpr double BarPart = 0.7;     // how much of the accent is in a bar
-constexpr double GroundPart = 0.12; // and of the text in its ground
-constexpr int FullRating = 99;
 constexpr int LeastWidth = 24;
 constexpr int MostWidth = 2000;
 constexpr QChar Nothing(u'\u2013');
@@ -53,15 +49,6 @@ void Underline(QPainter& painter, const QFontMetrics& metrics, const QRect& word
 }
 
 } // namespace
-
-void DrawRatingBar(QPainter& painter, const QRect& cell, int rating, const QColor& front, const QColor& back,
-                   const QColor& accent)
-{
-    QRectF bar(cell.left() + SideMargin, cell.bottom() - BarHeight, cell.width() - 2 * SideMargin, BarHeight);
-    painter.fillRect(bar, Mixed(back, front, GroundPart));
-    bar.setWidth(bar.width() * std::clamp(rating, 0, FullRating) / FullRating);
-    painter.fillRect(bar, Mixed(back, accent, BarPart));
-}
 
 void SquadDelegate::paint(QPainter* painter, const QStyleOptionViewItem& option, const QModelIndex& index) const
 {
@@ -95,11 +82,9 @@ void SquadDelegate::paint(QPainter* painter, const QStyleOptionViewItem& option,
         PaintShape(*painter, kind, QRectF(right - side, words.center().y() - side / 2.0, side, side), ink, back);
     }
     if (index.data(SquadModel::PinnedRole).toBool()) {
-        const int side = item.fontMetrics.height() / 2;
-        painter->setRenderHint(QPainter::Antialiasing);
-        painter->setPen(Qt::NoPen);
-        painter->setBrush(front);
-        painter->drawEllipse(QRectF(words.right() - side, words.center().y() - side / 2.0, side, side));
+        const int side = item.fontMetrics.height() - 2;
+        PaintShape(*painter, Sign::Pinned, QRectF(words.right() - side, words.center().y() - side / 2.0, side, side),
+                   front, back);
         words.setRight(words.right() - side - Gap / 2);
     }
     painter->setPen(ink);

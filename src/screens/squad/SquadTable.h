@@ -9,11 +9,7 @@
 
 namespace dravik {
 
-// Draws a thin bar from 0 to 99 at the foot of a cell, whose words are `front` on `back`.
-void DrawRatingBar(QPainter& painter, const QRect& cell, int rating, const QColor& front, const QColor& back,
-                   const QColor& accent);
-
-// Draws a cell: of a name the part that was typed underlined and a dot behind who is pinned, a rating over a thin bar from 0 to 99, a low condition behind its
+// Draws a cell: of a name the part that was typed underlined and a pin behind who is pinned, a rating over a thin bar from 0 to 99, a low condition behind its
 // sign, and a dash where there is nothing to show.
 class SquadDelegate : public QStyledItemDelegate {
 public:

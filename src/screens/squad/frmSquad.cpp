@@ -5,11 +5,13 @@
 #include "machine/Reporting.h"
 #include "screens/panels/Accessible.h"
 #include "screens/panels/TypedName.h"
+#include "screens/Pins.h"
 #include "screens/platform/CodePage.h"
 #include "screens/platform/Dialogs.h"
 #include "screens/Remembered.h"
 #include "screens/Screen.h"
 #include "screens/Stage.h"
+#include "session/PinnedPeople.h"
 #include "session/Session.h"
 
 #include <QApplication>
@@ -271,29 +273,31 @@ void frmSquad::cmdPick_Click()
 
 void frmSquad::cmdPin_Click()
 {
-    const auto current = Table().Current();
-    if (!current)
-        return;
-    const QString name = ToQString(NameOf(OpenLeague, *current));
-    if (!Table().People().TogglePin(*current))
-        Tell(QString("%1 people are compared at most.").arg(SquadModel::MostPinned));
-    else
-        Tell(name + (Table().People().IsPinned(*current) ? " is pinned." : " is let go."));
-    ShowComparison();
-    ShowCommands();
+    if (const auto current = Table().Current(); current && current->Kind != SquadKind::Prospects)
+        Tell(TogglePin(current->Id()));
 }
 
 void frmSquad::cmdLetGo_Click()
 {
-    Table().People().LetGoOfPinned();
+    LetGoOfPinned(Table().People().Kind() == SquadKind::Goalies);
+    Table().setFocus(Qt::OtherFocusReason);
+}
+
+void frmSquad::ShowPins()
+{
+    for (SquadTable* table : tables)
+        table->People().TellOfPins();
     ShowComparison();
     ShowCommands();
-    Table().setFocus(Qt::OtherFocusReason);
 }
 
 void frmSquad::ShowComparison()
 {
-    const std::vector<SquadPerson> pinned = Table().People().Pinned();
+    const SquadKind kind = Table().People().Kind();
+    std::vector<SquadPerson> pinned;
+    if (kind != SquadKind::Prospects)
+        for (const PersonId who : OpenPins().Of(OpenLeague, kind == SquadKind::Goalies))
+            pinned.push_back({.Kind = kind, .Slot = who.Slot});
     Comparison->setVisible(!pinned.empty());
     lblCompare->setText(pinned.size() < 2 ? "Pin another one to compare them."
                                           : "Differences are to the one pinned first.");

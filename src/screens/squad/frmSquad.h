@@ -97,6 +97,7 @@ private:
     [[nodiscard]] QString InText() const;
     void Tell(const QString& words);
     void KeepColumns();
+    void ShowPins();
     void TurnTab(int by);
     void Leave();
 

@@ -3,6 +3,7 @@
 #include "screens/panels/KeySheet.h"
 #include "screens/panels/Labels.h"
 #include "screens/panels/Layouts.h"
+#include "screens/Pins.h"
 #include "screens/platform/CodePage.h"
 #include "screens/Screen.h"
 #include "screens/squad/frmSquad.h"
@@ -75,6 +76,7 @@ QPushButton* frmSquad::MakeCommand(const QString& name, const QString& caption, 
     auto* command = new QPushButton(caption, this);
     command->setObjectName(name);
     command->setAutoDefault(true);
+    connect(&NewsOfPins(), &PinNews::Changed, this, [this] { RunEvent("frmSquad", [this] { ShowPins(); }); });
     connect(command, &QPushButton::clicked, this,
             [this, name, click] { RunEvent(name, [this, click] { (this->*click)(); }); });
     return command;

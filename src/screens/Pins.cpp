@@ -1,0 +1,61 @@
+#include "screens/Pins.h"
+
+#include "screens/PersonWords.h"
+#include "session/PinnedPeople.h"
+#include "session/Session.h"
+
+namespace dravik {
+
+PinNews& NewsOfPins()
+{
+    static PinNews news;
+    return news;
+}
+
+QString TogglePin(PersonId who)
+{
+    const bool isDone = OpenPins().Toggle(OpenLeague, who);
+    const QString name = NameOf(who);
+    if (isDone)
+        emit NewsOfPins().Changed();
+    else if (OpenPins().Of(OpenLeague, who.IsGoalie).size() == PinnedPeople::Most)
+        return QString("%1 people are compared at most.").arg(PinnedPeople::Most);
+    else
+        return {};
+    return name + (IsPinned(who) ? " is pinned." : " is let go.");
+}
+
+void LetGoOfPinned(bool goalies)
+{
+    OpenPins().LetGo(goalies);
+    emit NewsOfPins().Changed();
+}
+
+bool IsPinned(PersonId who) { return OpenPins().Has(OpenLeague, who); }
+
+PersonSigns WithPin(PersonSigns signs, PersonId who)
+{
+    if (IsPinned(who))
+        signs.Add(Sign::Pinned);
+    return signs;
+}
+
+std::optional<PinnedFigures> PinnedAgainst(PersonId who)
+{
+    const auto first = OpenPins().First(OpenLeague, who.IsGoalie);
+    if (!first || *first == who)
+        return std::nullopt;
+    return PinnedFigures{.Who = *first, .Name = NameOf(*first), .Rows = QuietStatRowsOf(*first)};
+}
+
+std::vector<int> NumbersOf(const StatRows& rows)
+{
+    std::vector<int> numbers;
+    for (const StatRow& row : rows.Ratings)
+        numbers.push_back(row.Value);
+    if (rows.OverallRow)
+        numbers.push_back(rows.OverallRow->Value);
+    return numbers;
+}
+
+} // namespace dravik

@@ -1,0 +1,41 @@
+#pragma once
+
+#include "league/PersonId.h"
+#include "screens/panels/ElidedLabel.h"
+
+#include <optional>
+#include <QToolButton>
+
+// What pins people where their ratings stand, and tells who is pinned.
+namespace dravik {
+
+// The command that pins whoever is shown, or lets him go. It stands beside his name, takes no focus, keeps its place and is not
+// seen where nobody is shown.
+class PinCommand : public QToolButton {
+public:
+    explicit PinCommand(QWidget* parent);
+
+    void SetPerson(std::optional<PersonId> who);
+    [[nodiscard]] std::optional<PersonId> Person() const { return person; }
+    [[nodiscard]] QSize sizeHint() const override;
+    [[nodiscard]] QSize minimumSizeHint() const override { return sizeHint(); }
+
+private:
+    void ShowState();
+
+    std::optional<PersonId> person;
+};
+
+// The quiet line below ratings that says whom they are held against, behind a piece of his bar. It takes no room where there is
+// nobody.
+class PinLine : public ElidedLabel {
+public:
+    explicit PinLine(QWidget* parent);
+
+    void Tell(const QString& name);
+
+protected:
+    void paintEvent(QPaintEvent* event) override;
+};
+
+} // namespace dravik
