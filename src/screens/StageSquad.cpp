@@ -85,6 +85,7 @@ void Stage::ShowSquad(const Screen& asking)
     if (Screen* about = Find(Window::About); about == &asking)
         Close(*about);
     const auto front = InFront();
+    squad->Follow(front ? Find(*front) : nullptr);
     squad->Open(front ? Find(*front)->frameGeometry() : QRect());
 }
 
@@ -99,8 +100,11 @@ void Stage::BackFromSquad()
 
 void Stage::ShowSquadAnew()
 {
-    if (squad != nullptr)
-        squad->ShowAnew();
+    if (squad == nullptr)
+        return;
+    const auto front = InFront();
+    squad->Follow(front ? Find(*front) : nullptr);
+    squad->ShowAnew();
 }
 
 std::optional<Window> Stage::InFront() const

@@ -269,6 +269,66 @@ TEST_F(frmSquadTest, ColumnsAreHiddenMovedAndRemembered)
     EXPECT_THAT(keys(again), ::testing::Contains("Age"));
 }
 
+TEST_F(frmSquadTest, WhatItIsSortedByAndTheFiltersAreRemembered)
+{
+    {
+        frmSquad& squad = SquadOver(MainWithLeague());
+        ClickHeading(squad, "Age");
+        ClickHeading(squad, "Overall", Qt::ShiftModifier);
+        squad.cboTeam->setCurrentIndex(squad.cboTeam->findData(OwnTeam));
+        Click(squad.chkPosition[1]);
+        Press(squad.spnOverall, Qt::Key_Up);
+        squad.chkMayBeAsked->setFocus();
+        Press(squad.chkMayBeAsked, Qt::Key_Space);
+        squad.close();
+        EXPECT_EQ(Machine.Settings["Screens/SquadSkatersSort"], "Age Overall-");
+        EXPECT_EQ(Machine.Settings["Screens/SquadGoaliesSort"], ""); // as at first, whatever the league shows
+        EXPECT_EQ(Machine.Settings["Screens/SquadTeam"], "Harbour City Gulls");
+    }
+    frmSquad again(TheStage);
+    again.Open({});
+    EXPECT_THAT(People(again).Keys(), ::testing::ElementsAre(SquadKey{"Age", false}, SquadKey{"Overall", true}));
+    SquadFilter wanted;
+    wanted.Team = OwnTeam;
+    wanted.Positions[1] = false;
+    wanted.OverallFrom = 1;
+    wanted.MayBeAsked = true;
+    EXPECT_EQ(again.Filter(), wanted);
+    Click(again.cmdShowAll);
+    EXPECT_EQ(again.Filter(), SquadFilter());
+    again.close();
+
+    // A team is known by its name, and one that this league lacks asks for nothing.
+    Machine.Settings["Screens/SquadTeam"] = "Nobody's Team";
+    Machine.Settings["Screens/SquadFilters"] = "AgeFrom=x Positions=0 Overall=70 Something=5 Positions";
+    frmSquad other(TheStage);
+    other.Open({});
+    EXPECT_EQ(other.Filter().Team, std::nullopt);
+    EXPECT_EQ(other.Filter().OverallFrom, 70);
+    EXPECT_EQ(other.Filter().AgeFrom, std::nullopt);
+    EXPECT_FALSE(other.Filter().Positions[0]);
+    EXPECT_TRUE(other.Filter().Positions[1]);
+}
+
+TEST_F(frmSquadTest, DockedItStandsBesideTheScreenInFrontOrSaysWhyNot)
+{
+    Screen& front = Front("Roster");
+    frmSquad& squad = SquadOver(front);
+    const QRect before = squad.geometry();
+    Click(squad.chkDock);
+    EXPECT_EQ(Machine.Settings["Screens/SquadDocked"], "1");
+    EXPECT_EQ(squad.lblTold->text(), "The display has no room for it beside this screen.");
+    EXPECT_EQ(squad.geometry(), before);
+    EXPECT_LE(squad.minimumSizeHint().width(), 860); // beside a screen of 1040 on a display of 1920
+    squad.chkDock->setChecked(false);
+    squad.chkDock->setChecked(true);
+    squad.resize(860, 700);
+    EXPECT_EQ(squad.width(), 860); // at once
+    EXPECT_LE(squad.chkDock->geometry().right(), 860);
+    Click(squad.chkDock);
+    EXPECT_EQ(Machine.Settings["Screens/SquadDocked"], "0");
+}
+
 TEST_F(frmSquadTest, SettingsThatCannotBeWrittenStopNothing)
 {
     frmSquad& squad = SquadOver(MainWithLeague());

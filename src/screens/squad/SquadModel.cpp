@@ -122,6 +122,30 @@ void SquadModel::SortBy(int column, bool downwards, bool asSecond)
     emit headerDataChanged(Qt::Horizontal, 0, columnCount() - 1);
 }
 
+std::string SquadModel::SortedAs() const
+{
+    QStringList words;
+    if (isSortedByHand)
+        for (const SquadKey& key : keys)
+            words << ToQString(key.Column).replace(' ', '_') + (key.IsDownwards ? "-" : "");
+    return FromQString(words.join(' '));
+}
+
+void SquadModel::SortAs(const std::string& words)
+{
+    std::vector<SquadKey> wanted;
+    const QStringList parts = ToQString(words).split(' ', Qt::SkipEmptyParts);
+    for (const QString& part : parts.first(std::min<qsizetype>(parts.size(), 2))) {
+        const bool isDownwards = part.endsWith('-');
+        wanted.push_back({.Column = FromQString(QString(isDownwards ? part.chopped(1) : part).replace('_', ' ')),
+                          .IsDownwards = isDownwards});
+    }
+    if (wanted.empty())
+        return;
+    isSortedByHand = true;
+    keys = wanted;
+}
+
 int SquadModel::ColumnOf(std::string_view key) const
 {
     const auto found =

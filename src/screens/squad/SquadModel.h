@@ -46,15 +46,19 @@ public:
     // The same in a direction.
     void SortBy(int column, bool downwards, bool asSecond);
     [[nodiscard]] const std::vector<SquadKey>& Keys() const { return keys; }
+    // By what it is sorted in one text, "Age Overall-", a column downwards with "-" behind it; nothing as long as nobody has sorted
+    // it by hand. And to be sorted so from the next look on; whatever of it is no column is left out then.
+    [[nodiscard]] std::string SortedAs() const;
+    void SortAs(const std::string& words);
 
     // Whether somebody is pinned, which no prospect is.
     [[nodiscard]] bool IsPinned(SquadPerson who) const;
+    // Says that others are pinned now.
+    void TellOfPins();
 
     [[nodiscard]] SquadKind Kind() const { return kind; }
     [[nodiscard]] const std::vector<SquadColumn>& Columns() const { return columns; }
     [[nodiscard]] int ColumnOf(std::string_view key) const; // -1 where the league does not show it
-    // Says that others are pinned now.
-    void TellOfPins();
     [[nodiscard]] SquadPerson PersonAt(int row) const;
     [[nodiscard]] int RowOf(SquadPerson who) const; // -1 where he is not shown
     // How many there are, whatever is let through.

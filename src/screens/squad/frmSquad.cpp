@@ -8,8 +8,8 @@
 #include "screens/Pins.h"
 #include "screens/platform/CodePage.h"
 #include "screens/platform/Dialogs.h"
-#include "screens/Remembered.h"
 #include "screens/Screen.h"
+#include "screens/squad/SquadDock.h"
 #include "screens/Stage.h"
 #include "session/PinnedPeople.h"
 #include "session/Session.h"
@@ -32,7 +32,6 @@ namespace {
 constexpr QSize UsualSize(1240, 720);
 constexpr int LeastRoomBeside = 760; // a window narrower than that shows too little to stand beside another
 
-constexpr const char* ColumnKeys[] = {"SquadSkaters", "SquadGoalies", "SquadProspects"}; // in what is remembered
 constexpr const char* Captions[] = {"Skaters", "Goalies", "Prospects"};
 constexpr const char* NotProved = "Where people stand is shown for the team whose screens are open.";
 
@@ -70,8 +69,7 @@ SquadSight frmSquad::Sight() const
 void frmSquad::Open(const QRect& front)
 {
     if (!isVisible()) {
-        for (std::size_t at = 0; at < tables.size(); ++at)
-            tables[at]->Arrange(Remembered(ColumnKeys[at]));
+        Restore();
         const QRect area = screen()->availableGeometry();
         const int frame = style()->pixelMetric(QStyle::PM_TitleBarHeight, nullptr, this);
         const QRect right(front.right() + 1, area.top() + frame, area.right() - front.right(), area.height() - frame);
@@ -90,6 +88,7 @@ void frmSquad::Open(const QRect& front)
     raise();
     activateWindow();
     ShowAnew();
+    dock->Arrange();
     txtName->setFocus(Qt::OtherFocusReason);
     txtName->selectAll();
 }
@@ -387,13 +386,6 @@ void frmSquad::FillColumnMenu()
     connect(item, &QAction::triggered, this, [&table] { table.ShowFirstColumns(); });
 }
 
-void frmSquad::KeepColumns()
-{
-    for (std::size_t at = 0; at < tables.size(); ++at)
-        if (tables[at]->People().columnCount() > 0)
-            Remember(ColumnKeys[at], tables[at]->Arrangement());
-}
-
 void frmSquad::TurnTab(int by)
 {
     tabKind->setCurrentIndex((tabKind->currentIndex() + by + tabKind->count()) % tabKind->count());
@@ -412,7 +404,7 @@ void frmSquad::hideEvent(QHideEvent* event)
 {
     QMainWindow::hideEvent(event);
     if (!event->spontaneous())
-        RunEvent("frmSquad", [this] { KeepColumns(); });
+        RunEvent("frmSquad", [this] { Keep(); });
 }
 
 // From the box of names the arrows go on into the table.

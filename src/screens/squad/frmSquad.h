@@ -4,6 +4,7 @@
 #include "screens/squad/SquadTable.h"
 
 #include <array>
+#include <QBoxLayout>
 #include <QCheckBox>
 #include <QComboBox>
 #include <QLabel>
@@ -19,6 +20,7 @@ class QMenu;
 namespace dravik {
 
 class KeySheet;
+class SquadDock;
 class Stage;
 
 // The squad table: everybody of the league or of one team, skaters, goalies and prospects, in a window of its own beside
@@ -39,6 +41,8 @@ public:
     void txtName_Changed();
     void Filter_Changed();
     void cmdShowAll_Click();
+    // Stands beside the screen in front from now on, as far as the display has room for both, or no longer.
+    void chkDock_Click();
     void cmdCopy_Click();
     void cmdSaveCsv_Click();
     void cmdShowPlayer_Click();
@@ -48,6 +52,9 @@ public:
     void cmdLetGo_Click();
     // What Enter and a double press do: picks whoever is current on the screen in front if that lists him, else shows him.
     void Choose();
+
+    // The screen in front, beside which it stands where it is docked.
+    void Follow(QWidget* front);
 
     // The table in front.
     [[nodiscard]] SquadTable& Table() const;
@@ -60,7 +67,7 @@ public:
     QComboBox *cboTeam = nullptr, *cboStands = nullptr;
     std::array<QCheckBox*, 4> chkPosition{}; // C, LW, RW, D
     QSpinBox *spnAgeFrom = nullptr, *spnAgeTo = nullptr, *spnOverall = nullptr, *spnContract = nullptr;
-    QCheckBox* chkMayBeAsked = nullptr;
+    QCheckBox *chkMayBeAsked = nullptr, *chkDock = nullptr;
     QPushButton *cmdShowAll = nullptr, *cmdColumns = nullptr, *cmdCopy = nullptr, *cmdSaveCsv = nullptr;
     QPushButton *cmdShowPlayer = nullptr, *cmdPick = nullptr, *cmdClose = nullptr;
     QPushButton *cmdPin = nullptr, *cmdLetGo = nullptr;
@@ -90,14 +97,19 @@ private:
     void ListTeams();
     void ShowCounts();
     void ShowCommands();
+    void ShowPins();
     void ShowComparison();
     void ShowFilters();
     [[nodiscard]] SquadFilter TypedFilter() const;
     void FillColumnMenu();
     [[nodiscard]] QString InText() const;
     void Tell(const QString& words);
-    void KeepColumns();
-    void ShowPins();
+    // What is remembered from one run to the next.
+    void Restore();
+    void Keep();
+    void RestoreFilters();
+    [[nodiscard]] QString FiltersInText() const;
+    void ShowDocked();
     void TurnTab(int by);
     void Leave();
 
@@ -106,6 +118,9 @@ private:
     std::array<bool, 3> isStale{true, true, true};
     QStackedWidget* stack = nullptr;
     KeySheet* keySheet = nullptr;
+    SquadDock* dock = nullptr;
+    QBoxLayout* filterRows = nullptr;
+    bool hasStood = false;
 };
 
 } // namespace dravik

@@ -7,6 +7,7 @@
 #include "screens/platform/CodePage.h"
 #include "screens/Screen.h"
 #include "screens/squad/frmSquad.h"
+#include "screens/squad/SquadDock.h"
 #include "screens/Stage.h"
 
 #include <QMenu>
@@ -67,8 +68,15 @@ frmSquad::frmSquad(Stage& stage) : owner(stage)
     cmdClose = new QPushButton("C&lose", this);
     cmdClose->setObjectName("cmdClose");
     connect(cmdClose, &QPushButton::clicked, this, &QWidget::close);
+    dock = new SquadDock(this);
+    connect(dock, &SquadDock::Lost, this, [this] { owner.ShowSquadAnew(); });
+    chkDock = new QCheckBox("Dock &Beside", this);
+    chkDock->setObjectName("chkDock");
+    chkDock->setToolTip("Keep it beside the screen in front, where the display has room for both");
+    connect(chkDock, &QCheckBox::toggled, this, [this] { RunEvent("chkDock", [this] { chkDock_Click(); }); });
     MakeKeys();
     LayOut();
+    connect(&NewsOfPins(), &PinNews::Changed, this, [this] { RunEvent("frmSquad", [this] { ShowPins(); }); });
 }
 
 QPushButton* frmSquad::MakeCommand(const QString& name, const QString& caption, void (frmSquad::*click)())
@@ -76,7 +84,6 @@ QPushButton* frmSquad::MakeCommand(const QString& name, const QString& caption, 
     auto* command = new QPushButton(caption, this);
     command->setObjectName(name);
     command->setAutoDefault(true);
-    connect(&NewsOfPins(), &PinNews::Changed, this, [this] { RunEvent("frmSquad", [this] { ShowPins(); }); });
     connect(command, &QPushButton::clicked, this,
             [this, name, click] { RunEvent(name, [this, click] { (this->*click)(); }); });
     return command;
@@ -195,9 +202,11 @@ void frmSquad::MakeKeys()
 QWidget* frmSquad::MakeFilterRow()
 {
     auto* panel = new QWidget(this);
-    auto* row = new QHBoxLayout(panel);
-    row->setContentsMargins(0, 0, 0, 0);
-    row->setSpacing(Gap);
+    filterRows = new QBoxLayout(QBoxLayout::LeftToRight, panel);
+    filterRows->setContentsMargins(0, 0, 0, 0);
+    filterRows->setSpacing(Gap);
+    QHBoxLayout* row = MakeRow({});
+    filterRows->addLayout(row);
     const auto add = [&](const QString& caption, std::initializer_list<QWidget*> parts) {
         if (row->count() > 0)
             row->addSpacing(Gap);
@@ -211,6 +220,9 @@ QWidget* frmSquad::MakeFilterRow()
     add("Team", {cboTeam});
     add("Position", {chkPosition[0], chkPosition[1], chkPosition[2], chkPosition[3]});
     add("Stands", {cboStands});
+    row->addStretch(1);
+    row = MakeRow({});
+    filterRows->addLayout(row, 1);
     add("Age", {spnAgeFrom, new MutedLabel(QChar(0x2013), panel), spnAgeTo});
     add("Overall from", {spnOverall});
     add("Years left to", {spnContract});
@@ -259,7 +271,7 @@ void frmSquad::LayOut()
     title->setText("Squad");
     QHBoxLayout* header = MakeRow({title});
     header->setStretch(0, 1);
-    for (QWidget* command : {cmdColumns, cmdCopy, cmdSaveCsv})
+    for (QWidget* command : std::initializer_list<QWidget*>{chkDock, cmdColumns, cmdCopy, cmdSaveCsv})
         header->addWidget(command);
     column->addLayout(header);
 
@@ -287,7 +299,7 @@ void frmSquad::LayOut()
     ChainTabs({txtName,        cmdShowAll, tabKind,    cboTeam,    chkPosition[0], chkPosition[1], chkPosition[2],
                chkPosition[3], cboStands,  spnAgeFrom, spnAgeTo,   spnOverall,     spnContract,    chkMayBeAsked,
                tables[0],      tables[1],  tables[2],  tblCompare, cmdLetGo,       cmdPin,         cmdShowPlayer,
-               cmdPick,        cmdClose,   cmdColumns, cmdCopy,    cmdSaveCsv});
+               cmdPick,        cmdClose,   chkDock,    cmdColumns, cmdCopy,        cmdSaveCsv});
 }
 
 } // namespace dravik
