@@ -137,6 +137,7 @@ void Evening::ShapeRoster()
     Require(Roster().lblComplete->text() == "Roster Is Complete", "the roster is complete again");
     ShowPlayer(position::Center, "player-skater");
     ShowPlayer(position::Goalie, "player-goalie");
+    PinOnRoster();
     Roster().cmdExit->click();
     QApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
     NoComplaints("the roster is shaped");
@@ -211,6 +212,8 @@ void Evening::MakeLinesOn(QPushButton& command, Window window, const QString& pi
     PhotographSheet(screen, picture + "-sheet");
     ShareLines(screen, picture);
     PhotographKeys(window, picture + "-keys");
+    if (window == Window::Line)
+        HoldOnLines(screen);
     screen.cmdExit->click();
     QApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
     NoComplaints("the lines are made");

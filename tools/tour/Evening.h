@@ -69,6 +69,10 @@ private:
     // Raises the price of the first seats by one.
     void ShowTickets();
     // The squad table without a league, of the whole league, and of the own team beside its screen.
+    // Somebody is pinned and others are held against him: on the roster and in the viewer, on the lines, with two lines beside each
+    // other; and let go.
+    void PinOnRoster();
+    void HoldOnLines(LinesScreen& screen);
     void LookAtEmptySquad();
     void LookAtSquad();
     void LookAtOwnSquad();

@@ -80,6 +80,10 @@ void Evening::LookAtOwnSquad()
     Require(table.People().rowCount() == 0 && squad.lblEmpty->isVisible(), "nobody passes all filters");
     Require(camera.Photograph(squad, "squad-nobody"), "pictures of a table without anybody are written");
     squad.cmdShowAll->click();
+    constexpr QSize besideAScreen(860, 780);
+    squad.chkDock->setChecked(true);
+    Require(camera.Photograph(squad, "squad-docked", besideAScreen), "pictures of the docked table are written");
+    squad.chkDock->setChecked(false);
     squad.close();
     NoComplaints("the own squad is looked at");
 }

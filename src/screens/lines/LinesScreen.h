@@ -208,6 +208,10 @@ private:
     void ChangeSides();
     // The sheet of the whole line-up.
     void MakeSheet();
+    // Two lines or units side by side: that of a heading and another one. By its key it is the one that has the focus, or the first
+    // in sight.
+    void OfferComparison(const BoardHeading& heading);
+    void CompareAtFocus();
     void ShowOnSheet();
     void PickOnSheet();
     void LeaveSheet();

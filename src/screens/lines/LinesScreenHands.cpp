@@ -42,6 +42,7 @@ void LinesScreen::MakeHands()
     onKey(QKeySequence("Ctrl+Shift+Tab"), [this] { TurnPage(-1); });
     onKey(QKeySequence("F6"), [this] { ChangeSides(); });
     onKey(QKeySequence("Ctrl+B"), [this] { cmdSheet_Click(); });
+    onKey(QKeySequence("Ctrl+Shift+M"), [this] { CompareAtFocus(); });
     // Whatever comes up in its place, the picker belongs to the slot that it was opened at.
     connect(TabLine, &QTabWidget::currentChanged, picker, &QWidget::hide);
 }

@@ -119,8 +119,10 @@ void LinesScreen::MakeControls()
     cards = new PersonCards(this);
     connect(&NewsOfPins(), &PinNews::Changed, this, [this] { RefreshMarks(); });
     MakeHands();
-    for (const BoardHeading& heading : TabLine->Parts.Headings)
+    for (const BoardHeading& heading : TabLine->Parts.Headings) {
         heading.Label->installEventFilter(this);
+        OfferComparison(heading);
+    }
     MakeLive(*lstPlayer);
     for (QWidget* pressed : std::initializer_list<QWidget*>{vscDay, TabLine->tabBar()})
         pressed->installEventFilter(this);

@@ -25,8 +25,10 @@ void LinesScreen::MakeSheet()
         slot.OnSheet->SetTaken(slot.Label->IsTaken());
         MakeLive(static_cast<int>(index), *slot.OnSheet);
     }
-    for (const BoardHeading& heading : Sheet->Parts.Headings)
+    for (const BoardHeading& heading : Sheet->Parts.Headings) {
         heading.Label->installEventFilter(this);
+        OfferComparison(heading);
+    }
     sheetPicker = MakePicker(Sheet);
     MakeLive(*Sheet->lstPeople);
     connect(&Sheet->Parts, &BoardParts::SlotPressed, &TabLine->Parts, &BoardParts::SlotPressed);

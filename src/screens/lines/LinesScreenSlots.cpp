@@ -4,6 +4,7 @@
 #include "rules/PlayingLines.h"
 #include "rules/StatRows.h"
 #include "screens/lines/LinesScreen.h"
+#include "screens/lines/UnitWindow.h"
 #include "screens/PersonWords.h"
 #include "screens/platform/CodePage.h"
 #include "screens/RosterEntry.h"
@@ -67,6 +68,8 @@ void LinesScreen::RefreshMarks()
         lstPlayer->viewport()->update(); // the entries tell how many slots they hold
         if (Sheet != nullptr)
             ShowOnSheet();
+        if (UnitWindow* units = UnitWindow::On(*this))
+            units->ShowAnew();
     });
 }
 
@@ -133,10 +136,10 @@ void LinesScreen::Heading_Click(int index)
         frmStat->setTitle(ToQString(heading.Group->Prefix) + heading.Label->text());
         frmStat->ShowRows(
             SkaterStatRows(LeagueData, averages.Ratings, static_cast<int>(PlayerStatCount), averages.Overall));
+        frmStat->HoldAgainstPinned(PersonIn<Player>(0));
     });
 }
 
-        frmStat->HoldAgainstPinned(PersonIn<Player>(0));
 QString LinesScreen::SlotsOf(PersonId who) const
 {
     if (who.IsGoalie)

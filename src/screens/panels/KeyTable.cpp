@@ -49,6 +49,7 @@ constexpr KeyRow Rows[] = {
     {OnLines, KeyScope::Screen, "Ctrl+Shift+Tab", "", "Page before"},
     {OnLines, KeyScope::Screen, "F6", "", "From the list to the board and back"},
     {OnLines, KeyScope::Screen, "Ctrl+B", "", "The whole line-up on one sheet, and away; Esc closes it too"},
+    {OnLines, KeyScope::Screen, "Ctrl+Shift+M", "", "Compare two lines or units; Esc closes it"},
     {"frmTeam", KeyScope::Screen, "F6", "", "To this evening, on to what changed, and back"},
     {OnSquad, KeyScope::Screen, "Ctrl+F", "", "Type a part of a name"},
     {OnSquad, KeyScope::Screen, "Ctrl+Tab", "", "Next table"},

@@ -17,9 +17,15 @@ class GhostLabel : public MutedLabel {
 public:
     using MutedLabel::MutedLabel;
 
+    [[nodiscard]] QSize sizeHint() const override
+    {
+        return {fontMetrics().horizontalAdvance(QString("00 ") + QChar(0x2212) + "00"),
+                MutedLabel::sizeHint().height()};
+    }
     [[nodiscard]] QSize minimumSizeHint() const override
     {
-        return {fontMetrics().horizontalAdvance(Difference()) + 1, MutedLabel::minimumSizeHint().height()};
+        return {fontMetrics().horizontalAdvance(QChar(0x2212) + QString("00")) + 1,
+                MutedLabel::minimumSizeHint().height()};
     }
 
 protected:
@@ -27,7 +33,7 @@ protected:
     {
         QPainter painter(this);
         painter.setPen(MutedText(palette()));
-        const bool isWhole = fontMetrics().horizontalAdvance(text()) <= width();
+        const bool isWhole = sizeHint().width() <= width(); // of all rows alike
         painter.drawText(rect(), Qt::AlignRight | Qt::AlignVCenter | Qt::TextSingleLine,
                          isWhole ? text() : Difference());
     }
