@@ -7,6 +7,7 @@
 #include "screens/panels/EditBox.h"
 #include "screens/panels/EntryList.h"
 #include "screens/panels/HistoryCommands.h"
+#include "screens/panels/KeptPlace.h"
 #include "screens/panels/KeySheet.h"
 #include "screens/panels/Layouts.h"
 #include "screens/panels/SaveLine.h"
@@ -102,6 +103,8 @@ Screen::Screen(Stage& stage, const QString& name) : Owner(stage)
         if (SettleFocus())
             Owner.ShowGuide(*this);
     });
+    if (name != "frmMain") // which remembers its place once it shows a league
+        new KeptPlace(*this);
     for (const auto& [key, look] : {std::pair("Ctrl+Shift+C", Look::Calendar), std::pair("Ctrl+Shift+G", Look::Graphs)})
         connect(new QShortcut(QKeySequence(key), this), &QShortcut::activated, this, [this, opened = look] {
             if (SettleFocus())
@@ -121,9 +124,12 @@ void Screen::CentreOnScreen()
     QSize frame = frameGeometry().size() - size();
     if (frame.isEmpty())
         frame = {0, style()->pixelMetric(QStyle::PM_TitleBarHeight, nullptr, this)};
-    resize(size().boundedTo(area.size() - frame));
-    move(area.topLeft() +
-         QPoint((area.width() - frameGeometry().width()) / 2, (area.height() - frameGeometry().height()) / 2));
+    PlaceByProgram(*this, [&] {
+        resize(size().boundedTo(area.size() - frame));
+        move(area.topLeft() +
+             QPoint((area.width() - frameGeometry().width()) / 2, (area.height() - frameGeometry().height()) / 2));
+    });
+    PutKept(*this);
 }
 
 void Screen::FitToDisplay()
@@ -138,7 +144,7 @@ void Screen::FitToDisplay()
     for (EntryList* list : lists)
         list->AskForWidth(widest);
     WorkOutHints(*this);
-    resize(size().expandedTo(sizeHint()));
+    PlaceByProgram(*this, [this] { resize(size().expandedTo(sizeHint())); });
     CentreOnScreen();
 }
 

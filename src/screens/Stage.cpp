@@ -214,7 +214,11 @@ void Stage::Closed(Screen& screen)
         ended = true;
         for (const auto& [window, other] : screens)
             other->hide();
+        if (squad != nullptr)
+            squad->close(); // which has it keep its columns and its place
         squad.reset();
+        if (guide != nullptr)
+            guide->close(); // likewise
         guide.reset();
         QCoreApplication::exit(0);
         return;

@@ -70,6 +70,39 @@ TEST_F(OpenDialog, TheChosenFileComesBackAsAPathOfTheProgram)
     EXPECT_EQ(Desktop.FileLength(chosen), 0);
 }
 
+TEST_F(OpenDialog, TheDownloadsStandInItsSideBarWhereThereAreSome)
+{
+    const QByteArray before = qgetenv("XDG_CONFIG_HOME");
+    qputenv("XDG_CONFIG_HOME", QFile::encodeName(Folder.path()));
+    QFile places(Folder.filePath("user-dirs.dirs"));
+    ASSERT_TRUE(places.open(QIODevice::WriteOnly));
+    places.write("XDG_DOWNLOAD_DIR=\"" + Folder.filePath("Incoming").toUtf8() + "\"\n");
+    places.close();
+    const QUrl downloads = QUrl::fromLocalFile(Folder.filePath("Incoming"));
+    const auto cancelled = [this](const std::function<void(QFileDialog&)>& look) {
+        EXPECT_THROW(Open([&look](QFileDialog& dialog) {
+                         look(dialog);
+                         dialog.reject();
+                     }),
+                     Failure);
+    };
+    cancelled([&](const QFileDialog& dialog) { EXPECT_FALSE(dialog.sidebarUrls().contains(downloads)); });
+    ASSERT_TRUE(QDir(Folder.path()).mkdir("Incoming"));
+    for (int time = 1; time <= 2; ++time)
+        cancelled([&](const QFileDialog& dialog) {
+            EXPECT_EQ(dialog.sidebarUrls().count(downloads), 1) << time;
+            auto* bar = dialog.findChild<QAbstractItemView*>("sidebar");
+            ASSERT_NE(bar, nullptr);
+            const QModelIndex last = bar->model()->index(bar->model()->rowCount() - 1, 0);
+            QTest::mouseClick(bar->viewport(), Qt::LeftButton, {}, bar->visualRect(last).center());
+            EXPECT_EQ(dialog.directory().path(), Folder.filePath("Incoming"));
+        });
+    if (before.isNull())
+        qunsetenv("XDG_CONFIG_HOME");
+    else
+        qputenv("XDG_CONFIG_HOME", before);
+}
+
 TEST_F(OpenDialog, AFileThatIsNotThereIsNotTaken)
 {
     EXPECT_THROW(Open([](QFileDialog& dialog) {

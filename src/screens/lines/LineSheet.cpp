@@ -1,5 +1,6 @@
 #include "screens/lines/LineSheet.h"
 
+#include "screens/panels/KeptPlace.h"
 #include "screens/panels/Labels.h"
 #include "screens/panels/Layouts.h"
 
@@ -35,6 +36,7 @@ LineSheet::LineSheet(QWidget* screen) : QWidget(screen, Qt::Tool), Parts(this, N
 {
     setObjectName("LineSheet");
     setWindowTitle("Whole Line-Up");
+    new KeptPlace(*this);
     lstPeople = new PickList(this);
     lstPeople->setObjectName(QString(NamePrefix) + "lstPeople");
     lstPeople->setAccessibleName("Players");
@@ -131,8 +133,8 @@ QLayout* LineSheet::MakeLists()
 
 void LineSheet::Open()
 {
-    if (!hasStood)
-        Stand();
+    if (!hasStood && !PutKept(*this))
+        PlaceByProgram(*this, [this] { Stand(); });
     hasStood = true;
     show();
     raise();
@@ -151,7 +153,7 @@ void LineSheet::Stand()
     if (screen.width() + UsualSize.width() <= area.width()) {
         // Beside the screen, which makes room where it stands in the middle.
         const int left = std::min(screen.left(), area.right() + 1 - UsualSize.width() - screen.width());
-        parentWidget()->move(left, screen.top());
+        PlaceByProgram(*parentWidget(), [&] { parentWidget()->move(left, screen.top()); });
         resize(std::min(width(), area.right() + 1 - left - screen.width()), height());
         move(left + screen.width(), screen.top());
         return;

@@ -1,5 +1,6 @@
 #include "screens/main/GuideWindow.h"
 
+#include "screens/panels/KeptPlace.h"
 #include "screens/panels/Labels.h"
 #include "screens/panels/Layouts.h"
 
@@ -13,6 +14,7 @@
 #include <QStyle>
 #include <QTextBlock>
 #include <QTextTable>
+#include <utility>
 
 // What lies in a library is brought by name, which the toolkit wants outside of any namespace.
 static void BringGuide() { Q_INIT_RESOURCE(guide); }
@@ -60,6 +62,7 @@ GuideWindow::GuideWindow() : QWidget(nullptr, Qt::Window)
 {
     BringGuide();
     setObjectName("GuideWindow");
+    new KeptPlace(*this);
     setWindowTitle("Guide");
     setAttribute(Qt::WA_QuitOnClose, false);
 
@@ -176,13 +179,13 @@ void GuideWindow::ListChapters()
 
 void GuideWindow::Open(const QWidget& beside)
 {
-    if (!hasStood) {
-        hasStood = true;
-        const QRect area = beside.screen()->availableGeometry();
-        const int title = style()->pixelMetric(QStyle::PM_TitleBarHeight, nullptr, this);
-        resize(UsualSize.expandedTo(minimumSizeHint()).boundedTo(area.size() - QSize(0, title)));
-        move(area.left() + (area.width() - width()) / 2, area.top() + (area.height() - title - height()) / 2);
-    }
+    if (!std::exchange(hasStood, true) && !PutKept(*this))
+        PlaceByProgram(*this, [this, &beside] {
+            const QRect area = beside.screen()->availableGeometry();
+            const int title = style()->pixelMetric(QStyle::PM_TitleBarHeight, nullptr, this);
+            resize(UsualSize.expandedTo(minimumSizeHint()).boundedTo(area.size() - QSize(0, title)));
+            move(area.left() + (area.width() - width()) / 2, area.top() + (area.height() - title - height()) / 2);
+        });
     if (isMinimized())
         showNormal();
     show();

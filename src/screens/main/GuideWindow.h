@@ -16,7 +16,7 @@ class GuideWindow : public QWidget {
 public:
     GuideWindow();
 
-    // Comes to the front, at the first time in the middle of the display that `beside` stands on.
+    // Comes to the front, at the first time where it was left the last time, or in the middle of the display that `beside` stands on.
     void Open(const QWidget& beside);
     // Goes to the chapter whose heading reads so in a link ("an-evening-in-ten-steps"), and says whether there is one.
     bool GoTo(const QString& anchor);

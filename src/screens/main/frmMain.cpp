@@ -11,6 +11,7 @@
 #include "screens/ElementName.h"
 #include "screens/main/RecentLeagues.h"
 #include "screens/panels/ElidedLabel.h"
+#include "screens/panels/KeptPlace.h"
 #include "screens/panels/Labels.h"
 #include "screens/panels/Layouts.h"
 #include "screens/platform/CodePage.h"
@@ -212,7 +213,7 @@ QWidget* frmMain::MakeTeamBar()
 
     cmdContinue = MakeCommand("cmdContinue", "Continue", [this] { cmdContinue_Click(); });
     cmdContinue->hide();
-    names->insertWidget(1, cmdContinue);
+    names->insertWidget(names->indexOf(lblChosen) + 1, cmdContinue);
 
     QHBoxLayout* commands = MakeRow({});
     for (QAction* action : {mnuViewTeam, mnuSetRoster, mnuSetLines, mnuSetFarmLines, mnuFreeAgents, mnuDraft})
@@ -318,8 +319,10 @@ void frmMain::PlaceTeam()
         mnuTeam->menuAction()->setVisible(true);
         teamBar->show();
         ShowChosenTeam();
+        if (KeptPlace::On(*this) == nullptr)
+            new KeptPlace(*this);
         if (laidOutAnew && !isMaximized() && !isFullScreen()) {
-            resize(allSix ? WideWidth : NarrowWidth, FilledHeight);
+            PlaceByProgram(*this, [&] { resize(allSix ? WideWidth : NarrowWidth, FilledHeight); });
             FitToDisplay();
         }
         Owner.ShowSquadAnew();

@@ -2,6 +2,7 @@
 
 #include "league/RatingNames.h"
 #include "league/RatingWords.h"
+#include "screens/panels/KeptPlace.h"
 #include "screens/panels/KeyTable.h"
 #include "screens/panels/Labels.h"
 #include "screens/panels/Layouts.h"
@@ -157,6 +158,7 @@ KeySheet::KeySheet(const QString& screen, QWidget* parent) : QDialog(parent), ab
     column->setContentsMargins(Margin, Margin, Margin, Margin);
     column->addWidget(txtSheet);
     resize(UsualSize);
+    new KeptPlace(*this);
 }
 
 void KeySheet::keyPressEvent(QKeyEvent* event)
@@ -180,6 +182,8 @@ bool KeySheet::eventFilter(QObject* watched, QEvent* event)
 void KeySheet::Open()
 {
     Fill();
+    if (!isVisible())
+        PutKept(*this);
     show();
     raise();
     activateWindow();

@@ -14,7 +14,8 @@ public:
 
     // Shows the tables once more.
     virtual void ShowAnew() = 0;
-    // Comes up, at the first time at its usual size in the middle of the screen, as far as the display goes.
+    // Comes up, at the first time where it was left the last time, or at its usual size in the middle of the screen, as far as the
+    // display goes.
     void Open();
     // The title, as it stands, whatever signs a team's name holds.
     void SetTitle(const QString& title);
@@ -24,6 +25,8 @@ protected:
     void keyPressEvent(QKeyEvent* event) override;
 
 private:
+    void Stand();
+
     QSize usual;
     bool hasStood = false;
 };

@@ -17,6 +17,7 @@
 #include <QRegularExpression>
 #include <QScreen>
 #include <QScrollBar>
+#include <QStandardPaths>
 #include <QStyle>
 #include <QTextLayout>
 #include <QVBoxLayout>
@@ -277,6 +278,7 @@ public:
         // Without a window system there is no dialog but the toolkit's own.
         setOption(QFileDialog::DontUseNativeDialog, QGuiApplication::platformName() == "offscreen");
         setNameFilters(NameFilters(filter));
+        OfferDownloads();
     }
 
     std::optional<QString> Ask()
@@ -285,6 +287,18 @@ public:
         if (exec() != QDialog::Accepted || selectedFiles().isEmpty())
             return std::nullopt;
         return selectedFiles().constFirst();
+    }
+
+private:
+    // Leagues come as downloads: the desktop's folder of these stands in the side bar. A dialog of the desktop's has its own.
+    void OfferDownloads()
+    {
+        const QString folder = QStandardPaths::writableLocation(QStandardPaths::DownloadLocation);
+        const QUrl place = QUrl::fromLocalFile(folder);
+        QList<QUrl> offered = sidebarUrls();
+        if (!QFileInfo(folder).isDir() || offered.contains(place))
+            return;
+        setSidebarUrls(offered << place);
     }
 };
 

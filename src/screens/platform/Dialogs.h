@@ -23,7 +23,7 @@ int ShowMessageBox(const QString& text, int kind, const QString& title);
 // cancel.
 std::optional<QString> AskForText(const QString& prompt, const QString& title, const QString& text);
 
-// Asks for a file to open, beginning in `folder`. `filter` alternates captions and patterns, parted by "|". Nothing on
+// Asks for a file to open, beginning in `folder`, with the desktop's downloads one press away. `filter` alternates captions and patterns, parted by "|". Nothing on
 // cancel.
 std::optional<QString> AskForFile(const QString& folder, const QString& filter);
 

@@ -1,5 +1,7 @@
 #include "screens/squad/SquadDock.h"
 
+#include "screens/panels/KeptPlace.h"
+
 #include <algorithm>
 #include <QEvent>
 #include <QScopedValueRollback>
@@ -86,8 +88,8 @@ bool SquadDock::Arrange()
     if (window->isMaximized())
         window->showNormal();
     if (front->pos() != place->Screen.topLeft())
-        front->move(place->Screen.topLeft());
-    window->setGeometry(place->Beside - frame);
+        PlaceByProgram(*front, [&] { front->move(place->Screen.topLeft()); });
+    PlaceByProgram(*window, [&] { window->setGeometry(place->Beside - frame); });
     return true;
 }
 

@@ -4,6 +4,7 @@
 #include "machine/Paths.h"
 #include "machine/Reporting.h"
 #include "screens/panels/Accessible.h"
+#include "screens/panels/KeptPlace.h"
 #include "screens/panels/TypedName.h"
 #include "screens/Pins.h"
 #include "screens/platform/CodePage.h"
@@ -66,21 +67,27 @@ SquadSight frmSquad::Sight() const
             .Asking = static_cast<int>(CurrentTeam)};
 }
 
+void frmSquad::StandBeside(const QRect& front)
+{
+    const QRect area = screen()->availableGeometry();
+    const int frame = style()->pixelMetric(QStyle::PM_TitleBarHeight, nullptr, this);
+    const QRect right(front.right() + 1, area.top() + frame, area.right() - front.right(), area.height() - frame);
+    if (right.width() >= LeastRoomBeside) {
+        const QSize size = UsualSize.boundedTo(right.size());
+        setGeometry(
+            QRect(QPoint(right.left(), std::clamp(front.top(), right.top(), right.bottom() - size.height())), size));
+    } else {
+        resize(UsualSize.boundedTo(area.size() - QSize(0, frame)));
+        move(area.center() - rect().center());
+    }
+}
+
 void frmSquad::Open(const QRect& front)
 {
     if (!isVisible()) {
         Restore();
-        const QRect area = screen()->availableGeometry();
-        const int frame = style()->pixelMetric(QStyle::PM_TitleBarHeight, nullptr, this);
-        const QRect right(front.right() + 1, area.top() + frame, area.right() - front.right(), area.height() - frame);
-        if (right.width() >= LeastRoomBeside) {
-            const QSize size = UsualSize.boundedTo(right.size());
-            setGeometry(QRect(
-                QPoint(right.left(), std::clamp(front.top(), right.top(), right.bottom() - size.height())), size));
-        } else {
-            resize(UsualSize.boundedTo(area.size() - QSize(0, frame)));
-            move(area.center() - rect().center());
-        }
+        if (!PutKept(*this))
+            PlaceByProgram(*this, [&] { StandBeside(front); });
     }
     isStale.fill(true);
     lblTold->setText(Hint);

@@ -30,8 +30,8 @@ class frmSquad : public QMainWindow {
 public:
     explicit frmSquad(Stage& stage);
 
-    // Shows the window, where there is room right of `front` (on the desktop), else in the middle of its display, with the
-    // focus on the box of names.
+    // Shows the window where it was left the last time; else where there is room right of `front` (on the desktop), or in the middle
+    // of its display. The focus is on the box of names.
     void Open(const QRect& front);
     // Shows the tables as they stand and what can be done on the screen in front. Nothing where the window is not seen: it
     // looks once more when it is opened.
@@ -81,6 +81,7 @@ protected:
     void hideEvent(QHideEvent* event) override;
 
 private:
+    void StandBeside(const QRect& front);
     void MakeFilters();
     void MakeTables();
     QPushButton* MakeCommand(const QString& name, const QString& caption, void (frmSquad::*click)());

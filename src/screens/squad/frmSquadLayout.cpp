@@ -1,5 +1,6 @@
 #include "screens/ElementName.h"
 #include "screens/panels/ElidedLabel.h"
+#include "screens/panels/KeptPlace.h"
 #include "screens/panels/KeySheet.h"
 #include "screens/panels/Labels.h"
 #include "screens/panels/Layouts.h"
@@ -49,6 +50,7 @@ frmSquad::frmSquad(Stage& stage) : owner(stage)
 {
     setObjectName("frmSquad");
     setWindowTitle("Squad");
+    new KeptPlace(*this);
     MakeTables();
     MakeFilters();
     cmdColumns = new QPushButton("Col&umns", this);
