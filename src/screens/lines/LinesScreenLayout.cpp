@@ -3,6 +3,7 @@
 #include "screens/ElementName.h"
 #include "screens/EventGuard.h"
 #include "screens/lines/LinesScreen.h"
+#include "screens/panels/Crest.h"
 #include "screens/panels/Labels.h"
 #include "screens/panels/Layouts.h"
 #include "screens/panels/PersonCards.h"
@@ -228,7 +229,7 @@ QWidget* LinesScreen::MakeHeader()
     row->setContentsMargins(0, 0, 0, 0);
     row->setSpacing(Margin);
     QVBoxLayout* left = MakeColumn({});
-    QHBoxLayout* title = MakeRow({lblTeamName}, Margin);
+    QHBoxLayout* title = MakeRow({MakeOwnCrest(*lblTeamName, header), lblTeamName}, Margin);
     title->addStretch(1);
     left->addLayout(title);
     QHBoxLayout* verdict = MakeRow({lblComplete, cmdDebug}, Margin);

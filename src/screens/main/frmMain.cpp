@@ -10,6 +10,7 @@
 #include "rules/RosterJudge.h"
 #include "screens/ElementName.h"
 #include "screens/main/RecentLeagues.h"
+#include "screens/panels/Crest.h"
 #include "screens/panels/ElidedLabel.h"
 #include "screens/panels/KeptPlace.h"
 #include "screens/panels/Labels.h"
@@ -176,6 +177,8 @@ QWidget* frmMain::MakeConference(int conference)
         lstDivision[division]->setObjectName(ElementName("lstDivision", division));
         lstDivision[division]->setMinimumWidth(LeastListWidth);
         lstDivision[division]->KeepAsidesTogether();
+        new EntryCrests(lstDivision[division],
+                        [](int team) { return TeamTable::Has(team) ? CrestOf(Teams[team]) : Crest(); });
         QVBoxLayout* column = MakeColumn({lblDivision[division]}, Gap / 2);
         column->addWidget(lstDivision[division], 1);
         divisions->addLayout(column);
@@ -204,7 +207,7 @@ QWidget* frmMain::MakeTeamBar()
     lblChosen->setObjectName("lblChosen");
     lblChosenPlace = new ElidedLabel(bar, ElidedLabel::Words::Muted);
     lblChosenPlace->setObjectName("lblChosenPlace");
-    QHBoxLayout* names = MakeRow({lblChosen});
+    QHBoxLayout* names = MakeRow({MakeOwnCrest(*lblChosen, bar), lblChosen});
     names->addWidget(lblChosenPlace, 1);
     lblSaved = new ElidedLabel(bar, ElidedLabel::Words::Muted);
     lblSaved->setObjectName("lblSaved");
@@ -283,6 +286,7 @@ void frmMain::PlaceTeam()
 {
     Reporting(Machine(), " in PlaceTeam!", [this] {
         SetWindowCaption(WindowTitle);
+        ForgetCrests();
         lblTitle->setText(Shown(LeagueData.Name));
         cmdOpen->hide();
         firstStart->hide();
@@ -333,6 +337,9 @@ void frmMain::ShowChosenTeam()
 {
     ShowContinue();
     lblSaved->setText(ToQString(StateOfTeam(static_cast<int>(CurrentTeam)).Words()));
+    auto* crest = teamBar->findChild<CrestLabel*>();
+    crest->setVisible(TeamTable::Has(CurrentTeam));
+    crest->update();
     if (!TeamTable::Has(CurrentTeam)) {
         lblChosen->setText("No Team is Selected!");
         lblChosenPlace->clear();

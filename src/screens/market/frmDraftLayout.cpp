@@ -1,5 +1,6 @@
 #include "screens/market/frmDraft.h"
 
+#include "screens/panels/Crest.h"
 #include "screens/panels/EntrySigns.h"
 #include "screens/panels/Labels.h"
 #include "screens/panels/Layouts.h"
@@ -28,7 +29,7 @@ frmDraft::frmDraft(Stage& stage) : Screen(stage, "frmDraft"), ranking(OpenMarket
     auto* content = new QWidget(this);
     QVBoxLayout* column = MakePage(content);
 
-    QHBoxLayout* header = MakeRow({lblTeam});
+    QHBoxLayout* header = MakeRow({MakeOwnCrest(*lblTeam, this), lblTeam}, Margin);
     header->addStretch(1);
     auto* show = new MutedLabel("Show : ", content);
     show->setObjectName("lblShow");

@@ -1,5 +1,6 @@
 #include "screens/market/frmFreeAgentClient.h"
 
+#include "screens/panels/Crest.h"
 #include "screens/panels/EntrySigns.h"
 #include "screens/panels/Labels.h"
 #include "screens/panels/Layouts.h"
@@ -37,7 +38,7 @@ frmFreeAgentClient::frmFreeAgentClient(Stage& stage) : Screen(stage, "frmFreeAge
 
     auto* content = new QWidget(this);
     QVBoxLayout* column = MakePage(content);
-    column->addWidget(lblTeam);
+    column->addLayout(MakeRow({MakeOwnCrest(*lblTeam, content), lblTeam}, Margin));
     column->addWidget(lblInfo);
 
     QHBoxLayout* middle = MakeRow({}, Margin);

@@ -30,7 +30,7 @@ constexpr int SubjectLetters = 34;   // likewise
 
 // Where the parts of an entry stand, from left to right.
 struct Parts {
-    QRect Sign, Subject, Words, Team;
+    QRect Sign, Subject, Words, Crested, Team;
 };
 
 QFont SubjectFont(const QFont& font, const QModelIndex& index)
@@ -52,8 +52,13 @@ Parts PartsOf(const QStyleOptionViewItem& option, const QModelIndex& index)
     parts.Sign = QRect(area.left(), area.top() + (area.height() - sign) / 2, sign, sign);
     parts.Subject = QRect(parts.Sign.right() + Gap, area.top(), subject, area.height());
     parts.Team = QRect(area.right() - aside, area.top(), aside, area.height());
+    // Crests stand below each other, left of the widest abbreviation.
+    const int side = CrestSide(option.fontMetrics);
+    const int widest = std::max(aside, option.fontMetrics.horizontalAdvance("WWW") + Gap);
+    parts.Crested = QRect(area.right() - widest - side + Gap / 2, area.top() + (area.height() - side) / 2, side, side);
     const int words = parts.Subject.right() + Gap;
-    parts.Words = QRect(words, area.top(), std::max(0, parts.Team.left() - words), area.height());
+    const int end = team.isEmpty() ? parts.Team.left() : parts.Crested.left() - Gap / 2;
+    parts.Words = QRect(words, area.top(), std::max(0, end - words), area.height());
     return parts;
 }
 
@@ -93,6 +98,7 @@ public:
         draw(parts.Words, item.font, index.data(WordsRole).toString(), Qt::AlignLeft);
         painter->setPen(Muted(front, ground));
         draw(parts.Team, item.font, index.data(entry::AsideRole).toStringList().join(' '), Qt::AlignRight);
+        PaintCrest(*painter, parts.Crested, index.data(entry::CrestRole).value<Crest>());
         painter->restore();
     }
 
@@ -208,6 +214,7 @@ void ChangeList::Tell(const QString& heading, const std::vector<ChangeEntry>& en
         QListWidgetItem* item = list->item(list->count() - 1);
         item->setData(ToneRole, static_cast<int>(change.Tone));
         item->setData(OwnRole, change.IsOwn);
+        item->setData(entry::CrestRole, QVariant::fromValue(change.Crested));
         item->setData(SubjectRole, change.Subject);
         item->setData(WordsRole, change.Words);
     }
@@ -233,13 +240,14 @@ std::vector<ChangeEntry> EntriesOf(const Tables& league, const std::vector<Diffe
 {
     std::vector<ChangeEntry> entries;
     for (const Difference& difference : told)
-        entries.push_back({.Tone = RowOf(difference.Kind).Tone,
-                           .IsOwn = CircleOf(league, difference, team) == Circle::Own,
-                           .Subject = ToQString(SubjectOf(difference)),
-                           .Words = ToQString(WordsOf(league, Machine(), difference)),
-                           .Team = TeamTable::Has(difference.Team)
-                                       ? ToQString(league.Teams[difference.Team].Abbre.Trimmed())
-                                       : QString()});
+        entries.push_back(
+            {.Tone = RowOf(difference.Kind).Tone,
+             .IsOwn = CircleOf(league, difference, team) == Circle::Own,
+             .Subject = ToQString(SubjectOf(difference)),
+             .Words = ToQString(WordsOf(league, Machine(), difference)),
+             .Team =
+                 TeamTable::Has(difference.Team) ? ToQString(league.Teams[difference.Team].Abbre.Trimmed()) : QString(),
+             .Crested = TeamTable::Has(difference.Team) ? CrestOf(league.Teams[difference.Team]) : Crest()});
     return entries;
 }
 

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "desk/Differences.h"
+#include "screens/panels/Crest.h"
 #include "screens/panels/EntryList.h"
 
 #include <functional>
@@ -17,6 +18,7 @@ struct ChangeEntry {
     QString Subject;
     QString Words;
     QString Team;
+    Crest Crested = {}; // beside the team
 };
 
 // Draws the sign of a tone into `area`, each in a shape of its own: a cross, a tick, a triangle up or down, a coin, a dot. The

@@ -1,5 +1,6 @@
 #include "screens/panels/EntryList.h"
 
+#include "screens/panels/Crest.h"
 #include "screens/panels/EntryFigures.h"
 #include "screens/panels/EntryName.h"
 #include "screens/panels/EntrySigns.h"
@@ -40,6 +41,13 @@ QRect BeforeFigures(const QRect& entry, const QObject* list)
 {
     const EntryFigures* figures = EntryFigures::On(list);
     return figures == nullptr ? entry : entry.adjusted(0, 0, -figures->Room(), 0);
+}
+
+// What an entry leaves to all else beside the figures and the crests of its list.
+QRect BehindCrest(const QRect& entry, const QObject* list)
+{
+    const EntryCrests* crests = EntryCrests::On(list);
+    return BeforeFigures(crests == nullptr ? entry : entry.adjusted(crests->Room(), 0, 0, 0), list);
 }
 
 // Of an entry, as the list or its model gives it.
@@ -93,6 +101,16 @@ int WidthOfWholeEntry(const EntryList& list)
             width += FitSigns(signs->Of(*NumberOf(&item)), metrics, anyRoom, 0, 0).Room;
         widest = std::max(widest, width);
     }
+    return widest + 2 * SideMargin;
+}
+
+// What the widest name of a list takes.
+int WidthOfWidestName(const EntryList& list)
+{
+    LetterWidths letters(list.fontMetrics());
+    int widest = 0;
+    for (int row = 0; row < list.count(); ++row)
+        widest = std::max(widest, letters.Of(list.item(row)->text()) + LetterWidths::Kerning);
     return widest + 2 * SideMargin;
 }
 
@@ -201,13 +219,15 @@ void EntryDelegate::paint(QPainter* painter, const QStyleOptionViewItem& option,
         figures->Paint(*painter, item.rect, index.data(entry::NumberRole).toInt());
         painter->restore();
     }
-    item.rect = BeforeFigures(item.rect, item.widget);
+    item.rect = BehindCrest(item.rect, item.widget);
     const QRect area = ContentArea(item.rect);
     const int room = AsideRoom(item, index);
     const SignStrip signs = SignsOf(item, index, room);
 
     painter->save();
     painter->setFont(item.font);
+    if (const EntryCrests* crests = EntryCrests::On(item.widget))
+        crests->Paint(*painter, area, index.data(entry::NumberRole).toInt());
     painter->setPen(front);
     const QString shown = Cut(text, item.fontMetrics, area.width() - room - signs.Room);
     painter->drawText(area, Qt::AlignLeft | Qt::AlignVCenter | Qt::TextSingleLine, shown);
@@ -241,7 +261,7 @@ bool EntryDelegate::helpEvent(QHelpEvent* event, QAbstractItemView* view, const 
 {
     const QString text = index.data().toString();
     QStyleOptionViewItem before = option;
-    before.rect = BeforeFigures(option.rect, option.widget);
+    before.rect = BehindCrest(option.rect, option.widget);
     const int room = AsideRoom(before, index);
     const int width = ContentArea(before.rect).width() - room - SignsOf(before, index, room).Room;
     const bool isCut = option.fontMetrics.horizontalAdvance(text) > width;
@@ -347,7 +367,7 @@ bool EntryList::AnAsideHasNoRoom() const
     initViewItemOption(&option);
     for (int row = 0; row < count(); ++row) {
         const QModelIndex entry = model()->index(row, 0);
-        option.rect = BeforeFigures(visualRect(entry), this);
+        option.rect = BehindCrest(visualRect(entry), this);
         if (!AsideOf(entry).join(QString()).isEmpty() && OwnAsideRoom(option, entry) == 0)
             return true;
     }
@@ -364,6 +384,12 @@ void EntryList::paintEvent(QPaintEvent* event)
 {
     if (EntryFigures* figures = EntryFigures::On(this))
         figures->Fit(WidthOfWholeEntry(*this));
+    if (EntryCrests* crests = EntryCrests::On(this)) {
+        const int whole = WidthOfWholeEntry(*this);
+        // Secondary words that have no room anyway ask for none beside a crest.
+        const bool areAsidesOut = keepsAsidesTogether && whole - LetterWidths::Kerning > viewport()->width();
+        crests->Fit(areAsidesOut ? WidthOfWidestName(*this) : whole);
+    }
     leavesAsidesOut = keepsAsidesTogether && AnAsideHasNoRoom();
     QListWidget::paintEvent(event);
 }

@@ -1,5 +1,6 @@
 #include "screens/panels/FigureTable.h"
 
+#include "screens/panels/Crest.h"
 #include "screens/panels/Shades.h"
 
 #include <algorithm>
@@ -35,7 +36,12 @@ public:
             painter->fillRect(cell.rect,
                               ChosenGround(cell.palette.color(QPalette::Active, QPalette::Highlight), words));
         painter->setPen(isChosen ? words : cell.palette.color(QPalette::Text));
-        const QRect room = cell.rect.adjusted(SideRoom, 0, -SideRoom, 0);
+        QRect room = cell.rect.adjusted(SideRoom, 0, -SideRoom, 0);
+        if (const auto crest = index.data(entry::CrestRole).value<Crest>(); !crest.IsNone()) {
+            const int side = CrestSide(cell.fontMetrics);
+            PaintCrest(*painter, QRect(room.left(), room.top() + (room.height() - side) / 2, side, side), crest);
+            room.setLeft(room.left() + CrestRoom(cell.fontMetrics));
+        }
         painter->drawText(room, static_cast<int>(cell.displayAlignment),
                           cell.fontMetrics.elidedText(cell.text, Qt::ElideRight, room.width()));
     }

@@ -1,8 +1,10 @@
 #include "screens/ElementName.h"
+#include "screens/panels/Crest.h"
 #include "screens/panels/Labels.h"
 #include "screens/panels/Layouts.h"
 #include "screens/Pins.h"
 #include "screens/player/frmEditPlayer.h"
+#include "session/Session.h"
 
 #include <algorithm>
 #include <QEvent>
@@ -193,6 +195,20 @@ QWidget* frmEditPlayer::MakeIdentityGroup()
     QGridLayout* grid = MakeFieldGrid(group, LongestCaption);
     AddRow(grid, "Name : ", txtName);
     AddRow(grid, "Team : ", txtTeam);
+    const auto crestOfShown = [this] {
+        const auto person = txtTeam->text().isEmpty() ? std::nullopt : ShownPerson();
+        const long long team =
+            !person ? 0 : OnPerson(OpenLeague, *person, [](const auto& record) -> long long { return record.Team; });
+        return TeamTable::Has(team) ? CrestOf(Teams[team]) : Crest();
+    };
+    auto* crest = new CrestLabel(crestOfShown, group);
+    crest->hide();
+    connect(txtTeam, &QLineEdit::textChanged, crest, [crest, crestOfShown] {
+        crest->setVisible(!crestOfShown().IsNone());
+        crest->update();
+    });
+    grid->removeWidget(txtTeam);
+    grid->addLayout(MakeRow({crest, txtTeam}), grid->rowCount() - 1, FieldColumn);
     AddRow(grid, "Country :", txtCountry);
     AddRow(grid, "Age : ", txtAge);
     AddRow(grid, "Weight :", txtWeight);

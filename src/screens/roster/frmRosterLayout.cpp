@@ -1,5 +1,6 @@
 #include "desk/RosterPaper.h"
 #include "screens/ElementName.h"
+#include "screens/panels/Crest.h"
 #include "screens/panels/EntryFigures.h"
 #include "screens/panels/EntrySigns.h"
 #include "screens/panels/Labels.h"
@@ -32,7 +33,7 @@ frmRoster::frmRoster(Stage& stage) : Screen(stage, "frmRoster")
     auto* content = new QWidget(this);
     QVBoxLayout* column = MakePage(content);
 
-    QHBoxLayout* header = MakeRow({lblTeamName, lblComplete}, Margin);
+    QHBoxLayout* header = MakeRow({MakeOwnCrest(*lblTeamName, content), lblTeamName, lblComplete}, Margin);
     header->addStretch(1);
     header->addWidget(new MutedLabel("Show : ", content));
     for (QCheckBox* filter : chkPosition)

@@ -12,6 +12,15 @@
 
 namespace dravik {
 
+const Team* TeamOf(const SquadSight& sight, SquadPerson who)
+{
+    const long long number =
+        OnPerson(*sight.League, who.Id(), [](const auto& person) -> long long { return person.Team; });
+    if (!TeamTable::Has(number) || !sight.League->Teams[number].InUse)
+        return nullptr;
+    return &sight.League->Teams[number];
+}
+
 namespace {
 
 constexpr int Today = 1; // the first of the ten days
@@ -24,14 +33,6 @@ auto Of(const SquadSight& sight, SquadPerson who, Visit&& visit)
 }
 
 using Found = std::optional<long long>;
-
-const Team* TeamOf(const SquadSight& sight, SquadPerson who)
-{
-    const long long number = Of(sight, who, [](const auto& person) -> long long { return person.Team; });
-    if (!TeamTable::Has(number) || !sight.League->Teams[number].InUse)
-        return nullptr;
-    return &sight.League->Teams[number];
-}
 
 std::string NameText(const SquadSight& sight, SquadPerson who, int /*rating*/) { return NameOf(*sight.League, who); }
 
@@ -239,7 +240,7 @@ std::vector<ColumnRow> FrontColumns()
                     .Order = Words,
                     .Cells = SquadCells::Name,
                     .WordsOf = NameText}),
-        Row(OnPeople, {.Key = "Team",
+        Row(OnPeople, {.Key = TeamKey,
                        .Caption = "Team",
                        .Meaning = "Team",
                        .Order = Words,

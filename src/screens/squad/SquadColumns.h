@@ -45,6 +45,12 @@ int CountOf(const Tables& league, SquadKind kind);
 // The last slot of that table.
 int LastSlotOf(SquadKind kind);
 
+// The key of the column with his team.
+inline constexpr std::string_view TeamKey = "Team";
+
+// His team; null where he has none that is in use.
+const Team* TeamOf(const SquadSight& sight, SquadPerson who);
+
 // How somebody is called, as bytes of the code page without outer blanks.
 std::string NameOf(const Tables& league, SquadPerson who);
 

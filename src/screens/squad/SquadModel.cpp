@@ -1,6 +1,7 @@
 #include "screens/squad/SquadModel.h"
 
 #include "rules/PersonSigns.h"
+#include "screens/panels/Crest.h"
 #include "screens/platform/CodePage.h"
 #include "session/PinnedPeople.h"
 
@@ -273,6 +274,10 @@ QVariant SquadModel::data(const QModelIndex& index, int role) const
     case SignRole:
         if (column.Cells == SquadCells::Condition && SignsOf(*sight.League, who.Id(), 0).Has(Sign::Injured))
             return static_cast<int>(Sign::Injured);
+        return {};
+    case entry::CrestRole:
+        if (const Team* team = column.Key == TeamKey ? TeamOf(sight, who) : nullptr)
+            return QVariant::fromValue(CrestOf(*team));
         return {};
     case NumberRole:
         if (const auto number = column.NumberOf == nullptr ? std::nullopt : column.NumberOf(sight, who, column.Rating))

@@ -1,6 +1,7 @@
 #include "screens/squad/SquadTable.h"
 
 #include "screens/panels/CompareCells.h"
+#include "screens/panels/Crest.h"
 #include "screens/panels/Shades.h"
 #include "screens/panels/SignShapes.h"
 #include "screens/platform/CodePage.h"
@@ -86,6 +87,13 @@ void SquadDelegate::paint(QPainter* painter, const QStyleOptionViewItem& option,
         PaintShape(*painter, Sign::Pinned, QRectF(words.right() - side, words.center().y() - side / 2.0, side, side),
                    front, back);
         words.setRight(words.right() - side - Gap / 2);
+    }
+    // A column that the user made narrow keeps its words.
+    if (const auto crest = index.data(entry::CrestRole).value<Crest>();
+        !crest.IsNone() && item.fontMetrics.horizontalAdvance(text) + CrestRoom(item.fontMetrics) <= words.width()) {
+        const int side = CrestSide(item.fontMetrics);
+        PaintCrest(*painter, QRect(words.left(), words.top() + (words.height() - side) / 2, side, side), crest);
+        words.setLeft(words.left() + CrestRoom(item.fontMetrics));
     }
     painter->setPen(ink);
     const auto alignment = static_cast<int>(item.displayAlignment) | Qt::TextSingleLine;
@@ -263,7 +271,8 @@ int SquadTable::FirstWidthOf(const SquadColumn& column) const
             widest = sample;
     const QString heading = ToQString(column.Caption);
     const QFontMetrics metrics = fontMetrics();
-    return std::max(metrics.horizontalAdvance(widest), metrics.horizontalAdvance(heading)) + 2 * SideMargin + 2;
+    const int crest = column.Key == TeamKey ? CrestRoom(metrics) : 0;
+    return std::max(metrics.horizontalAdvance(widest) + crest, metrics.horizontalAdvance(heading)) + 2 * SideMargin + 2;
 }
 
 std::string SquadTable::Arrangement() const

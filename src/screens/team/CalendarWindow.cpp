@@ -2,6 +2,7 @@
 
 #include "desk/SeasonCalendar.h"
 #include "desk/SlotPicks.h"
+#include "screens/panels/Crest.h"
 #include "screens/panels/Labels.h"
 #include "screens/panels/Layouts.h"
 #include "screens/PersonWords.h"
@@ -115,6 +116,12 @@ void CalendarWindow::ShowAnew()
     for (const CalendarDay& day : season)
         rows << RowOf(day);
     tblSeason->Show(rows);
+    for (int row = 0; row < static_cast<int>(season.size()); ++row) {
+        const int opponent = season[static_cast<std::size_t>(row)].Game.Opponent;
+        tblSeason->item(row, OpponentColumn)
+            ->setData(entry::CrestRole,
+                      QVariant::fromValue(TeamTable::Has(opponent) ? CrestOf(Teams[opponent]) : Crest()));
+    }
     const bool mayChoose = MayChooseStarters(OpenLeague, Machine(), OwnNumber());
     const std::vector<SlotPick> goalies = PicksFor(OpenWork(), OwnNumber(), Side::Pro, StartSlot());
     for (int row = 0; row < static_cast<int>(season.size()) && row < LineDays; ++row)

@@ -3,6 +3,7 @@
 #include "desk/TeamNames.h"
 #include "machine/Reporting.h"
 #include "screens/EventGuard.h"
+#include "screens/panels/Crest.h"
 #include "screens/platform/CodePage.h"
 #include "screens/Shown.h"
 #include "screens/Stage.h"
@@ -16,6 +17,7 @@ void frmTeam::ShowName(const Team& team)
 {
     SetTitle(ToQString(WindowTitle + " - ") + Shown(team.Name));
     lblTitle->setText(Shown(team.Name));
+    findChild<CrestLabel*>()->update();
 }
 
 void frmTeam::ShowBoxes(const Team& team)

@@ -1,5 +1,6 @@
 #include "screens/Looks.h"
 #include "screens/panels/ChangeList.h"
+#include "screens/panels/Crest.h"
 #include "screens/panels/ElidedLabel.h"
 #include "screens/panels/Labels.h"
 #include "screens/panels/Layouts.h"
@@ -42,7 +43,7 @@ frmTeam::frmTeam(Stage& stage) : Screen(stage, "frmTeam")
     auto* content = new QWidget(this);
     QVBoxLayout* column = MakePage(content, Margin);
 
-    QHBoxLayout* header = MakeRow({lblTitle, lblDivision, lblConference}, Margin);
+    QHBoxLayout* header = MakeRow({MakeOwnCrest(*lblTitle, content), lblTitle, lblDivision, lblConference}, Margin);
     header->addStretch(1);
     column->addLayout(header);
 
