@@ -1,3 +1,4 @@
+#include "desk/LineMakers.h"
 #include "desk/LineUpPaper.h"
 #include "desk/Strategy.h"
 #include "screens/ElementName.h"
@@ -8,7 +9,9 @@
 #include "screens/panels/Layouts.h"
 #include "screens/panels/PersonCards.h"
 #include "screens/panels/ShareCommand.h"
+#include "screens/panels/WhyClosed.h"
 #include "screens/Pins.h"
+#include "screens/platform/CodePage.h"
 #include "session/Session.h"
 
 #include <QCoreApplication>
@@ -147,6 +150,9 @@ void LinesScreen::MakeCommands()
     cmdSheet->setToolTip("All slots of the day at once, in a window of its own (Ctrl+B)");
     cmdDebug = MakeCommand("cmdDebug", "W&hy are my lines incomplete?", [this] { cmdDebug_Click(); });
     cmdExit = MakeCommand("cmdExit", "E&xit", [this] { cmdExit_Click(); });
+    TellWhyClosed({cmdAutoLines, cmdRepairAll}, ToQString(MakersClosedWords));
+    TellWhyClosed({cmdCopy}, "The next days are unknown: the league shows no schedule, or no game is left.");
+    TellWhyClosed({cmdDebug}, "The lines of this day are complete.");
     Commands =
         MakeFooter({cmdAutoLines, cmdRepairAll, cmdWipeLines, cmdCopy, cmdCopyAll}, {MakeHistoryCommands(), cmdExit});
 }

@@ -4,6 +4,7 @@
 #include "screens/panels/EntrySigns.h"
 #include "screens/panels/Labels.h"
 #include "screens/panels/Layouts.h"
+#include "screens/panels/WhyClosed.h"
 #include "screens/platform/CodePage.h"
 #include "screens/platform/Palettes.h"
 
@@ -43,6 +44,7 @@ SlotPicker::SlotPicker(QWidget* screen) : QFrame(screen)
     cmdShowPlayer = new QPushButton("Show Player", this);
     cmdShowPlayer->setObjectName("cmdShowPlayer");
     cmdShowPlayer->setToolTip("Shows him without placing him (Shift+Enter)");
+    TellWhyClosed({cmdShowPlayer}, "Nobody who may stand there has that name.");
     auto* hint = new MutedLabel("Enter places", this);
 
     QVBoxLayout* column = MakeColumn(this, Gap / 2);

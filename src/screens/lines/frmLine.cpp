@@ -2,6 +2,8 @@
 
 #include "desk/LineMakers.h"
 #include "rules/LineJudge.h"
+#include "screens/panels/WhyClosed.h"
+#include "screens/platform/CodePage.h"
 #include "screens/Stage.h"
 #include "session/Session.h"
 
@@ -25,6 +27,7 @@ frmLine::frmLine(Stage& stage) : LinesScreen(stage, Pro)
 {
     cmdPartialLine = MakeCommand("cmdPartialLine", "Pa&rtial Auto Lines",
                                  AsDayStep("Partial Auto Lines", [this] { cmdPartialLine_Click(); }));
+    TellWhyClosed({cmdPartialLine}, ToQString(MakersClosedWords));
     Commands->insertWidget(1, cmdPartialLine);
     setTabOrder(cmdAutoLines, cmdPartialLine);
 }

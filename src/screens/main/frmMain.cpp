@@ -15,6 +15,7 @@
 #include "screens/panels/KeptPlace.h"
 #include "screens/panels/Labels.h"
 #include "screens/panels/Layouts.h"
+#include "screens/panels/WhyClosed.h"
 #include "screens/platform/CodePage.h"
 #include "screens/Shown.h"
 #include "screens/Stage.h"
@@ -38,6 +39,10 @@ constexpr int FilledHeight = 480;
 constexpr int NarrowWidth = 920;
 constexpr int WideWidth = 1240;
 constexpr int LeastListWidth = 130;
+
+// Why a command of the team is closed.
+constexpr const char* DeadlineOver = "The trade deadline is over: offers are made again in the off-season.";
+constexpr const char* NoDraftNear = "The league has no draft ahead.";
 
 } // namespace
 
@@ -137,6 +142,9 @@ void frmMain::MakeMenus()
                                                      {mnuFreeAgents, "Ctrl+Shift+A"}, {mnuDraft, "Ctrl+D"}};
     for (const auto& [item, key] : keys)
         item->setShortcut(QKeySequence(key));
+    TellWhyClosed(mnuFreeAgents, [] { return QString(DeadlineOver); });
+    TellWhyClosed(mnuDraft, [] { return QString(NoDraftNear); });
+    TellWhyClosed(mnuRecent->menuAction(), [] { return QString("No league has been opened yet."); });
 
     mnuView = makeMenu("mnuView", "&View");
     MakeViewMenu();
@@ -230,6 +238,7 @@ QPushButton* frmMain::MakeShortcut(QAction* action)
 {
     QPushButton* button =
         MakeCommand("cmd" + action->objectName().mid(3), action->iconText(), [action] { action->trigger(); });
+    TellWhyClosed({button}, [action] { return ReasonOf(*action); });
     connect(action, &QAction::changed, button, [action, button] {
         button->setText(action->iconText());
         button->setEnabled(action->isEnabled());

@@ -5,6 +5,7 @@
 #include "screens/panels/Labels.h"
 #include "screens/panels/Layouts.h"
 #include "screens/panels/PersonCards.h"
+#include "screens/panels/WhyClosed.h"
 #include "screens/PersonWords.h"
 #include "screens/Pins.h"
 #include "session/OpenMarket.h"
@@ -123,6 +124,11 @@ void frmDraft::MakeControls()
     for (QPushButton* command : {cmdFindNext, cmdLoad, cmdBringBack})
         command->setFocusPolicy(Qt::NoFocus); // the tab key goes its way as without them
     cmdBringBack->hide();
+
+    TellWhyClosed({cmdChoose}, "There is nobody to choose.");
+    TellWhyClosed({cmdSaveToFile, cmdUp, cmdDown, cmdRemove}, "The draft list is empty: add somebody first.");
+    for (QCheckBox* filter : chkPosition)
+        TellWhyClosed({filter}, "The prospects of an entry draft have no positions yet.");
 }
 
 QWidget* frmDraft::MakeListColumn(QLabel* heading, EntryList* list)

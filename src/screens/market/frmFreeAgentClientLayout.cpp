@@ -5,6 +5,7 @@
 #include "screens/panels/Labels.h"
 #include "screens/panels/Layouts.h"
 #include "screens/panels/PersonCards.h"
+#include "screens/panels/WhyClosed.h"
 #include "screens/PersonWords.h"
 #include "screens/Pins.h"
 #include "session/OpenMarket.h"
@@ -122,6 +123,7 @@ void frmFreeAgentClient::MakeControls()
                                AsStep("Bring back offers", [this] { cmdBringBack_Click(); }));
     cmdWhatIf = MakeCommand("cmdWhatIf", "&What If", [this] { cmdWhatIf_Click(); });
     cmdWhatIf->setToolTip("The team with all offers taken");
+    TellWhyClosed({chkShowPlayerWithOffer, cmdLoad, cmdWhatIf}, "No team is chosen that could make an offer.");
     for (QPushButton* command : {cmdFindNext, cmdLoad, cmdBringBack, cmdWhatIf})
         command->setFocusPolicy(Qt::NoFocus); // the tab key goes its way as without them
     cmdBringBack->hide();

@@ -2,6 +2,7 @@
 #include "screens/panels/Crest.h"
 #include "screens/panels/Labels.h"
 #include "screens/panels/Layouts.h"
+#include "screens/panels/WhyClosed.h"
 #include "screens/Pins.h"
 #include "screens/player/frmEditPlayer.h"
 #include "session/Session.h"
@@ -18,6 +19,7 @@ namespace {
 
 constexpr QSize DefaultSize(1120, 600);
 constexpr int MostListRows = 8;
+constexpr const char* KeptByTheLeague = "Records are kept by the league: a manager sees them, and changes none.";
 constexpr const char* LongestCaption = "Suspension :";
 constexpr const char* WidestAmount = "-2147483648";
 constexpr const char* WidestNumber = "-999999";
@@ -98,6 +100,11 @@ frmEditPlayer::frmEditPlayer(Stage& stage) : Screen(stage, "frmEditPlayer")
 
     SetPage(content, MakeFooter({chkEdit, cmdSearch, cmdNewPlayer, cmdNewGoaler, cmdErase}, {cmdExit}));
 
+    TellWhyClosed(
+        {chkEdit, cmdSearch, cmdNewPlayer, cmdNewGoaler, cmdErase, chkRookie, chkNoTrade, chkNoApplyRerate, optGoaler},
+        KeptByTheLeague);
+    for (QRadioButton* option : optPosition)
+        TellWhyClosed({option}, KeptByTheLeague);
     optGoaler->hide();
     FitList();
     CloseEditor();

@@ -1,3 +1,4 @@
+#include "desk/LineMakers.h"
 #include "desk/RosterPaper.h"
 #include "screens/ElementName.h"
 #include "screens/panels/Crest.h"
@@ -6,9 +7,11 @@
 #include "screens/panels/Labels.h"
 #include "screens/panels/Layouts.h"
 #include "screens/panels/ShareCommand.h"
+#include "screens/panels/WhyClosed.h"
 #include "screens/PersonFigures.h"
 #include "screens/PersonWords.h"
 #include "screens/Pins.h"
+#include "screens/platform/CodePage.h"
 #include "screens/roster/frmRoster.h"
 #include "screens/RosterEntry.h"
 #include "session/Session.h"
@@ -134,6 +137,27 @@ void frmRoster::MakeControls()
          std::initializer_list<QWidget*>{chkProtected, cmdRelease, cmdSendToWaiver, chkNoApplyRerate, chkNoTrade})
         hidden->hide();
     Payroll = new PayrollBar(this);
+
+    const auto howMany = [this] {
+        int chosen = 0;
+        for (const PickList* list : lstPlayer)
+            chosen += list->ChosenCount();
+        return chosen;
+    };
+    const auto oneAlone = [howMany] { return howMany() == 1 ? QString() : QString("Choose one player first."); };
+    const auto wanted = [oneAlone](const char* otherwise) {
+        return [oneAlone, otherwise] { return oneAlone().isEmpty() ? QString(otherwise) : oneAlone(); };
+    };
+    TellWhyClosed({cmdToScratchesFromPro}, "Choose somebody of the pro team first.");
+    TellWhyClosed({cmdToPro, cmdToFarm}, "Choose somebody among the scratches first.");
+    TellWhyClosed({cmdToScratchesFromFarm}, "Choose somebody on the farm first.");
+    TellWhyClosed(
+        {cmdCaptain, cmdAssistant},
+        wanted("Skaters of the pro team and scratches alone wear a letter: no goalie, and nobody on the farm."));
+    TellWhyClosed({cmdTradeAvailable}, wanted("He may not be traded."));
+    TellWhyClosed({cmdSendToWaiver}, wanted("The league has no waivers, or the deadline has passed."));
+    TellWhyClosed({cmdRelease, chkProtected, chkNoApplyRerate, chkNoTrade}, oneAlone);
+    TellWhyClosed({cmdAutoRoster, cmdAutoRosterPartial}, ToQString(MakersClosedWords));
 }
 
 PickList* frmRoster::MakeList(int index, const QString& caption)

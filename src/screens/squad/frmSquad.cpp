@@ -6,6 +6,7 @@
 #include "screens/panels/Accessible.h"
 #include "screens/panels/KeptPlace.h"
 #include "screens/panels/TypedName.h"
+#include "screens/panels/WhyClosed.h"
 #include "screens/Pins.h"
 #include "screens/platform/CodePage.h"
 #include "screens/platform/Dialogs.h"
@@ -385,6 +386,7 @@ void frmSquad::FillColumnMenu()
         item->setChecked(!table.isColumnHidden(column));
         // The last one stays, or there would be no table.
         item->setEnabled(!item->isChecked() || table.ShownColumns().size() > 1);
+        TellWhyClosed(item, [] { return QString("The last column stays."); });
         connect(item, &QAction::toggled, this, [&table, column](bool shows) { table.SetShown(column, shows); });
     }
     mnuColumns->addSeparator();

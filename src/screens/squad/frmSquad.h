@@ -86,6 +86,7 @@ private:
     void MakeTables();
     QPushButton* MakeCommand(const QString& name, const QString& caption, void (frmSquad::*click)());
     void MakeKeys();
+    void MakeReasons();
     void LayOut();
     [[nodiscard]] QWidget* MakeFilterRow();
     [[nodiscard]] QWidget* MakeTableArea();

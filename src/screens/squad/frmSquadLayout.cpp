@@ -4,6 +4,7 @@
 #include "screens/panels/KeySheet.h"
 #include "screens/panels/Labels.h"
 #include "screens/panels/Layouts.h"
+#include "screens/panels/WhyClosed.h"
 #include "screens/Pins.h"
 #include "screens/platform/CodePage.h"
 #include "screens/Screen.h"
@@ -77,6 +78,7 @@ frmSquad::frmSquad(Stage& stage) : owner(stage)
     chkDock->setToolTip("Keep it beside the screen in front, where the display has room for both");
     connect(chkDock, &QCheckBox::toggled, this, [this] { RunEvent("chkDock", [this] { chkDock_Click(); }); });
     MakeKeys();
+    MakeReasons();
     LayOut();
     connect(&NewsOfPins(), &PinNews::Changed, this, [this] { RunEvent("frmSquad", [this] { ShowPins(); }); });
 }
@@ -199,6 +201,19 @@ void frmSquad::MakeKeys()
     add("Alt+Right", [this] { Table().MoveColumnAtHand(1); });
     add("Ctrl+M", [this] { cmdPin->click(); });
     add("Esc", [this] { Leave(); });
+}
+
+void frmSquad::MakeReasons()
+{
+    const auto isAt = [this](SquadKind kind) { return Table().People().Kind() == kind; };
+    TellWhyClosed({cmdShowPlayer, cmdPin}, [isAt] {
+        return QString(isAt(SquadKind::Prospects) ? "Of a prospect there is a name alone." : "Choose somebody first.");
+    });
+    TellWhyClosed({cmdPick}, "Choose somebody first who is in a list of the screen in front.");
+    TellWhyClosed({cmdCopy, cmdSaveCsv}, "Nobody is in the table.");
+    TellWhyClosed({cmdShowAll, chkMayBeAsked}, "Of a prospect there is a name alone: nothing else lets him through.");
+    for (QCheckBox* box : chkPosition)
+        TellWhyClosed({box}, "Skaters alone have one of these positions.");
 }
 
 QWidget* frmSquad::MakeFilterRow()

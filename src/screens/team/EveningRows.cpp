@@ -182,6 +182,8 @@ void EveningRows::Show(const EveningItem& item, const Saved& saved)
     row.SavedWords->setText(saved.Words);
     row.SavedWords->setVisible(!saved.Words.isEmpty());
     row.Command->setEnabled(item.State != EveningState::Closed);
+    // Closed by the league, as the words beside it say.
+    row.Command->setToolTip(row.Command->isEnabled() ? QString() : Qt::convertFromPlainText(row.Words->text()));
     const QString name = QString(task.Caption).replace("&&", "&");
     row.Command->setAccessibleName("Open " + name);
     QStringList description{SignWords(item.State, saved.IsUnsaved), ToQString(item.Words), saved.Words};

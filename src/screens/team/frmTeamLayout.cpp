@@ -4,6 +4,7 @@
 #include "screens/panels/ElidedLabel.h"
 #include "screens/panels/Labels.h"
 #include "screens/panels/Layouts.h"
+#include "screens/panels/WhyClosed.h"
 #include "screens/team/EveningRows.h"
 #include "screens/team/frmTeam.h"
 #include "session/OpenSaves.h"
@@ -78,6 +79,8 @@ frmTeam::frmTeam(Stage& stage) : Screen(stage, "frmTeam")
 
     SetPage(content, MakeFooter({cmdPassword, cmdProspect, calendar, graphs}, {MakeHistoryCommands(), cmdExit}));
 
+    TellWhyClosed({cmdFarmLines}, "The league plays without farm teams.");
+    TellWhyClosed({cmdSaveToFile}, "The lines of day 1 are not complete on both sides.");
     CloseWhatTheLeagueKeeps();
     SetTabOrder();
     ShowSaveHint({}, {});
