@@ -15,7 +15,7 @@ namespace {
 constexpr const char* ColumnKeys[] = {"SquadSkaters", "SquadGoalies", "SquadProspects"};
 constexpr const char* SortKeys[] = {"SquadSkatersSort", "SquadGoaliesSort", "SquadProspectsSort"};
 constexpr const char* FilterKey = "SquadFilters";
-constexpr const char* TeamKey = "SquadTeam"; // by its name, since numbers are others in another league
+constexpr const char* OneTeamKey = "SquadTeam"; // by its name, since numbers are others in another league
 constexpr const char* DockKey = "SquadDocked";
 constexpr const char* NoTeam = "-"; // no team is called so
 
@@ -50,7 +50,7 @@ void frmSquad::Restore()
 void frmSquad::RestoreFilters()
 {
     const QSignalBlocker team(cboTeam), stands(cboStands), asked(chkMayBeAsked);
-    const QString kept = ToQString(Remembered(TeamKey));
+    const QString kept = ToQString(Remembered(OneTeamKey));
     const int row = kept == NoTeam ? cboTeam->findData(SquadFilter::WithoutTeam)
                                    : cboTeam->findText(kept, Qt::MatchFixedString | Qt::MatchCaseSensitive);
     cboTeam->setCurrentIndex(std::max(0, row));
@@ -100,7 +100,7 @@ void frmSquad::Keep()
         Remember(SortKeys[at], tables[at]->People().SortedAs());
     }
     const QVariant team = cboTeam->currentData();
-    Remember(TeamKey, !team.isValid()                            ? std::string()
+    Remember(OneTeamKey, !team.isValid()                            ? std::string()
                       : team.toInt() == SquadFilter::WithoutTeam ? std::string(NoTeam)
                                                                  : FromQString(cboTeam->currentText()));
     Remember(FilterKey, FromQString(FiltersInText()));
