@@ -398,8 +398,13 @@ TEST_F(DesignWordsTest, OfTheDraftList)
 TEST_F(DesignWordsTest, OfTheAboutScreen)
 {
     const std::vector<DesignWords> expected = {
-        {"frmAbout", ""}, {"lblTitle", "Dravik Hockey Simulator Client"}, {"lblVersion", ""},
-        {"lblThank", ""}, {"lblWebSite", "https://www.example.org/"},     {"cmdExit", "E&xit"},
+        {"frmAbout", ""},
+        {"lblTitle", "Dravik Hockey Simulator Client"},
+        {"lblVersion", ""},
+        {"lblThank", ""},
+        {"lblWebSite", "https://www.example.org/"},
+        {"lblThirdParty", "What others wrote, and its licences"},
+        {"cmdExit", "E&xit"},
     };
     const auto screen = std::make_unique<frmAbout>(TheStage); // too large for a stack
     EXPECT_THAT(DesignWordsOf(*screen), UnorderedElementsAreArray(expected));

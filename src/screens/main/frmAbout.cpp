@@ -3,6 +3,7 @@
 #include "machine/Location.h"
 #include "machine/Platform.h"
 #include "machine/Reporting.h"
+#include "screens/main/ThirdPartyPage.h"
 #include "screens/panels/Labels.h"
 #include "screens/panels/Shades.h"
 #include "screens/platform/CodePage.h"
@@ -32,6 +33,11 @@ frmAbout::frmAbout(Stage& stage) : Screen(stage, "frmAbout")
     lblWebSite->setObjectName("lblWebSite");
     lblWebSite->setAccessibleDescription("Opens the web site");
     connect(lblWebSite, &LinkLabel::Clicked, this, [this] { RunEvent("lblWebSite", [this] { lblWebSite_Click(); }); });
+    lblThirdParty = new LinkLabel("What others wrote, and its licences", sheet);
+    lblThirdParty->setObjectName("lblThirdParty");
+    lblThirdParty->setAccessibleDescription("Shows the page of it in a window");
+    connect(lblThirdParty, &LinkLabel::Clicked, this,
+            [this] { RunEvent("lblThirdParty", [this] { lblThirdParty_Click(); }); });
     cmdExit = MakeCommand("cmdExit", "E&xit", [this] { cmdExit_Click(); });
     cmdExit->setDefault(true);
     connect(new QShortcut(Qt::Key_Escape, this), &QShortcut::activated, cmdExit, &QPushButton::click);
@@ -44,6 +50,7 @@ frmAbout::frmAbout(Stage& stage) : Screen(stage, "frmAbout")
     column->addSpacing(Margin);
     column->addWidget(lblThank);
     column->addWidget(lblWebSite, 0, Qt::AlignLeft);
+    column->addWidget(lblThirdParty, 0, Qt::AlignLeft);
     column->addSpacing(Margin);
     column->addWidget(cmdExit, 0, Qt::AlignRight);
     auto* content = new QWidget(this);
@@ -52,6 +59,7 @@ frmAbout::frmAbout(Stage& stage) : Screen(stage, "frmAbout")
     middle->addWidget(sheet, 0, 0, Qt::AlignCenter);
     setCentralWidget(content);
     setTabOrder(cmdExit, lblWebSite);
+    setTabOrder(lblWebSite, lblThirdParty);
 }
 
 void frmAbout::FormLoad()
@@ -68,6 +76,13 @@ void frmAbout::FormLoad()
 }
 
 void frmAbout::lblWebSite_Click() { OpenLocation(Machine(), FromQString(lblWebSite->text()), NormalWindow); }
+
+void frmAbout::lblThirdParty_Click()
+{
+    if (page == nullptr)
+        page = new ThirdPartyPage(this);
+    page->Open();
+}
 
 void frmAbout::cmdExit_Click() { Unload(); }
 

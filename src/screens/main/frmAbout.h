@@ -8,7 +8,9 @@ namespace dravik {
 // The address of the product's web site. The product has none yet; this one is reserved and leads nowhere.
 inline constexpr const char* WebSite = "https://www.example.org/";
 
-// Who this program is: thanks, version and web site. It stands before the main screen, which
+class ThirdPartyPage;
+
+// Who this program is: thanks, version, web site, and the page of what others wrote. It stands before the main screen, which
 // waits until it is closed.
 class frmAbout : public Screen {
 public:
@@ -17,11 +19,15 @@ public:
     void FormLoad() override;
 
     void lblWebSite_Click();
+    void lblThirdParty_Click();
     void cmdExit_Click();
 
     QLabel *lblThank, *lblVersion;
-    LinkLabel* lblWebSite;
+    LinkLabel *lblWebSite, *lblThirdParty;
     QPushButton* cmdExit;
+
+private:
+    ThirdPartyPage* page = nullptr; // made when it is asked for
 };
 
 } // namespace dravik
