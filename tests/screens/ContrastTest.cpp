@@ -4,6 +4,7 @@
 #include "screens/lines/LinesScreen.h"
 #include "screens/Looks.h"
 #include "screens/main/GuideWindow.h"
+#include "screens/panels/Crest.h"
 #include "screens/panels/DayStrip.h"
 #include "screens/panels/EditBox.h"
 #include "screens/panels/Labels.h"
@@ -120,7 +121,9 @@ protected:
                     QRect words = table->visualRect(cell).adjusted(1, 1, -edge, -barBelow);
                     if (cell.data(SquadModel::SignRole).isValid()) // a shape with soft edges
                         words.setLeft(words.right() - table->fontMetrics().horizontalAdvance(cell.data().toString()));
-                    if (table->viewport()->rect().contains(words))
+                    if (cell.data(entry::CrestRole).isValid()) // colours of its own
+                        words.setLeft(words.left() + CrestRoom(table->fontMetrics()) + edge);
+                    if (table->viewport()->rect().contains(table->visualRect(cell)))
                         Measure(picture, *table->viewport(), words, "cell");
                 }
         for (const auto* part : window.findChildren<QWidget*>())
