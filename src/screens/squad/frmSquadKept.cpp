@@ -101,8 +101,8 @@ void frmSquad::Keep()
     }
     const QVariant team = cboTeam->currentData();
     Remember(OneTeamKey, !team.isValid()                            ? std::string()
-                      : team.toInt() == SquadFilter::WithoutTeam ? std::string(NoTeam)
-                                                                 : FromQString(cboTeam->currentText()));
+                         : team.toInt() == SquadFilter::WithoutTeam ? std::string(NoTeam)
+                                                                    : FromQString(cboTeam->currentText()));
     Remember(FilterKey, FromQString(FiltersInText()));
 }
 
