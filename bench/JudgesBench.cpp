@@ -107,8 +107,8 @@ void WeakenFarmDay()
 }
 
 constexpr double JudgeLimit = 4;
-constexpr double RosterAndCapLimit = 2.4; // one walk for the roster and one for both payrolls
-constexpr double CopyLimit = 1.5;         // of one memcpy
+constexpr double RosterAndCapLimit = 2; // one walk for the roster and for both payrolls
+constexpr double CopyLimit = 1.5;       // of one memcpy
 constexpr double MakerLimit = 30;
 constexpr double AllDaysLimit = 15; // a copy of the league and ten judgements
 constexpr double AdviceLimit = 15;  // of the two milliseconds that a day's advice may take, about a fifteenth

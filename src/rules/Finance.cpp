@@ -68,19 +68,25 @@ Result ForTeam(Voice& says, int team, std::string_view ending, Body&& body)
 
 } // namespace
 
-Payrolls PayrollsOf(const Tables& league, int team)
+Payrolls PayrollsOf(const Tables& league, int team) { return PayrollsOf(league, team, PeopleOf(league, team)); }
+
+Payrolls PayrollsOf(const Tables& league, int team, const TeamPeople& people)
 {
     const League& rules = league.LeagueData;
     Single pro;
     Single farm;
-    EachPerson(league, team, [&](const auto& person) {
+    const auto add = [&](const auto& person) {
         if (person.Contract <= 0)
             return;
         if (person.Status > status::Farm)
             AddToPayroll(rules, pro, person, SalaryOf(person));
         else if (person.Status == status::Farm && rules.FarmEnabled)
             AddToPayroll(rules, farm, person, FarmCost(rules, person));
-    });
+    };
+    for (const int player : people.Players)
+        add(league.Players[player]);
+    for (const int goalie : people.Goalies)
+        add(league.Goalies[goalie]);
     if (rules.PayrollIncludesBonus)
         pro += static_cast<double>(league.Teams[team].PayrollBonus);
     return {.Pro = pro.Value(), .Farm = farm.Value()};

@@ -19,4 +19,12 @@ int Next(const Table& people, int team, int after)
 int NextOfTeam(const PlayerTable& people, int team, int after) { return Next(people, team, after); }
 int NextOfTeam(const GoalieTable& people, int team, int after) { return Next(people, team, after); }
 
+TeamPeople PeopleOf(const Tables& league, int team)
+{
+    TeamPeople people;
+    EachOfTeam(league.Players, team, [&](const Player& /*player*/, int index) { people.Players.push_back(index); });
+    EachOfTeam(league.Goalies, team, [&](const Goalie& /*goalie*/, int index) { people.Goalies.push_back(index); });
+    return people;
+}
+
 } // namespace dravik

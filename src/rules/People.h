@@ -2,6 +2,8 @@
 
 #include "league/Tables.h"
 
+#include <vector>
+
 namespace dravik {
 
 // A person belongs to a team when his record is in use and names the team.
@@ -22,6 +24,13 @@ void EachOfTeam(People& people, int team, Visit&& visit)
     for (int index = NextOfTeam(people, team, 0); index != 0; index = NextOfTeam(people, team, index))
         visit(people[index], index);
 }
+
+// The slots of the people of one team, each table's in index order, for who goes through them more than once.
+struct TeamPeople {
+    std::vector<int> Players;
+    std::vector<int> Goalies;
+};
+TeamPeople PeopleOf(const Tables& league, int team);
 
 // Healthy enough to play.
 inline constexpr int HealthyCondition = 95;

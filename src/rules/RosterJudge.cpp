@@ -262,9 +262,13 @@ RosterVerdict CheckRoster(const Work& work, int team, bool log, bool withSalaryC
         }
         verdict.Complete = true;
 
+        // The payroll is of the same people; they are looked for among thousands of others once.
+        const TeamPeople people = PeopleOf(league, team);
         RosterJudge judge(work, team, verdict);
-        EachOfTeam(league.Players, team, [&](Player& player, int index) { judge.Examine(player, index); });
-        EachOfTeam(league.Goalies, team, [&](Goalie& goalie, int index) { judge.Examine(goalie, index); });
+        for (const int index : people.Players)
+            judge.Examine(league.Players[index], index);
+        for (const int index : people.Goalies)
+            judge.Examine(league.Goalies[index], index);
         judge.ComparePro();
         if (league.LeagueData.FarmEnabled && league.LeagueData.FarmRosterRequired)
             judge.CompareBoth();
@@ -272,7 +276,7 @@ RosterVerdict CheckRoster(const Work& work, int team, bool log, bool withSalaryC
         Tell(work, team, verdict, log, showMessage);
         if (!withSalaryCap)
             return;
-        verdict.Cap = CheckSalaryCap(work, team, showMessage);
+        verdict.Cap = CheckSalaryCap(work, team, people, showMessage);
         if (!*verdict.Cap)
             verdict.Complete = false;
     });

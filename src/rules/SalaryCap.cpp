@@ -36,12 +36,50 @@ void Find(const Work& work, int team, CapVerdict& verdict, CapFault fault, long 
         work.Says.WriteLog(text);
 }
 
+// The judgement; `standing` tells where a team that exists stands, and is asked in leagues with a cap alone.
+template <class Standing>
+CapVerdict Judge(const Work& work, int team, bool showMessage, Standing&& standing)
+{
+    CapVerdict verdict;
+    verdict.Failed = FailureOf(work.Says, " in CheckSalaryCap!", [&] {
+        if (!TeamTable::Has(team)) {
+            work.Says.ShowIntegrityFailure();
+            return;
+        }
+        verdict.Within = true;
+        const League& rules = work.League.LeagueData;
+        if (rules.SalaryCapMode == 0)
+            return;
+        const auto find = [&](CapFault fault, long long amount) {
+            Find(work, team, verdict, fault, amount, showMessage);
+        };
+
+        const auto [pro, farm, total, cap] = standing();
+        if (cap && total > *cap) {
+            verdict.Within = false;
+            find(CapFault::Over, total - *cap);
+        }
+        if (rules.FarmSalaryCap > 0 && farm > rules.FarmSalaryCap) {
+            verdict.Within = false;
+            find(CapFault::FarmOver, farm - rules.FarmSalaryCap);
+        }
+        if (total < rules.MinSalaryCap)
+            find(CapFault::Under, rules.MinSalaryCap - total);
+    });
+    return verdict;
+}
+
 } // namespace
 
 CapStanding StandingAgainstCap(const Tables& league, int team)
 {
+    return StandingAgainstCap(league, team, PeopleOf(league, team));
+}
+
+CapStanding StandingAgainstCap(const Tables& league, int team, const TeamPeople& people)
+{
     const League& rules = league.LeagueData;
-    const Payrolls payrolls = PayrollsOf(league, team);
+    const Payrolls payrolls = PayrollsOf(league, team, people);
     CapStanding standing;
     standing.Pro = RoundToInt32(payrolls.Pro);
     standing.Farm = RoundToInt32(payrolls.Farm);
@@ -76,33 +114,12 @@ std::string TextOf(const Tables& league, const Formats& shown, int team, const C
 
 CapVerdict CheckSalaryCap(const Work& work, int team, bool showMessage)
 {
-    CapVerdict verdict;
-    verdict.Failed = FailureOf(work.Says, " in CheckSalaryCap!", [&] {
-        if (!TeamTable::Has(team)) {
-            work.Says.ShowIntegrityFailure();
-            return;
-        }
-        verdict.Within = true;
-        const League& rules = work.League.LeagueData;
-        if (rules.SalaryCapMode == 0)
-            return;
-        const auto find = [&](CapFault fault, long long amount) {
-            Find(work, team, verdict, fault, amount, showMessage);
-        };
+    return Judge(work, team, showMessage, [&] { return StandingAgainstCap(work.League, team); });
+}
 
-        const auto [pro, farm, total, cap] = StandingAgainstCap(work.League, team);
-        if (cap && total > *cap) {
-            verdict.Within = false;
-            find(CapFault::Over, total - *cap);
-        }
-        if (rules.FarmSalaryCap > 0 && farm > rules.FarmSalaryCap) {
-            verdict.Within = false;
-            find(CapFault::FarmOver, farm - rules.FarmSalaryCap);
-        }
-        if (total < rules.MinSalaryCap)
-            find(CapFault::Under, rules.MinSalaryCap - total);
-    });
-    return verdict;
+CapVerdict CheckSalaryCap(const Work& work, int team, const TeamPeople& people, bool showMessage)
+{
+    return Judge(work, team, showMessage, [&] { return StandingAgainstCap(work.League, team, people); });
 }
 
 } // namespace dravik

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "machine/Work.h"
+#include "rules/People.h"
 
 #include <optional>
 #include <string>
@@ -18,8 +19,9 @@ struct CapStanding {
     bool operator==(const CapStanding&) const = default;
 };
 
-// Where a team of 1..100 stands. Payrolls or a cap beyond 32 bits fail with 6.
+// Where a team of 1..100 stands; `people` are those who belong to it. Payrolls or a cap beyond 32 bits fail with 6.
 CapStanding StandingAgainstCap(const Tables& league, int team);
+CapStanding StandingAgainstCap(const Tables& league, int team, const TeamPeople& people);
 
 // What the judge of the cap may find.
 enum class CapFault {
@@ -48,7 +50,8 @@ std::string TextOf(const Tables& league, const Formats& shown, int team, const C
 
 // Whether the payroll stands within the cap. With `showMessage` what is wrong is shown in warning boxes, as long as reports
 // are allowed; otherwise it is logged. A team out of 1..100 shows "Integrity Check Failed!" in a critical box and is not
-// within.
+// within. The other takes the people who belong to the team from a caller who has listed them.
 CapVerdict CheckSalaryCap(const Work& work, int team, bool showMessage);
+CapVerdict CheckSalaryCap(const Work& work, int team, const TeamPeople& people, bool showMessage);
 
 } // namespace dravik
