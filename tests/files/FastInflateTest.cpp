@@ -101,6 +101,25 @@ TEST(FastInflateTest, AStreamThatDoesNotEndWellIsNotWhole)
     }
 }
 
+// What comes is handed on in windows; a stream may end with a window nearly full, full, or just begun.
+TEST(FastInflateTest, AStreamCutAtTheEdgeOfAWindowEnds)
+{
+    constexpr std::size_t window = 1 << 16;
+    const ByteVector bytes = Sample(Kind::Random, 200000, 7);
+    const ByteVector wrapper = Wrapped(bytes, 0);
+    std::size_t edges = 0;
+    for (std::size_t length = window - 2; length <= window + 30; ++length) {
+        const ByteVector cut(wrapper.begin(), wrapper.begin() + static_cast<std::ptrdiff_t>(length));
+        const Outcome outcome = Read(cut);
+        EXPECT_FALSE(outcome.Whole) << length;
+        EXPECT_TRUE(outcome.Came == Unwrapped(cut)) << length;
+        EXPECT_FALSE(IsReadFast(cut)) << length;
+        if (outcome.Came.size() + 1 >= window && outcome.Came.size() <= window + 1)
+            ++edges;
+    }
+    EXPECT_GE(edges, 3U);
+}
+
 // Another method, another reach and a dictionary are zlib's to judge, and so is a head that does not divide.
 TEST(FastInflateTest, OnlyTheHeadsThatZlibWritesAreReadFast)
 {
