@@ -211,14 +211,6 @@ private:
     bool isCut = false;
 };
 
-const KindOfFile* KindNamed(std::string_view start)
-{
-    const auto* kind = std::find_if(std::begin(Kinds), std::end(Kinds), [&](const KindOfFile& one) {
-        return start.size() >= MagicLength(one.Start) && start.substr(2, one.Start.size()) == one.Start;
-    });
-    return kind == std::end(Kinds) ? nullptr : kind;
-}
-
 // The first bytes of what a file holds.
 std::string FirstBytes(const SlotFiles& files, const std::string& path)
 {
@@ -229,6 +221,17 @@ std::string FirstBytes(const SlotFiles& files, const std::string& path)
     };
     ReadSlotFile(files, path, read);
     return {first.data(), first.size()};
+}
+
+SystemFile KindIn(const SlotFiles& files, const std::string& path)
+{
+    const std::string first = FirstBytes(files, path);
+    if (files.Plain && first.substr(2, JournalStart.size()) == JournalStart)
+        return SystemFile::Journal;
+    const auto* kind = std::find_if(std::begin(Kinds), std::end(Kinds), [&](const KindOfFile& one) {
+        return first.substr(2, one.Start.size()) == one.Start;
+    });
+    return kind == std::end(Kinds) ? SystemFile::Unknown : kind->Kind;
 }
 
 long long LengthField(Disk& disk, const std::string& path)
@@ -254,27 +257,38 @@ bool IsPlainFile(Disk& disk, const std::string& path)
     return std::string_view(head.data() + sizeof(Int16), word.size()) == word;
 }
 
+SystemFile SystemFileOf(Disk& disk, const std::string& path)
+{
+    MuteVoice mute;
+    return KindIn({.Disk = disk, .Says = mute, .Plain = IsPlainFile(disk, path)}, path);
+}
+
+std::string_view NameOf(SystemFile kind)
+{
+    static constexpr std::string_view names[] = {
+        "no file of the system", "client file", "lines file", "offer file", "draft file", "journal"};
+    return names[static_cast<std::size_t>(kind)];
+}
+
 VerifiedFile VerifyFile(Disk& disk, const std::string& path)
 {
     VerifiedFile verified;
     MuteVoice mute;
     verified.IsPlain = IsPlainFile(disk, path);
     const SlotFiles files{.Disk = disk, .Says = mute, .Plain = verified.IsPlain};
-    const std::string first = FirstBytes(files, path);
     const auto note = [&](const std::string& words) {
         ++verified.Count;
         verified.Findings.push_back(words);
     };
-    if (verified.IsPlain && first.substr(2, JournalStart.size()) == JournalStart) {
-        verified.Kind = SystemFile::Journal;
+    verified.Kind = KindIn(files, path);
+    if (verified.Kind == SystemFile::Journal)
         return verified;
-    }
-    const KindOfFile* kind = KindNamed(first);
-    if (kind == nullptr) {
+    const auto* kind = std::find_if(std::begin(Kinds), std::end(Kinds),
+                                    [&](const KindOfFile& one) { return one.Kind == verified.Kind; });
+    if (kind == std::end(Kinds)) {
         note("It is no file of the system, or nothing of it is left");
         return verified;
     }
-    verified.Kind = kind->Kind;
     const VerifiedFile before = verified;
     const auto read = [&](SlotReader& slots) {
         Verifier verifier(slots, verified);

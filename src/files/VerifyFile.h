@@ -4,6 +4,7 @@
 #include "machine/Voice.h"
 
 #include <string>
+#include <string_view>
 #include <vector>
 
 namespace dravik {
@@ -25,6 +26,12 @@ inline constexpr std::size_t MostFindings = 1000;
 // Reads the file `path` to its end and looks at everything that can be wrong: the magics, the length, the checksum of a wrapper,
 // and the ranges of every record. Of a journal the kind alone is told. Constant memory. Fails as the disk does.
 VerifiedFile VerifyFile(Disk& disk, const std::string& path);
+
+// What kind of file `path` is by its first bytes, in or out of a wrapper, whole or damaged. Fails as the disk does.
+SystemFile SystemFileOf(Disk& disk, const std::string& path);
+
+// What a kind of file is called: "client file".
+std::string_view NameOf(SystemFile kind);
 
 // Whether the file begins as a plain slot file does: bytes 2 to 5 begin its magic, where a wrapper has the head of a zlib
 // stream. Fails as the disk does.

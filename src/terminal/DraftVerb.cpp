@@ -79,7 +79,7 @@ Verb AddDraft(CLI::App& program)
         "Examples:\n"
         "  dravik draft League.dvs --team 7 --csv ranking.csv --out Gulls.dvd\n"
         "  dravik draft League.dvs --team 7 --read Gulls.dvd > ranking.csv");
-    return MarketVerb(command, options, {.Show = ReadRanking, .Write = WriteRanking});
+    return MarketVerb(command, options, {.Kind = SystemFile::Draft, .Show = ReadRanking, .Write = WriteRanking});
 }
 
 } // namespace dravik::terminal

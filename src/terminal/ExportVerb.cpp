@@ -4,6 +4,7 @@
 #include "terminal/Interrupt.h"
 #include "terminal/LeagueAtHand.h"
 #include "terminal/Problem.h"
+#include "terminal/Target.h"
 #include "terminal/Verbs.h"
 
 #include <filesystem>
@@ -24,11 +25,13 @@ struct ExportOptions {
 
 Answer Export(const std::string& path, const ExportOptions& options)
 {
+    static constexpr const char* names[] = {"PlayersRatings.csv", "CoachesRatings.csv"};
+    const std::string target = options.Folder + PathSeparator;
+    for (const char* name : names)
+        RequireReplaceable({.Path = target + name, .Read = {path}});
     LeagueAtHand league = OpenLeague(path);
     Machine& machine = *league.Machine;
     // Both files are written in a folder of their own first, and take their names when both are whole.
-    static constexpr const char* names[] = {"PlayersRatings.csv", "CoachesRatings.csv"};
-    const std::string target = options.Folder + PathSeparator;
     const WorkName work(target + "ratings");
     const WorkName players(work.Path() + PathSeparator + names[0], WorkName::AsItIs);
     const WorkName coaches(work.Path() + PathSeparator + names[1], WorkName::AsItIs);

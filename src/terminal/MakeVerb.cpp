@@ -12,6 +12,7 @@
 #include "terminal/LeagueAtHand.h"
 #include "terminal/Passwords.h"
 #include "terminal/Problem.h"
+#include "terminal/Target.h"
 #include "terminal/Utf8.h"
 #include "terminal/Verbs.h"
 
@@ -63,6 +64,7 @@ void Tell(std::vector<std::string>& into, const std::vector<std::string>& told)
 Answer Make(const std::string& path, const MakeOptions& options, const Passwords& known)
 {
     const DayRange days = DaysOf(options.Days);
+    RequireReplaceable({.Path = options.Out, .Kind = SystemFile::Lines, .Read = {path, options.PasswordFile}});
     LeagueAtHand league = OpenLeague(path);
     Machine& machine = *league.Machine;
     const int team = TeamsNamed(*league.League, {options.Team}).front();

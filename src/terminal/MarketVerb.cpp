@@ -3,6 +3,7 @@
 #include "terminal/Interrupt.h"
 #include "terminal/Passwords.h"
 #include "terminal/Problem.h"
+#include "terminal/Target.h"
 #include "terminal/Utf8.h"
 
 #include <utility>
@@ -32,6 +33,9 @@ Verb MarketVerb(CLI::App* command, const std::shared_ptr<MarketOptions>& options
                 const Passwords known = ReadPasswords(options->PasswordFile);
                 return AnswerEach({options->League}, {.AsJson = options->AsJson, .List = "leagues"},
                                   [&](const std::string& path) {
+                                      RequireReplaceable({.Path = options->Out,
+                                                          .Kind = ways.Kind,
+                                                          .Read = {path, options->Csv, options->PasswordFile}});
                                       LeagueAtHand league = OpenLeague(path);
                                       const int team = TeamsNamed(*league.League, {options->Team}).front();
                                       Demand(*league.League, *league.Machine, team, known);

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "files/FileAccess.h"
+#include "files/VerifyFile.h"
 #include "terminal/Answers.h"
 #include "terminal/LeagueAtHand.h"
 #include "terminal/Verbs.h"
@@ -30,6 +31,7 @@ void AddMarket(CLI::App& command, MarketOptions& options, const std::string& end
 
 // How a verb shows the file `path` of `team`, and how it writes one. Both come behind the team's password.
 struct MarketWays {
+    SystemFile Kind; // of the files
     Answer (*Show)(LeagueAtHand& league, int team, const std::string& path);
     Answer (*Write)(LeagueAtHand& league, int team, const MarketOptions& options);
 };

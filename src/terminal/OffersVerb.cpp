@@ -106,7 +106,7 @@ Verb AddOffers(CLI::App& program)
         "Examples:\n"
         "  dravik offers League.dvs --team 7 --csv offers.csv --out Gulls.dvf\n"
         "  dravik offers League.dvs --team 7 --read Gulls.dvf > offers.csv");
-    return MarketVerb(command, options, {.Show = ReadOffers, .Write = WriteOffers});
+    return MarketVerb(command, options, {.Kind = SystemFile::Offers, .Show = ReadOffers, .Write = WriteOffers});
 }
 
 } // namespace dravik::terminal

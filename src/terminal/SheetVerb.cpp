@@ -9,6 +9,7 @@
 #include "terminal/LeagueAtHand.h"
 #include "terminal/Passwords.h"
 #include "terminal/Problem.h"
+#include "terminal/Target.h"
 #include "terminal/TeamFiles.h"
 #include "terminal/Utf8.h"
 #include "terminal/Verbs.h"
@@ -74,6 +75,7 @@ void WriteSheet(Machine& machine, const std::string& path, const std::string& te
 Answer Sheet(const std::string& path, const SheetOptions& options, const Passwords& known)
 {
     const DayRange days = DaysOf(options.Days);
+    RequireReplaceable({.Path = options.Out, .Read = {path, options.Lines, options.PasswordFile}});
     LeagueAtHand league = OpenLeague(path);
     const int team = TeamsNamed(*league.League, {options.Team}).front();
     Demand(*league.League, *league.Machine, team, known);

@@ -21,13 +21,6 @@ struct VerifyOptions {
     int Threads = 1;
 };
 
-std::string NameOf(SystemFile kind)
-{
-    static constexpr const char* names[] = {
-        "no file of the system", "client file", "lines file", "offer file", "draft file", "journal"};
-    return names[static_cast<std::size_t>(kind)];
-}
-
 // A journal is sound when nothing stands behind its last whole entry.
 void VerifyJournal(const std::string& path, VerifiedFile& verified)
 {
@@ -55,7 +48,7 @@ Answer Verify(const std::string& path)
         VerifyJournal(path, verified);
     const bool isSound = verified.Count == 0;
     Answer answer;
-    answer.Text = path + ": " + NameOf(verified.Kind) +
+    answer.Text = path + ": " + std::string(NameOf(verified.Kind)) +
                   (verified.Team > 0 ? " of team " + std::to_string(verified.Team) : "") + ", " +
                   (isSound ? "sound" : "damaged") + "\n";
     Json findings = Json::array();
