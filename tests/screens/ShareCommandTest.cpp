@@ -254,6 +254,64 @@ TEST_F(ShareLineUps, CancelSavesAndPrintsNothing)
     EXPECT_THAT(Machine.TakeBoxes(), ::testing::IsEmpty());
 }
 
+// What a screen says for a moment of what was done; none where nothing is said.
+const QLabel* PassingWordsOn(const QWidget& screen)
+{
+    const auto* words = screen.findChild<QLabel*>("lblPassing");
+    return words != nullptr && words->isVisibleTo(&screen) ? words : nullptr;
+}
+
+TEST_F(ShareLineUps, SaysAboveTheCommandWhereAFileWasSaved)
+{
+    frmLine& line = Line();
+    line.show();
+    EXPECT_EQ(PassingWordsOn(line), nullptr);
+    QWidget* focused = line.focusWidget();
+    for (const auto& [item, name] :
+         {std::pair{"mnuShareDayHtml", "day.html"}, std::pair{"mnuShareAllDaysPdf", "days.pdf"}}) {
+        const std::string path = Machine.InFolder(name);
+        SaveTo(path);
+        TakeItem(line, item);
+        const QLabel* words = PassingWordsOn(line);
+        ASSERT_NE(words, nullptr);
+        EXPECT_EQ(words->text().toStdString(), "Saved to " + path);
+        EXPECT_EQ(words->accessibleName(), words->text());
+        EXPECT_TRUE(line.rect().contains(words->geometry()));
+        const QWidget* share = ShareOn(line);
+        EXPECT_LT(words->geometry().bottom(), share->mapTo(&line, QPoint(0, 0)).y());
+        EXPECT_EQ(line.findChildren<QLabel*>("lblPassing").size(), 1);
+        EXPECT_EQ(line.focusWidget(), focused);
+        EXPECT_EQ(line.childAt(words->geometry().center()), [&] {
+            QLabel* tag = line.findChild<QLabel*>("lblPassing");
+            tag->hide();
+            QWidget* below = line.childAt(tag->geometry().center());
+            tag->show();
+            return below;
+        }());
+    }
+    auto* end = line.findChild<QLabel*>("lblPassing")->findChild<QTimer*>();
+    ASSERT_NE(end, nullptr);
+    EXPECT_TRUE(end->isActive());
+    end->start(0);
+    EXPECT_TRUE(QTest::qWaitFor([&line] { return PassingWordsOn(line) == nullptr; }));
+}
+
+TEST_F(ShareLineUps, SaysNothingWhereNothingWasSaved)
+{
+    frmLine& line = Line();
+    OnDialog<QDialog>([](QDialog& dialog) { dialog.reject(); });
+    TakeItem(line, "mnuShareDayHtml");
+    EXPECT_EQ(PassingWordsOn(line), nullptr);
+    Machine.FailFileOperation(1, failure::DiskFull);
+    SaveTo(Machine.InFolder("day.html"));
+    TakeItem(line, "mnuShareDayHtml");
+    Machine.FailNoMore();
+    Machine.ForgetBoxes("the failure is told elsewhere");
+    EXPECT_EQ(PassingWordsOn(line), nullptr);
+    TakeItem(line, "mnuShareDayText");
+    EXPECT_EQ(PassingWordsOn(line), nullptr);
+}
+
 // A system without a printer offers a file.
 TEST_F(ShareLineUps, PrintsWhereTheDialogSays)
 {

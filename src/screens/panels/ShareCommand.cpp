@@ -2,8 +2,8 @@
 
 #include "files/ByteStream.h"
 #include "machine/Reporting.h"
-#include "screens/panels/Accessible.h"
 #include "screens/panels/PaperSheet.h"
+#include "screens/panels/PassingTag.h"
 #include "screens/panels/SheetSize.h"
 #include "screens/platform/CodePage.h"
 #include "screens/platform/Dialogs.h"
@@ -153,7 +153,7 @@ void ShareCommand::Save(const Paper& paper, const QString& kind, const QString& 
         file.Commit();
     });
     if (isSaved)
-        Announce(*this, "Saved to " + *chosen);
+        PassingTag::Say(*this, "Saved to " + *chosen);
 }
 
 std::string DateOfFile() { return Machine().LongDate(LeagueData.FileDate); }

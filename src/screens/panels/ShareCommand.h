@@ -10,7 +10,7 @@ namespace dravik {
 // A command with a menu that shares a paper: it copies the paper as text in columns, for a forum, or as Markdown; prints it, shows
 // before how that comes out, and saves it as PDF or HTML. The menu has a part for each paper that is offered, and the size of the
 // sheets below them. A failure of the making is reported with the command's name, and nothing is shared then. A file appears under
-// its name only when it is whole; where it cannot be saved, the box says so and what stood there still does.
+// its name only when it is whole, which is said for some seconds above the command; where it cannot be saved, the box says so and what stood there still does.
 class ShareCommand : public QPushButton {
     Q_OBJECT
 
