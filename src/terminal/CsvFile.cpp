@@ -15,14 +15,11 @@ namespace dravik::terminal {
 CsvFile::CsvFile(const std::string& path, const std::vector<std::string>& needed) : name(path)
 {
     std::ifstream file(path, std::ios::binary);
-    std::string text((std::istreambuf_iterator<char>(file)), {});
+    const std::string text((std::istreambuf_iterator<char>(file)), {});
     if (!file.is_open() || file.bad())
         throw Problem(path + ": cannot be read");
-    constexpr const char* byteOrderMark = "\xEF\xBB\xBF"; // spreadsheets put one in front
-    if (text.rfind(byteOrderMark, 0) == 0)
-        text.erase(0, 3);
     try {
-        rows = ReadCsv(FromUtf8(text));
+        rows = ReadCsv(FromUtf8(WithoutByteOrderMark(text))); // spreadsheets put one in front
     } catch (const Failure&) {
         throw Problem(path + ": holds a character that no file of the system can hold, or a quote that does not end");
     }

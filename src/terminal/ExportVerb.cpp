@@ -66,9 +66,7 @@ Verb AddExport(CLI::App& program)
     CLI::App* command =
         program.add_subcommand("export", "Write the ratings of a league into two files for a spreadsheet");
     AddLeague(*command, options->League);
-    command->add_option("--out", options->Folder, "the folder that they are written to")
-        ->type_name("FOLDER")
-        ->capture_default_str();
+    AddOut(*command, options->Folder, "the folder that they are written to", "FOLDER")->capture_default_str();
     AddJson(*command, options->AsJson);
     command->footer(
         "Writes PlayersRatings.csv and CoachesRatings.csv, as the windows write them; older ones are replaced.\n"

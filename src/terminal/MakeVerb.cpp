@@ -135,7 +135,7 @@ Verb AddMake(CLI::App& program)
     lines->require_option(0, 1);
     command->add_flag("--farm", options->Farm, "make the farm lines");
     AddDays(*command, options->Days);
-    command->add_option("--out", options->Out, "the lines file that is written")->type_name("FILE.dvl")->required();
+    AddOut(*command, options->Out, "the lines file that is written", "FILE.dvl")->required();
     AddPasswords(*command, options->PasswordFile);
     AddJson(*command, options->AsJson);
     command->footer("The file is the one that the windows save, byte for byte. It appears when it is whole; until then "

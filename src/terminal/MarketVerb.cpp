@@ -20,7 +20,7 @@ void AddMarket(CLI::App& command, MarketOptions& options, const std::string& end
     way->add_option("--read", options.Read, "show this file as comma-separated values")->type_name("FILE" + ending);
     CLI::Option* csv = way->add_option("--csv", options.Csv, "write a file from this table")->type_name("FILE.csv");
     way->require_option(1);
-    CLI::Option* out = command.add_option("--out", options.Out, "the file that is written")->type_name("FILE" + ending);
+    CLI::Option* out = AddOut(command, options.Out, "the file that is written", "FILE" + ending);
     csv->needs(out);
     out->needs(csv);
     AddPasswords(command, options.PasswordFile);

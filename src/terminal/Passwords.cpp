@@ -49,7 +49,8 @@ Passwords ReadPasswords(const std::string& path)
         throw Problem(path + ": others may read or change these passwords; take that right from them (chmod 600)");
     int number = 0;
     for (std::string line; std::getline(file, line);) {
-        ++number;
+        if (++number == 1)
+            line = std::string(WithoutByteOrderMark(line));
         if (!line.empty() && line.back() == '\r')
             line.pop_back();
         if (line.empty() || line.front() == '#')
@@ -61,6 +62,8 @@ Passwords ReadPasswords(const std::string& path)
             throw Problem(path + ": line " + std::to_string(number) + " is no team's number, a blank and its password");
         known[team].push_back(InCodePage(line.substr(at + 1)));
     }
+    if (file.bad()) // a folder opens as a file does
+        throw Problem(path + ": cannot be read");
     return known;
 }
 

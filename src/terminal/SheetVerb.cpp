@@ -122,8 +122,7 @@ Verb AddSheet(CLI::App& program)
     for (std::size_t form = 0; form < Forms.size(); ++form)
         forms->add_flag(Forms[form].Option, options->IsForm[form], Forms[form].Help);
     forms->require_option(0, 1);
-    command->add_option("--out", options->Out, "the file that is written; without it the sheet is shown")
-        ->type_name("FILE");
+    AddOut(*command, options->Out, "the file that is written; without it the sheet is shown", "FILE");
     AddPasswords(*command, options->PasswordFile);
     command->footer(
         "The sheet is the one that the windows copy, in UTF-8. What the league hides does not stand on it, nor do "

@@ -28,6 +28,27 @@ char ByteOf(char32_t character)
     return static_cast<char>(FirstUpper + static_cast<unsigned>(found - Upper.begin()));
 }
 
+// Calls `whole(bytes)` for what is no control character, and `control(code)` for what is one.
+void EachPiece(std::string_view text, const auto& whole, const auto& control)
+{
+    constexpr unsigned char deleted = 0x7F;
+    constexpr unsigned char leadOfUpper = 0xC2; // of the control characters of two bytes, and of some others
+    constexpr unsigned char firstUpper = 0x80;
+    constexpr unsigned char lastUpper = 0x9F;
+    for (std::size_t at = 0; at < text.size(); ++at) {
+        const auto byte = static_cast<unsigned char>(text[at]);
+        const auto next = static_cast<unsigned char>(at + 1 < text.size() ? text[at + 1] : 0);
+        if (byte < ' ' || byte == deleted) {
+            control(byte, text.substr(at + 1));
+        } else if (byte == leadOfUpper && next >= firstUpper && next <= lastUpper) {
+            ++at;
+            control(next, text.substr(at + 1));
+        } else {
+            whole(text[at]);
+        }
+    }
+}
+
 // How many bytes follow the first byte of a character, and what of the character stands in that one.
 struct Head {
     std::size_t Following;
@@ -81,6 +102,41 @@ std::string FromUtf8(std::string_view text)
         bytes += ByteOf(character);
     }
     return bytes;
+}
+
+std::string_view WithoutByteOrderMark(std::string_view text)
+{
+    constexpr std::string_view mark = "\xEF\xBB\xBF";
+    return text.starts_with(mark) ? text.substr(mark.size()) : text;
+}
+
+std::string WithoutControls(std::string_view text)
+{
+    std::string harmless;
+    EachPiece(
+        text, [&](char letter) { harmless += letter; },
+        [&](unsigned char control, std::string_view rest) {
+            const bool endsLine = control == '\n' || (control == '\r' && rest.starts_with('\n'));
+            harmless += endsLine || control == '\t' ? static_cast<char>(control) : ' ';
+        });
+    return harmless;
+}
+
+std::string WithEscapedControls(std::string_view json)
+{
+    constexpr unsigned char firstBeyond = 0x20; // below it there are only the ends of lines, as the rest is escaped
+    constexpr unsigned digit = 16;
+    constexpr std::string_view digits = "0123456789abcdef";
+    std::string escaped;
+    EachPiece(
+        json, [&](char letter) { escaped += letter; },
+        [&](unsigned char control, std::string_view /*rest*/) {
+            if (control < firstBeyond)
+                escaped += static_cast<char>(control);
+            else
+                escaped += {'\\', 'u', '0', '0', digits[control / digit], digits[control % digit]};
+        });
+    return escaped;
 }
 
 } // namespace dravik::terminal

@@ -13,4 +13,14 @@ std::string ToUtf8(std::string_view text);
 // UTF-8.
 std::string FromUtf8(std::string_view text);
 
+// `text` without the mark that some programs put in front of UTF-8.
+std::string_view WithoutByteOrderMark(std::string_view text);
+
+// `text` in UTF-8, with a blank in the place of every control character, which a terminal would take for a command, but tabs and the
+// ends of lines.
+std::string WithoutControls(std::string_view text);
+
+// `json`, a text of JSON, with its control characters beyond the first 32 escaped too.
+std::string WithEscapedControls(std::string_view json);
+
 } // namespace dravik::terminal

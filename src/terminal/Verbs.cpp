@@ -38,6 +38,14 @@ void AddPasswords(CLI::App& command, std::string& file)
         ->type_name("FILE");
 }
 
+CLI::Option* AddOut(CLI::App& command, std::string& out, const char* help, const std::string& type)
+{
+    const auto isNamed = [](const std::string& name) {
+        return name.empty() ? std::string("no name stands there") : "";
+    };
+    return command.add_option("--out", out, help)->type_name(type)->check(isNamed);
+}
+
 void AddJson(CLI::App& command, bool& asJson) { command.add_flag("--json", asJson, "tell it as JSON"); }
 
 } // namespace dravik::terminal

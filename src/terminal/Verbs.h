@@ -36,6 +36,8 @@ void AddTeams(CLI::App& command, CommonOptions& options);
 // One client file.
 void AddLeague(CLI::App& command, std::string& league);
 void AddPasswords(CLI::App& command, std::string& file);
+// Where to: a name that is not empty. `type` is "FILE.dvl", or "FOLDER".
+CLI::Option* AddOut(CLI::App& command, std::string& out, const char* help, const std::string& type);
 void AddJson(CLI::App& command, bool& asJson);
 void AddThreads(CLI::App& command, int& threads);
 

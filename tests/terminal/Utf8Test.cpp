@@ -27,5 +27,25 @@ TEST(Utf8Test, WhatTheCodePageLacksAndWhatIsNoUtf8Fails)
         EXPECT_THROW(FromUtf8(text), Failure) << text;
 }
 
+TEST(Utf8Test, ControlCharactersBecomeBlanksButTabsAndEndsOfLines)
+{
+    EXPECT_EQ(WithoutControls("a\x1B[1m\tb\r\nc\rd\x7F\xC2\x9D\xC2\xA0é\n"), "a [1m\tb\r\nc d  \xC2\xA0é\n");
+    EXPECT_EQ(WithoutControls("\xC2"), "\xC2");
+}
+
+TEST(Utf8Test, ControlCharactersThatJsonLeavesAreEscaped)
+{
+    EXPECT_EQ(WithEscapedControls("{\"é\": \"\\u001b\x7F\xC2\x80\xC2\x9F\xC2\xA0\"\n}"),
+              "{\"é\": \"\\u001b\\u007f\\u0080\\u009f\xC2\xA0\"\n}");
+}
+
+TEST(Utf8Test, TheMarkInFrontIsNoLetter)
+{
+    EXPECT_EQ(WithoutByteOrderMark("\xEF\xBB\xBF"
+                                   "7 x"),
+              "7 x");
+    EXPECT_EQ(WithoutByteOrderMark("7 \xEF\xBB\xBF"), "7 \xEF\xBB\xBF");
+}
+
 } // namespace
 } // namespace dravik::terminal
