@@ -14,10 +14,10 @@ constexpr std::string_view ColumnGap = "  ";
 std::string OnOneLine(std::string_view text)
 {
     constexpr unsigned char firstWithShape = 0x20;
-    constexpr unsigned char deleted = 0x7F;
+    constexpr std::string_view shapeless = "\x7F\x81\x8D\x8F\x90\x9D"; // the code page defines none of these
     std::string line(text);
     for (char& letter : line)
-        if (const auto code = static_cast<unsigned char>(letter); code < firstWithShape || code == deleted)
+        if (static_cast<unsigned char>(letter) < firstWithShape || shapeless.find(letter) != std::string_view::npos)
             letter = ' ';
     return line;
 }

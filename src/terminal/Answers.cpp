@@ -3,6 +3,7 @@
 #include "league/Failure.h"
 #include "terminal/Machine.h"
 #include "terminal/Problem.h"
+#include "terminal/Utf8.h"
 
 #include <algorithm>
 #include <atomic>
@@ -143,21 +144,25 @@ int AnswerEach(const std::vector<std::string>& files, const HowToAnswer& how,
             all.push_back(std::move(entry));
         } else {
             bar.TakeAway();
-            std::cout << answer.Text << std::flush;
+            std::cout << WithoutControls(answer.Text) << std::flush;
         }
         if (!answer.Notes.empty())
             bar.TakeAway();
         for (const std::string& note : answer.Notes)
-            std::cerr << "dravik: " << files[place] << ": " << note << std::endl;
+            std::cerr << WithoutControls(OnOneLine("dravik: " + files[place] + ": " + note)) << std::endl;
         bar.Show(place + 1);
     }
     bar.TakeAway();
     if (how.AsJson) {
         Json page = Json::object();
         page[how.List] = std::move(all);
-        std::cout << page.dump(2, ' ', false, Json::error_handler_t::replace) << '\n' << std::flush;
+        std::cout << WithEscapedControls(page.dump(2, ' ', false, Json::error_handler_t::replace)) << '\n'
+                  << std::flush;
     }
-    return std::cout ? worst : ending::Failed;
+    if (std::cout)
+        return worst;
+    std::cerr << "dravik: standard output: what is told cannot be written" << std::endl;
+    return ending::Failed;
 }
 
 } // namespace dravik::terminal

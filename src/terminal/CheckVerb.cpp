@@ -37,7 +37,7 @@ Words RosterWords(const LeagueAtHand& league, const RosterVerdict& verdict)
 {
     Words words;
     for (const RosterFinding& finding : verdict.Findings)
-        words.push_back(ToUtf8(WordsOf(*league.League, finding)));
+        words.push_back(OnOneLine(ToUtf8(WordsOf(*league.League, finding))));
     return WithFailure(std::move(words), verdict.Failed);
 }
 
@@ -47,7 +47,7 @@ Words CapWords(const LeagueAtHand& league, int team, const std::optional<CapVerd
     if (!verdict)
         return words;
     for (const CapFinding& finding : verdict->Findings)
-        words.push_back(ToUtf8(WordsOf(*league.League, *league.Machine, team, finding)));
+        words.push_back(OnOneLine(ToUtf8(WordsOf(*league.League, *league.Machine, team, finding))));
     return WithFailure(std::move(words), verdict->Failed);
 }
 
@@ -55,7 +55,7 @@ Words DayWords(const LeagueAtHand& league, const LineVerdict& verdict)
 {
     Words words;
     for (const LineFinding& finding : verdict.Findings)
-        words.push_back(ToUtf8(WordsOf(*league.League, verdict, finding)));
+        words.push_back(OnOneLine(ToUtf8(WordsOf(*league.League, verdict, finding))));
     return WithFailure(std::move(words), verdict.Failed);
 }
 
@@ -203,7 +203,7 @@ Answer Check(const std::string& path, const CheckOptions& options, const Passwor
     const auto scratch = Copy(*league.League);
 
     Answer answer;
-    answer.Text = path + ": " + league.Name() + "\n";
+    answer.Text = OnOneLine(path) + ": " + league.Name() + "\n";
     answer.Data["league"] = league.Name();
     answer.Data["damaged"] = league.IsDamaged;
     Json checked = Json::array();

@@ -198,11 +198,11 @@ Answer Diff(const std::string& path, const DiffOptions& options, const Passwords
     Answer answer;
     const std::string date = DateOf(later);
     const std::string earlierDate = DateOf(earlier);
-    answer.Text = path + ": " + later.Name() + (date.empty() ? "" : ", " + date) + ", since " + options.Earlier +
-                  (earlierDate.empty() ? "" : " of " + earlierDate) + "\n";
+    answer.Text = OnOneLine(path) + ": " + later.Name() + (date.empty() ? "" : ", " + date) + ", since " +
+                  OnOneLine(options.Earlier) + (earlierDate.empty() ? "" : " of " + earlierDate) + "\n";
     for (const LeagueAtHand* league : {&earlier, &later})
         if (league->IsDamaged)
-            answer.Text += "  " + league->Path + ": " + std::string(DamagedWords) + "\n";
+            answer.Text += "  " + OnOneLine(league->Path) + ": " + std::string(DamagedWords) + "\n";
     answer.Text += (told.IsNothing() ? "  Nothing is different.\n" : told.Text()) +
                    told.Left().Text("Money, places and lines are not told");
     if (earlier.League->LeagueData.FileDate > later.League->LeagueData.FileDate)

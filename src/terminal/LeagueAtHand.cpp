@@ -57,8 +57,8 @@ int TeamNamed(const Tables& league, const std::string& wanted)
 
 } // namespace
 
-std::string LeagueAtHand::Name() const { return ToUtf8(League->LeagueData.Name.Trimmed()); }
-std::string LeagueAtHand::NameOf(int team) const { return ToUtf8(League->Teams[team].Name.Trimmed()); }
+std::string LeagueAtHand::Name() const { return OnOneLine(ToUtf8(League->LeagueData.Name.Trimmed())); }
+std::string LeagueAtHand::NameOf(int team) const { return OnOneLine(ToUtf8(League->Teams[team].Name.Trimmed())); }
 
 LeagueAtHand OpenLeague(const std::string& path)
 {

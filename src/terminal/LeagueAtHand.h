@@ -18,7 +18,8 @@ struct LeagueAtHand {
     bool Modified = false;
 
     Work AtWork() { return {*League, *Machine, *Machine, Modified}; }
-    [[nodiscard]] std::string Name() const; // of the league, in UTF-8
+    // The names of the league and of a team, in UTF-8 and on one line.
+    [[nodiscard]] std::string Name() const;
     [[nodiscard]] std::string NameOf(int team) const;
 };
 

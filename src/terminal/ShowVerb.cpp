@@ -183,8 +183,8 @@ Answer Show(const std::string& path, const ShowOptions& options, const Passwords
         if (const std::string left = shown.Left.Text(shown.LeftWhat); !left.empty())
             answer.Notes.push_back(left.substr(2, left.size() - 3));
     } else {
-        answer.Text = path + ": " + league.Name() + (date.empty() ? "" : ", " + date) + "\n" + shown.Rows.Text("  ") +
-                      shown.Left.Text(shown.LeftWhat);
+        answer.Text = OnOneLine(path) + ": " + league.Name() + (date.empty() ? "" : ", " + date) + "\n" +
+                      shown.Rows.Text("  ") + shown.Left.Text(shown.LeftWhat);
     }
     if (league.IsDamaged)
         answer.Notes.emplace_back(DamagedWords);

@@ -1,6 +1,8 @@
 #include "terminal/Table.h"
 
 #include "league/Failure.h"
+#include "terminal/Machine.h"
+#include "terminal/Utf8.h"
 
 #include <algorithm>
 
@@ -17,6 +19,14 @@ std::string PlainText(const Json& cell)
     return cell.is_string() ? cell.get<std::string>() : cell.dump();
 }
 
+// What a cell shows in columns, which a tab or the end of a line would tear.
+std::string ColumnText(const Json& cell)
+{
+    std::string text = WithoutControls(OnOneLine(PlainText(cell)));
+    std::replace(text.begin(), text.end(), '\t', ' ');
+    return text;
+}
+
 // How many characters a text of UTF-8 has.
 std::size_t WidthOf(const std::string& text)
 {
@@ -28,6 +38,14 @@ std::string Padded(const std::string& text, std::size_t width, bool toTheRight)
 {
     const std::string blanks(width - WidthOf(text), ' ');
     return toTheRight ? blanks + text : text + blanks;
+}
+
+// A text that a spreadsheet would take for a formula begins with an apostrophe, which says that it is none.
+std::string CsvText(const Json& cell)
+{
+    const std::string text = PlainText(cell);
+    const bool isFormula = cell.is_string() && text.find_first_of("=+-@\t\r") == 0;
+    return isFormula ? "'" + text : text;
 }
 
 std::string Quoted(const std::string& text)
@@ -56,7 +74,7 @@ std::string Table::Text(const std::string& indent) const
     std::vector<bool> numbers(columns.size(), true);
     for (std::size_t column = 0; column < columns.size(); ++column)
         for (const auto& row : rows) {
-            widths[column] = std::max(widths[column], WidthOf(PlainText(row[column])));
+            widths[column] = std::max(widths[column], WidthOf(ColumnText(row[column])));
             numbers[column] = numbers[column] && (row[column].is_number() || row[column].is_null());
         }
     const auto add = [&](const auto& textOf) {
@@ -71,7 +89,7 @@ std::string Table::Text(const std::string& indent) const
     if (!rows.empty())
         add([&](std::size_t column) { return columns[column]; });
     for (const auto& row : rows)
-        add([&](std::size_t column) { return PlainText(row[column]); });
+        add([&](std::size_t column) { return ColumnText(row[column]); });
     return text;
 }
 
@@ -85,7 +103,7 @@ std::string Table::Csv() const
     };
     add([&](std::size_t column) { return columns[column]; });
     for (const auto& row : rows)
-        add([&](std::size_t column) { return PlainText(row[column]); });
+        add([&](std::size_t column) { return CsvText(row[column]); });
     return text;
 }
 

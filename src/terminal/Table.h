@@ -18,7 +18,8 @@ public:
 
     // Columns that no row says anything in are left out of this one: aligned, numbers to the right, each line behind `indent`.
     [[nodiscard]] std::string Text(const std::string& indent) const;
-    // Comma-separated, lines ended by CR LF, the names of the columns first; what holds a comma, a quote or a line break is quoted.
+    // Comma-separated, lines ended by CR LF, the names of the columns first; what holds a comma, a quote or a line break is quoted. A text that
+    // a spreadsheet would take for a formula has an apostrophe in front.
     [[nodiscard]] std::string Csv() const;
     // A row an object.
     [[nodiscard]] Json Data() const;

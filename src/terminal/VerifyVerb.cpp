@@ -48,7 +48,7 @@ Answer Verify(const std::string& path)
         VerifyJournal(path, verified);
     const bool isSound = verified.Count == 0;
     Answer answer;
-    answer.Text = path + ": " + std::string(NameOf(verified.Kind)) +
+    answer.Text = OnOneLine(path) + ": " + std::string(NameOf(verified.Kind)) +
                   (verified.Team > 0 ? " of team " + std::to_string(verified.Team) : "") + ", " +
                   (isSound ? "sound" : "damaged") + "\n";
     Json findings = Json::array();

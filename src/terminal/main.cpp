@@ -1,5 +1,7 @@
 #include "terminal/Interrupt.h"
+#include "terminal/Machine.h"
 #include "terminal/Problem.h"
+#include "terminal/Utf8.h"
 #include "terminal/Verbs.h"
 
 #include <exception>
@@ -14,7 +16,7 @@ int main(int argc, char** argv)
     program.set_version_flag("--version", DRAVIK_VERSION);
     program.require_subcommand(1);
     program.failure_message([](const CLI::App* /*app*/, const CLI::Error& error) {
-        return "dravik: " + std::string(error.what()) + "; --help tells more\n";
+        return WithoutControls(OnOneLine("dravik: " + std::string(error.what()))) + "; --help tells more\n";
     });
     program.footer(
         "Ends with 0 when it is done and all is well, 1 when something was found, 2 when something failed.\n"
@@ -34,7 +36,7 @@ int main(int argc, char** argv)
             if (verb.Command->parsed())
                 return verb.Run();
     } catch (const std::exception& failed) {
-        std::cerr << "dravik: " << failed.what() << std::endl;
+        std::cerr << WithoutControls(OnOneLine("dravik: " + std::string(failed.what()))) << std::endl;
     }
     return ending::Failed;
 }

@@ -42,6 +42,13 @@ TEST(PaperTest, PlainTextStandsInColumnsAndKeepsEveryMark)
                                      "=======\n");
 }
 
+TEST(PaperTest, WhatHasNoShapeIsABlankInEveryForm)
+{
+    const Paper paper{.Title = "A\x1B\x07\x7F\x81\x8D\x8F\x90\x9D\r\n\tZ", .Facts = {}, .Parts = {}};
+    for (const std::string& text : {PlainTextOf(paper), ForumTextOf(paper), MarkdownOf(paper), HtmlOf(paper)})
+        EXPECT_NE(text.find('A' + std::string(11, ' ') + 'Z'), std::string::npos) << text;
+}
+
 TEST(PaperTest, ForumTextIsOneBlockThatNoNameEnds)
 {
     std::string expected = "[code]\n" + PlainTextOf(Marked()) + "[/code]\n";

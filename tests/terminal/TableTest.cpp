@@ -39,6 +39,21 @@ TEST(TableTest, WhatCsvHoldsComesBack)
                 ElementsAre(ElementsAre("a", "b"), ElementsAre("x,\"y\"", "two\r\nlines"), ElementsAre("", "z")));
 }
 
+TEST(TableTest, NoTextOfCsvIsAFormulaAndNumbersStayNumbers)
+{
+    Table table({"a", "b"});
+    for (const char* text : {"=1", "+1", "-1", "@x", "\tx", "a=1", "'a"})
+        table.Add({text, -1});
+    EXPECT_EQ(table.Csv(), "a,b\r\n'=1,-1\r\n'+1,-1\r\n'-1,-1\r\n'@x,-1\r\n'\tx,-1\r\na=1,-1\r\n'a,-1\r\n");
+}
+
+TEST(TableTest, NoCellTearsTheColumns)
+{
+    Table table({"a", "b"});
+    table.Add({"x\r\ny\tz\x1B", 1});
+    EXPECT_EQ(table.Text(""), "a       b\nx y z   1\n");
+}
+
 TEST(TableTest, EmptyLinesAreNoRowsAndTheLastNeedsNoEnd)
 {
     EXPECT_THAT(ReadCsv(""), IsEmpty());
