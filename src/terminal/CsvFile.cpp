@@ -8,16 +8,19 @@
 #include <algorithm>
 #include <charconv>
 #include <fstream>
-#include <iterator>
+#include <sstream>
 
 namespace dravik::terminal {
 
 CsvFile::CsvFile(const std::string& path, const std::vector<std::string>& needed) : name(path)
 {
     std::ifstream file(path, std::ios::binary);
-    const std::string text((std::istreambuf_iterator<char>(file)), {});
-    if (!file.is_open() || file.bad())
+    std::ostringstream read;
+    if (file.peek() != std::ifstream::traits_type::eof())
+        read << file.rdbuf();
+    if (!file.is_open() || file.bad() || !read) // a folder opens as a file does
         throw Problem(path + ": cannot be read");
+    const std::string text = read.str();
     try {
         rows = ReadCsv(FromUtf8(WithoutByteOrderMark(text))); // spreadsheets put one in front
     } catch (const Failure&) {

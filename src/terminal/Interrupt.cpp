@@ -59,8 +59,10 @@ std::string Number()
 void PutInOrderAtInterrupt()
 {
 #ifndef _WIN32
-    for (const int signal : {SIGINT, SIGTERM, SIGHUP})
-        (void)std::signal(signal, PutInOrder);
+    for (const int signal : {SIGINT, SIGTERM, SIGHUP, SIGQUIT})
+        if (std::signal(signal, PutInOrder) == SIG_IGN)
+            (void)std::signal(signal, SIG_IGN);
+    (void)std::signal(SIGXFSZ, SIG_IGN);
 #endif
 }
 

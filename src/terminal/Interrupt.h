@@ -9,7 +9,8 @@
 // What an interruption (Ctrl+C, the end that another process asks for) must not leave behind.
 namespace dravik::terminal {
 
-// From here on an interruption ends the program as it always does, once what stands below is put in order.
+// From here on an interruption ends the program as it always does, once what stands below is put in order. One that whoever
+// started the program has closed to it (nohup) stays closed. A file that grows above a limit fails as on a full disk.
 void PutInOrderAtInterrupt();
 
 // A name beside `target`, in the same folder, that no other process and no other thread uses: what a file is called until it is

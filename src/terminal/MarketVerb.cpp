@@ -1,5 +1,6 @@
 #include "terminal/MarketVerb.h"
 
+#include "league/Failure.h"
 #include "terminal/Interrupt.h"
 #include "terminal/Passwords.h"
 #include "terminal/Problem.h"
@@ -27,6 +28,20 @@ void AddMarket(CLI::App& command, MarketOptions& options, const std::string& end
     AddJson(command, options.AsJson);
 }
 
+namespace {
+
+// What fails of a file that is shown is told with its name.
+Answer ShowFile(LeagueAtHand& league, int team, const MarketOptions& options, const MarketWays& ways)
+{
+    try {
+        return ways.Show(league, team, options.Read);
+    } catch (const Failure& failed) {
+        throw Problem(options.Read + ": " + failed.what());
+    }
+}
+
+} // namespace
+
 Verb MarketVerb(CLI::App* command, const std::shared_ptr<MarketOptions>& options, MarketWays ways)
 {
     return {command, [options, ways] {
@@ -39,7 +54,7 @@ Verb MarketVerb(CLI::App* command, const std::shared_ptr<MarketOptions>& options
                                       LeagueAtHand league = OpenLeague(path);
                                       const int team = TeamsNamed(*league.League, {options->Team}).front();
                                       Demand(*league.League, *league.Machine, team, known);
-                                      return options->Csv.empty() ? ways.Show(league, team, options->Read)
+                                      return options->Csv.empty() ? ShowFile(league, team, *options, ways)
                                                                   : ways.Write(league, team, *options);
                                   });
             }};

@@ -8,6 +8,7 @@ import csv
 import io
 import os
 import re
+import resource
 import signal
 import struct
 import subprocess
@@ -187,6 +188,43 @@ class HostileTest(TerminalTest):
             ended = self.run_it(verb[0], "League.dvs", *verb[1:], "--out", "")
             self.assertEqual((ended.code, ended.out), (2, ""), verb)
             self.assertEqual(ended.err, "dravik: --out: no name stands there; --help tells more\n", verb)
+
+    def test_a_file_that_cannot_be_read_is_named(self):
+        self.league()
+        (self.folder / "folder").mkdir()
+        (self.folder / "empty").touch()
+        for verb in ("offers", "draft"):
+            for name, words in (("folder", "Path/File access error"), ("none", "File not found")):
+                self.expect_failure(self.run_it(verb, "League.dvs", "--team", 1, "--read", name), f"League.dvs: {name}: {words}")
+        for name, words in (("folder", "cannot be read"), ("none", "cannot be read"), ("empty", 'has no column "id" in its first row')):
+            ended = self.run_it("offers", "League.dvs", "--team", 1, "--csv", name, "--out", "out")
+            self.expect_failure(ended, f"League.dvs: {name}: {words}")
+
+    def test_a_limit_of_the_system_leaves_the_older_file_and_nothing_else(self):
+        self.league()
+        limit = lambda: resource.setrlimit(resource.RLIMIT_FSIZE, (1024, 1024))
+        for verb in (("sheet", "--team", "1", "--days", "1-10", "--out", "out"), ("export",)):
+            (self.folder / "out").write_bytes(b"older")
+            ended = subprocess.run([PROGRAM, verb[0], "League.dvs", *verb[1:]], cwd=self.folder, stdin=subprocess.DEVNULL,
+                                   capture_output=True, text=True, timeout=PATIENCE, check=False, preexec_fn=limit)
+            self.assertEqual((ended.returncode, ended.stdout, ended.stderr.count("\n")), (2, "", 1), verb)
+            self.assertIn("Disk full", ended.stderr)
+            self.assertEqual(self.files(), ["League.dvs", "out"])
+            self.assertEqual((self.folder / "out").read_bytes(), b"older")
+
+    def test_an_interruption_that_is_closed_to_it_is_none(self):
+        self.league()
+        ignored = lambda: signal.signal(signal.SIGHUP, signal.SIG_IGN)
+        for _ in range(20):
+            with subprocess.Popen([PROGRAM, "make", "League.dvs", "--team", "1", "--out", "out"], cwd=self.folder,
+                                  stdin=subprocess.DEVNULL, stdout=subprocess.DEVNULL, preexec_fn=ignored) as process:
+                end = time.monotonic() + PATIENCE
+                while process.poll() is None and len(os.listdir(self.folder)) < 2 and time.monotonic() < end:
+                    pass
+                process.send_signal(signal.SIGHUP)
+                self.assertEqual(process.wait(timeout=PATIENCE), 0)
+            self.assertEqual(self.files(), ["League.dvs", "out"])
+            (self.folder / "out").unlink()
 
     def test_the_file_of_passwords_may_come_from_anywhere_but_a_folder(self):
         self.league()

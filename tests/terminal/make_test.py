@@ -97,7 +97,7 @@ class MakeTest(TerminalTest):
         self.league()
         older = b"older" * 1000
         met = 0
-        for signal_number in (signal.SIGINT, signal.SIGTERM, signal.SIGHUP):
+        for signal_number in (signal.SIGINT, signal.SIGTERM, signal.SIGHUP, signal.SIGQUIT):
             for round_number in range(40):
                 (self.folder / "1.dvl").write_bytes(older)
                 with subprocess.Popen([PROGRAM, "make", "League.dvs", "--team", "1", "--out", "1.dvl"], cwd=self.folder,

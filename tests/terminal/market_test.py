@@ -91,7 +91,8 @@ class OffersTest(MarketTest):
         self.save((self.agents()[0], LEAST, 1, 0, ""))
         self.expect_failure(self.run_it("offers", "League.dvs", "--team", 2, "--read", "o.dvf"),
                             "League.dvs: o.dvf: this is no offer file of this league and this team, or it is damaged")
-        self.expect_failure(self.run_it("offers", "League.dvs", "--team", 2, "--read", "none.dvf"), "League.dvs: File not found")
+        self.expect_failure(self.run_it("offers", "League.dvs", "--team", 2, "--read", "none.dvf"),
+                            "League.dvs: none.dvf: File not found")
 
     def test_one_way_has_to_be_asked_for(self):
         for arguments in ((), ("--csv", "x"), ("--out", "x"), ("--read", "x", "--csv", "y", "--out", "z")):
