@@ -56,12 +56,27 @@ printf '%s\\n' "${{COMPREPLY[@]}}" """
             if shutil.which(shell):
                 subprocess.run([shell, "-n", PACKAGING / "completions" / name], check=True)
 
+    def test_the_other_shells_offer_every_option_of_a_verb_there(self):
+        zsh = (PACKAGING / "completions" / "_dravik").read_text()
+        shared = {name: set(re.findall(OPTION, options)) for name, options in re.findall(r"(?m)^([a-z]+)=\((.*)\)$", zsh)}
+        cases = re.findall(r"(?m)^([a-z| ]+)\) _arguments (.*) ;;$", zsh)
+        fish = re.findall(r"(?m)^complete -c dravik(?: -n \"__fish_seen_subcommand_from ([a-z ]+)\")?.* -l ([a-z-]+)",
+                          (PACKAGING / "completions" / "dravik.fish").read_text())
+        for verb in self.verbs():
+            options, = (options for verbs, options in cases if verb in verbs.split(" | "))
+            offered = set(re.findall(OPTION, options)).union(*(shared[name] for name in re.findall(r"\$([a-z]+)", options)))
+            self.assertEqual(offered, self.options(verb), verb)
+            self.assertEqual({f"--{name}" for verbs, name in fish if verb in verbs.split() or name == "help"}, self.options(verb), verb)
+
     def test_the_manual_knows_every_verb_and_option(self):
         page = (PACKAGING / "dravik.1").read_text().replace("\\-", "-").replace("\\fB", " ")
         every = set.union(*map(self.options, self.verbs()))
         self.assertEqual(set(re.findall(OPTION, page)), every | {"--version"})
         for verb in self.verbs():
             self.assertRegex(page, rf"\n\.TP\n\.B {verb}\n")
+        told = page[page.index(".SH OPTIONS"):page.index(".SH EXIT STATUS")]
+        heads = set(re.findall(OPTION, " ".join(re.findall(r"(?m)^\.TP\n(.*)$", told))))
+        self.assertEqual(heads, every | {"--version"})
 
     def test_nothing_is_wrong_with_the_form_of_the_manual(self):
         judges = [judge for judge in (["mandoc", "-T", "lint", "-W", "warning"], ["man", "--warnings", "-l"]) if shutil.which(judge[0])]
