@@ -1,6 +1,7 @@
 #include "terminal/Ask.h"
 
 #include "terminal/Interrupt.h"
+#include "terminal/Utf8.h"
 
 #include <iostream>
 #include <mutex>
@@ -30,7 +31,7 @@ std::optional<std::string> AskHidden(const std::string& prompt)
     hidden.c_lflag &= ~static_cast<tcflag_t>(ECHO);
     RestoreTerminalAtInterrupt(before);
     tcsetattr(STDIN_FILENO, TCSAFLUSH, &hidden);
-    std::cerr << prompt << std::flush;
+    std::cerr << WithoutControls(prompt) << std::flush;
     std::string line;
     const bool typed = static_cast<bool>(std::getline(std::cin, line));
     tcsetattr(STDIN_FILENO, TCSANOW, &before);

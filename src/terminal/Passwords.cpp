@@ -89,11 +89,11 @@ Proof Prove(const Tables& league, Machine& machine, int team, const Passwords& k
 std::string Demand(const Tables& league, Machine& machine, int team, const Passwords& known)
 {
     Passwords tried = known;
-    const std::string name = std::to_string(team) + " " + ToUtf8(league.Teams[team].Name.Trimmed());
+    const std::string name = std::to_string(team) + " " + OnOneLine(ToUtf8(league.Teams[team].Name.Trimmed()));
     Proof proof = Prove(league, machine, team, known);
     if (proof == Proof::Unknown) {
         const std::optional<std::string> typed =
-            AskHidden("Password of " + name + " (" + ToUtf8(league.LeagueData.Name.Trimmed()) + "): ");
+            AskHidden("Password of " + name + " (" + OnOneLine(ToUtf8(league.LeagueData.Name.Trimmed())) + "): ");
         if (!typed)
             throw Problem("team " + name + ": Password Required!");
         tried = {{team, {InCodePage(*typed)}}};

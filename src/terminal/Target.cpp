@@ -34,6 +34,9 @@ SystemFile KindOf(const std::string& path)
 void RequireReplaceable(const Target& target)
 {
     std::error_code error;
+    const fs::path folder = fs::path(target.Path).parent_path();
+    if (!folder.empty() && !fs::is_directory(folder, error))
+        throw Problem(target.Path + ": " + Failure(failure::PathNotFound).what());
     const fs::file_status status = fs::status(target.Path, error);
     if (!fs::exists(status))
         return;

@@ -14,9 +14,9 @@ struct Target {
     std::vector<std::string> Read;         // files of the command line; empty names count for nothing
 };
 
-// Refuses, with a Problem that names it, to lose what stands under the name of the target: a file that the verb reads, under whatever
-// name or link; a file of the system of another kind, as its first bytes tell; a file that cannot be looked into; and what is no file. Nothing
-// is touched. Anything else there may be replaced.
+// Refuses, with a Problem that names it, to lose what stands under the name of the target: a file that the verb reads, under
+// whatever name or link; a file of the system of another kind, as its first bytes tell; a file that cannot be looked into; and
+// what is no file. A folder that is not there is refused too. Nothing is touched; anything else there may be replaced.
 void RequireReplaceable(const Target& target);
 
 } // namespace dravik::terminal

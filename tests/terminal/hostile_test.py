@@ -5,13 +5,16 @@
 """
 
 import csv
+import fcntl
 import io
 import os
+import pty
 import re
 import resource
 import signal
 import struct
 import subprocess
+import termios
 import time
 import unittest
 
@@ -79,6 +82,34 @@ class HostileTest(TerminalTest):
         self.assertIsNone(CONTROLS.search(page))
         rows = self.run_it("show", league, "--team", 1, "--json").json()["leagues"][0]["rows"]
         self.assertIn("\x1b]0;x\x07\x9d\x90\x81\x7f\x1b[31m<b>|&\r\nX\t\b,\"1", [row["name"] for row in rows])
+
+    def test_no_name_commands_the_terminal_that_asks_for_a_password(self):
+        name = b"Cataracts\x1b[2J\x9d\r\nPassword of 1 Tugboats"
+        self.changed("Hostile.dvs", (team_record(7) + 4, name.ljust(40)), (record(2), name.ljust(40)))
+        shown, code = self.on_terminal("show", "Hostile.dvs", "--team", 7, "--lines", 1, typed=["blue line"])
+        self.assertEqual((code, CONTROLS.search(shown.replace("\r\n", "\n"))), (0, None))
+        self.assertTrue(shown.startswith("Password of 7 Cataracts [2J  Password of 1 Tugboats (Cataracts [2J  Password of 1 "), shown[:99])
+
+    def test_an_interruption_of_the_question_gives_the_terminal_its_echo_back(self):
+        self.league()
+        for character in (b"\x03", b"\x1c"):
+            terminal, other = pty.openpty()
+            before = termios.tcgetattr(other)
+            with subprocess.Popen([PROGRAM, "show", "League.dvs", "--team", "7"], cwd=self.folder, stdin=other, stdout=other,
+                                  stderr=other, preexec_fn=self.on_terminal_of(other), start_new_session=True) as process:
+                shown = b""
+                while not shown.endswith(b"): "):
+                    shown += os.read(terminal, 1024)
+                self.assertFalse(termios.tcgetattr(other)[3] & termios.ECHO)
+                os.write(terminal, character)
+                self.assertIn(process.wait(timeout=PATIENCE), (-signal.SIGINT, -signal.SIGQUIT))
+            self.assertEqual(termios.tcgetattr(other), before)
+            os.close(terminal)
+            os.close(other)
+
+    @staticmethod
+    def on_terminal_of(descriptor):
+        return lambda: fcntl.ioctl(descriptor, termios.TIOCSCTTY, 0)
 
     def test_no_name_of_a_file_commands_a_terminal_or_forges_a_line(self):
         name = "x\x1b[31m\nL.dvs: client file, sound"
