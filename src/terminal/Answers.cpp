@@ -1,6 +1,7 @@
 #include "terminal/Answers.h"
 
 #include "league/Failure.h"
+#include "terminal/Interrupt.h"
 #include "terminal/Machine.h"
 #include "terminal/Problem.h"
 #include "terminal/Utf8.h"
@@ -101,6 +102,7 @@ public:
     Answer Take(std::size_t place, Bar& bar)
     {
         constexpr auto step = std::chrono::milliseconds(200);
+        const InterruptsElsewhere writer;
         std::unique_lock guard(mutex);
         while (!changed.wait_for(guard, step, [&] { return answers[place].has_value(); }))
             bar.Show(done);

@@ -25,6 +25,8 @@ struct Place {
 std::array<Place, 64> Places;
 
 #ifndef _WIN32
+constexpr std::array Interruptions{SIGINT, SIGTERM, SIGHUP, SIGQUIT};
+
 termios TerminalBefore;
 std::atomic<bool> IsTerminalChanged = false;
 
@@ -59,12 +61,28 @@ std::string Number()
 void PutInOrderAtInterrupt()
 {
 #ifndef _WIN32
-    for (const int signal : {SIGINT, SIGTERM, SIGHUP, SIGQUIT})
+    for (const int signal : Interruptions)
         if (std::signal(signal, PutInOrder) == SIG_IGN)
             (void)std::signal(signal, SIG_IGN);
     (void)std::signal(SIGXFSZ, SIG_IGN);
 #endif
 }
+
+#ifdef _WIN32
+InterruptsElsewhere::InterruptsElsewhere() = default;
+InterruptsElsewhere::~InterruptsElsewhere() = default;
+#else
+InterruptsElsewhere::InterruptsElsewhere()
+{
+    sigset_t interruptions;
+    sigemptyset(&interruptions);
+    for (const int signal : Interruptions)
+        sigaddset(&interruptions, signal);
+    pthread_sigmask(SIG_BLOCK, &interruptions, &before);
+}
+
+InterruptsElsewhere::~InterruptsElsewhere() { pthread_sigmask(SIG_SETMASK, &before, nullptr); }
+#endif
 
 WorkName::WorkName(const std::string& target) : WorkName(target + "." + Number() + ".part", AsItIs) {}
 

@@ -3,6 +3,7 @@
 #include <cstddef>
 #include <string>
 #ifndef _WIN32
+#include <csignal>
 #include <termios.h>
 #endif
 
@@ -12,6 +13,21 @@ namespace dravik::terminal {
 // From here on an interruption ends the program as it always does, once what stands below is put in order. One that whoever
 // started the program has closed to it (nohup) stays closed. A file that grows above a limit fails as on a full disk.
 void PutInOrderAtInterrupt();
+
+// While this lives, an interruption does not stop this thread but another one. Who waits for a thread that writes has one: whoever
+// writes is stopped himself then, and makes no file behind what puts things in order.
+class InterruptsElsewhere {
+public:
+    InterruptsElsewhere();
+    InterruptsElsewhere(const InterruptsElsewhere&) = delete;
+    InterruptsElsewhere& operator=(const InterruptsElsewhere&) = delete;
+    ~InterruptsElsewhere();
+
+#ifndef _WIN32
+private:
+    sigset_t before{};
+#endif
+};
 
 // A name beside `target`, in the same folder, that no other process and no other thread uses: what a file is called until it is
 // whole. While this lives, an interruption removes the file of this name, or the empty folder.
