@@ -151,8 +151,8 @@ TEST_F(KeptPlaceTest, WordsThatAreNoPlaceAreNone)
 {
     const QPoint usual = Opened("Ticket").pos();
     Close(*TheStage.Find("Ticket"));
-    for (const char* words :
-         {"", "1 2 3", "a b c d", "1 2 0 0", "1 2 -5 700", "99999999999 1 700 500", "1 2 999999 5"}) {
+    for (const char* words : {"", "1 2 3", "a b c d", "1 2 0 0", "1 2 -5 700", "99999999999 1 700 500", "1 2 999999 5",
+                              "-2147483648 1 700 500", "1 -2147483648 700 500"}) {
         Machine.Settings["Screens/Place.frmTicket"] = words;
         EXPECT_EQ(Opened("Ticket").pos(), usual) << words;
         Close(*TheStage.Find("Ticket"));
@@ -284,6 +284,18 @@ TEST_F(KeptPlaceTest, TheKeysStandWhereTheyWere)
     sheet = again.findChild<QWidget*>("KeySheet");
     ASSERT_NE(sheet, nullptr);
     EXPECT_EQ(QRect(sheet->pos(), sheet->size()), QRect(15, 16, 500, 555));
+}
+
+// Larger letters, or a value that somebody wrote: a window that needs more room than was kept is seen whole all the same.
+TEST_F(KeptPlaceTest, AWindowThatNeedsMoreThanWasKeptStaysOnItsDisplay)
+{
+    const QRect area = QGuiApplication::primaryScreen()->availableGeometry();
+    Machine.Settings["Screens/Place.frmTeam"] =
+        QString("%1 %2 20 10").arg(area.right() - 40).arg(area.bottom() - 60).toStdString();
+    Screen& screen = Opened("Team");
+    EXPECT_TRUE(area.contains(screen.geometry()))
+        << screen.x() << ' ' << screen.y() << ' ' << screen.width() << ' ' << screen.height();
+    Machine.ForgetBoxes("what screens tell on the way is not asked here");
 }
 
 } // namespace

@@ -103,7 +103,7 @@ std::optional<KeptPlace::Place> KeptPlace::Kept() const
     for (int at = 0; at < Numbers; ++at) {
         bool isNumber = false;
         numbers[at] = words[at].toInt(&isNumber);
-        if (!isNumber || std::abs(numbers[at]) > FarthestAway)
+        if (!isNumber || numbers[at] < -FarthestAway || numbers[at] > FarthestAway)
             return std::nullopt;
     }
     const QRect area(numbers[0], numbers[1], numbers[2], numbers[3]);
@@ -120,7 +120,10 @@ bool KeptPlace::Put()
     QList<QRect> displays;
     for (const QScreen* display : QGuiApplication::screens())
         displays << display->availableGeometry();
-    const QRect place = FittedInto(kept->Area, displays, FrameOf(window));
+    // It may need more by now, as in larger letters, and is to be seen whole all the same.
+    const QSize least = window.minimumSizeHint().expandedTo(window.minimumSize());
+    const QRect place =
+        FittedInto({kept->Area.topLeft(), kept->Area.size().expandedTo(least)}, displays, FrameOf(window));
     window.resize(place.size());
     window.move(place.topLeft());
     last = place;
