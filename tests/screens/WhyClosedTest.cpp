@@ -56,6 +56,21 @@ TEST(WhyClosed, IsToldForAsLongAsItHoldsBehindTheWordsThatAreThereAnyway)
     EXPECT_EQ(ReasonOf(command), "");
 }
 
+// What a screen tells a screen reader of a command meanwhile stays, whatever comes up beside it.
+TEST(WhyClosed, KeepsADescriptionThatComesLater)
+{
+    QPushButton command("Save Lines");
+    TellWhyClosed({&command}, "The lines are not complete.");
+    command.setEnabled(false);
+    command.setAccessibleDescription("Day 1 of the farm is incomplete.");
+    TipAt(&command);
+    EXPECT_EQ(command.accessibleDescription(), "Day 1 of the farm is incomplete. The lines are not complete.");
+    TipAt(&command);
+    EXPECT_EQ(command.accessibleDescription(), "Day 1 of the farm is incomplete. The lines are not complete.");
+    command.setEnabled(true);
+    EXPECT_EQ(command.accessibleDescription(), "Day 1 of the farm is incomplete.");
+}
+
 TEST(WhyClosed, IsToldByEntriesOfAMenu)
 {
     QMenu menu;

@@ -19,7 +19,7 @@ class PartReason : public QObject {
 public:
     PartReason(QWidget* itsPart, std::function<QString()> itsWhy) :
         QObject(itsPart), part(itsPart), why(std::move(itsWhy)), tip(part->toolTip()),
-        description(part->accessibleDescription())
+        description(part->accessibleDescription()), told(description)
     {
         part->installEventFilter(this);
         Tell();
@@ -50,12 +50,20 @@ private:
     {
         const QString reason = part->isEnabled() ? QString() : why();
         const QString words = Qt::convertFromPlainText(reason, Qt::WhiteSpaceNormal);
+        if (part->accessibleDescription() != told) // somebody has told other words of its own meanwhile
+            description = part->accessibleDescription();
+        told = Behind(description, reason);
         isTelling = true;
         part->setProperty(Property, reason);
         part->setToolTip(reason.isEmpty() ? tip : tip.isEmpty() ? words : Rich(tip) + words);
-        part->setAccessibleDescription(description.isEmpty() || reason.isEmpty() ? description + reason
-                                                                                 : description + ", " + reason);
+        part->setAccessibleDescription(told);
         isTelling = false;
+    }
+    static QString Behind(const QString& words, const QString& reason)
+    {
+        if (words.isEmpty() || reason.isEmpty())
+            return words + reason;
+        return words + (words.endsWith('.') ? " " : ", ") + reason;
     }
     static QString Rich(const QString& words)
     {
@@ -65,7 +73,8 @@ private:
     QWidget* const part;
     const std::function<QString()> why;
     QString tip;
-    const QString description;
+    QString description; // its own
+    QString told;
     bool isTelling = false;
 };
 
