@@ -1,4 +1,5 @@
 #include "OnEveryScreen.h"
+#include "screens/main/GuideWindow.h"
 #include "screens/panels/DayStrip.h"
 #include "screens/panels/LinkLabel.h"
 #include "screens/panels/RatingBar.h"
@@ -167,6 +168,24 @@ TEST(Accessible, AChangedVerdictIsAnnounced)
     verdict.Tell("Lines are Incomplete", false);
     EXPECT_EQ(Listening::Count(announced, verdict), 2);
     EXPECT_EQ(NameOf(verdict), "Lines are Incomplete");
+}
+
+TEST(Accessible, WhatASearchOfTheGuideCameToIsAnnounced)
+{
+    GuideWindow guide;
+    const Listening reader;
+#if QT_VERSION >= QT_VERSION_CHECK(6, 8, 0)
+    const auto announced = QAccessible::Announcement;
+#else
+    const auto announced = QAccessible::Alert;
+#endif
+    guide.txtFind->setText("payroll");
+    EXPECT_TRUE(guide.FindNext(false));
+    EXPECT_EQ(Listening::Count(announced, *guide.lblFound), 0) << "the text itself tells the place";
+    guide.txtFind->setText("xyzzy");
+    EXPECT_FALSE(guide.FindNext(false));
+    EXPECT_EQ(Listening::Count(announced, *guide.lblFound), 1);
+    EXPECT_EQ(NameOf(*guide.lblFound), "Not found");
 }
 
 TEST(Accessible, WhatIsTypedInAListIsAnnouncedLetterByLetter)

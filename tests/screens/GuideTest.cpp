@@ -272,5 +272,26 @@ TEST_F(GuideTest, ItsPlaceAndItsColoursFollowTheLook)
     EXPECT_EQ(guide.txtGuide->palette().color(QPalette::Link), LinkText(guide.palette()));
 }
 
+// Words have the colours of the look at hand, and so have links.
+TEST_F(GuideTest, LinksOfTheTextFollowTheLook)
+{
+    GuideWindow& guide = Opened();
+    const auto colours = [&guide] {
+        QSet<QRgb> all;
+        for (QTextBlock block = guide.txtGuide->document()->begin(); block.isValid(); block = block.next())
+            for (auto part = block.begin(); !part.atEnd(); ++part)
+                if (part.fragment().charFormat().isAnchor())
+                    all << part.fragment().charFormat().foreground().color().rgb();
+        return all;
+    };
+    for (void (*use)() : {UseDarkLook, UseLightLook, UseDarkLook}) {
+        use();
+        Settle();
+        EXPECT_EQ(colours(), QSet<QRgb>{LinkText(guide.palette()).rgb()});
+    }
+    UseLightLook();
+    Settle();
+}
+
 } // namespace
 } // namespace dravik

@@ -1,5 +1,6 @@
 #include "screens/main/GuideWindow.h"
 
+#include "screens/panels/Accessible.h"
 #include "screens/panels/KeptPlace.h"
 #include "screens/panels/Labels.h"
 #include "screens/panels/Layouts.h"
@@ -233,13 +234,19 @@ bool GuideWindow::FindNext(bool backwards)
         txtGuide->moveCursor(backwards ? QTextCursor::End : QTextCursor::Start);
         if (!txtGuide->find(part, way)) {
             txtGuide->setTextCursor(before);
-            lblFound->setText("Not found");
+            TellFound("Not found");
             return false;
         }
-        lblFound->setText(backwards ? "Found from the end on" : "Found from the beginning on");
+        TellFound(backwards ? "Found from the end on" : "Found from the beginning on");
     }
     ShowChapterAtHand();
     return true;
+}
+
+void GuideWindow::TellFound(const QString& words)
+{
+    lblFound->setText(words);
+    Announce(*lblFound, words);
 }
 
 void GuideWindow::keyPressEvent(QKeyEvent* event)

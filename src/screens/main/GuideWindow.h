@@ -39,6 +39,7 @@ private:
     void Fill();
     void ListChapters();
     void ShowChapterAtHand();
+    void TellFound(const QString& words);
 
     bool hasStood = false;
 };
