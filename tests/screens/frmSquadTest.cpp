@@ -662,6 +662,29 @@ TEST_F(frmSquadTest, ThePinnedStayWhateverIsFilteredAndGoWithTheirLeague)
     EXPECT_FALSE(squad.Comparison->isVisible());
 }
 
+// The number of a team is another team's there.
+TEST_F(frmSquadTest, InAnotherLeagueTheChosenTeamIsTheOneOfThatNameOrNone)
+{
+    LeagueData.LeagueCode = "AAAAA";
+    frmSquad& squad = SquadOver(MainWithLeague());
+    squad.cboTeam->setCurrentIndex(squad.cboTeam->findData(OwnTeam));
+    const std::string name = Teams[OwnTeam].Name.Trimmed();
+    Teams[OwnTeam].Name = "Renamed Gulls";
+    Main().PlaceTeam();
+    EXPECT_EQ(squad.cboTeam->currentText(), "Renamed Gulls");
+    LeagueData.LeagueCode = "BBBBB";
+    Teams[OwnTeam].Name = "Some Others";
+    Teams[OwnTeam + 1].Name = "Renamed Gulls";
+    Main().PlaceTeam();
+    EXPECT_EQ(squad.cboTeam->currentData().toInt(), OwnTeam + 1);
+    EXPECT_EQ(squad.Filter().Team, OwnTeam + 1);
+    LeagueData.LeagueCode = "CCCCC";
+    Teams[OwnTeam + 1].Name = name;
+    Main().PlaceTeam();
+    EXPECT_EQ(squad.cboTeam->currentText(), "Whole league");
+    EXPECT_EQ(squad.Filter().Team, std::nullopt);
+}
+
 TEST_F(frmSquadTest, AnEmptyLeagueAndAnEmptyTeamSaySo)
 {
     EmptyLeagueTables(OpenLeague);

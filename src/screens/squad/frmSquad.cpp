@@ -34,6 +34,8 @@ namespace {
 constexpr QSize UsualSize(1240, 720);
 constexpr int LeastRoomBeside = 760; // a window narrower than that shows too little to stand beside another
 
+constexpr int LeagueRole = Qt::UserRole + 1; // of the first entry of the teams: the code of their league
+
 constexpr const char* Captions[] = {"Skaters", "Goalies", "Prospects"};
 constexpr const char* NotProved = "Where people stand is shown for the team whose screens are open.";
 
@@ -136,13 +138,22 @@ void frmSquad::ListTeams()
         return order != 0 ? order < 0 : left.second < right.second;
     });
     const QVariant chosen = cboTeam->currentData();
+    const QString chosenName = cboTeam->currentText();
+    const QString league = ToQString(LeagueData.LeagueCode.Raw());
+    const bool isSameLeague = cboTeam->count() > 0 && cboTeam->itemData(0, LeagueRole).toString() == league;
     const QSignalBlocker quiet(cboTeam);
     cboTeam->clear();
     cboTeam->addItem("Whole league");
+    cboTeam->setItemData(0, league, LeagueRole);
     cboTeam->addItem("Without a team", SquadFilter::WithoutTeam);
     for (const auto& [name, number] : teams)
         cboTeam->addItem(name, number);
-    cboTeam->setCurrentIndex(chosen.isValid() ? std::max(0, cboTeam->findData(chosen)) : 0);
+    // A team may have got another name meanwhile, and in another league its number is another team's.
+    const bool isByNumber = isSameLeague || chosen.toInt() == SquadFilter::WithoutTeam;
+    const int row = !chosen.isValid() ? 0
+                    : isByNumber      ? cboTeam->findData(chosen)
+                                      : cboTeam->findText(chosenName, Qt::MatchFixedString | Qt::MatchCaseSensitive);
+    cboTeam->setCurrentIndex(std::max(0, row));
 }
 
 // What does not apply to the table in front is closed, and says why.
