@@ -17,7 +17,10 @@ std::optional<std::string> NameOfSomebody(const Tables& league, PersonId who)
 
 } // namespace
 
-bool PinnedPeople::IsStill(const Tables& league, const Pin& pin) { return NameOfSomebody(league, pin.Who) == pin.Name; }
+bool PinnedPeople::IsStill(const Tables& league, const Pin& pin)
+{
+    return league.LeagueData.LeagueCode.Raw() == pin.League && NameOfSomebody(league, pin.Who) == pin.Name;
+}
 
 bool PinnedPeople::Toggle(const Tables& league, PersonId who)
 {
@@ -25,13 +28,13 @@ bool PinnedPeople::Toggle(const Tables& league, PersonId who)
     if (!name)
         return false;
     const bool wasPinned = Has(league, who);
-    // Whoever was pinned in a slot that is somebody else's by now takes nobody's place.
+    // Whoever was pinned in another league, or in a slot that is somebody else's by now, takes nobody's place.
     std::erase_if(pinned, [&](const Pin& pin) { return pin.Who == who || !IsStill(league, pin); });
     if (wasPinned)
         return true;
     if (Of(league, who.IsGoalie).size() == Most)
         return false;
-    pinned.push_back({who, *name});
+    pinned.push_back({who, *name, league.LeagueData.LeagueCode.Raw()});
     return true;
 }
 

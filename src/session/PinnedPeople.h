@@ -9,7 +9,8 @@
 namespace dravik {
 
 // Whom the manager has pinned in order to hold others against them: up to four skaters and up to four goalies, in the order in
-// which he pinned them. They stay pinned on every screen as long as their slots are theirs, which their names tell.
+// which he pinned them. They stay pinned on every screen as long as their slots are theirs, which their names tell, and in no
+// other league than theirs, whatever names stand there.
 class PinnedPeople {
 public:
     static constexpr std::size_t Most = 4; // of a kind
@@ -30,6 +31,7 @@ private:
     struct Pin {
         PersonId Who;
         std::string Name;
+        std::string League; // by its code
     };
     [[nodiscard]] static bool IsStill(const Tables& league, const Pin& pin);
 

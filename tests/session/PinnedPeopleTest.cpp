@@ -69,5 +69,19 @@ TEST_F(PinnedPeopleTest, WhoeverHasHisSlotNowIsNotPinnedAndTakesNoPlace)
     EXPECT_THAT(Pins.Of(OpenLeague, false), ElementsAre(Skater(1), Skater(4), Skater(2), Skater(5)));
 }
 
+// Two leagues that began with the same people have the same names in the same slots.
+TEST_F(PinnedPeopleTest, NobodyIsPinnedInAnotherLeague)
+{
+    LeagueData.LeagueCode = "AAAAA";
+    for (int slot = 1; slot <= 4; ++slot)
+        Pins.Toggle(OpenLeague, Skater(slot));
+    LeagueData.LeagueCode = "BBBBB";
+    EXPECT_THAT(Pins.Of(OpenLeague, false), IsEmpty());
+    EXPECT_FALSE(Pins.Has(OpenLeague, Skater(1)));
+    EXPECT_EQ(Pins.First(OpenLeague, false), std::nullopt);
+    EXPECT_TRUE(Pins.Toggle(OpenLeague, Skater(1)));
+    EXPECT_THAT(Pins.Of(OpenLeague, false), ElementsAre(Skater(1)));
+}
+
 } // namespace
 } // namespace dravik
