@@ -18,17 +18,24 @@ QString TogglePin(PersonId who)
     const QString name = NameOf(who);
     if (isDone)
         emit NewsOfPins().Changed();
-    else if (OpenPins().Of(OpenLeague, who.IsGoalie).size() == PinnedPeople::Most)
+    else if (OpenPins().HasNoRoomFor(OpenLeague, who))
         return QString("%1 people are compared at most.").arg(PinnedPeople::Most);
     else
         return {};
     return name + (IsPinned(who) ? " is pinned." : " is let go.");
 }
 
-void LetGoOfPinned(bool goalies)
+QString LetGoOfPinned()
 {
-    OpenPins().LetGo(goalies);
+    const bool wasSomebody = IsAnybodyPinned();
+    OpenPins().LetGoOfAll();
     emit NewsOfPins().Changed();
+    return wasSomebody ? "All who were pinned are let go." : "Nobody is pinned.";
+}
+
+bool IsAnybodyPinned()
+{
+    return OpenPins().First(OpenLeague, false).has_value() || OpenPins().First(OpenLeague, true).has_value();
 }
 
 bool IsPinned(PersonId who) { return OpenPins().Has(OpenLeague, who); }

@@ -23,8 +23,9 @@ PinNews& NewsOfPins();
 // Pins somebody, or lets him go again, and says so: "Ward Tilton is pinned". Says too that nobody more can be pinned; of nobody
 // it does and says nothing.
 QString TogglePin(PersonId who);
-// Lets all skaters go, or all goalies.
-void LetGoOfPinned(bool goalies);
+// Lets all go, skaters and goalies, and says so.
+QString LetGoOfPinned();
+[[nodiscard]] bool IsAnybodyPinned();
 [[nodiscard]] bool IsPinned(PersonId who);
 
 // The signs of somebody, with that of the pinned.

@@ -32,15 +32,15 @@ bool PinnedPeople::Toggle(const Tables& league, PersonId who)
     std::erase_if(pinned, [&](const Pin& pin) { return pin.Who == who || !IsStill(league, pin); });
     if (wasPinned)
         return true;
-    if (Of(league, who.IsGoalie).size() == Most)
+    if (HasNoRoomFor(league, who))
         return false;
     pinned.push_back({who, *name, league.LeagueData.LeagueCode.Raw()});
     return true;
 }
 
-void PinnedPeople::LetGo(bool goalies)
+bool PinnedPeople::HasNoRoomFor(const Tables& league, PersonId who) const
 {
-    std::erase_if(pinned, [goalies](const Pin& pin) { return pin.Who.IsGoalie == goalies; });
+    return NameOfSomebody(league, who) && !Has(league, who) && Of(league, who.IsGoalie).size() >= Most;
 }
 
 bool PinnedPeople::Has(const Tables& league, PersonId who) const

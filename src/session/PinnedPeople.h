@@ -18,8 +18,8 @@ public:
     // Pins somebody, or lets him go again. False, and nothing is done, where as many of his kind are pinned as can be, and of
     // nobody: a slot that is not in use, the placeholder, or a number outside his table.
     bool Toggle(const Tables& league, PersonId who);
-    // Lets all of a kind go.
-    void LetGo(bool goalies);
+    // Whether he is somebody who cannot be pinned, since as many of his kind are as can be.
+    [[nodiscard]] bool HasNoRoomFor(const Tables& league, PersonId who) const;
     void LetGoOfAll() { pinned.clear(); }
 
     [[nodiscard]] bool Has(const Tables& league, PersonId who) const;

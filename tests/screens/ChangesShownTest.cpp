@@ -1,8 +1,10 @@
 #include "OnMainScreen.h"
 #include "OnTeamScreen.h"
+#include "PersonMenuOf.h"
 #include "screens/main/frmCompare.h"
 #include "screens/panels/ChangeList.h"
 #include "screens/panels/PersonCards.h"
+#include "screens/Pins.h"
 #include "screens/player/frmEditPlayer.h"
 #include "session/OpenChanges.h"
 #include "session/OpenSaves.h"
@@ -13,6 +15,8 @@
 #include <filesystem>
 
 #include <QImage>
+#include <QTextDocumentFragment>
+#include <QToolTip>
 #include <set>
 
 namespace dravik {
@@ -119,6 +123,35 @@ TEST_F(ChangesShownTest, AnOpeningShowsWhatItChanged)
     Settle();
     EXPECT_THAT(Texts(Main()), ElementsAre("Skater 1: hurt, condition 50"));
     EXPECT_TRUE(ListOf(Main()).isVisible());
+}
+
+// The right button picks nobody there, and what is told of money is nobody's.
+TEST_F(ChangesShownTest, SomebodyIsPinnedByTheMenuOfHisEntry)
+{
+    PlayOn();
+    MainWithLeague();
+    Main().ShowChanges();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&Main()));
+    Settle();
+    QMenu* menu = MenuByMouse(*ListOf(Main()).List(), 1);
+    ASSERT_NE(menu, nullptr);
+    PressItem(*menu, "mnuPin");
+    EXPECT_TRUE(IsPinned(PersonIn<Player>(4)));
+    EXPECT_EQ(QTextDocumentFragment::fromHtml(QToolTip::text()).toPlainText(), "Skater 4 is pinned.");
+    QToolTip::hideText();
+    EXPECT_EQ(ListOf(Main()).List()->Chosen(), nullptr);
+
+    frmTeam& team = OpenTeam(5);
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&team));
+    EntryList* list = ListOf(team).List();
+    menu = MenuByMouse(*list, 0);
+    ASSERT_NE(menu, nullptr);
+    PressItem(*menu, "mnuPin");
+    EXPECT_TRUE(IsPinned(PersonIn<Player>(1)));
+    QToolTip::hideText();
+    ASSERT_TRUE(list->item(1)->text().startsWith("Bank account"));
+    EXPECT_EQ(MenuByMouse(*list, 1), nullptr);
+    EXPECT_EQ(list->Chosen(), nullptr);
 }
 
 TEST_F(ChangesShownTest, TheTeamScreenTellsItsOwnSecretsToo)

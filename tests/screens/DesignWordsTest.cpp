@@ -36,6 +36,7 @@ void AddPins(std::vector<DesignWords>& expected)
     AddElements(expected, "lblGhost", 1, 16);
     expected.push_back({"lblPinned", ""});
     expected.push_back({"cmdPin", "Pin", "Pin him to hold others against him"});
+    expected.push_back({"cmdLetGo", "\u00D7", "Let all go who are pinned"});
 }
 
 TEST_F(DesignWordsTest, OfTheMainScreen)

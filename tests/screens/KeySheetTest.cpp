@@ -4,6 +4,7 @@
 #include "league/RatingWords.h"
 #include "OnEveryScreen.h"
 #include "OnHistory.h"
+#include "PersonMenuOf.h"
 #include "rules/PersonSigns.h"
 #include "screens/lines/frmLine.h"
 #include "screens/lines/SlotPicker.h"
@@ -277,6 +278,20 @@ TEST_F(KeySheetTest, EveryKeyOfAControlDoesWhatIsTold)
              QTest::keyClicks(line.lstPlayer, wanted.section(' ', -1).left(5));
              Settle();
              return line.lstPlayer->currentItem()->text().contains(wanted.section(' ', -1).left(5));
+         }},
+        {"a list: Menu / right press",
+         [&] {
+             line.lstPlayer->setCurrentRow(1);
+             bool all = true;
+             for (const bool isByKey : {true, false}) {
+                 QMenu* menu = isByKey ? MenuByKey(*line.lstPlayer) : MenuByMouse(*line.lstPlayer, 2);
+                 all = all && menu != nullptr && menu->isVisible() && line.lstPlayer->currentRow() == 1;
+                 if (menu != nullptr)
+                     menu->close();
+                 line.activateWindow(); // which the test platform takes for a popup
+                 Settle();
+             }
+             return all;
          }},
         {"a slot: Left / Right / Up / Down",
          [&] {

@@ -2,6 +2,7 @@
 #include "OnEveryScreen.h"
 #include "OnHistory.h"
 #include "PaintedContrast.h"
+#include "PersonMenuOf.h"
 #include "screens/lines/frmLine.h"
 #include "screens/market/frmDraft.h"
 #include "screens/market/frmFreeAgentClient.h"
@@ -9,6 +10,7 @@
 #include "screens/panels/GhostWords.h"
 #include "screens/panels/PersonCards.h"
 #include "screens/panels/Shades.h"
+#include "screens/panels/WhyClosed.h"
 #include "screens/PersonWords.h"
 #include "screens/player/frmEditPlayer.h"
 #include "screens/roster/frmRoster.h"
@@ -17,6 +19,8 @@
 #include "session/PinnedPeople.h"
 
 #include <QAccessible>
+#include <QTextDocumentFragment>
+#include <QToolTip>
 
 // Who is pinned: by which key and command, where it is told, and whose ratings are held against his.
 namespace dravik {
@@ -265,9 +269,140 @@ TEST_F(PinsTest, WhoIsPinnedOnAScreenIsComparedInTheSquadTableAndLetGoThere)
     frmSquad& squad = *TheStage.Squad();
     ASSERT_TRUE(squad.Comparison->isVisible());
     EXPECT_EQ(squad.tblCompare->Figures->index(0, 0).data().toString(), NameOf(WhoIn(list, row)));
+    const PersonId goalie = WhoIn(list, RowOf(list, true));
+    TogglePin(goalie); // who is not in this table
     Click(squad.cmdLetGo);
     EXPECT_FALSE(squad.Comparison->isVisible());
     EXPECT_FALSE(HasPin(list, row));
+    EXPECT_FALSE(IsPinned(goalie));
+    EXPECT_EQ(squad.lblTold->text(), "All who were pinned are let go.");
+    TogglePin(goalie);
+    squad.activateWindow();
+    Press(&squad, Qt::Key_P, Qt::ControlModifier | Qt::ShiftModifier);
+    EXPECT_FALSE(IsPinned(goalie));
+}
+
+TEST_F(PinsTest, OfNobodyNothingIsSaidHoweverManyArePinned)
+{
+    MainWithLeague();
+    for (int slot = 1, pinned = 0; pinned < 4; ++slot)
+        pinned += Players[slot].InUse && OpenPins().Toggle(OpenLeague, PersonIn<Player>(slot)) ? 1 : 0;
+    EXPECT_EQ(TogglePin(PersonIn<Player>(0)), "");
+    EXPECT_EQ(TogglePin(PersonIn<Player>(100000)), "");
+}
+
+TEST_F(PinsTest, ANameIsToldAsItIsWritten)
+{
+    auto& roster = Opened<frmRoster>("Roster");
+    PickList& list = *roster.lstPlayer[status::Pro];
+    const int row = RowOf(list, false);
+    Players[WhoIn(list, row).Slot].Name = "<b>Bo</b> & Co";
+    Pick(list, row);
+    PressPin(&list);
+    EXPECT_EQ(QTextDocumentFragment::fromHtml(QToolTip::text()).toPlainText(), "<b>Bo</b> & Co is pinned.");
+    QToolTip::hideText();
+}
+
+TEST_F(PinsTest, TheMenuOfAnEntryPinsAndLetsGoAndPicksNobody)
+{
+    auto& roster = Opened<frmRoster>("Roster");
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&roster));
+    PickList& list = *roster.lstPlayer[status::Pro];
+    const int first = RowOf(list, false);
+    const int second = RowOf(list, false, first + 1);
+    const int goalie = RowOf(list, true);
+    Pick(list, first);
+    QMenu* menu = MenuByMouse(list, second);
+    ASSERT_NE(menu, nullptr);
+    EXPECT_EQ(menu->findChild<QAction*>("mnuPin")->text(), "Pin " + NameOf(WhoIn(list, second)) + "\tCtrl+M");
+    EXPECT_FALSE(menu->findChild<QAction*>("mnuLetGo")->isEnabled());
+    EXPECT_EQ(ReasonOf(*menu->findChild<QAction*>("mnuLetGo")), "Nobody is pinned.");
+    PressItem(*menu, "mnuPin");
+    EXPECT_EQ(list.findChild<QMenu*>("mnuPerson"), nullptr);
+    EXPECT_TRUE(IsPinned(WhoIn(list, second)));
+    EXPECT_EQ(list.currentRow(), first);
+    EXPECT_EQ(list.selectedItems(), QList<QListWidgetItem*>{list.item(first)});
+    EXPECT_THAT(Ghosts(*roster.Stats), ::testing::Not(::testing::IsEmpty()));
+
+    list.setCurrentRow(goalie, QItemSelectionModel::ClearAndSelect);
+    menu = MenuByKey(list);
+    ASSERT_NE(menu, nullptr);
+    PressItem(*menu, "mnuPin");
+    EXPECT_TRUE(IsPinned(WhoIn(list, goalie)));
+    menu = MenuByMouse(list, second);
+    ASSERT_NE(menu, nullptr);
+    EXPECT_TRUE(menu->findChild<QAction*>("mnuPin")->text().startsWith("Unpin "));
+    PressItem(*menu, "mnuLetGo");
+    EXPECT_FALSE(IsAnybodyPinned());
+    EXPECT_FALSE(HasPin(list, second));
+    QToolTip::hideText();
+}
+
+TEST_F(PinsTest, TheMenuPinsOnTheDraftScreenAndProspectsHaveNone)
+{
+    auto& draft = Opened<frmDraft>("Draft");
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&draft));
+    const PersonId who = PersonOf(*NumberOf(draft.lstPlayers->item(1)));
+    QMenu* menu = MenuByMouse(*draft.lstPlayers, 1);
+    ASSERT_NE(menu, nullptr);
+    PressItem(*menu, "mnuPin");
+    EXPECT_TRUE(IsPinned(who));
+    EXPECT_EQ(draft.lstPlayers->Chosen(), nullptr);
+    QToolTip::hideText();
+    draft.close();
+    Settle();
+    LeagueData.FantasyDraft = false;
+    LeagueData.OffSeason = true;
+    LeagueData.EntryDraft = true;
+    auto& entry = Opened<frmDraft>("Draft");
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&entry));
+    ASSERT_GT(entry.lstPlayers->count(), 0);
+    EXPECT_EQ(MenuByMouse(*entry.lstPlayers, 0), nullptr);
+    EXPECT_EQ(entry.lstPlayers->Chosen(), nullptr);
+}
+
+TEST_F(PinsTest, BesideTheNameOfThePinnedACommandLetsAllGo)
+{
+    auto& roster = Opened<frmRoster>("Roster");
+    PickList& list = *roster.lstPlayer[status::Pro];
+    const int first = RowOf(list, false);
+    const int second = RowOf(list, false, first + 1);
+    auto* command = roster.Stats->findChild<QToolButton*>("cmdLetGo");
+    ASSERT_NE(command, nullptr);
+    Pick(list, RowOf(list, true));
+    PressPin(&list);
+    Pick(list, first);
+    PressPin(&list);
+    EXPECT_FALSE(command->isVisible());
+    Pick(list, second);
+    ASSERT_TRUE(command->isVisible());
+    Click(command);
+    EXPECT_FALSE(IsAnybodyPinned());
+    EXPECT_FALSE(command->isVisible());
+    EXPECT_THAT(Ghosts(*roster.Stats), ::testing::IsEmpty());
+    EXPECT_TRUE(list.hasFocus());
+}
+
+TEST_F(PinsTest, OnEveryScreenWithPeopleAKeyLetsAllGo)
+{
+    int screens = 0;
+    EachScreen([&](Screen& screen, const std::string& name) {
+        if (name.find(',') != std::string::npos || name == "About" || name == "Ticket")
+            return;
+        ++screens;
+        const auto firstIn = [](const auto& people) {
+            int slot = 1;
+            while (!people[slot].InUse)
+                ++slot;
+            return slot;
+        };
+        for (const PersonId who : {PersonIn<Player>(firstIn(Players)), PersonIn<Goalie>(firstIn(Goalies))})
+            ASSERT_TRUE(OpenPins().Toggle(OpenLeague, who)) << name;
+        QTest::keyClick(&screen, Qt::Key_P, Qt::ControlModifier | Qt::ShiftModifier);
+        Settle();
+        EXPECT_FALSE(IsAnybodyPinned()) << name;
+    });
+    EXPECT_EQ(screens, 8);
 }
 
 // Beside the bar itself the ghost is seen in every palette: by its outline, which has the contrast of words, and by its pattern.

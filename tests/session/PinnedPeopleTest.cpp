@@ -33,9 +33,9 @@ TEST_F(PinnedPeopleTest, PinsInOrderAndLetsGo)
     EXPECT_TRUE(Pins.Toggle(OpenLeague, Skater(3)));
     EXPECT_FALSE(Pins.Has(OpenLeague, Skater(3)));
     EXPECT_EQ(Pins.First(OpenLeague, false), Skater(1));
-    Pins.LetGo(false);
+    Pins.LetGoOfAll();
     EXPECT_EQ(Pins.First(OpenLeague, false), std::nullopt);
-    EXPECT_TRUE(Pins.Has(OpenLeague, Goaler(3)));
+    EXPECT_EQ(Pins.First(OpenLeague, true), std::nullopt);
 }
 
 TEST_F(PinnedPeopleTest, FourOfAKindAreTheMost)

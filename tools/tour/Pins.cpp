@@ -47,7 +47,7 @@ void Evening::HoldOnLines(LinesScreen& screen)
     constexpr QSize ofUnits(1220, 330);
     Require(camera.Photograph(*units, "lines-units", ofUnits), "pictures of two lines are written");
     units->close();
-    LetGoOfPinned(false);
+    LetGoOfPinned();
     NoComplaints("people and lines are held against each other");
 }
 

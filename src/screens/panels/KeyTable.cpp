@@ -16,6 +16,8 @@ constexpr auto OnMain = "frmMain";
 constexpr auto WithLists = "frmMain frmTeam frmRoster frmLine frmFarmLine frmFreeAgentClient frmDraft frmCompare";
 constexpr auto WithCards = "frmMain frmTeam frmRoster frmLine frmFarmLine frmFreeAgentClient frmDraft";
 constexpr auto WithPins = "frmMain frmTeam frmRoster frmLine frmFarmLine frmFreeAgentClient frmDraft frmEditPlayer";
+constexpr auto WithLetGo =
+    "frmMain frmTeam frmRoster frmLine frmFarmLine frmFreeAgentClient frmDraft frmEditPlayer frmSquad";
 constexpr auto OnMarket = "frmFreeAgentClient frmDraft";
 constexpr auto Slot = "a slot";
 constexpr auto List = "a list";
@@ -42,6 +44,7 @@ constexpr KeyRow Rows[] = {
     {"frmAbout frmCompare", KeyScope::Screen, "Esc", "", "Exit"},
     {WithCards, KeyScope::Screen, "Ctrl+I", "", "The card of a person"},
     {WithPins, KeyScope::Screen, "Ctrl+M", "", "Pin a person to hold others against him, or let him go"},
+    {WithLetGo, KeyScope::Screen, "Ctrl+Shift+P", "", "Let all go who are pinned"},
     {OnMarket, KeyScope::Screen, "F3", "", "Find next"},
     {OnLines, KeyScope::Screen,
      "Ctrl+1 / Ctrl+2 / Ctrl+3 / Ctrl+4 / Ctrl+5 / Ctrl+6 / Ctrl+7 / Ctrl+8 / Ctrl+9 / Ctrl+0", "", "Day 1 to day 10"},
@@ -63,6 +66,8 @@ constexpr KeyRow Rows[] = {
     {OnSquad, KeyScope::Screen, "Esc", "", "Take back what was typed, or close"},
     {WithLists, KeyScope::Control, "Up / Down / Home / End", List, "Choose somebody"},
     {WithLists, KeyScope::Control, "letters", List, "Go to a name with these letters in it; Backspace takes one back"},
+    {WithCards, KeyScope::Control, "Menu / right press", List,
+     "A menu that pins somebody or lets all go; nobody is chosen"},
     {OnLines, KeyScope::Control, "Left / Right / Up / Down", Slot, "Walk the board"},
     {OnLines, KeyScope::Control, "Space / Return", Slot, "Place who is picked in the list"},
     {OnLines, KeyScope::Control, "F2 / Menu / a letter / right press", Slot, "Pick who may stand there; Esc closes"},

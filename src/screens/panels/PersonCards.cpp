@@ -2,6 +2,8 @@
 
 #include "screens/panels/Accessible.h"
 #include "screens/panels/EntryList.h"
+#include "screens/panels/PersonMenu.h"
+#include "screens/panels/PinParts.h"
 #include "screens/panels/SlotLabel.h"
 #include "screens/panels/StatPanel.h"
 #include "screens/Pins.h"
@@ -12,7 +14,6 @@
 #include <QKeyEvent>
 #include <QMouseEvent>
 #include <QShortcut>
-#include <QToolTip>
 
 namespace dravik {
 
@@ -50,11 +51,16 @@ std::optional<PersonId> WhoseRatingsAreShown(const QWidget& window)
 PersonCards::PersonCards(QWidget* shownOver) : QObject(shownOver), window(shownOver)
 {
     connect(new QShortcut(QKeySequence(CardKey), window), &QShortcut::activated, this, &PersonCards::ShowAtFocus);
-    connect(new QShortcut(QKeySequence("Ctrl+M"), window), &QShortcut::activated, this, &PersonCards::PinAtFocus);
+    connect(new QShortcut(QKeySequence(PinKey), window), &QShortcut::activated, this, &PersonCards::PinAtFocus);
+    LetGoByKey(*window);
 }
 
 void PersonCards::Serve(EntryList* list, EntryWords words)
 {
+    new PersonMenu(list, [words](int number) {
+        const auto card = words(number);
+        return card ? std::optional(card->Who) : std::nullopt;
+    });
     lists.insert(list->viewport(), std::move(words));
     list->viewport()->installEventFilter(this);
 }
@@ -100,10 +106,10 @@ void PersonCards::PinAtFocus()
     const QString outcome = who ? TogglePin(*who) : QString();
     if (outcome.isEmpty())
         return;
-    QWidget& told = at.Words ? *at.Place : *window;
     if (at.Words)
-        QToolTip::showText(told.mapToGlobal(at.Anchor.bottomLeft()), outcome, &told);
-    Announce(told, outcome);
+        TellOfPin(*at.Place, at.Anchor, outcome);
+    else
+        Announce(*window, outcome);
 }
 
 void PersonCards::ShowUnderMouse(QWidget* place, const QPoint& point)

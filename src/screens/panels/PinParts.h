@@ -4,6 +4,8 @@
 #include "screens/panels/ElidedLabel.h"
 
 #include <optional>
+#include <QBoxLayout>
+#include <QPointer>
 #include <QToolButton>
 
 // What pins people where their ratings stand, and tells who is pinned.
@@ -33,9 +35,25 @@ public:
     explicit PinLine(QWidget* parent);
 
     void Tell(const QString& name);
+    // The line beside a command that lets all go who are pinned. That takes no focus, as its key does the same, and is seen with the
+    // line.
+    QHBoxLayout* WithLetGo();
 
 protected:
     void paintEvent(QPaintEvent* event) override;
+
+private:
+    QPointer<QToolButton> letGo;
 };
+
+// The keys that pin somebody and let all go, as sheets and menus tell them.
+inline constexpr const char* PinKey = "Ctrl+M";
+inline constexpr const char* LetGoKey = "Ctrl+Shift+P";
+
+// Has that key let all go in a window.
+void LetGoByKey(QWidget& window);
+
+// Tells what became of a pin beside `anchor` in `place`, seen and for a screen reader, as it is written.
+void TellOfPin(QWidget& place, const QRect& anchor, const QString& outcome);
 
 } // namespace dravik

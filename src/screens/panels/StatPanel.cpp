@@ -53,7 +53,7 @@ StatPanel::StatPanel(QWidget* parent, const char* numberName) : QGroupBox("Stats
         lblStatLabel[row] = ratings->Captions[row];
     column->addLayout(ratings);
     lblPinned = new PinLine(this);
-    column->addWidget(lblPinned);
+    column->addLayout(lblPinned->WithLetGo());
     connect(&NewsOfPins(), &PinNews::Changed, this, [this] { ShowGhosts(); });
     HideRows();
 }

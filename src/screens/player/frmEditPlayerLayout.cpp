@@ -267,12 +267,13 @@ QWidget* frmEditPlayer::MakeStatsGroup()
     column->addLayout(ratings);
     cmdPin = new PinCommand(group);
     lblPinned = new PinLine(group);
-    QHBoxLayout* foot = MakeRow({lblPinned});
-    foot->addStretch(1);
-    foot->addWidget(cmdPin);
+    QHBoxLayout* foot = MakeRow({});
+    foot->addLayout(lblPinned->WithLetGo(), 1);
+    foot->addWidget(cmdPin, 0, Qt::AlignRight);
     column->addLayout(foot);
     connect(&NewsOfPins(), &PinNews::Changed, this, [this] { ShowPinned(); });
-    connect(new QShortcut(QKeySequence("Ctrl+M"), this), &QShortcut::activated, cmdPin, &QToolButton::click);
+    connect(new QShortcut(QKeySequence(PinKey), this), &QShortcut::activated, cmdPin, &QToolButton::click);
+    LetGoByKey(*this);
     lblStatLabel = ratings->Captions;
     return group;
 }

@@ -297,7 +297,7 @@ void frmSquad::cmdPin_Click()
 
 void frmSquad::cmdLetGo_Click()
 {
-    LetGoOfPinned(Table().People().Kind() == SquadKind::Goalies);
+    Tell(LetGoOfPinned());
     Table().setFocus(Qt::OtherFocusReason);
 }
 

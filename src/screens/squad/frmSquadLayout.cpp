@@ -200,6 +200,7 @@ void frmSquad::MakeKeys()
     add("Alt+Left", [this] { Table().MoveColumnAtHand(-1); });
     add("Alt+Right", [this] { Table().MoveColumnAtHand(1); });
     add("Ctrl+M", [this] { cmdPin->click(); });
+    add("Ctrl+Shift+P", [this] { Tell(LetGoOfPinned()); });
     add("Esc", [this] { Leave(); });
 }
 
