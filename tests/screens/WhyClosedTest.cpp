@@ -3,12 +3,17 @@
 #include "screens/panels/WhyClosed.h"
 
 #include "OnEveryScreen.h"
+#include "screens/panels/EditArea.h"
 #include "screens/roster/frmRoster.h"
 #include "screens/RosterEntry.h"
 #include "screens/squad/frmSquad.h"
+#include "screens/team/frmTeam.h"
 
+#include <QAbstractSpinBox>
 #include <QAction>
+#include <QComboBox>
 #include <QHelpEvent>
+#include <QLineEdit>
 #include <QMenu>
 #include <QTextDocumentFragment>
 #include <QToolButton>
@@ -93,6 +98,20 @@ protected:
     {
         return tip.starts_with("Nothing to undo") || tip.starts_with("Nothing to redo") || tip.starts_with("closed: ");
     }
+    // A box for a text, a number or a choice that takes none now. Parts of other boxes are none, and neither are the figures beside the
+    // list of free agents, which nobody could ever type.
+    static bool IsClosedBox(const QWidget& widget)
+    {
+        const auto* line = qobject_cast<const QLineEdit*>(&widget);
+        const bool isBox = line != nullptr || qobject_cast<const EditArea*>(&widget) != nullptr ||
+                           qobject_cast<const QComboBox*>(&widget) != nullptr ||
+                           qobject_cast<const QAbstractSpinBox*>(&widget) != nullptr;
+        const bool isPart = qobject_cast<const QAbstractSpinBox*>(widget.parentWidget()) != nullptr ||
+                            qobject_cast<const QComboBox*>(widget.parentWidget()) != nullptr;
+        const bool isFigure = widget.window()->objectName() == "frmFreeAgentClient" &&
+                              (widget.objectName() == "txtAge" || widget.objectName() == "txtSalary");
+        return isBox && !isPart && !isFigure && (!widget.isEnabled() || (line != nullptr && line->isReadOnly()));
+    }
     // Expects of everything closed on a window that it tells why; gives the names of what was closed.
     static void ExpectReasons(QWidget& window, const std::string& where, std::set<std::string>& closed)
     {
@@ -111,6 +130,16 @@ protected:
             EXPECT_THAT(tip, HasSubstr(reason)) << where << ": " << name;
             EXPECT_THAT(command->accessibleDescription().toStdString(), HasSubstr(reason)) << where << ": " << name;
         }
+        for (QWidget* box : window.findChildren<QWidget*>()) {
+            if (!box->isVisible() || !IsClosedBox(*box))
+                continue;
+            const std::string name = box->objectName().toStdString();
+            closed.insert(name);
+            const std::string reason = ReasonOf(*box).toStdString();
+            EXPECT_NE(reason, "") << where << ": " << name;
+            EXPECT_THAT(TipAt(box), HasSubstr(reason)) << where << ": " << name;
+            EXPECT_THAT(box->accessibleDescription().toStdString(), HasSubstr(reason)) << where << ": " << name;
+        }
         for (auto* item : window.findChildren<QAction*>()) {
             if (!item->isVisible() || item->isEnabled() || item->text().isEmpty() || item->objectName().isEmpty())
                 continue;
@@ -128,9 +157,12 @@ protected:
 
 TEST_F(WhyClosedTest, InALeagueThatAllowsAlmostEverything)
 {
-    EXPECT_THAT(ClosedOnAll(),
-                IsSupersetOf({"cmdUndo", "cmdRedo", "cmdToPro", "cmdToFarm", "cmdToScratchesFromPro",
-                              "cmdToScratchesFromFarm", "cmdCaptain", "cmdAssistant", "cmdTradeAvailable"}));
+    const std::set<std::string> closed = ClosedOnAll();
+    EXPECT_THAT(closed, IsSupersetOf({"cmdUndo", "cmdRedo", "cmdToPro", "cmdToFarm", "cmdToScratchesFromPro",
+                                      "cmdToScratchesFromFarm", "cmdCaptain", "cmdAssistant", "cmdTradeAvailable",
+                                      "txtTeamName", "txtFarmMorale", "txtArena", "txtArenaCapacity(5)", "txtName",
+                                      "txtSalary", "txtStats(1)"}));
+    EXPECT_THAT(closed, Not(Contains("txtTicket(1)")));
 }
 
 TEST_F(WhyClosedTest, InALeagueThatClosesWhatItCan)
@@ -138,13 +170,14 @@ TEST_F(WhyClosedTest, InALeagueThatClosesWhatItCan)
     LeagueData.AutoRosterDisabled = true;
     LeagueData.FarmEnabled = false;
     LeagueData.ScheduleShown = false;
+    LeagueData.TicketRuleFlag = true;
     MainWithLeague();
     Main().SetFreeAgentsMenu(false);
     Main().SetDraftMenu(false, "&Draft List");
     const std::set<std::string> closed = ClosedOnAll();
-    EXPECT_THAT(closed,
-                IsSupersetOf({"cmdAutoRoster", "cmdAutoRosterPartial", "cmdAutoLines", "cmdPartialLine", "cmdRepairAll",
-                              "cmdCopy", "cmdFarmLines", "cmdFreeAgents", "cmdDraft", "mnuFreeAgents", "mnuDraft"}));
+    EXPECT_THAT(closed, IsSupersetOf({"cmdAutoRoster", "cmdAutoRosterPartial", "cmdAutoLines", "cmdPartialLine",
+                                      "cmdRepairAll", "cmdCopy", "cmdFarmLines", "cmdFreeAgents", "cmdDraft",
+                                      "mnuFreeAgents", "mnuDraft", "txtTicket(1)", "txtTicket(5)"}));
 }
 
 TEST_F(WhyClosedTest, WhereThereIsNobody)
@@ -154,6 +187,36 @@ TEST_F(WhyClosedTest, WhereThereIsNobody)
     for (Goalie& goalie : Goalies)
         goalie.Team = 0;
     EXPECT_THAT(ClosedOnAll(), Contains("cmdSaveToFile"));
+}
+
+TEST_F(WhyClosedTest, TheOfferWhereNobodyIsChosen)
+{
+    for (Player& player : Players)
+        player = {};
+    for (Goalie& goalie : Goalies)
+        goalie = {};
+    std::set<std::string> closed;
+    EachScreen([&closed](Screen& screen, const std::string& name) {
+        if (name == "FreeAgent")
+            ExpectReasons(screen, name, closed);
+    });
+    EXPECT_THAT(closed, IsSupersetOf({"txtOffer", "txtDuration", "txtBonus", "txtComment"}));
+}
+
+TEST_F(WhyClosedTest, TextThatIsCutStandsInFrontOfTheReason)
+{
+    Teams[OwnTeam].City = "Saint-Ambrelin-des-Grandes-Rives-du-Nord";
+    MainWithLeague();
+    CurrentTeam = OwnTeam;
+    CallerScreen = "Main";
+    TheStage.Open("Team", Main());
+    Settle();
+    auto& team = static_cast<frmTeam&>(*TheStage.Find("Team"));
+    team.txtCity->setFixedWidth(60);
+    Settle();
+    EXPECT_EQ(TipAt(team.txtCity),
+              "Saint-Ambrelin-des-Grandes-Rives-du-Nord\n" + ReasonOf(*team.txtCity).toStdString());
+    EXPECT_NE(ReasonOf(*team.txtCity), "");
 }
 
 TEST_F(WhyClosedTest, OnTheSquadTable)
@@ -173,8 +236,8 @@ TEST_F(WhyClosedTest, OnTheSquadTable)
     QTest::keyClicks(squad->txtName, "qqqqq");
     Settle();
     ExpectReasons(*squad, "nobody found", closed);
-    EXPECT_THAT(closed,
-                IsSupersetOf({"chkPosition(1)", "cmdShowPlayer", "cmdPin", "cmdCopy", "cmdSaveCsv", "cmdShowAll"}));
+    EXPECT_THAT(closed, IsSupersetOf({"chkPosition(1)", "cmdShowPlayer", "cmdPin", "cmdCopy", "cmdSaveCsv",
+                                      "cmdShowAll", "cboTeam", "cboStands", "spnAgeFrom", "spnContract"}));
 }
 
 TEST_F(WhyClosedTest, TheRosterTellsWhatIsWrongWithWhoIsChosen)

@@ -151,7 +151,7 @@ void LinesScreen::MakeCommands()
     cmdDebug = MakeCommand("cmdDebug", "W&hy are my lines incomplete?", [this] { cmdDebug_Click(); });
     cmdExit = MakeCommand("cmdExit", "E&xit", [this] { cmdExit_Click(); });
     TellWhyClosed({cmdAutoLines, cmdRepairAll}, ToQString(MakersClosedWords));
-    TellWhyClosed({cmdCopy}, "The next days are unknown: the league shows no schedule, or no game is left.");
+    TellWhyClosed({cmdCopy, vscDay}, "The next days are unknown: the league shows no schedule, or no game is left.");
     TellWhyClosed({cmdDebug}, "The lines of this day are complete.");
     Commands =
         MakeFooter({cmdAutoLines, cmdRepairAll, cmdWipeLines, cmdCopy, cmdCopyAll}, {MakeHistoryCommands(), cmdExit});

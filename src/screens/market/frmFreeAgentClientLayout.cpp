@@ -108,6 +108,7 @@ void frmFreeAgentClient::MakeControls()
     txtComment->SetLines(LinesOfComment);
     connect(txtComment, &EditArea::LostFocus, this,
             [this] { Leave([this] { RunStep(WordsOfChange(*txtComment), [this] { txtComment_LostFocus(); }); }); });
+    TellWhyClosed({txtOffer, txtDuration, txtBonus, txtComment}, "Open for whoever is chosen and may be asked.");
     EnableOffer(false);
 
     secondPress.setSingleShot(true);

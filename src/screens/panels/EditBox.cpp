@@ -2,11 +2,15 @@
 
 #include "screens/panels/ElidedLabel.h"
 #include "screens/panels/Shades.h"
+#include "screens/panels/WhyClosed.h"
 
 #include <QFocusEvent>
+#include <QHelpEvent>
 #include <QMouseEvent>
 #include <QPainter>
 #include <QStyleOptionFrame>
+#include <QTextDocument>
+#include <QToolTip>
 #include <utility>
 
 namespace dravik {
@@ -88,8 +92,16 @@ void EditBox::paintEvent(QPaintEvent* event)
 
 bool EditBox::event(QEvent* event)
 {
-    return (event->type() == QEvent::ToolTip && IsCut() && TellWhole(displayText(), event, this)) ||
-           QLineEdit::event(event);
+    if (event->type() == QEvent::ToolTip && IsCut()) {
+        if (TellWhole(displayText(), event, this))
+            return true;
+        if (!ReasonOf(*this).isEmpty()) { // behind the text, which comes first
+            QToolTip::showText(static_cast<QHelpEvent*>(event)->globalPos(),
+                               Qt::convertFromPlainText(displayText()) + toolTip(), this, rect());
+            return true;
+        }
+    }
+    return QLineEdit::event(event);
 }
 
 void EditBox::ReadAsLabelWhenClosed()

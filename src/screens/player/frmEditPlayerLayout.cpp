@@ -1,5 +1,6 @@
 #include "screens/ElementName.h"
 #include "screens/panels/Crest.h"
+#include "screens/panels/KeptWords.h"
 #include "screens/panels/Labels.h"
 #include "screens/panels/Layouts.h"
 #include "screens/panels/WhyClosed.h"
@@ -19,7 +20,6 @@ namespace {
 
 constexpr QSize DefaultSize(1120, 600);
 constexpr int MostListRows = 8;
-constexpr const char* KeptByTheLeague = "Records are kept by the league: a manager sees them, and changes none.";
 constexpr const char* LongestCaption = "Suspension :";
 constexpr const char* WidestAmount = "-2147483648";
 constexpr const char* WidestNumber = "-999999";
@@ -100,11 +100,14 @@ frmEditPlayer::frmEditPlayer(Stage& stage) : Screen(stage, "frmEditPlayer")
 
     SetPage(content, MakeFooter({chkEdit, cmdSearch, cmdNewPlayer, cmdNewGoaler, cmdErase}, {cmdExit}));
 
-    TellWhyClosed(
-        {chkEdit, cmdSearch, cmdNewPlayer, cmdNewGoaler, cmdErase, chkRookie, chkNoTrade, chkNoApplyRerate, optGoaler},
-        KeptByTheLeague);
+    TellWhyClosed({chkEdit,          cmdSearch,   cmdNewPlayer, cmdNewGoaler, cmdErase,   chkRookie,    chkNoTrade,
+                   chkNoApplyRerate, optGoaler,   txtName,      txtTeam,      txtCountry, txtAge,       txtWeight,
+                   txtHeight,        txtContract, txtSalary,    txtCondition, txtInjury,  txtSuspension},
+                  kept::Records);
     for (QRadioButton* option : optPosition)
-        TellWhyClosed({option}, KeptByTheLeague);
+        TellWhyClosed({option}, kept::Records);
+    for (EditBox* box : txtStats)
+        TellWhyClosed({box}, kept::Records);
     optGoaler->hide();
     FitList();
     CloseEditor();

@@ -37,7 +37,6 @@ constexpr int LeastRoomBeside = 760; // a window narrower than that shows too li
 constexpr int LeagueRole = Qt::UserRole + 1; // of the first entry of the teams: the code of their league
 
 constexpr const char* Captions[] = {"Skaters", "Goalies", "Prospects"};
-constexpr const char* NotProved = "Where people stand is shown for the team whose screens are open.";
 
 constexpr const char* Hint =
     "Ratings as the league shows them. Where somebody stands, his slots and flags are shown for your own "
@@ -174,7 +173,6 @@ void frmSquad::ShowFilters()
         cboStands->setCurrentIndex(0);
     }
     cboStands->setEnabled(isPeople && isProved);
-    cboStands->setToolTip(isProved ? QString() : NotProved);
 }
 
 SquadFilter frmSquad::TypedFilter() const

@@ -212,7 +212,12 @@ void frmSquad::MakeReasons()
     });
     TellWhyClosed({cmdPick}, "Choose somebody first who is in a list of the screen in front.");
     TellWhyClosed({cmdCopy, cmdSaveCsv}, "Nobody is in the table.");
-    TellWhyClosed({cmdShowAll, chkMayBeAsked}, "Of a prospect there is a name alone: nothing else lets him through.");
+    TellWhyClosed({cboStands}, [this] {
+        return QString(owner.ProvedTeam() == 0 ? "Where people stand is shown for the team whose screens are open."
+                                               : "Of a prospect there is a name alone.");
+    });
+    TellWhyClosed({cmdShowAll, chkMayBeAsked, cboTeam, spnAgeFrom, spnAgeTo, spnOverall, spnContract},
+                  "Of a prospect there is a name alone: nothing else lets him through.");
     for (QCheckBox* box : chkPosition)
         TellWhyClosed({box}, "Skaters alone have one of these positions.");
 }

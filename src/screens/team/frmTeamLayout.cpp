@@ -2,6 +2,7 @@
 #include "screens/panels/ChangeList.h"
 #include "screens/panels/Crest.h"
 #include "screens/panels/ElidedLabel.h"
+#include "screens/panels/KeptWords.h"
 #include "screens/panels/Labels.h"
 #include "screens/panels/Layouts.h"
 #include "screens/panels/WhyClosed.h"
@@ -81,6 +82,8 @@ frmTeam::frmTeam(Stage& stage) : Screen(stage, "frmTeam")
 
     TellWhyClosed({cmdFarmLines}, "The league plays without farm teams.");
     TellWhyClosed({cmdSaveToFile}, "The lines of day 1 are not complete on both sides.");
+    TellWhyClosed({txtTeamName, txtAbbre, txtCity, txtGm, txtFarmTeamName, txtFarmAbbre, txtProMorale, txtFarmMorale},
+                  kept::Team);
     CloseWhatTheLeagueKeeps();
     SetTabOrder();
     ShowSaveHint({}, {});

@@ -6,8 +6,10 @@
 #include "screens/ElementName.h"
 #include "screens/EventGuard.h"
 #include "screens/panels/ElidedLabel.h"
+#include "screens/panels/KeptWords.h"
 #include "screens/panels/Labels.h"
 #include "screens/panels/Layouts.h"
+#include "screens/panels/WhyClosed.h"
 #include "screens/platform/CodePage.h"
 #include "screens/Shown.h"
 #include "session/Session.h"
@@ -64,6 +66,12 @@ frmTicket::frmTicket(Stage& stage) : Screen(stage, "frmTicket"), lblTitle(new El
             box->setAlignment(Qt::AlignRight);
             box->ReadAsLabelWhenClosed();
         }
+
+    TellWhyClosed({txtArena}, kept::Arena);
+    for (EditBox* box : txtArenaCapacity)
+        TellWhyClosed({box}, kept::Arena);
+    for (EditBox* box : txtTicket)
+        TellWhyClosed({box}, ToQString(PricesKeptWords));
 
     // On a large window the sheet stays a sheet.
     auto* sheet = new QWidget(this);
