@@ -4,12 +4,18 @@
 
 #include "OnEveryScreen.h"
 #include "screens/panels/ChangeList.h"
+#include "screens/panels/ElidedLabel.h"
 #include "screens/platform/Palettes.h"
+#include "screens/squad/CompareTable.h"
 #include "screens/squad/frmSquad.h"
 #include "screens/team/CalendarWindow.h"
+#include "screens/team/GraphsWindow.h"
 
 #include <QDir>
 #include <QImageWriter>
+#include <QLayout>
+#include <QScrollBar>
+#include <QTabWidget>
 #include <random>
 #include <set>
 
@@ -175,7 +181,7 @@ TEST_F(CrestTest, NothingOutsideOfTheFolderIsRead)
 
 TEST_F(CrestTest, StandsBesideTheNameOnEveryScreenOfTheTeam)
 {
-    for (const char* name : {"Team", "Roster", "Line", "FarmLine", "FreeAgent", "Draft"}) {
+    for (const char* name : {"Team", "Roster", "Line", "FarmLine", "FreeAgent", "Draft", "Ticket"}) {
         Screen& screen = Opened(name);
         auto* crest = screen.findChild<CrestLabel*>();
         ASSERT_NE(crest, nullptr) << name;
@@ -297,6 +303,24 @@ TEST_F(CrestTest, TheCalendarHasThoseOfTheOpponents)
     EXPECT_GT(Seen(calendar->tblSeason->viewport(), MonogramGround({"", opponent})), 80) << opponent.toStdString();
 }
 
+TEST_F(CrestTest, TheGraphOfTenDaysHasThoseOfTheOpponentsBesideWholeNames)
+{
+    Screen& screen = Opened("Team");
+    QTest::keyClick(&screen, Qt::Key_G, Qt::ControlModifier | Qt::ShiftModifier);
+    auto* graphs = screen.findChild<GraphsWindow*>();
+    ASSERT_NE(graphs, nullptr);
+    FigureTable* table = graphs->Days.tblFigures;
+    graphs->findChild<QTabWidget*>()->setCurrentIndex(2);
+    Settle();
+    ASSERT_GT(table->rowCount(), 0);
+    for (int row = 0; row < table->rowCount(); ++row) {
+        const QString opponent = table->TextAt(row, 1);
+        EXPECT_GT(Seen(table->viewport(), MonogramGround({"", opponent})), 80) << opponent.toStdString();
+        const int words = table->fontMetrics().horizontalAdvance(opponent) + CrestRoom(table->fontMetrics());
+        EXPECT_LE(words, table->columnWidth(1)) << opponent.toStdString();
+    }
+}
+
 TEST_F(CrestTest, TheSquadTableHasThemInTheColumnOfTeams)
 {
     MainWithLeague();
@@ -313,6 +337,57 @@ TEST_F(CrestTest, TheSquadTableHasThemInTheColumnOfTeams)
     EXPECT_GT(Seen(table.viewport(), MonogramGround(crest)), 80);
     table.setColumnWidth(column, 34);
     EXPECT_EQ(Seen(table.viewport(), MonogramGround(crest)), 0) << "the words come first";
+}
+
+TEST_F(CrestTest, TheSheetOfTicketsHasItWhereTheNameLosesNothing)
+{
+    Screen& tickets = Opened("Ticket");
+    auto* crest = tickets.findChild<CrestLabel*>();
+    auto* title = tickets.findChild<ElidedLabel*>("lblTitle");
+    int with = 0;
+    int without = 0;
+    for (int length = 1; length <= 40; ++length) {
+        title->setText(QString(length, 'W'));
+        Settle();
+        const bool hasCrest = crest->isVisible();
+        (hasCrest ? with : without) += 1;
+        const bool isCut = title->IsCut();
+        EXPECT_FALSE(hasCrest && isCut) << length;
+        crest->hide();
+        tickets.findChild<QWidget*>("lblTitle")->parentWidget()->layout()->activate();
+        EXPECT_EQ(title->IsCut(), isCut) << length << ": as without a crest";
+    }
+    EXPECT_GT(with, 5);
+    EXPECT_GT(without, 5);
+}
+
+TEST_F(CrestTest, TheComparisonHasThemWhereNoFigureLosesItsRoom)
+{
+    MainWithLeague();
+    std::vector<SquadPerson> people;
+    for (int slot = 1; people.size() < 3; ++slot)
+        if (Players[slot].Team == OwnTeam)
+            people.push_back({SquadKind::Skaters, slot});
+    CompareTable table(nullptr);
+    table.Compare({.League = &OpenLeague, .Shown = &Machine}, people);
+    table.resize(1250, 120);
+    table.show();
+    Settle();
+    const QModelIndex name = table.Figures->index(0, 0);
+    EXPECT_EQ(name.data(entry::CrestRole).value<Crest>(), Own());
+    EXPECT_FALSE(table.Figures->index(0, 1).data(entry::CrestRole).isValid());
+    EXPECT_GT(Seen(table.viewport(), Ground()), 3 * 50);
+    EXPECT_TRUE(name.data(Qt::AccessibleTextRole).toString().endsWith(", Harbour City Gulls"));
+    const int withCrests = table.columnWidth(0);
+    int narrowest = 1250;
+    while (narrowest > 300 && name.data(entry::CrestRole).isValid()) {
+        EXPECT_EQ(table.horizontalScrollBar()->maximum(), 0) << narrowest << ": all figures are in sight";
+        table.resize(--narrowest, 120);
+    }
+    EXPECT_GT(narrowest, 300);
+    EXPECT_EQ(Seen(table.viewport(), Ground()), 0);
+    EXPECT_EQ(table.columnWidth(0), withCrests - CrestRoom(table.fontMetrics())) << "the names keep their room";
+    EXPECT_EQ(table.horizontalScrollBar()->maximum(), 0) << "they went before a figure did";
 }
 
 TEST_F(CrestTest, WhatChangedHasThemBesideItsTeams)

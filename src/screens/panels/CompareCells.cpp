@@ -1,5 +1,6 @@
 #include "screens/panels/CompareCells.h"
 
+#include "screens/panels/Crest.h"
 #include "screens/panels/Shades.h"
 #include "screens/platform/Palettes.h"
 
@@ -30,10 +31,15 @@ void CompareDelegate::paint(QPainter* painter, const QStyleOptionViewItem& optio
 {
     const QColor front = option.palette.color(QPalette::Active, QPalette::Text);
     const QColor back = option.palette.color(QPalette::Active, QPalette::Base);
-    const QRect words = option.rect.adjusted(SideMargin, 0, -SideMargin, -SideMargin);
+    QRect words = option.rect.adjusted(SideMargin, 0, -SideMargin, -SideMargin);
     const QString text = index.data().toString();
     const QString difference = index.data(compare::DifferenceRole).toString();
     painter->save();
+    if (const auto crest = index.data(entry::CrestRole).value<Crest>(); !crest.IsNone()) {
+        const int side = CrestSide(option.fontMetrics);
+        PaintCrest(*painter, QRect(words.left(), words.top() + (words.height() - side) / 2, side, side), crest);
+        words.setLeft(words.left() + CrestRoom(option.fontMetrics));
+    }
     painter->setFont(option.font);
     painter->setPen(front);
     painter->drawText(words, Qt::AlignLeft | Qt::AlignVCenter | Qt::TextSingleLine,

@@ -16,7 +16,7 @@ inline constexpr int DifferenceRole = Qt::UserRole + 1;
 void DrawRatingBar(QPainter& painter, const QRect& cell, int rating, const QColor& front, const QColor& back,
                    const QColor& accent);
 
-// Draws a figure over its bar, and behind it the difference in small muted letters.
+// Draws a figure over its bar, behind it the difference in small muted letters, and a crest in front of the words that have one.
 class CompareDelegate : public QStyledItemDelegate {
 public:
     using QStyledItemDelegate::QStyledItemDelegate;

@@ -23,7 +23,9 @@ public:
 
     [[nodiscard]] QSize sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const override
     {
-        return QStyledItemDelegate::sizeHint(option, index) + QSize(2 * SideRoom, 0);
+        const bool hasCrest = !index.data(entry::CrestRole).value<Crest>().IsNone();
+        return QStyledItemDelegate::sizeHint(option, index) +
+               QSize(2 * SideRoom + (hasCrest ? CrestRoom(option.fontMetrics) : 0), 0);
     }
 
     void paint(QPainter* painter, const QStyleOptionViewItem& option, const QModelIndex& index) const override

@@ -1,6 +1,7 @@
 #include "screens/squad/CompareTable.h"
 
 #include "screens/panels/CompareCells.h"
+#include "screens/panels/Crest.h"
 #include "screens/panels/GhostWords.h"
 #include "screens/platform/CodePage.h"
 
@@ -28,6 +29,14 @@ void CompareModel::Compare(const SquadSight& newSight, const std::vector<SquadPe
             if (column.Cells == SquadCells::Name || column.Cells == SquadCells::Rating || column.Key == "Age")
                 columns.push_back(column);
     endResetModel();
+}
+
+void CompareModel::ShowCrests(bool shown)
+{
+    if (showsCrests == shown || people.empty())
+        return;
+    showsCrests = shown;
+    emit dataChanged(index(0, 0), index(rowCount() - 1, 0), {entry::CrestRole});
 }
 
 int CompareModel::rowCount(const QModelIndex& parent) const
@@ -60,7 +69,10 @@ std::optional<long long> CompareModel::Difference(int row, int column) const
 QString CompareModel::SpokenCell(int row, int column) const
 {
     const SquadColumn& shown = columns[static_cast<std::size_t>(column)];
-    QString words = ToQString(SquadSpokenText(shown, sight, people[static_cast<std::size_t>(row)]));
+    const SquadPerson who = people[static_cast<std::size_t>(row)];
+    QString words = ToQString(SquadSpokenText(shown, sight, who));
+    if (const Team* team = shown.Cells == SquadCells::Name ? TeamOf(sight, who) : nullptr)
+        words += ", " + ToQString(team->Name.Trimmed()); // of whom the crest tells two letters
     const auto difference = Difference(row, column);
     if (!difference)
         return words;
@@ -89,6 +101,11 @@ QVariant CompareModel::data(const QModelIndex& index, int role) const
     case DifferenceRole:
         if (const auto difference = Difference(index.row(), index.column()))
             return SignedText(*difference);
+        return {};
+    case entry::CrestRole:
+        if (showsCrests && column.Cells == SquadCells::Name)
+            if (const Team* team = TeamOf(sight, people[static_cast<std::size_t>(index.row())]))
+                return QVariant::fromValue(CrestOf(*team));
         return {};
     default:
         return {};
@@ -138,10 +155,28 @@ void CompareTable::Compare(const SquadSight& sight, const std::vector<SquadPerso
         return;
     QHeaderView* heading = horizontalHeader();
     heading->setSectionResizeMode(0, QHeaderView::Fixed);
-    heading->resizeSection(0, fontMetrics().averageCharWidth() * NameInLetters);
     heading->setMinimumSectionSize(fontMetrics().horizontalAdvance("00 +00") + 2 * SideMargin + 2);
+    FitNames();
     setFixedHeight(heading->sizeHint().height() +
                    static_cast<int>(people.size()) * verticalHeader()->defaultSectionSize() + 2 * frameWidth());
+}
+
+void CompareTable::resizeEvent(QResizeEvent* event)
+{
+    FitNames();
+    QTableView::resizeEvent(event);
+}
+
+// The names keep their room with crests beside them as without.
+void CompareTable::FitNames()
+{
+    if (Figures->columnCount() == 0)
+        return;
+    const int names = fontMetrics().averageCharWidth() * NameInLetters;
+    const int figures = (Figures->columnCount() - 1) * horizontalHeader()->minimumSectionSize();
+    const bool hasRoom = names + CrestRoom(fontMetrics()) + figures <= viewport()->width();
+    horizontalHeader()->resizeSection(0, hasRoom ? names + CrestRoom(fontMetrics()) : names);
+    Figures->ShowCrests(hasRoom);
 }
 
 } // namespace dravik

@@ -22,6 +22,8 @@ public:
 
     // Compares these, all of one kind, through those eyes.
     void Compare(const SquadSight& sight, const std::vector<SquadPerson>& people);
+    // Has each tell his team's crest in the column of names, or none of them.
+    void ShowCrests(bool shown);
 
     [[nodiscard]] int rowCount(const QModelIndex& parent = {}) const override;
     [[nodiscard]] int columnCount(const QModelIndex& parent = {}) const override;
@@ -36,9 +38,11 @@ private:
     SquadSight sight;
     std::vector<SquadPerson> people;
     std::vector<SquadColumn> columns; // the name and the figures
+    bool showsCrests = false;
 };
 
-// That comparison as a table as high as its people need.
+// That comparison as a table as high as its people need. Beside the names stand the crests of their teams, where all figures keep their
+// room.
 class CompareTable : public QTableView {
 public:
     explicit CompareTable(QWidget* parent);
@@ -46,6 +50,12 @@ public:
     void Compare(const SquadSight& sight, const std::vector<SquadPerson>& people);
 
     CompareModel* Figures;
+
+protected:
+    void resizeEvent(QResizeEvent* event) override;
+
+private:
+    void FitNames();
 };
 
 } // namespace dravik

@@ -1,6 +1,7 @@
 #include "screens/team/GraphsWindow.h"
 
 #include "desk/TeamFigures.h"
+#include "screens/panels/Crest.h"
 #include "screens/panels/Labels.h"
 #include "screens/panels/Layouts.h"
 #include "screens/platform/CodePage.h"
@@ -181,6 +182,12 @@ void GraphsWindow::ShowDays()
         rows << row;
     }
     Fill(Days, data, rows);
+    for (int row = 0; row < static_cast<int>(rows.size()); ++row) {
+        const auto opponent = days[static_cast<std::size_t>(row)].OpponentNumber;
+        Days.tblFigures->item(row, 1)->setData(
+            entry::CrestRole,
+            QVariant::fromValue(opponent && TeamTable::Has(*opponent) ? CrestOf(Teams[*opponent]) : Crest()));
+    }
 }
 
 void GraphsWindow::ShowRanks()

@@ -5,6 +5,7 @@
 #include "machine/Reporting.h"
 #include "screens/ElementName.h"
 #include "screens/EventGuard.h"
+#include "screens/panels/Crest.h"
 #include "screens/panels/ElidedLabel.h"
 #include "screens/panels/KeptWords.h"
 #include "screens/panels/Labels.h"
@@ -39,6 +40,30 @@ void ShowTyped(EditBox* box, const TypedNumber& typed)
     if (!typed.Accepted)
         Refuse(box);
 }
+
+// The name with the crest beside it: the sheet is no wider than a long name, and where that would lose a letter the crest goes.
+class TitleRow : public QWidget {
+public:
+    TitleRow(CrestLabel* itsCrest, QLabel* itsTitle, QWidget* parent) :
+        QWidget(parent), crest(itsCrest), title(itsTitle)
+    {
+        QHBoxLayout* row = MakeRow({crest, title}, Margin);
+        row->setContentsMargins(0, 0, 0, 0);
+        setLayout(row);
+    }
+
+protected:
+    bool event(QEvent* event) override
+    {
+        if (event->type() == QEvent::Resize || event->type() == QEvent::LayoutRequest)
+            crest->setVisible(crest->sizeHint().width() + Margin + title->sizeHint().width() <= width());
+        return QWidget::event(event);
+    }
+
+private:
+    CrestLabel* const crest;
+    QLabel* const title;
+};
 
 } // namespace
 
@@ -77,7 +102,7 @@ frmTicket::frmTicket(Stage& stage) : Screen(stage, "frmTicket"), lblTitle(new El
     auto* sheet = new QWidget(this);
     sheet->setMaximumWidth(DefaultSize.width());
     QVBoxLayout* column = MakePage(sheet, Margin);
-    column->addWidget(lblTitle);
+    column->addWidget(new TitleRow(MakeOwnCrest(*lblTitle, sheet), lblTitle, sheet));
     column->addWidget(MakeArenaGroup());
     column->addLayout(MakeFooter({}, {MakeHistoryCommands(), cmdExit}));
     column->addStretch(1);
