@@ -4,6 +4,7 @@
 #include "screens/main/frmCompare.h"
 #include "screens/panels/ChangeList.h"
 #include "screens/panels/PersonCards.h"
+#include "screens/panels/VerdictSigns.h"
 #include "screens/Pins.h"
 #include "screens/player/frmEditPlayer.h"
 #include "session/OpenChanges.h"
@@ -327,6 +328,20 @@ TEST_F(EveningShownTest, RowsSayHowFarTheEveningIs)
     Teams[5].ProLines[2] = Teams[5].ProLines[1];
     Office().FormActivate();
     EXPECT_EQ(Words("lblEveningLines"), "2 of 10 days complete") << "fresh as the screen comes forward";
+}
+
+TEST_F(EveningShownTest, ACountOfMoreThanOneDigitHasRoom)
+{
+    CompleteTeam(5);
+    const auto* sign = Office().findChild<QWidget*>("signEveningLines");
+    ASSERT_TRUE(Command("cmdEveningLines").accessibleDescription().startsWith("Something is wrong, 1 of 10 days"));
+    EXPECT_GE(sign->width(), CountWidth(sign->height(), 9, sign->font()));
+    Teams[5].ProLines[1] = {};
+    Office().FormActivate();
+    Settle();
+    ASSERT_EQ(Words("lblEveningLines"), "0 of 10 days complete");
+    EXPECT_GE(sign->width(), CountWidth(sign->height(), 10, sign->font()));
+    EXPECT_GT(sign->width(), sign->height());
 }
 
 TEST_F(EveningShownTest, F6GoesToTheBoardAndTheArrowsWalkIt)

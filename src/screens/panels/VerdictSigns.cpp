@@ -19,7 +19,27 @@ QRectF SquareIn(const QRectF& area)
     return square;
 }
 
+QString CountText(int count)
+{
+    constexpr int most = 99;
+    return count > most ? QString::number(most) + '+' : QString::number(count);
+}
+
+QFont CountFont(double height, const QFont& font)
+{
+    constexpr double digitPart = 0.72; // of the disc's height
+    QFont digits = HeadingFont(font);
+    digits.setPixelSize(std::max(1, static_cast<int>(height * digitPart)));
+    return digits;
+}
+
 } // namespace
+
+// A disc for one digit, as much wider as more digits want.
+double CountWidth(double height, int count, const QFont& font)
+{
+    return std::max(height, QFontMetricsF(CountFont(height, font)).horizontalAdvance(CountText(count)) + height / 2);
+}
 
 void PaintTick(QPainter& painter, const QRectF& area, const QColor& colour)
 {
@@ -36,25 +56,18 @@ void PaintTick(QPainter& painter, const QRectF& area, const QColor& colour)
 
 void PaintCount(QPainter& painter, const QRectF& area, int count, const QFont& font, const QColor& background)
 {
-    constexpr int most = 99;
-    constexpr double digitPart = 0.72; // of the disc's height
     const QRectF square = SquareIn(area);
     const QColor disc = Alarming(background);
     painter.save();
     painter.setRenderHint(QPainter::Antialiasing);
-    QFont digits = HeadingFont(font);
-    digits.setPixelSize(std::max(1, static_cast<int>(square.height() * digitPart)));
-    const QString text = count > most ? QString::number(most) + '+' : QString::number(count);
-    // A disc for one digit, as much wider as more digits want.
-    const double wanted = QFontMetricsF(digits).horizontalAdvance(text) + square.height() / 2;
     QRectF plate = square;
-    plate.setLeft(plate.right() - std::max(square.width(), wanted));
+    plate.setLeft(plate.right() - CountWidth(square.height(), count, font));
     painter.setPen(Qt::NoPen);
     painter.setBrush(disc);
     painter.drawRoundedRect(plate, square.height() / 2, square.height() / 2);
-    painter.setFont(digits);
+    painter.setFont(CountFont(square.height(), font));
     painter.setPen(Contrast(disc, Qt::white) > Contrast(disc, Qt::black) ? Qt::white : Qt::black);
-    painter.drawText(plate, Qt::AlignCenter, text);
+    painter.drawText(plate, Qt::AlignCenter, CountText(count));
     painter.restore();
 }
 

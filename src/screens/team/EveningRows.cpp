@@ -7,6 +7,7 @@
 #include "screens/platform/CodePage.h"
 
 #include <algorithm>
+#include <cmath>
 #include <QKeyEvent>
 #include <QPainter>
 #include <QTextDocument>
@@ -41,13 +42,15 @@ public:
         state = newState;
         count = newCount;
         isUnsaved = unsaved;
+        updateGeometry();
         update();
     }
 
     [[nodiscard]] QSize sizeHint() const override
     {
-        const int side = fontMetrics().height() + 2;
-        return {side, side};
+        const int side = Side();
+        return {state == EveningState::Wrong ? static_cast<int>(std::ceil(CountWidth(side, count, font()))) : side,
+                side};
     }
 
 protected:
@@ -58,7 +61,7 @@ protected:
         const QColor front = palette().color(QPalette::WindowText);
         const QRectF area = rect();
         if (state == EveningState::Wrong) {
-            PaintCount(painter, area, count, font(), ground);
+            PaintCount(painter, area.adjusted(width() - Side(), 0, 0, 0), count, font(), ground);
         } else if (isUnsaved) {
             PaintUnsaved(painter, area, Cautioning(ground));
         } else if (state == EveningState::Done) {
@@ -71,6 +74,7 @@ protected:
     }
 
 private:
+    [[nodiscard]] int Side() const { return fontMetrics().height() + 2; }
     // A ring with an exclamation mark.
     static void PaintUnsaved(QPainter& painter, const QRectF& area, const QColor& colour)
     {
