@@ -192,7 +192,9 @@ TEST_F(EntryFiguresTest, AreMutedAsSecondaryWordsAreAndLegibleOnEveryGround)
             List.setCurrentRow(chosen, QItemSelectionModel::ClearAndSelect);
             const QImage painted = Painted(Wide + 100, 0);
             ASSERT_EQ(Figures->Places().size(), 3U);
-            const QRect secondary(painted.width() - Figures->Room() - 70, 0, 60, painted.height());
+            // Behind the name, which is not muted, and in front of the figures.
+            constexpr int behindName = 120;
+            const QRect secondary(behindName, 0, painted.width() - Figures->Room() - behindName + 4, painted.height());
             const double aside = PaintedContrast(painted, secondary).value_or(0);
             for (const EntryFigures::Place& place : Figures->Places()) {
                 const int right = painted.width() - 1 - place.FromRight;

@@ -22,13 +22,40 @@
 #include <QUrl>
 
 #include <memory>
-#ifndef _WIN32
+#ifdef _WIN32
+#include <windows.h>
+#undef CreateFile // names of the machine's too
+#undef DeleteFile
+#undef MessageBox
+#else
 #include <sys/wait.h>
 #include <unistd.h>
 #endif
 
 namespace dravik {
 namespace {
+
+// Has a file, which a program may hold, be written last at `when`. False where the system does not let it.
+bool MakeOld(const QString& path, const QDateTime& when)
+{
+#ifdef _WIN32
+    // A file that is held takes another time from whoever asks for nothing else of it.
+    constexpr long long ticksAMillisecond = 10000;
+    constexpr long long epoch = 11644473600000; // in milliseconds since 1601, from where the system counts
+    const long long ticks = (when.toMSecsSinceEpoch() + epoch) * ticksAMillisecond;
+    const FILETIME time{static_cast<DWORD>(ticks), static_cast<DWORD>(ticks >> 32)};
+    const HANDLE file = CreateFileW(path.toStdWString().c_str(), FILE_WRITE_ATTRIBUTES,
+                                    FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE, nullptr, OPEN_EXISTING,
+                                    FILE_ATTRIBUTE_NORMAL, nullptr);
+    const bool isOld = file != INVALID_HANDLE_VALUE && SetFileTime(file, nullptr, nullptr, &time);
+    if (file != INVALID_HANDLE_VALUE)
+        CloseHandle(file);
+    return isOld;
+#else
+    QFile file(path);
+    return file.open(QIODevice::ReadWrite) && file.setFileTime(when, QFileDevice::FileModificationTime);
+#endif
+}
 
 int NumberOfFailure(const std::function<void()>& act)
 {
@@ -56,6 +83,11 @@ protected:
     }
     [[nodiscard]] QString Path(const QString& name) const { return Folder.filePath(name); }
     [[nodiscard]] std::string InFolder(const QString& name) const { return PathToProgram(Path(name)); }
+    // The same as the general manager is told of it.
+    [[nodiscard]] std::string Told(const QString& name) const
+    {
+        return PathToProgram(QDir::toNativeSeparators(Path(name)));
+    }
 
     QTemporaryDir Folder{QDir::tempPath() + QString::fromUtf8("/dravik-Équipe-Лёд-冰-🏒-XXXXXX")};
     QtPlatform Desktop{Places()};
@@ -111,7 +143,7 @@ TEST_F(QtPlatformTest, ASettingThatCannotBeKeptNamesTheFileAndHoldsForThisRun)
     places.SettingsFile = Path("file/settings.ini");
     QtPlatform desktop(places);
     EXPECT_EQ(SettingsFailureOf([&] { desktop.SaveSetting("Settings", "LastLoadLeague", "x"); }),
-              std::pair(InFolder("file/settings.ini"), std::string()));
+              std::pair(Told("file/settings.ini"), std::string()));
     EXPECT_EQ(desktop.GetSetting("Settings", "LastLoadLeague", "none"), "x");
     EXPECT_EQ(desktop.GetSetting("Settings", "SkipZIPClient", "No"), "No");
     EXPECT_EQ(NumberOfFailure([&] { desktop.SaveSetting("Settings", "LastLoadLeague", "y"); }), 75);
@@ -158,7 +190,7 @@ TEST_F(QtPlatformTest, ABrokenSettingsFileIsSetAsideOnceAndAFreshOneBegun)
         QtPlatform desktop(Places());
         const auto read = [&] { return desktop.GetSetting("Settings", "LastLoadLeague", "none"); };
         EXPECT_EQ(SettingsFailureOf([&] { (void)read(); }),
-                  std::pair(InFolder("settings.ini"), InFolder("settings.ini.broken")));
+                  std::pair(Told("settings.ini"), Told("settings.ini.broken")));
         EXPECT_FALSE(QFile::exists(Path("settings.ini")));
         QFile aside(Path("settings.ini.broken"));
         ASSERT_TRUE(aside.open(QIODevice::ReadOnly));
@@ -175,7 +207,7 @@ TEST_F(QtPlatformTest, ABrokenSettingsFileThatCannotBeSetAsideStaysAndIsNamed)
     Write(Path("settings.ini"), "no settings at all");
     ASSERT_TRUE(QDir().mkpath(Path("settings.ini.broken/folder")));
     EXPECT_EQ(SettingsFailureOf([&] { (void)Desktop.GetSetting("Settings", "LastLoadLeague", "none"); }),
-              std::pair(InFolder("settings.ini"), std::string()));
+              std::pair(Told("settings.ini"), std::string()));
     EXPECT_EQ(Desktop.GetSetting("Settings", "LastLoadLeague", "none"), "none");
     EXPECT_TRUE(QFile::exists(Path("settings.ini")));
 }
@@ -226,9 +258,7 @@ TEST_F(QtPlatformTest, AnInstanceThatRunsForDaysIsStillThere)
 {
     QtPlatform first(Places());
     EXPECT_FALSE(first.AnotherInstanceRuns());
-    QFile file(Path("lock"));
-    ASSERT_TRUE(file.open(QIODevice::ReadWrite));
-    ASSERT_TRUE(file.setFileTime(QDateTime::currentDateTime().addDays(-7), QFileDevice::FileModificationTime));
+    ASSERT_TRUE(MakeOld(Path("lock"), QDateTime::currentDateTime().addDays(-7)));
     EXPECT_TRUE(Desktop.AnotherInstanceRuns());
 }
 

@@ -66,7 +66,7 @@ TEST_F(DraftSaveLine, BehindASaveItSaysWhenAndLeadsToTheFile)
     EXPECT_EQ(QApplication::clipboard()->text().toStdString(), path);
     ASSERT_TRUE(Command("cmdShowInFolder")->isVisible());
     Click(Command("cmdShowInFolder"));
-    EXPECT_THAT(Machine.OpenedLocations, ElementsAre(Machine.Folder() + "/"));
+    EXPECT_THAT(Machine.OpenedLocations, ElementsAre(Machine.Folder() + PathSeparator));
     Choose({1});
     EXPECT_EQ(Words(), "Not saved since " + Time());
     EXPECT_FALSE(Command("cmdCopyPath")->isVisible());

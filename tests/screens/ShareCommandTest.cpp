@@ -15,6 +15,7 @@
 #include <QMenu>
 #include <QMessageBox>
 #include <sstream>
+#include <vector>
 
 namespace dravik {
 namespace {
@@ -245,7 +246,11 @@ TEST_F(ShareLineUps, FailureIsToldAndLeavesTheFileThatWasThere)
 TEST_F(ShareLineUps, CancelSavesAndPrintsNothing)
 {
     frmLine& line = Line();
-    for (const char* item : {"mnuShareDayPdf", "mnuShareDayHtml", "mnuShareDayPrint", "mnuShareDayPreview"}) {
+    std::vector<const char*> items{"mnuShareDayPdf", "mnuShareDayHtml", "mnuShareDayPreview"};
+#ifndef _WIN32 // where the dialog of the printers is the system's own
+    items.push_back("mnuShareDayPrint");
+#endif
+    for (const char* item : items) {
         const auto operations = Machine.FileOperations().size();
         OnDialog<QDialog>([](QDialog& dialog) { dialog.reject(); });
         TakeItem(line, item);

@@ -79,6 +79,7 @@ TEST_F(ExportCommand, AFailureWhileWritingLeavesTheFileAsFarAsItCame)
     EXPECT_EQ(std::filesystem::file_size(Machine.InFolder("PlayersRatings.csv")), 0U);
 }
 
+#ifndef _WIN32 // the name of no folder ends with a blank there
 // A program's folder with blanks at its end, which the box does not show.
 class BlankMachine : public ScriptedPlatform {
 public:
@@ -100,6 +101,7 @@ TEST_F(ExportCommand, TheFolderIsToldWithoutItsOuterBlanks)
     EXPECT_THAT(blank.Boxes(), ElementsAre(Asked, Box{64, "Output done in " + blank.Folder()}));
     EXPECT_TRUE(std::filesystem::exists(blank.Folder() + "  /PlayersRatings.csv"));
 }
+#endif
 
 // An open that fails leaves the command up; what it left in the tables is what goes out.
 TEST_F(ExportCommand, AfterAFailedOpenWhatTheTablesHoldIsWritten)
