@@ -11,7 +11,13 @@
 #include <exception>
 #include <system_error>
 #ifdef _WIN32
+#include <fcntl.h>
 #include <io.h>
+#define WIN32_LEAN_AND_MEAN
+#include <windows.h>
+#undef CreateFile // a name of ours too
+#undef DeleteFile
+#undef RenameFile
 #else
 #include <unistd.h>
 #endif
@@ -64,6 +70,15 @@ std::error_code LastError() { return {errno, std::generic_category()}; }
 std::FILE* OpenStream(const fs::path& path, bool forWriting)
 {
 #ifdef _WIN32
+    // What is being written may be removed meanwhile, as elsewhere: whoever interrupts the program leaves no half file. Where it
+    // cannot be opened so, the library's own way says why.
+    if (forWriting) {
+        const HANDLE handle =
+            CreateFileW(path.c_str(), GENERIC_WRITE, FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE, nullptr,
+                        CREATE_ALWAYS, FILE_ATTRIBUTE_NORMAL, nullptr);
+        if (handle != INVALID_HANDLE_VALUE)
+            return _fdopen(_open_osfhandle(reinterpret_cast<std::intptr_t>(handle), _O_BINARY), "wb");
+    }
     return _wfopen(path.c_str(), forWriting ? L"wb" : L"rb");
 #else
     return std::fopen(path.c_str(), forWriting ? "wb" : "rb");

@@ -1,6 +1,7 @@
 #include "terminal/Answers.h"
 
 #include "league/Failure.h"
+#include "machine/Console.h"
 #include "terminal/Interrupt.h"
 #include "terminal/Machine.h"
 #include "terminal/Problem.h"
@@ -15,9 +16,6 @@
 #include <new>
 #include <optional>
 #include <thread>
-#ifndef _WIN32
-#include <unistd.h>
-#endif
 
 namespace dravik::terminal {
 
@@ -62,15 +60,16 @@ public:
             return;
         shown = now;
         const std::size_t full = width * done / std::max<std::size_t>(total, 1);
-        std::cerr << "\r[" << std::string(full, '#') << std::string(width - full, ' ') << "] " << done << " of "
-                  << total << std::flush;
+        const std::string words = "[" + std::string(full, '#') + std::string(width - full, ' ') + "] " +
+                                  std::to_string(done) + " of " + std::to_string(total);
+        std::cerr << '\r' + words << std::flush;
+        length = words.size();
         isShown = true;
     }
     void TakeAway()
     {
-        constexpr const char* clearLine = "\r\x1B[K";
         if (isShown)
-            std::cerr << clearLine << std::flush;
+            std::cerr << ClearedLine(length) << std::flush;
         isShown = false;
     }
 
@@ -79,11 +78,8 @@ private:
     std::chrono::steady_clock::time_point begin = std::chrono::steady_clock::now();
     std::chrono::steady_clock::time_point shown;
     bool isShown = false;
-#ifdef _WIN32
-    bool isOnTerminal = false;
-#else
-    bool isOnTerminal = isatty(STDERR_FILENO) != 0;
-#endif
+    std::size_t length = 0; // of what is shown
+    bool isOnTerminal = IsConsole(Stream::Error);
 };
 
 // The answers as they come, from whichever thread.

@@ -1,16 +1,11 @@
 #include "terminal/Interrupt.h"
 
 #include "league/Failure.h"
+#include "machine/Console.h"
 
 #include <array>
 #include <atomic>
-#include <csignal>
 #include <cstring>
-#ifdef _WIN32
-#include <process.h>
-#else
-#include <unistd.h>
-#endif
 
 namespace dravik::terminal {
 
@@ -24,65 +19,23 @@ struct Place {
 };
 std::array<Place, 64> Places;
 
-#ifndef _WIN32
-constexpr std::array Interruptions{SIGINT, SIGTERM, SIGHUP, SIGQUIT};
-
-termios TerminalBefore;
-std::atomic<bool> IsTerminalChanged = false;
-
-extern "C" void PutInOrder(int signal)
+void PutInOrder()
 {
     // The last named first: a folder is empty when its files are gone.
     for (std::size_t at = Places.size(); at-- > 0;)
-        if (Places[at].IsNamed) {
-            (void)unlink(Places[at].Path.data());
-            (void)rmdir(Places[at].Path.data());
-        }
-    if (IsTerminalChanged)
-        (void)tcsetattr(STDIN_FILENO, TCSANOW, &TerminalBefore);
-    (void)std::signal(signal, SIG_DFL);
-    (void)raise(signal);
+        if (Places[at].IsNamed)
+            RemoveAtInterrupt(Places[at].Path.data());
 }
-#endif
 
 std::string Number()
 {
     static std::atomic<unsigned> count = 0;
-#ifdef _WIN32
-    const int process = _getpid();
-#else
-    const int process = getpid();
-#endif
-    return std::to_string(process) + "-" + std::to_string(++count);
+    return std::to_string(ProcessNumber()) + "-" + std::to_string(++count);
 }
 
 } // namespace
 
-void PutInOrderAtInterrupt()
-{
-#ifndef _WIN32
-    for (const int signal : Interruptions)
-        if (std::signal(signal, PutInOrder) == SIG_IGN)
-            (void)std::signal(signal, SIG_IGN);
-    (void)std::signal(SIGXFSZ, SIG_IGN);
-#endif
-}
-
-#ifdef _WIN32
-InterruptsElsewhere::InterruptsElsewhere() = default;
-InterruptsElsewhere::~InterruptsElsewhere() = default;
-#else
-InterruptsElsewhere::InterruptsElsewhere()
-{
-    sigset_t interruptions;
-    sigemptyset(&interruptions);
-    for (const int signal : Interruptions)
-        sigaddset(&interruptions, signal);
-    pthread_sigmask(SIG_BLOCK, &interruptions, &before);
-}
-
-InterruptsElsewhere::~InterruptsElsewhere() { pthread_sigmask(SIG_SETMASK, &before, nullptr); }
-#endif
+void PutInOrderAtInterrupt() { CallAtInterrupt(PutInOrder); }
 
 WorkName::WorkName(const std::string& target) : WorkName(target + "." + Number() + ".part", AsItIs) {}
 
@@ -105,13 +58,5 @@ WorkName::~WorkName()
     Places[place].IsNamed = false;
     Places[place].IsTaken = false;
 }
-
-#ifndef _WIN32
-void RestoreTerminalAtInterrupt(const termios& state)
-{
-    TerminalBefore = state;
-    IsTerminalChanged = true;
-}
-#endif
 
 } // namespace dravik::terminal

@@ -2,10 +2,6 @@
 
 #include <cstddef>
 #include <string>
-#ifndef _WIN32
-#include <csignal>
-#include <termios.h>
-#endif
 
 // What an interruption (Ctrl+C, the end that another process asks for) must not leave behind.
 namespace dravik::terminal {
@@ -13,21 +9,6 @@ namespace dravik::terminal {
 // From here on an interruption ends the program as it always does, once what stands below is put in order. One that whoever
 // started the program has closed to it (nohup) stays closed. A file that grows above a limit fails as on a full disk.
 void PutInOrderAtInterrupt();
-
-// While this lives, an interruption does not stop this thread but another one. Who waits for a thread that writes has one: whoever
-// writes is stopped himself then, and makes no file behind what puts things in order.
-class InterruptsElsewhere {
-public:
-    InterruptsElsewhere();
-    InterruptsElsewhere(const InterruptsElsewhere&) = delete;
-    InterruptsElsewhere& operator=(const InterruptsElsewhere&) = delete;
-    ~InterruptsElsewhere();
-
-#ifndef _WIN32
-private:
-    sigset_t before{};
-#endif
-};
 
 // A name beside `target`, in the same folder, that no other process and no other thread uses: what a file is called until it is
 // whole. While this lives, an interruption removes the file of this name, or the empty folder.
@@ -48,10 +29,5 @@ private:
     std::string path;
     std::size_t place;
 };
-
-#ifndef _WIN32
-// An interruption gives the terminal this state back.
-void RestoreTerminalAtInterrupt(const termios& state);
-#endif
 
 } // namespace dravik::terminal

@@ -1,3 +1,4 @@
+#include "machine/Console.h"
 #include "terminal/Interrupt.h"
 #include "terminal/Machine.h"
 #include "terminal/Problem.h"
@@ -6,11 +7,14 @@
 
 #include <exception>
 #include <iostream>
+#include <string>
+#include <vector>
 
 // The terminal's program: finds the verb and has it run.
 int main(int argc, char** argv)
 {
     using namespace dravik::terminal;
+    const dravik::ConsoleOutput output;
     CLI::App program("Leagues of the Dravik Hockey Simulator at the terminal, for scripts and for many teams.",
                      "dravik");
     program.set_version_flag("--version", DRAVIK_VERSION);
@@ -26,7 +30,9 @@ int main(int argc, char** argv)
                           AddMake(program),  AddExport(program), AddOffers(program),
                           AddDraft(program), AddDiff(program),   AddSheet(program)};
     try {
-        program.parse(argc, argv);
+        const std::vector<std::string> arguments = dravik::Utf8Arguments(argc, argv);
+        program.parse(
+            std::vector<std::string>(arguments.rbegin(), arguments.rend() - 1)); // the last first, without the name
     } catch (const CLI::ParseError& asked) {
         return program.exit(asked) == 0 ? ending::Done : ending::Failed;
     }
