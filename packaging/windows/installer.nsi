@@ -2,7 +2,7 @@
 ; of it) and OUT.
 ;
 ; It asks whether the program is for the user alone, which takes no rights, or for everybody. Silent with /S, and then with
-; /CurrentUser or /AllUsers. Whatever it put into its folder it takes out again, by name; what the manager keeps there stays.
+; /CurrentUser or /AllUsers, and /D= with a folder behind all others. Whatever it put into its folder it takes out again, by name; what the manager keeps there stays.
 Target amd64-unicode ; as the program; the folders and the registry are then those of 64 bits
 SetCompressor /SOLID lzma
 !define TITLE "Dravik Hockey Simulator Client"
@@ -43,25 +43,44 @@ VIAddVersionKey LegalCopyright "All rights reserved."
 !insertmacro MUI_LANGUAGE English
 
 ; A program that runs cannot be replaced: nothing is touched then.
-!macro RefuseWhileItRuns
-    ${If} ${FileExists} "$INSTDIR\dravik-client.exe"
+!macro RefuseWhileOneRuns PROGRAM_NAME
+    ${If} ${FileExists} "$INSTDIR\${PROGRAM_NAME}"
         ClearErrors
-        FileOpen $0 "$INSTDIR\dravik-client.exe" a
+        FileOpen $0 "$INSTDIR\${PROGRAM_NAME}" a
         ${If} ${Errors}
-            MessageBox MB_OK|MB_ICONEXCLAMATION "The ${TITLE} is running, or its folder cannot be written to. Close it first." /SD IDOK
+            MessageBox MB_OK|MB_ICONEXCLAMATION "The ${TITLE} (${PROGRAM_NAME}) is running, or its folder cannot be written to. Close it first." /SD IDOK
             SetErrorLevel 2
             Quit
         ${EndIf}
         FileClose $0
     ${EndIf}
 !macroend
+!macro RefuseWhileItRuns
+    !insertmacro RefuseWhileOneRuns dravik-client.exe
+    !insertmacro RefuseWhileOneRuns dravik.exe
+!macroend
 
 Function .onInit
+    ; A folder told by /D= (the last word, without quotes) stands before that of the way, and before where it was.
+    StrCpy $R0 $INSTDIR
     !insertmacro MULTIUSER_INIT
+    ${If} $R0 != ""
+        StrCpy $INSTDIR $R0
+    ${EndIf}
 FunctionEnd
 
 Function un.onInit
+    StrCpy $R0 $INSTDIR ; which the next line replaces by what the list of programs says
     !insertmacro MULTIUSER_UNINIT
+    ; Where it stands says whose it is, whatever the command line says: the user may have one of his own beside that of everybody.
+    ReadRegStr $0 HKLM "${UNINSTALL_KEY}" InstallLocation
+    ReadRegStr $1 HKCU "${UNINSTALL_KEY}" InstallLocation
+    ${If} $0 == $R0
+        Call un.MultiUser.InstallMode.AllUsers
+    ${ElseIf} $1 == $R0
+        Call un.MultiUser.InstallMode.CurrentUser
+    ${EndIf}
+    StrCpy $INSTDIR $R0
 FunctionEnd
 
 Section
