@@ -1,7 +1,7 @@
 #include "terminal/Answers.h"
 
 #include "league/Failure.h"
-#include "machine/Console.h"
+#include "terminal/Console.h"
 #include "terminal/Interrupt.h"
 #include "terminal/Machine.h"
 #include "terminal/Problem.h"

@@ -1,6 +1,6 @@
 #include "terminal/Ask.h"
 
-#include "machine/Console.h"
+#include "terminal/Console.h"
 #include "terminal/Utf8.h"
 
 #include <mutex>

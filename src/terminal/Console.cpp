@@ -1,6 +1,6 @@
 #ifndef _WIN32
 
-#include "machine/Console.h"
+#include "terminal/Console.h"
 
 #include <array>
 #include <atomic>
@@ -9,7 +9,7 @@
 #include <termios.h>
 #include <unistd.h>
 
-namespace dravik {
+namespace dravik::terminal {
 
 namespace {
 
@@ -93,6 +93,6 @@ void RemoveAtInterrupt(const char* path)
 
 int ProcessNumber() { return getpid(); }
 
-} // namespace dravik
+} // namespace dravik::terminal
 
 #endif

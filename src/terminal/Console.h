@@ -7,7 +7,7 @@
 #include <vector>
 
 // The terminal that a program runs in, or the console of Windows: what the systems do differently there.
-namespace dravik {
+namespace dravik::terminal {
 
 enum class Stream { Input, Output, Error };
 
@@ -60,4 +60,4 @@ void RemoveAtInterrupt(const char* path);
 // The number of this process.
 int ProcessNumber();
 
-} // namespace dravik
+} // namespace dravik::terminal

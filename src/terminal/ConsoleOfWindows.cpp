@@ -1,6 +1,6 @@
 #ifdef _WIN32
 
-#include "machine/Console.h"
+#include "terminal/Console.h"
 
 #include <algorithm>
 #include <array>
@@ -17,7 +17,7 @@
 
 #include <shellapi.h> // behind the header that it takes its types from
 
-namespace dravik {
+namespace dravik::terminal {
 
 namespace {
 
@@ -228,6 +228,6 @@ void RemoveAtInterrupt(const char* path)
 
 int ProcessNumber() { return static_cast<int>(GetCurrentProcessId()); }
 
-} // namespace dravik
+} // namespace dravik::terminal
 
 #endif

@@ -1,7 +1,7 @@
 #include "terminal/Interrupt.h"
 
 #include "league/Failure.h"
-#include "machine/Console.h"
+#include "terminal/Console.h"
 
 #include <array>
 #include <atomic>

@@ -1,4 +1,4 @@
-#include "machine/Console.h"
+#include "terminal/Console.h"
 #include "terminal/Interrupt.h"
 #include "terminal/Machine.h"
 #include "terminal/Problem.h"
@@ -14,7 +14,7 @@
 int main(int argc, char** argv)
 {
     using namespace dravik::terminal;
-    const dravik::ConsoleOutput output;
+    const ConsoleOutput output;
     CLI::App program("Leagues of the Dravik Hockey Simulator at the terminal, for scripts and for many teams.",
                      "dravik");
     program.set_version_flag("--version", DRAVIK_VERSION);
@@ -30,7 +30,7 @@ int main(int argc, char** argv)
                           AddMake(program),  AddExport(program), AddOffers(program),
                           AddDraft(program), AddDiff(program),   AddSheet(program)};
     try {
-        const std::vector<std::string> arguments = dravik::Utf8Arguments(argc, argv);
+        const std::vector<std::string> arguments = Utf8Arguments(argc, argv);
         program.parse(
             std::vector<std::string>(arguments.rbegin(), arguments.rend() - 1)); // the last first, without the name
     } catch (const CLI::ParseError& asked) {

@@ -102,7 +102,7 @@ TEST_F(frmAboutTest, ThePageOfWhatOthersWroteIsTheOneOfThePackages)
     const std::string packed{std::istreambuf_iterator<char>(file), {}};
     EXPECT_EQ(page->txtPage->toPlainText().toStdString(), packed);
     for (const char* work : {"Qt 6", "GNU Lesser General Public License, version 3", "apt-get source qt6-base",
-                             "\nzlib\n", "\nCLI11 ", "\nnlohmann-json ", "\nISA-L "})
+                             "\nzlib\n", "\nCLI11 ", "\nnlohmann-json ", "\nISA-L\n"})
         EXPECT_THAT(packed, ::testing::HasSubstr(work));
     EXPECT_THAT(Machine.Boxes(), IsEmpty());
 }
