@@ -12,15 +12,13 @@ namespace dravik {
 namespace {
 
 constexpr int Padding = 6; // between the tag's edge and its words
+constexpr const char* Name = "lblPassing";
 constexpr auto Shown = std::chrono::seconds(8);
 
 } // namespace
 
-PassingTag::PassingTag(QWidget* window) : QLabel(window)
+PassingTag::PassingTag(QWidget* window) : Tag(window, Name)
 {
-    setObjectName("lblPassing");
-    setTextFormat(Qt::PlainText);
-    setAttribute(Qt::WA_TransparentForMouseEvents);
     end.setSingleShot(true);
     connect(&end, &QTimer::timeout, this, &QWidget::hide);
 }
@@ -28,7 +26,7 @@ PassingTag::PassingTag(QWidget* window) : QLabel(window)
 void PassingTag::Say(QWidget& command, const QString& words)
 {
     QWidget* window = command.window();
-    auto* tag = static_cast<PassingTag*>(window->findChild<QLabel*>("lblPassing", Qt::FindDirectChildrenOnly));
+    auto* tag = static_cast<PassingTag*>(window->findChild<QLabel*>(Name, Qt::FindDirectChildrenOnly));
     if (tag == nullptr)
         tag = new PassingTag(window);
     tag->setText(words);
@@ -53,14 +51,7 @@ void PassingTag::PlaceAbove(const QWidget& command)
 void PassingTag::paintEvent(QPaintEvent* /*event*/)
 {
     QPainter painter(this);
-    painter.setRenderHint(QPainter::Antialiasing);
-    const QColor ground = palette().color(QPalette::Active, QPalette::Window);
-    const QColor words = palette().color(QPalette::Active, QPalette::WindowText);
-    painter.setPen(Muted(words, ground));
-    painter.setBrush(ground);
-    constexpr double radius = 3;
-    painter.drawRoundedRect(QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5), radius, radius);
-    painter.setPen(words);
+    PaintFrame(painter);
     const QRect line = rect().adjusted(Padding, 0, -Padding, 0);
     painter.drawText(line, Qt::AlignLeft | Qt::AlignVCenter | Qt::TextSingleLine,
                      fontMetrics().elidedText(text(), Qt::ElideMiddle, line.width()));

@@ -17,13 +17,7 @@ constexpr const char* NotFound = ": not found";
 
 } // namespace
 
-TypedTag::TypedTag(QWidget* list) : QLabel(list)
-{
-    setObjectName("lblTyped");
-    setTextFormat(Qt::PlainText);
-    setAttribute(Qt::WA_TransparentForMouseEvents);
-    hide();
-}
+TypedTag::TypedTag(QWidget* list) : Tag(list, "lblTyped") { hide(); }
 
 void TypedTag::Tell(const QString& typed, bool isFound)
 {
@@ -60,21 +54,16 @@ void TypedTag::PlaceIn(const QRect& area, const QRect& chosen)
 void TypedTag::paintEvent(QPaintEvent* /*event*/)
 {
     QPainter painter(this);
-    painter.setRenderHint(QPainter::Antialiasing);
-    const QColor ground = palette().color(QPalette::Active, QPalette::Window);
-    const QColor words = palette().color(QPalette::Active, QPalette::WindowText);
-    painter.setPen(Muted(words, ground));
-    painter.setBrush(ground);
-    constexpr double radius = 3;
-    painter.drawRoundedRect(QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5), radius, radius);
+    PaintFrame(painter);
 
     QRect line = rect().adjusted(Padding, 0, -Padding, 0);
     if (!found) {
+        const QColor ground = palette().color(QPalette::Active, QPalette::Window);
         const int side = fontMetrics().height();
         PaintWarningSign(painter, QRect(line.left(), (height() - side) / 2, side, side), ground);
         line.setLeft(line.left() + side + Padding);
+        painter.setPen(Alarming(ground));
     }
-    painter.setPen(found ? words : Alarming(ground));
     const QString typed = fontMetrics().elidedText(letters, Qt::ElideLeft, width() - WidthOfRest() + 1);
     painter.drawText(line, Qt::AlignLeft | Qt::AlignVCenter | Qt::TextSingleLine, found ? typed : typed + NotFound);
 }

@@ -1,12 +1,12 @@
 #pragma once
 
-#include <QLabel>
+#include "screens/panels/Tag.h"
 
 namespace dravik {
 
 // The small tag at the foot of a list that says what was typed there, with a sign and words where no entry has it. It lies
 // on the list and lets the mouse through. A screen reader is told of every new text.
-class TypedTag : public QLabel {
+class TypedTag : public Tag {
 public:
     explicit TypedTag(QWidget* list);
 
