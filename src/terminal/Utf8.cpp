@@ -1,32 +1,13 @@
 #include "terminal/Utf8.h"
 
+#include "league/Characters.h"
 #include "league/Failure.h"
 
-#include <algorithm>
-#include <array>
 #include <cstddef>
 
 namespace dravik::terminal {
 
 namespace {
-
-// The characters of the bytes 128 to 159. Where the code page defines none, the byte stands for the control character of its
-// number.
-constexpr std::array<char32_t, 32> Upper{0x20AC, 0x0081, 0x201A, 0x0192, 0x201E, 0x2026, 0x2020, 0x2021,
-                                         0x02C6, 0x2030, 0x0160, 0x2039, 0x0152, 0x008D, 0x017D, 0x008F,
-                                         0x0090, 0x2018, 0x2019, 0x201C, 0x201D, 0x2022, 0x2013, 0x2014,
-                                         0x02DC, 0x2122, 0x0161, 0x203A, 0x0153, 0x009D, 0x017E, 0x0178};
-constexpr unsigned FirstUpper = 0x80;
-
-char ByteOf(char32_t character)
-{
-    if (character < FirstUpper || (character >= FirstUpper + Upper.size() && character <= 0xFF))
-        return static_cast<char>(character);
-    const auto* found = std::find(Upper.begin(), Upper.end(), character);
-    if (found == Upper.end())
-        Fail(failure::InvalidCall);
-    return static_cast<char>(FirstUpper + static_cast<unsigned>(found - Upper.begin()));
-}
 
 // Calls `whole(bytes)` for what is no control character, and `control(code)` for what is one.
 void EachPiece(std::string_view text, const auto& whole, const auto& control)
@@ -72,9 +53,7 @@ std::string ToUtf8(std::string_view text)
     std::string utf8;
     utf8.reserve(text.size());
     for (const char c : text) {
-        const auto byte = static_cast<unsigned char>(c);
-        const char32_t character =
-            byte >= FirstUpper && byte < FirstUpper + Upper.size() ? Upper[byte - FirstUpper] : byte;
+        const char32_t character = CharacterOf(c);
         if (character < 0x80) {
             utf8 += static_cast<char>(character);
         } else if (character < 0x800) {
@@ -99,7 +78,10 @@ std::string FromUtf8(std::string_view text)
                 Fail(failure::InvalidCall);
             character = character << 6U | (static_cast<unsigned char>(text[at]) & 0x3FU);
         }
-        bytes += ByteOf(character);
+        const auto byte = ByteOf(character);
+        if (!byte)
+            Fail(failure::InvalidCall);
+        bytes += *byte;
     }
     return bytes;
 }
