@@ -1,5 +1,6 @@
 #include "league/RatingNames.h"
 #include "league/Positions.h"
+#include "league/RatingWords.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -36,6 +37,27 @@ TEST(RatingNamesTest, TheRatingsOfAGoalieHaveTheirCaptionsInOrder)
     EXPECT_THAT(All(GoalieStatName),
                 ElementsAre("SK", "DU", "ST", "SZ", "AG", "RB", "SC", "HS", "RT", "EX", "LD", "MO", "PO", "OV"));
     EXPECT_THAT(All(GoalieGroupName), ElementsAre("PH", "RD", "SC", "HS", "RT", "ME", "PO", "OV"));
+}
+
+TEST(RatingNamesTest, EveryCaptionHasItsWords)
+{
+    EXPECT_THAT(All(SkaterStatWords),
+                ElementsAre("Checking", "Fighting", "Discipline", "Skating", "Strength", "Durability", "Puck handling",
+                            "Face-offs", "Passing", "Scoring", "Defense", "Experience", "Leadership", "Morale",
+                            "Potential", "Overall"));
+    EXPECT_THAT(All(SkaterGroupWords), ElementsAre("Intensity", "Physique", "Puck control", "Scoring", "Defense",
+                                                   "Mental", "Potential", "Overall"));
+    EXPECT_THAT(All(GoalieStatWords),
+                ElementsAre("Skating", "Durability", "Strength", "Size", "Agility", "Rebounds", "Shot control",
+                            "Hand speed", "Reaction", "Experience", "Leadership", "Morale", "Potential", "Overall"));
+    EXPECT_THAT(All(GoalieGroupWords), ElementsAre("Physique", "Rebounds", "Shot control", "Hand speed", "Reaction",
+                                                   "Mental", "Potential", "Overall"));
+}
+
+TEST(RatingNamesTest, GoaliesAndProspectsAreCountedBehindAllSkaters)
+{
+    EXPECT_EQ(GoalieOffset, 10000);
+    EXPECT_EQ(ProspectOffset, 20000);
 }
 
 TEST(RatingNamesTest, TheNamedRatingsStandWhereTheirCaptionsDo)
