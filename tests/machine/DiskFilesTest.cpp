@@ -12,6 +12,23 @@
 #include <cstdio>
 #include <share.h>
 #endif
+#ifdef __linux__
+#include <cerrno>
+#include <sys/syscall.h>
+#include <unistd.h>
+
+// The number of the failure that handing a file to the disk comes to; 0 for none.
+static int synchronizingFailsWith = 0;
+
+// Takes the place of the system's call.
+int fsync(int descriptor)
+{
+    if (synchronizingFailsWith == 0)
+        return static_cast<int>(::syscall(SYS_fsync, descriptor));
+    errno = synchronizingFailsWith;
+    return -1;
+}
+#endif
 
 namespace dravik {
 namespace {
@@ -260,6 +277,27 @@ TEST_F(DiskFilesTest, AFullDiskFailsWith61)
               }),
               61);
 }
+
+#ifdef __linux__
+TEST_F(DiskFilesTest, AFileThatDoesNotReachTheDiskFailsWhereThatCanBeToldAtAll)
+{
+    const auto flushed = [&](int failing) {
+        const auto file = Disk.CreateFile(In("file"));
+        file->Write("x", 1);
+        synchronizingFailsWith = failing;
+        const int number = NumberThrownBy([&] { file->Flush(); });
+        synchronizingFailsWith = 0;
+        file->Close();
+        return number;
+    };
+    EXPECT_EQ(flushed(0), 0);
+    EXPECT_EQ(flushed(EIO), failure::PathAccess);
+    EXPECT_EQ(flushed(ENOSPC), 61);
+    EXPECT_EQ(flushed(EINVAL), 0); // a pipe
+    EXPECT_EQ(flushed(ENOTSUP), 0);
+    EXPECT_EQ(Bytes("file"), "x");
+}
+#endif
 
 #ifdef __linux__ // elsewhere only the folder tells how a name is written
 

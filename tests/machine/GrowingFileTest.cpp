@@ -216,6 +216,27 @@ TEST_F(FlushedFileTest, GoesToTheDiskByItselfAndTakesMoreBehindThat)
     EXPECT_EQ(Content(Path), all + "more");
 }
 
+TEST_F(FlushedFileTest, WhatComesWithinHalfASecondGoesToTheDiskTogether)
+{
+    constexpr auto together = std::chrono::milliseconds(500);
+    for (;;) {
+        Begin(0);
+        fs::remove(Path);
+        const auto begin = std::chrono::steady_clock::now();
+        GrowingFile file(Path);
+        EXPECT_TRUE(file.Append("one"));
+        std::this_thread::sleep_until(begin + together / 2);
+        EXPECT_TRUE(file.Append(" two"));
+        const int early = Flushes();
+        if (std::chrono::steady_clock::now() >= begin + together)
+            continue; // the machine had something else to do, and the time is over
+        EXPECT_EQ(early, 0);
+        WaitForFlush();
+        break;
+    }
+    EXPECT_EQ(Flushes(), 1);
+}
+
 TEST_F(FlushedFileTest, ADiskThatIsGoneTakesNothingMore)
 {
     Begin(EIO);
