@@ -76,6 +76,60 @@ TEST_P(SignScales, EveryShapeStandsOutAndKeepsWithinItsArea)
     }
 }
 
+// Points in the sixteenths of a shape's side: in the midst of each of its strokes, and in what it leaves open.
+struct Strokes {
+    Sign Kind;
+    std::vector<QPointF> Drawn;
+    std::vector<QPointF> Open;
+};
+
+const std::vector<Strokes>& AllStrokes()
+{
+    static const std::vector<Strokes> all{
+        {Sign::UsedTwice, {{2.5, 8}, {13.5, 8}, {8, 14}}, {{8, 3.8}, {8, 12}}},
+        {Sign::Injured, {{3, 3}, {13, 13}, {5, 11}}, {{8, 6}, {8, 10}, {6, 8}, {10, 8}}},
+        {Sign::Suspended, {{2, 8}, {14, 8}, {8, 2}, {8, 14}, {6, 6}, {10, 10}}, {{10.5, 5.5}, {5.5, 10.5}}},
+        {Sign::OnWaivers, {{2.5, 8}, {5, 2.5}, {5, 13.5}, {9, 8}, {12.5, 6.5}, {12.5, 9.5}}, {{9, 5}, {9, 11}}},
+        {Sign::NoContract,
+         {{6, 1}, {2.5, 10}, {13.5, 10}, {8, 15}, {11.5, 3}, {6.7, 7.45}, {9.3, 7.45}, {6.7, 10.35}, {9.3, 10.35}},
+         {{4.5, 3.5}, {8, 13}}},
+        {Sign::OutOfPosition, {{3, 8}, {8, 2.5}, {13, 8}, {8, 13.5}}, {{8, 6}, {8, 11.3}}},
+        {Sign::Captain, {{8, 10}, {8, 5}, {2.5, 8}, {13.5, 8}}, {{5, 5}, {11, 5}}},
+        {Sign::Assistant, {{8, 13}, {1.75, 9}, {14.25, 9}, {6.5, 5.75}, {9.5, 5.75}}, {{8, 10}, {5, 5}}},
+        {Sign::NeedsWaivers, {{8, 5}, {6, 8.3}, {10, 8.3}, {5, 14}, {11, 14}}, {{4, 4}, {5, 11.5}}},
+        {Sign::NoTrade, {{5, 6}, {11, 6}, {8, 2}, {4.5, 11}, {11.5, 11}}, {{8, 11}, {8, 5}}},
+        {Sign::Rookie, {{8, 12}, {4.5, 5.5}, {14.6, 2.7}}, {{11.5, 5.5}, {4, 12}}},
+        {Sign::Pinned, {{8, 4}, {5, 9}, {11, 9}, {8, 13}}, {{3, 4}, {13, 4}, {5, 13}}},
+    };
+    return all;
+}
+
+TEST(SignStrokes, EachStandsWhereItBelongs)
+{
+    constexpr double scale = 8;
+    constexpr double unit = (LineHeight - 2) * scale / 16;
+    for (const Strokes& strokes : AllStrokes()) {
+        const QImage image = InBlack(strokes.Kind, scale);
+        const auto shade = [&](const QPointF& point) {
+            return qGray(image.pixel((QPointF(scale, scale) + point * unit).toPoint()));
+        };
+        const std::string_view words = SignTable[static_cast<std::size_t>(strokes.Kind)].Words;
+        for (const QPointF& point : strokes.Drawn)
+            EXPECT_LT(shade(point), 64) << words << " at " << point.x() << ", " << point.y();
+        for (const QPointF& point : strokes.Open)
+            EXPECT_GT(shade(point), 192) << words << " at " << point.x() << ", " << point.y();
+    }
+}
+
+TEST(SignStrokes, AreKnownOfEveryShapeThatIsNoWarning)
+{
+    std::vector<Sign> kinds;
+    for (const Strokes& strokes : AllStrokes())
+        kinds.push_back(strokes.Kind);
+    kinds.insert(kinds.begin(), Sign::MayNotPlay);
+    EXPECT_EQ(kinds, Shapes());
+}
+
 INSTANTIATE_TEST_SUITE_P(All, SignScales, ::testing::Values(1.0, 1.5, 2.0));
 
 // Every ground that a sign stands on under a palette, with the words on it.
