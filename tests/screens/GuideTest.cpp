@@ -256,6 +256,25 @@ TEST_F(GuideTest, ItGoesWithTheProgram)
     EXPECT_TRUE(guide.isNull());
 }
 
+TEST_F(GuideTest, ItsPartsAreFoundByTheirNames)
+{
+    const GuideWindow& guide = Opened();
+    EXPECT_EQ(guide.objectName(), "GuideWindow");
+    EXPECT_EQ(guide.findChild<QListWidget*>("lstChapters"), guide.lstChapters);
+    EXPECT_EQ(guide.findChild<QTextBrowser*>("txtGuide"), guide.txtGuide);
+    EXPECT_EQ(guide.findChild<QLineEdit*>("txtFind"), guide.txtFind);
+    EXPECT_EQ(guide.findChild<QPushButton*>("cmdNext"), guide.cmdNext);
+    EXPECT_EQ(guide.findChild<QPushButton*>("cmdBefore"), guide.cmdBefore);
+    EXPECT_EQ(guide.findChild<QLabel*>("lblFound"), guide.lblFound);
+    EXPECT_EQ(guide.windowTitle(), "Guide");
+    EXPECT_EQ(guide.cmdNext->text(), "&Next");
+    EXPECT_EQ(guide.cmdBefore->text(), "&Before");
+    EXPECT_EQ(guide.txtFind->placeholderText(), "Find");
+    EXPECT_EQ(guide.lstChapters->accessibleName(), "Chapters");
+    EXPECT_EQ(guide.txtGuide->accessibleName(), "Guide");
+    EXPECT_EQ(guide.txtFind->accessibleName(), "Find in the guide");
+}
+
 TEST_F(GuideTest, ItsPlaceAndItsColoursFollowTheLook)
 {
     GuideWindow& guide = Opened();
