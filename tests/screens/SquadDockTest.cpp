@@ -105,17 +105,17 @@ TEST_F(SquadDockTest, ItFollowsTheScreenInFrontWhereverThatGoes)
     EXPECT_TRUE(Dock.Arrange());
     ExpectBeside(Front);
     Front.move(0, 120);
-    QTRY_COMPARE(Beside.geometry().left(), Front.geometry().right() + 1);
+    EXPECT_TRUE(QTest::qWaitFor([this] { return Beside.geometry().left() == Front.geometry().right() + 1; }));
     EXPECT_EQ(Beside.geometry().top(), Front.geometry().top());
     Front.resize(500, 450);
-    QTRY_COMPARE(Beside.geometry().left(), Front.geometry().right() + 1);
+    EXPECT_TRUE(QTest::qWaitFor([this] { return Beside.geometry().left() == Front.geometry().right() + 1; }));
     ExpectBeside(Front);
     Next.show();
     Front.hide();
     Dock.Follow(&Next);
     ExpectBeside(Next);
     const QRect there = Beside.geometry();
-    QTRY_VERIFY(!Dock.findChild<QTimer*>()->isActive());
+    EXPECT_TRUE(QTest::qWaitFor([this] { return !Dock.findChild<QTimer*>()->isActive(); }));
     Front.show();
     Front.move(90, 90); // nobody follows it any more
     EXPECT_FALSE(Dock.findChild<QTimer*>()->isActive());
