@@ -250,6 +250,22 @@ TEST_F(FlushedFileTest, ADiskThatIsGoneTakesNothingMore)
 }
 #endif
 
+#ifdef __linux__
+TEST_F(GrowingFileTest, TheFirstDescriptorOfAProcessIsAsGoodAsAny)
+{
+    const int input = ::dup(0); // a program may be started without standard input
+    ASSERT_EQ(::close(0), 0);
+    {
+        GrowingFile file(Path);
+        EXPECT_TRUE(file.Append("one"));
+        EXPECT_EQ(fs::read_symlink("/proc/self/fd/0").filename(), Path.filename());
+    }
+    EXPECT_EQ(::dup2(input, 0), 0);
+    EXPECT_EQ(::close(input), 0);
+    EXPECT_EQ(Content(Path), "one");
+}
+#endif
+
 #ifndef _WIN32
 TEST_F(GrowingFileTest, OnAFullDiskNothingMoreIsTakenAndNoHalfStays)
 {
