@@ -226,6 +226,31 @@ TEST_F(ChangesShownTest, TheCardTellsOfAnEntrysPerson)
     ASSERT_NE(cards->Shown(), nullptr);
 }
 
+TEST_F(ChangesShownTest, WhatNamesLeaveIsForTheWords)
+{
+    ChangeList list("Changes", 5, nullptr);
+    list.Tell("Since", {{.Tone = DifferenceTone::News,
+                         .IsOwn = false,
+                         .Subject = "Lundin",
+                         .Words = "hurt",
+                         .Team = {},
+                         .Crested = {}}});
+    list.resize(900, 100);
+    list.show();
+    Settle();
+    const QImage picture = list.List()->viewport()->grab(list.List()->visualItemRect(list.List()->item(0))).toImage();
+    int last = -1;
+    int widest = 0;
+    for (int x = 0; x < picture.width(); ++x)
+        for (int y = 0; y < picture.height(); ++y)
+            if (qGray(picture.pixel(x, y)) < 120) {
+                widest = last < 0 ? 0 : std::max(widest, x - last);
+                last = x;
+            }
+    ASSERT_GT(last, 0);
+    EXPECT_LT(widest, 3 * 8);
+}
+
 TEST_F(ChangesShownTest, EachToneHasAShapeOfItsOwn)
 {
     std::set<std::vector<uchar>> shapes;

@@ -15,6 +15,7 @@
 #include <QAbstractButton>
 #include <QGroupBox>
 #include <QHeaderView>
+#include <QScrollBar>
 #include <QSet>
 #include <QTextBlock>
 #include <QTextTable>
@@ -165,6 +166,27 @@ TEST_F(GuideTest, EveryPictureIsThere)
                 ++pictures;
             }
     EXPECT_EQ(pictures, 9);
+}
+
+TEST_F(GuideTest, NoPictureIsWiderThanThePage)
+{
+    GuideWindow& guide = Opened();
+    for (const int width : {1040, 700, 1200}) {
+        guide.resize(width, 700);
+        Settle();
+        const QTextDocument& document = *guide.txtGuide->document();
+        const double page = guide.txtGuide->viewport()->width() - 2 * document.documentMargin();
+        int pictures = 0;
+        for (QTextBlock block = document.begin(); block.isValid(); block = block.next())
+            for (auto part = block.begin(); !part.atEnd(); ++part)
+                if (part.fragment().charFormat().isImageFormat()) {
+                    const QTextImageFormat picture = part.fragment().charFormat().toImageFormat();
+                    EXPECT_DOUBLE_EQ(picture.width(), std::min(700.0, page)) << width;
+                    ++pictures;
+                }
+        EXPECT_EQ(pictures, 9);
+        EXPECT_EQ(guide.txtGuide->horizontalScrollBar()->maximum(), 0) << width;
+    }
 }
 
 TEST_F(GuideTest, TheSignsStandThereWithTheirMeanings)

@@ -9,6 +9,7 @@
 #include <gtest/gtest.h>
 #include <QAccessible>
 #include <QApplication>
+#include <QHeaderView>
 #include <QHelpEvent>
 #include <QImage>
 #include <QToolTip>
@@ -174,6 +175,41 @@ TEST(FigureTableTest, NumbersStandAtTheRightAndRowsGoAndComeBack)
     EXPECT_EQ(table.TextAt(0, 0), "c");
     EXPECT_EQ(table.TextAt(5, 0), "");
     EXPECT_EQ(table.editTriggers(), QAbstractItemView::NoEditTriggers);
+}
+
+// The first and the last column of a light picture in which there is something dark.
+std::pair<int, int> InkOf(const QImage& picture)
+{
+    int first = -1;
+    int last = -1;
+    for (int x = 0; x < picture.width(); ++x)
+        for (int y = 0; y < picture.height(); ++y)
+            if (qGray(picture.pixel(x, y)) < 120) {
+                first = first < 0 ? x : first;
+                last = x;
+            }
+    return {first, last};
+}
+
+TEST(FigureTableTest, HeadingsStandOverTheWordsOfTheirCells)
+{
+    FigureTable table({{"HEH", false}, {"HEH"}}, nullptr);
+    table.Show({{"HEH", "HEH"}});
+    table.clearSelection();
+    table.setCurrentItem(nullptr);
+    table.resize(300, 120);
+    table.show();
+    QApplication::processEvents();
+    for (int column = 0; column < 2; ++column) {
+        const int left = table.columnViewportPosition(column);
+        // Without the line that parts the headings.
+        const QRect head(left, 2, table.columnWidth(column) - 3, table.horizontalHeader()->height() - 5);
+        const QRect cell(left, 0, table.columnWidth(column) - 3, table.rowHeight(0));
+        const auto ofHead = InkOf(table.horizontalHeader()->viewport()->grab(head).toImage());
+        const auto ofCell = InkOf(table.viewport()->grab(cell).toImage());
+        ASSERT_GE(ofHead.first, 0);
+        EXPECT_EQ(ofHead, ofCell) << column;
+    }
 }
 
 } // namespace

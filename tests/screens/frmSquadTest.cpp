@@ -20,8 +20,12 @@
 #include <QAccessible>
 #include <QClipboard>
 #include <QFileDialog>
+#include <QHeaderView>
+#include <QHelpEvent>
 #include <QMenu>
 #include <QShortcut>
+#include <QTextDocument>
+#include <QToolTip>
 #include <set>
 #include <sstream>
 
@@ -205,6 +209,39 @@ TEST_F(frmSquadTest, ControlsFilterAndShowAllLiftsThem)
     Click(squad.cmdShowAll);
     EXPECT_EQ(squad.Filter(), SquadFilter());
     EXPECT_EQ(People(squad).rowCount(), all);
+}
+
+TEST_F(frmSquadTest, TheTeamOfTheFilterStandsWholeInItsTooltip)
+{
+    frmSquad& squad = SquadOver(MainWithLeague());
+    squad.cboTeam->setCurrentIndex(squad.cboTeam->findData(OwnTeam));
+    const QPoint at = squad.cboTeam->rect().center();
+    QHelpEvent help(QEvent::ToolTip, at, squad.cboTeam->mapToGlobal(at));
+    QApplication::sendEvent(squad.cboTeam, &help);
+    EXPECT_EQ(QToolTip::text(), Qt::convertFromPlainText(squad.cboTeam->currentText()));
+    QToolTip::hideText();
+}
+
+TEST_F(frmSquadTest, WordsStandOffTheNumbersBeforeThemAndBelowTheirHeading)
+{
+    frmSquad& squad = SquadOver(MainWithLeague());
+    SquadTable& table = squad.Table();
+    table.setCurrentIndex({});
+    const int column = People(squad).ColumnOf("Name");
+    const auto firstInk = [](const QImage& picture) {
+        for (int x = 0; x < picture.width(); ++x)
+            for (int y = 0; y < picture.height(); ++y)
+                if (qGray(picture.pixel(x, y)) < 120)
+                    return x;
+        return -1;
+    };
+    const QRect cell = table.visualRect(People(squad).index(2, column)); // the first one is chosen
+    const int ofCell = firstInk(table.viewport()->grab(cell).toImage());
+    const QHeaderView* heading = table.horizontalHeader();
+    const QRect head(heading->sectionViewportPosition(column), 2, cell.width() - 3, heading->height() - 5);
+    const int ofHead = firstInk(heading->viewport()->grab(head).toImage());
+    EXPECT_GE(ofCell, 10);
+    EXPECT_NEAR(ofHead, ofCell, 2);
 }
 
 TEST_F(frmSquadTest, TablesHaveTabsOfTheirOwnAndTheKeysTurnThem)

@@ -16,6 +16,7 @@
 #include <QTextBlock>
 #include <QTextTable>
 #include <utility>
+#include <vector>
 
 // What lies in a library is brought by name, which the toolkit wants outside of any namespace.
 static void BringGuide() { Q_INIT_RESOURCE(guide); }
@@ -54,6 +55,47 @@ public:
         picture = picture.scaledToWidth(static_cast<int>(PictureWidth * ratio), Qt::SmoothTransformation);
         picture.setDevicePixelRatio(ratio);
         return picture;
+    }
+
+    // No picture is wider than the page, so that nobody has to scroll sideways.
+    void FitPictures()
+    {
+        const int page = viewport()->width() - static_cast<int>(2 * document()->documentMargin());
+        if (page <= 0)
+            return;
+        const double width = std::min(PictureWidth, page);
+        std::vector<QTextCursor> pictures;
+        for (QTextBlock block = document()->begin(); block.isValid(); block = block.next())
+            for (auto part = block.begin(); !part.atEnd(); ++part)
+                if (const QTextCharFormat look = part.fragment().charFormat(); look.isImageFormat()) {
+                    const QTextImageFormat picture = look.toImageFormat();
+                    if (picture.width() == width)
+                        continue;
+                    QTextCursor at(document());
+                    at.setPosition(part.fragment().position());
+                    at.setPosition(part.fragment().position() + part.fragment().length(), QTextCursor::KeepAnchor);
+                    pictures.push_back(at);
+                }
+        for (QTextCursor& at : pictures) {
+            QTextImageFormat picture = at.charFormat().toImageFormat();
+            const QSizeF whole = document()
+                                     ->resource(QTextDocument::ImageResource, picture.name())
+                                     .value<QImage>()
+                                     .deviceIndependentSize();
+            if (whole.isEmpty())
+                continue;
+            picture.setWidth(width);
+            picture.setHeight(whole.height() * width / whole.width());
+            at.setCharFormat(picture);
+        }
+        document()->setModified(false);
+    }
+
+protected:
+    void resizeEvent(QResizeEvent* event) override
+    {
+        QTextBrowser::resizeEvent(event);
+        FitPictures();
     }
 };
 
@@ -162,6 +204,7 @@ void GuideWindow::Fill()
             table->setFormat(look);
         }
     all.endEditBlock();
+    static_cast<GuideText*>(txtGuide)->FitPictures();
     txtGuide->document()->setModified(false);
 }
 

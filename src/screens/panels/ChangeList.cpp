@@ -40,14 +40,27 @@ QFont SubjectFont(const QFont& font, const QModelIndex& index)
     return bold;
 }
 
-Parts PartsOf(const QStyleOptionViewItem& option, const QModelIndex& index)
+// The width of the longest name of the list.
+int WidestSubject(const QFont& font, const QAbstractItemModel& entries)
+{
+    int widest = 0;
+    for (int row = 0; row < entries.rowCount(); ++row) {
+        const QModelIndex entry = entries.index(row, 0);
+        const QString subject = entry.data(SubjectRole).toString();
+        widest = std::max(widest, QFontMetrics(SubjectFont(font, entry)).horizontalAdvance(subject));
+    }
+    return widest;
+}
+
+Parts PartsOf(const QStyleOptionViewItem& option, const QModelIndex& index, int widestSubject)
 {
     const QRect area = option.rect.adjusted(Gap / 2, 0, -Gap, 0);
     const int sign = option.fontMetrics.height();
     const QString team = index.data(entry::AsideRole).toStringList().join(' ');
     const int aside = team.isEmpty() ? 0 : option.fontMetrics.horizontalAdvance(team) + Gap;
-    const int subject =
+    const int most =
         std::min(static_cast<int>(area.width() * SubjectPart), SubjectLetters * option.fontMetrics.averageCharWidth());
+    const int subject = std::min(most, widestSubject); // what names leave is for the words
     Parts parts;
     parts.Sign = QRect(area.left(), area.top() + (area.height() - sign) / 2, sign, sign);
     parts.Subject = QRect(parts.Sign.right() + Gap, area.top(), subject, area.height());
@@ -85,7 +98,7 @@ public:
         const QColor ground = item.palette.color(group, isSelected    ? QPalette::Highlight
                                                         : isAlternate ? QPalette::AlternateBase
                                                                       : QPalette::Base);
-        const Parts parts = PartsOf(item, index);
+        const Parts parts = PartsOf(item, index, Widest);
         painter->save();
         PaintTone(*painter, static_cast<DifferenceTone>(index.data(ToneRole).toInt()), parts.Sign, front, ground);
         painter->setPen(front);
@@ -112,7 +125,7 @@ public:
     bool helpEvent(QHelpEvent* event, QAbstractItemView* view, const QStyleOptionViewItem& option,
                    const QModelIndex& index) override
     {
-        const Parts parts = PartsOf(option, index);
+        const Parts parts = PartsOf(option, index, Widest);
         const auto isCut = [](const QFont& font, const QString& text, const QRect& area) {
             return QFontMetrics(font).horizontalAdvance(text) > area.width();
         };
@@ -125,6 +138,8 @@ public:
         }
         return QStyledItemDelegate::helpEvent(event, view, option, index);
     }
+
+    int Widest = 0; // of the subjects of all entries
 };
 
 QPolygonF Triangle(const QRectF& area, bool isUp)
@@ -224,6 +239,7 @@ void ChangeList::Tell(const QString& heading, const std::vector<ChangeEntry>& en
 
 void ChangeList::FitRows()
 {
+    static_cast<ChangeDelegate*>(list->itemDelegate())->Widest = WidestSubject(list->font(), *list->model());
     const int row = list->fontMetrics().height() + RowPadding;
     list->setMinimumHeight(std::min(list->count(), LeastRows) * row + FrameWidth);
     list->setMaximumHeight(std::min(list->count(), most) * row + FrameWidth);

@@ -1,10 +1,10 @@
 #include "screens/panels/FigureTable.h"
 
 #include "screens/panels/Crest.h"
+#include "screens/panels/Headings.h"
 #include "screens/panels/Shades.h"
 
 #include <algorithm>
-#include <QHeaderView>
 #include <QPainter>
 #include <QStyledItemDelegate>
 
@@ -54,6 +54,7 @@ public:
 FigureTable::FigureTable(const QList<TableColumn>& all, QWidget* parent) :
     QTableWidget(0, static_cast<int>(all.size()), parent), columns(all)
 {
+    setHorizontalHeader(new Headings(SideRoom, SideRoom, this));
     setEditTriggers(QAbstractItemView::NoEditTriggers);
     setSelectionMode(QAbstractItemView::SingleSelection);
     setSelectionBehavior(QAbstractItemView::SelectRows);

@@ -2,6 +2,7 @@
 
 #include "screens/panels/CompareCells.h"
 #include "screens/panels/Crest.h"
+#include "screens/panels/Headings.h"
 #include "screens/panels/Shades.h"
 #include "screens/panels/SignShapes.h"
 #include "screens/platform/CodePage.h"
@@ -20,7 +21,8 @@ namespace dravik {
 namespace {
 
 constexpr int SideMargin = 4;
-constexpr int RowPadding = 8; // above and below the text together
+constexpr int WordsMargin = 10; // left of words, so that they stand off the numbers of the column before
+constexpr int RowPadding = 8;   // above and below the text together
 constexpr int LeastWidth = 24;
 constexpr int MostWidth = 2000;
 constexpr QChar Nothing(u'\u2013');
@@ -37,7 +39,10 @@ QString KeyOf(const QString& part)
 }
 
 // Where the words of a cell stand.
-QRect WordsIn(const QRect& cell) { return cell.adjusted(SideMargin, 0, -SideMargin, 0); }
+QRect WordsIn(const QRect& cell, bool isAtRight)
+{
+    return cell.adjusted(isAtRight ? SideMargin : WordsMargin, 0, -SideMargin, 0);
+}
 
 // A line under the part of a name that was typed, as far as it is in sight.
 void Underline(QPainter& painter, const QFontMetrics& metrics, const QRect& words, const QString& name,
@@ -69,7 +74,7 @@ void SquadDelegate::paint(QPainter* painter, const QStyleOptionViewItem& option,
     const QColor back = item.palette.color(group, isChosen      ? QPalette::Highlight
                                                   : isAlternate ? QPalette::AlternateBase
                                                                 : QPalette::Base);
-    QRect words = WordsIn(item.rect);
+    QRect words = WordsIn(item.rect, item.displayAlignment.testFlag(Qt::AlignRight));
     const SquadCells cells = CellsOf(index);
 
     painter->save();
@@ -114,6 +119,7 @@ SquadTable::SquadTable(SquadKind kind, const QString& name, const QString& words
 {
     setObjectName(name);
     setAccessibleName(words);
+    setHorizontalHeader(new Headings(WordsMargin, SideMargin, this));
     setItemDelegate(new SquadDelegate(this));
     setModel(model);
     setAlternatingRowColors(true);
@@ -272,7 +278,8 @@ int SquadTable::FirstWidthOf(const SquadColumn& column) const
     const QString heading = ToQString(column.Caption);
     const QFontMetrics metrics = fontMetrics();
     const int crest = column.Key == TeamKey ? CrestRoom(metrics) : 0;
-    return std::max(metrics.horizontalAdvance(widest) + crest, metrics.horizontalAdvance(heading)) + 2 * SideMargin + 2;
+    return std::max(metrics.horizontalAdvance(widest) + crest, metrics.horizontalAdvance(heading)) +
+           (column.IsAtRight() ? SideMargin : WordsMargin) + SideMargin + 2;
 }
 
 std::string SquadTable::Arrangement() const

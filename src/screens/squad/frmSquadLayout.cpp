@@ -12,8 +12,11 @@
 #include "screens/squad/SquadDock.h"
 #include "screens/Stage.h"
 
+#include <QHelpEvent>
 #include <QMenu>
 #include <QShortcut>
+#include <QTextDocument>
+#include <QToolTip>
 
 // How the squad table looks, and what its controls run.
 namespace dravik {
@@ -134,10 +137,28 @@ void frmSquad::MakeTables()
     connect(txtName, &QLineEdit::textChanged, this, [this] { RunEvent("txtName", [this] { txtName_Changed(); }); });
 }
 
+namespace {
+
+// A name that is longer than the box stands whole in its tooltip. While the box is closed, the tooltip says why.
+class NameBox : public QComboBox {
+public:
+    using QComboBox::QComboBox;
+
+    bool event(QEvent* event) override
+    {
+        if (event->type() != QEvent::ToolTip || !isEnabled())
+            return QComboBox::event(event);
+        QToolTip::showText(static_cast<QHelpEvent*>(event)->globalPos(), Qt::convertFromPlainText(currentText()), this);
+        return true;
+    }
+};
+
+} // namespace
+
 void frmSquad::MakeFilters()
 {
     const auto changes = [this] { RunEvent("frmSquad", [this] { Filter_Changed(); }); };
-    cboTeam = new QComboBox(this);
+    cboTeam = new NameBox(this);
     cboTeam->setObjectName("cboTeam");
     cboTeam->setAccessibleName("Team");
     cboTeam->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
