@@ -2,6 +2,7 @@
 
 #include "league/Failure.h"
 #include "terminal/Console.h"
+#include "terminal/Foot.h"
 #include "terminal/Interrupt.h"
 #include "terminal/Machine.h"
 #include "terminal/Problem.h"
@@ -56,20 +57,17 @@ public:
         constexpr auto patience = std::chrono::seconds(1);
         constexpr auto step = std::chrono::milliseconds(100); // no terminal is asked to show more than an eye sees
         const auto now = std::chrono::steady_clock::now();
-        if (!isOnTerminal || now - begin < patience || (isShown && now - shown < step))
+        if (now - begin < patience || (isShown && now - shown < step))
             return;
         shown = now;
         const std::size_t full = width * done / std::max<std::size_t>(total, 1);
-        const std::string words = "[" + std::string(full, '#') + std::string(width - full, ' ') + "] " +
-                                  std::to_string(done) + " of " + std::to_string(total);
-        std::cerr << '\r' + words << std::flush;
-        length = words.size();
+        ShowAtFoot("[" + std::string(full, '#') + std::string(width - full, ' ') + "] " + std::to_string(done) +
+                   " of " + std::to_string(total));
         isShown = true;
     }
     void TakeAway()
     {
-        if (isShown)
-            std::cerr << ClearedLine(length) << std::flush;
+        ClearFoot();
         isShown = false;
     }
 
@@ -78,8 +76,6 @@ private:
     std::chrono::steady_clock::time_point begin = std::chrono::steady_clock::now();
     std::chrono::steady_clock::time_point shown;
     bool isShown = false;
-    std::size_t length = 0; // of what is shown
-    bool isOnTerminal = IsConsole(Stream::Error);
 };
 
 // The answers as they come, from whichever thread.

@@ -1,9 +1,8 @@
 #include "terminal/Ask.h"
 
 #include "terminal/Console.h"
+#include "terminal/Foot.h"
 #include "terminal/Utf8.h"
-
-#include <mutex>
 
 namespace dravik::terminal {
 
@@ -11,8 +10,7 @@ bool IsAtTerminal() { return IsConsole(Stream::Input); }
 
 std::optional<std::string> AskHidden(const std::string& prompt)
 {
-    static std::mutex one;
-    const std::lock_guard guard(one);
+    const QuestionAtFoot question;
     return ReadHidden(WithoutControls(prompt));
 }
 

@@ -14,7 +14,8 @@ enum class Stream { Input, Output, Error };
 // Whether a standard stream is the terminal itself, and no file and no pipe.
 bool IsConsole(Stream stream);
 
-// The arguments of `main` in UTF-8, the program's name first, whatever the code page is.
+// The arguments of `main` in UTF-8, the program's name first, whatever the code page is. Where no shell does it, an argument with "*"
+// or "?" that is no option stands for the files that fit it, in the order of their names; one that no file fits stays as it is.
 std::vector<std::string> Utf8Arguments(int argc, char** argv);
 
 // While one lives, UTF-8 written to `std::cout` and `std::cerr` shows as it is meant on a console, whatever its code page, and comes

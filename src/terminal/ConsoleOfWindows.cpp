@@ -44,6 +44,28 @@ std::string Utf8(std::wstring_view wide)
     return text;
 }
 
+// The arguments that one with "*" or "?" stands for.
+std::vector<std::string> Expanded(const std::wstring& argument)
+{
+    WIN32_FIND_DATAW found{};
+    HANDLE search = INVALID_HANDLE_VALUE;
+    if (argument.find_first_of(L"*?") != std::wstring::npos && argument.front() != L'-')
+        search = FindFirstFileW(argument.c_str(), &found);
+    if (search == INVALID_HANDLE_VALUE)
+        return {Utf8(argument)};
+    const std::wstring folder = argument.substr(0, argument.find_last_of(L"\\/:") + 1);
+    std::vector<std::string> names;
+    do {
+        if ((found.dwFileAttributes & FILE_ATTRIBUTE_DIRECTORY) == 0)
+            names.push_back(Utf8(folder + found.cFileName));
+    } while (FindNextFileW(search, &found) != 0);
+    FindClose(search);
+    if (names.empty())
+        return {Utf8(argument)};
+    std::sort(names.begin(), names.end());
+    return names;
+}
+
 // Shows characters on a console as such, so that no code page has a say. A character whose bytes have not all come waits.
 class ConsoleBuffer final : public std::streambuf {
 public:
@@ -179,7 +201,8 @@ std::vector<std::string> Utf8Arguments(int argc, char** argv)
         return {argv, argv + argc};
     std::vector<std::string> arguments;
     for (int at = 0; at < count; ++at)
-        arguments.push_back(Utf8(wide[at]));
+        for (std::string& argument : at == 0 ? std::vector{Utf8(wide[at])} : Expanded(wide[at]))
+            arguments.push_back(std::move(argument));
     LocalFree(wide);
     return arguments;
 }

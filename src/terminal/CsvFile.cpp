@@ -7,7 +7,6 @@
 
 #include <algorithm>
 #include <charconv>
-#include <filesystem>
 #include <fstream>
 #include <sstream>
 
@@ -15,7 +14,7 @@ namespace dravik::terminal {
 
 CsvFile::CsvFile(const std::string& path, const std::vector<std::string>& needed) : name(path)
 {
-    std::ifstream file(std::filesystem::path(path), std::ios::binary);
+    std::ifstream file(PathOf(path), std::ios::binary);
     std::ostringstream read;
     if (file.peek() != std::ifstream::traits_type::eof())
         read << file.rdbuf();

@@ -5,6 +5,7 @@
 #include "terminal/LeagueAtHand.h"
 #include "terminal/Problem.h"
 #include "terminal/Target.h"
+#include "terminal/Utf8.h"
 #include "terminal/Verbs.h"
 
 #include <filesystem>
@@ -35,8 +36,9 @@ Answer Export(const std::string& path, const ExportOptions& options)
     const WorkName work(target + "ratings");
     const WorkName players(work.Path() + PathSeparator + names[0], WorkName::AsItIs);
     const WorkName coaches(work.Path() + PathSeparator + names[1], WorkName::AsItIs);
+    const fs::path folder = PathOf(work.Path());
     std::error_code error;
-    if (!fs::create_directory(work.Path(), error))
+    if (!fs::create_directory(folder, error))
         throw Problem(options.Folder + ": " + error.message());
     Answer answer;
     Json written = Json::array();
@@ -47,10 +49,10 @@ Answer Export(const std::string& path, const ExportOptions& options)
             written.push_back(target + name);
         }
     } catch (...) {
-        fs::remove_all(work.Path(), error);
+        fs::remove_all(folder, error);
         throw;
     }
-    fs::remove_all(work.Path(), error);
+    fs::remove_all(folder, error);
     answer.Text = "Output done in " + options.Folder + "\n";
     if (league.IsDamaged)
         answer.Notes.emplace_back(DamagedWords);

@@ -2,6 +2,7 @@
 
 #include "league/Failure.h"
 #include "terminal/Amounts.h"
+#include "terminal/Utf8.h"
 
 #include <filesystem>
 
@@ -42,6 +43,9 @@ std::optional<std::string> Machine::FindEntry(const std::string& path)
         return std::nullopt;
     return ProgramPath(wanted.filename());
 }
+
+std::filesystem::path Machine::NativePath(const std::string& path) const { return PathOf(path); }
+std::string Machine::ProgramPath(const std::filesystem::path& path) const { return TextOf(path); }
 
 std::string Machine::Version() { return DRAVIK_VERSION; }
 

@@ -39,6 +39,10 @@ public:
     std::string LongDate(double days) const override;
     std::string ShortTime(double days) const override;
 
+protected:
+    [[nodiscard]] std::filesystem::path NativePath(const std::string& path) const override;
+    [[nodiscard]] std::string ProgramPath(const std::filesystem::path& path) const override;
+
 private:
     std::string answer;
     std::vector<std::string> told;

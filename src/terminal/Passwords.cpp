@@ -7,7 +7,6 @@
 #include "terminal/Utf8.h"
 
 #include <charconv>
-#include <filesystem>
 #include <fstream>
 #include <optional>
 #include <sys/stat.h>
@@ -43,7 +42,7 @@ Passwords ReadPasswords(const std::string& path)
     Passwords known;
     if (path.empty())
         return known;
-    std::ifstream file(std::filesystem::path(path), std::ios::binary);
+    std::ifstream file(PathOf(path), std::ios::binary);
     if (!file)
         throw Problem(path + ": cannot be read");
     if (MayOthersRead(path))

@@ -3,6 +3,7 @@
 #include "league/Failure.h"
 #include "terminal/Machine.h"
 #include "terminal/Problem.h"
+#include "terminal/Utf8.h"
 
 #include <algorithm>
 #include <filesystem>
@@ -16,7 +17,7 @@ namespace fs = std::filesystem;
 bool IsSameFile(const std::string& one, const std::string& other)
 {
     std::error_code error;
-    return !other.empty() && fs::equivalent(one, other, error) && !error;
+    return !other.empty() && fs::equivalent(PathOf(one), PathOf(other), error) && !error;
 }
 
 SystemFile KindOf(const std::string& path)
@@ -34,10 +35,11 @@ SystemFile KindOf(const std::string& path)
 void RequireReplaceable(const Target& target)
 {
     std::error_code error;
-    const fs::path folder = fs::path(target.Path).parent_path();
+    const fs::path path = PathOf(target.Path);
+    const fs::path folder = path.parent_path();
     if (!folder.empty() && !fs::is_directory(folder, error))
         throw Problem(target.Path + ": " + Failure(failure::PathNotFound).what());
-    const fs::file_status status = fs::status(target.Path, error);
+    const fs::file_status status = fs::status(path, error);
     if (!fs::exists(status))
         return;
     if (!fs::is_regular_file(status))

@@ -121,4 +121,12 @@ std::string WithEscapedControls(std::string_view json)
     return escaped;
 }
 
+std::filesystem::path PathOf(const std::string& path) { return std::u8string(path.begin(), path.end()); }
+
+std::string TextOf(const std::filesystem::path& path)
+{
+    const std::u8string text = path.u8string();
+    return {text.begin(), text.end()};
+}
+
 } // namespace dravik::terminal

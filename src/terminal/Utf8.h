@@ -1,5 +1,6 @@
 #pragma once
 
+#include <filesystem>
 #include <string>
 #include <string_view>
 
@@ -22,5 +23,10 @@ std::string WithoutControls(std::string_view text);
 
 // `json`, a text of JSON, with its control characters beyond the first 32 escaped too.
 std::string WithEscapedControls(std::string_view json);
+
+// The path that a text of the terminal names, and the text that names a path: UTF-8 where the system has characters, the same bytes
+// where it has bytes.
+std::filesystem::path PathOf(const std::string& path);
+std::string TextOf(const std::filesystem::path& path);
 
 } // namespace dravik::terminal

@@ -6,7 +6,6 @@
 #include "terminal/Utf8.h"
 #include "terminal/Verbs.h"
 
-#include <filesystem>
 #include <fstream>
 #include <iterator>
 #include <memory>
@@ -25,7 +24,7 @@ struct VerifyOptions {
 // A journal is sound when nothing stands behind its last whole entry.
 void VerifyJournal(const std::string& path, VerifiedFile& verified)
 {
-    std::ifstream file(std::filesystem::path(path), std::ios::binary);
+    std::ifstream file(PathOf(path), std::ios::binary);
     const std::string bytes((std::istreambuf_iterator<char>(file)), {});
     const JournalOutcome outcome = ReadJournal(bytes);
     const auto note = [&](const std::string& words) {

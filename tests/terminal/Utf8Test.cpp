@@ -2,6 +2,7 @@
 
 #include "league/Failure.h"
 
+#include <filesystem>
 #include <gtest/gtest.h>
 
 namespace dravik::terminal {
@@ -45,6 +46,21 @@ TEST(Utf8Test, TheMarkInFrontIsNoLetter)
                                    "7 x"),
               "7 x");
     EXPECT_EQ(WithoutByteOrderMark("7 \xEF\xBB\xBF"), "7 \xEF\xBB\xBF");
+}
+
+TEST(Utf8Test, APathHasTheLettersOfTheTextThatNamesIt)
+{
+    struct Pair {
+        const char* Text;
+        const char16_t* Letters;
+    };
+    for (const Pair& pair :
+         {Pair{"Ligue.dvs", u"Ligue.dvs"}, Pair{"C\xC3\xB4te/\xC5\x81uka.dvs", u"C\u00F4te/\u0141uka.dvs"},
+          Pair{"\xE6\x97\xA5.dvs", u"\u65E5.dvs"}}) {
+        const std::filesystem::path path = PathOf(pair.Text);
+        EXPECT_EQ(path.generic_u16string(), pair.Letters);
+        EXPECT_EQ(TextOf(path), pair.Text);
+    }
 }
 
 } // namespace

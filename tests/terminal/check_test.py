@@ -206,6 +206,22 @@ class CheckTest(TerminalTest):
         self.assertEqual((ended.code, ended.err), (0, ""))
         self.assertNotIn("\r", ended.out)
 
+    def test_a_question_and_the_bar_are_never_on_one_line(self):
+        # The first file asks; meanwhile the other thread is through with the rest, and a second passes.
+        shown, code = self.on_terminal("check", self.league(), *["none.dvs"] * 20, "-j", 2, "--team", 7,
+                                       typed=["blue line"], hesitates=2)
+        question, behind = shown.split("): ", 1)
+        self.assertEqual((question.count("Password of 7 "), behind[:2], code), (1, "\r\n", 2))
+        # The last file asks, when the bar of those before it is up.
+        slots = bytearray(unwrapped(sample_league()))
+        slots[team_record(7) + 247:team_record(7) + 279] = b" " * 32
+        write_wrapped(self.folder / "Open.dvs", bytes(slots))
+        shown, _ = self.on_terminal("check", *["Open.dvs"] * 150, self.league(), "--json", "--team", 7,
+                                    typed=["blue line"])
+        before, _ = shown.split("Password of 7 ")
+        self.assertIn(" of 151", before)
+        self.assertTrue(before.endswith("\x1b[K"), before[-99:])
+
     def test_what_is_asked_wrongly_ends_with_2_and_one_line(self):
         for arguments in ((), ("check",), ("nothing",), ("check", "x.dvs", "-j", 0), ("check", "x.dvs", "-j", 65),
                           ("check", "x.dvs", "--lnes", "y")):

@@ -80,8 +80,9 @@ class TerminalTest(unittest.TestCase):
         self.assertEqual(ended.code, 2, ended.err)
         self.assertEqual(ended.err, f"dravik: {words}\n")
 
-    def on_terminal(self, *arguments, typed=()):
-        """Runs the program on a terminal of its own and types a line whenever it asks. What the terminal showed, and the code."""
+    def on_terminal(self, *arguments, typed=(), hesitates=0):
+        """Runs the program on a terminal of its own and types a line whenever it asks, after so many seconds. What the terminal
+        showed, and the code."""
         pid, terminal = pty.fork()
         if pid == 0:
             try:
@@ -104,6 +105,7 @@ class TerminalTest(unittest.TestCase):
                 break
             shown += piece
             if waiting and shown.endswith(b": "):
+                time.sleep(hesitates)
                 os.write(terminal, waiting.pop(0).encode() + b"\n")
         _, status = os.waitpid(pid, 0)
         os.close(terminal)
