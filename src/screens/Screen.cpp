@@ -69,11 +69,13 @@ std::string_view Outcome(Turned turned, bool back)
 void WorkOutHints(const QWidget& window)
 {
     const QList<QWidget*> panels = window.findChildren<QWidget*>();
-    for (auto panel = panels.rbegin(); panel != panels.rend(); ++panel)
+    for (auto panel = panels.rbegin(); panel != panels.rend(); ++panel) {
         if (QLayout* layout = (*panel)->layout()) {
             layout->invalidate();
             layout->activate();
         }
+        (*panel)->updateGeometry(); // a page that scrolls hears nothing of what it holds
+    }
 }
 
 } // namespace

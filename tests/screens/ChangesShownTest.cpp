@@ -16,6 +16,8 @@
 #include <filesystem>
 
 #include <QImage>
+#include <QScrollArea>
+#include <QScrollBar>
 #include <QTextDocumentFragment>
 #include <QToolTip>
 #include <set>
@@ -429,6 +431,29 @@ TEST_F(EveningShownTest, WhatIsNotSavedIsSaidInWords)
     EXPECT_TRUE(QString::fromStdString(Words("lblEveningLinesSaved")).startsWith("Not saved since "))
         << Words("lblEveningLinesSaved");
     EXPECT_TRUE(Words("lblEveningOffersSaved").empty());
+    TellTimeBy({});
+}
+
+TEST_F(EveningShownTest, OpensWithRoomForAllThatIsSaid)
+{
+    TellTimeBy([] { return 45000.5; });
+    CompleteTeam(5);
+    TypeInto(Office().txtEmail, "new@example.org");
+    Press(Office().txtEmail, Qt::Key_Tab);
+    Office().close();
+    Settle();
+    ASSERT_EQ(TeamScreen(), nullptr);
+    int told = 0;
+    for (const char* task : {"Roster", "Lines", "FarmLines", "Tickets", "Offers", "Ranking"})
+        for (const char* kind : {"", "Saved"}) {
+            const auto* label = Office().findChild<QLabel*>(QString("lblEvening%1%2").arg(task, kind));
+            if (!label->isVisible())
+                continue;
+            EXPECT_GE(label->width(), label->sizeHint().width()) << label->text().toStdString();
+            ++told;
+        }
+    EXPECT_EQ(told, 10); // six tasks, of which four go into the lines file
+    EXPECT_EQ(Office().findChild<QScrollArea*>()->verticalScrollBar()->maximum(), 0);
     TellTimeBy({});
 }
 

@@ -29,6 +29,11 @@ SaveLine::SaveLine(QWidget* parent) :
     QHBoxLayout* row = MakeRow({lblSaved, cmdShowInFolder, cmdCopyPath});
     row->setContentsMargins(0, 0, 0, 0);
     setLayout(row);
+    // The screen keeps its shape whatever is told.
+    QSizePolicy keepsPlace = sizePolicy();
+    keepsPlace.setRetainSizeWhenHidden(true);
+    setSizePolicy(keepsPlace);
+    setMinimumHeight(cmdShowInFolder->sizeHint().height());
     connect(cmdShowInFolder, &QPushButton::clicked, this, &SaveLine::ShowInFolder);
     connect(cmdCopyPath, &QPushButton::clicked, this, &SaveLine::CopyPath);
     Show({}, {});

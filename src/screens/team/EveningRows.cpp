@@ -1,6 +1,5 @@
 #include "screens/team/EveningRows.h"
 
-#include "screens/panels/ElidedLabel.h"
 #include "screens/panels/Labels.h"
 #include "screens/panels/Layouts.h"
 #include "screens/panels/VerdictSigns.h"
@@ -128,9 +127,11 @@ EveningRows::EveningRows(const std::function<QPushButton*(EveningTask task, cons
         auto* caption = new QLabel(QString(task.Caption).replace("&&", "&"), this);
         caption->setObjectName("lblEvening" + name + "Caption");
         caption->setTextFormat(Qt::PlainText);
-        row.Words = new ElidedLabel(this, ElidedLabel::Words::Muted);
+        row.Words = new MutedLabel(this);
+        row.Words->setTextFormat(Qt::PlainText);
         row.Words->setObjectName("lblEvening" + name);
-        row.SavedWords = new ElidedLabel(this, ElidedLabel::Words::Muted);
+        row.SavedWords = new MutedLabel(this);
+        row.SavedWords->setTextFormat(Qt::PlainText);
         row.SavedWords->setObjectName("lblEvening" + name + "Saved");
         row.Command = makeCommand(static_cast<EveningTask>(index), "cmdEvening" + name);
         row.Command->setFocusPolicy(Qt::ClickFocus);

@@ -11,8 +11,6 @@ class QLabel;
 
 namespace dravik {
 
-class ElidedLabel;
-
 // What an evening is for, a row each: its sign, what it is, how far it is, whether that is saved, and the command that goes there.
 // The signs differ in shape: a tick, a number on a disc, an exclamation mark in a ring, a dash. The tab key passes the commands over, as most
 // of them stand elsewhere on the screen too; `Enter` goes to the first.
@@ -38,8 +36,8 @@ protected:
 private:
     struct Row {
         QWidget* Sign = nullptr;
-        ElidedLabel* Words = nullptr;
-        ElidedLabel* SavedWords = nullptr;
+        QLabel* Words = nullptr;
+        QLabel* SavedWords = nullptr;
         QPushButton* Command = nullptr;
     };
     static std::size_t IndexOf(EveningTask task) { return static_cast<std::size_t>(task); }

@@ -70,6 +70,9 @@ void frmTeam::FormLoad()
             throw;
         }
         CloseWhatTheLeagueKeeps();
+        // So that the window opens with room for their words. They are told anew whenever it comes to the front.
+        ShowEvening();
+        ShowChanges();
     });
 }
 

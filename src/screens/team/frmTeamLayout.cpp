@@ -53,20 +53,13 @@ frmTeam::frmTeam(Stage& stage) : Screen(stage, "frmTeam")
     identity->addStretch(1);
     QVBoxLayout* money = MakeColumn({MakeFinanceGroup(), MakeProjectionGroup()}, Margin);
     money->addStretch(1);
-    auto* grid = new QGridLayout;
-    grid->setSpacing(Margin);
-    // Two groups side by side above, three columns below them, of which the last has the longest words.
-    grid->addWidget(MakeCommandGroup(), 0, 0, 1, 3);
-    grid->addWidget(MakeFileGroup(), 0, 3, 1, 3);
-    grid->addLayout(identity, 1, 0, 1, 2);
-    grid->addLayout(money, 1, 2, 1, 2);
-    grid->addWidget(MakeEveningColumn(), 1, 4, 1, 2);
-    constexpr int usual = 5;
-    constexpr int wide = 6;
-    for (int part = 0; part < grid->columnCount(); ++part)
-        grid->setColumnStretch(part, part < 4 ? usual : wide);
-    grid->setRowStretch(1, 1);
-    column->addLayout(grid, 1);
+    column->addLayout(MakeRow({MakeCommandGroup(), MakeFileGroup()}, Margin));
+    QHBoxLayout* columns = MakeRow({}, Margin);
+    // The last column has the longest words.
+    columns->addLayout(identity, 5);
+    columns->addLayout(money, 5);
+    columns->addWidget(MakeEveningColumn(), 6);
+    column->addLayout(columns, 1);
 
     const auto makeLook = [this](const char* name, const QString& caption, Look look) {
         QPushButton* command = MakeCommand(name, caption, [this, look] {
