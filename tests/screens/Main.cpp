@@ -78,6 +78,8 @@ int main(int argc, char** argv)
         qputenv("QT_QPA_PLATFORM", platform);
     QLocale::setDefault(QLocale(QLocale::English, QLocale::UnitedStates));
     QApplication::setDesktopSettingsAware(false);
+    // A dialog of the system's own shows its boxes to nobody.
+    QApplication::setAttribute(Qt::AA_DontUseNativeDialogs);
     // The program has no command line: these are to mean nothing.
     char reverse[] = "-reverse";
     char sheet[] = "-stylesheet";

@@ -9,6 +9,7 @@
 #include "support/SmallLeague.h"
 
 #include <QApplication>
+#include <QScreen>
 #include <QTest>
 #include <QTimer>
 
@@ -46,6 +47,15 @@ protected:
         return *TeamScreen();
     }
     [[nodiscard]] frmTeam* TeamScreen() const { return static_cast<frmTeam*>(TheStage.Find(Window::Team)); }
+
+    // How far a window stands from the middle of its display, across and down together, beyond half its frame: it is placed before it is shown,
+    // when nobody knows its frame.
+    static int OffTheMiddle(const QWidget& window)
+    {
+        const QSize frame = window.frameGeometry().size() - window.size();
+        const QPoint middle = window.screen()->availableGeometry().center();
+        return (window.frameGeometry().center() - middle).manhattanLength() - (frame.width() + frame.height()) / 2;
+    }
 
     // Lets everything happen that is waiting, the deletion of closed screens included.
     static void Settle()

@@ -124,7 +124,7 @@ TEST_F(SquadDockTest, ItFollowsTheScreenInFrontWhereverThatGoes)
 
 TEST_F(SquadDockTest, WhereThereIsNoRoomNothingMoves)
 {
-    Front.resize(1100, 500);
+    Front.resize(Front.screen()->availableGeometry().width() - 180, 500);
     QApplication::processEvents();
     const QRect front = Front.geometry();
     const QRect before = Beside.geometry();

@@ -50,9 +50,7 @@ TEST_F(frmAboutTest, StandsBesideTheMainScreenInTheMiddle)
 {
     EXPECT_TRUE(About().isVisible());
     EXPECT_TRUE(Main().isVisible());
-    const QPoint middle = About().screen()->availableGeometry().center();
-    constexpr int frame = 8; // of the window, which is not known before it is shown
-    EXPECT_LE((About().frameGeometry().center() - middle).manhattanLength(), frame);
+    EXPECT_LE(OffTheMiddle(About()), 1);
 }
 
 TEST_F(frmAboutTest, NothingElseCanBeOpenedBesideIt)

@@ -349,12 +349,7 @@ TEST_F(frmTicketTest, AFailureOfOpeningIsNamedAfterTheScreen)
     EXPECT_THAT(machine.Boxes(), ElementsAre(Box{16, "6 - Overflow in FormLoad FrmTicket!"}));
 }
 
-TEST_F(frmTicketTest, StandsInTheMiddleOfTheScreen)
-{
-    const QPoint middle = Tickets().screen()->availableGeometry().center();
-    constexpr int frame = 8; // of the window, which is not known before it is shown
-    EXPECT_LE((Tickets().frameGeometry().center() - middle).manhattanLength(), frame);
-}
+TEST_F(frmTicketTest, StandsInTheMiddleOfTheScreen) { EXPECT_LE(OffTheMiddle(Tickets()), 1); }
 
 TEST_F(frmTicketTest, PricesBeyondTheLimitsAreShownAsTheyStand)
 {
