@@ -26,7 +26,6 @@
 #include <QMouseEvent>
 #include <QScreen>
 #include <QShortcut>
-#include <QStyle>
 #include <utility>
 
 namespace dravik {
@@ -122,14 +121,12 @@ void Screen::CentreOnScreen()
     if (isMaximized() || isFullScreen())
         return;
     const QRect area = screen()->availableGeometry();
-    // A window that has not been shown yet has no frame to measure.
-    QSize frame = frameGeometry().size() - size();
-    if (frame.isEmpty())
-        frame = {0, style()->pixelMetric(QStyle::PM_TitleBarHeight, nullptr, this)};
+    const QSize frame = FrameSizeOf(*this);
     PlaceByProgram(*this, [&] {
         resize(size().boundedTo(area.size() - frame));
-        move(area.topLeft() +
-             QPoint((area.width() - frameGeometry().width()) / 2, (area.height() - frameGeometry().height()) / 2));
+        const QPoint middle = area.topLeft() + QPoint((area.width() - frameGeometry().width()) / 2,
+                                                      (area.height() - frameGeometry().height()) / 2);
+        move(FittedInto({middle, size()}, {area}, frame).topLeft());
     });
     PutKept(*this);
 }

@@ -1,4 +1,5 @@
 #include "OnAnyScreen.h"
+#include "screens/panels/KeptPlace.h"
 #include "screens/panels/Labels.h"
 
 #include <QHelpEvent>
@@ -126,6 +127,27 @@ TEST_F(FittedScreens, LargeFontsLeaveEveryCommandInReach)
     EnlargeFonts();
     NameEverybodyWidest();
     ExpectAllInReach();
+}
+
+// A screen that is higher than any small display.
+class HighScreen : public Screen {
+public:
+    explicit HighScreen(Stage& stage) : Screen(stage, "frmHigh") { resize(SmallDisplay * 2); }
+
+    void FormLoad() override {}
+};
+
+TEST_F(FittedScreens, AWindowAsHighAsTheDisplayStandsAboveItsLowerEdge)
+{
+    HighScreen screen(TheStage);
+    screen.CentreOnScreen();
+
+    // It is not shown yet: its title bar is above it all the same.
+    const QRect area = screen.screen()->availableGeometry();
+    const int title = FrameSizeOf(screen).height();
+    ASSERT_GT(title, 0);
+    EXPECT_EQ(screen.size(), QSize(area.width(), area.height() - title));
+    EXPECT_EQ(screen.pos(), area.topLeft());
 }
 
 TEST_F(FittedScreens, TheFooterStaysWhereThePageScrolls)

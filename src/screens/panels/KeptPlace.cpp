@@ -24,19 +24,18 @@ constexpr auto Maximized = "maximized";
 constexpr int Numbers = 4;           // of a place: left, top, width, height
 constexpr int FarthestAway = 100000; // no desktop reaches so far
 
-// What a frame adds to a window. One that was never shown has none to measure.
-QSize FrameOf(const QWidget& window)
-{
-    const QSize frame = window.frameGeometry().size() - window.size();
-    return frame.isEmpty() ? QSize(0, window.style()->pixelMetric(QStyle::PM_TitleBarHeight, nullptr, &window)) : frame;
-}
-
 long long AreaOf(const QRect& part)
 {
     return part.isEmpty() ? 0 : static_cast<long long>(part.width()) * part.height();
 }
 
 } // namespace
+
+QSize FrameSizeOf(const QWidget& window)
+{
+    const QSize frame = window.frameGeometry().size() - window.size();
+    return frame.isEmpty() ? QSize(0, window.style()->pixelMetric(QStyle::PM_TitleBarHeight, nullptr, &window)) : frame;
+}
 
 QRect FittedInto(const QRect& place, const QList<QRect>& displays, const QSize& frame)
 {
@@ -123,7 +122,7 @@ bool KeptPlace::Put()
     // It may need more by now, as in larger letters, and is to be seen whole all the same.
     const QSize least = window.minimumSizeHint().expandedTo(window.minimumSize());
     const QRect place =
-        FittedInto({kept->Area.topLeft(), kept->Area.size().expandedTo(least)}, displays, FrameOf(window));
+        FittedInto({kept->Area.topLeft(), kept->Area.size().expandedTo(least)}, displays, FrameSizeOf(window));
     window.resize(place.size());
     window.move(place.topLeft());
     last = place;

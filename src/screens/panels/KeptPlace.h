@@ -61,6 +61,10 @@ private:
 void PlaceByProgram(QWidget& window, const std::function<void()>& change);
 bool PutKept(QWidget& window);
 
+// What the frame of a window adds to its size, in pixels; of one that was never shown the height of the style's title bar, as nobody
+// has measured more.
+QSize FrameSizeOf(const QWidget& window);
+
 // `place` (outer corner and inner size, in pixels) within the display of which it takes most, else the first one: no larger than that
 // display leaves to a window with a frame of `frame` around it, and moved until all of it is seen. `displays` has one at least.
 QRect FittedInto(const QRect& place, const QList<QRect>& displays, const QSize& frame);
