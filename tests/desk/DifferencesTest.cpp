@@ -183,6 +183,10 @@ TEST_F(DifferencesTest, RatingsRoseFellAndShifted)
     Earlier.ShowsOverall = false;
     EXPECT_THAT(Told(), ElementsAre("Skater 1: SC 60 to 66", "Goalie 1: RB 60 to 62", "Skater 2: DF 60 to 58",
                                     "Skater 3: PA 60 to 59, SC 60 to 61"));
+    for (const Difference& difference : Found()) {
+        EXPECT_EQ(difference.Before, 0) << "its ratings tell it all";
+        EXPECT_EQ(difference.After, 0);
+    }
 }
 
 TEST_F(DifferencesTest, TheOverallComesFirstAndDecides)

@@ -57,6 +57,18 @@ TEST_F(EveningTest, AllIsDoneWhereTheJudgesAreContent)
     }
 }
 
+TEST_F(EveningTest, APayrollThatNobodyCanCountIsLeftOut)
+{
+    LeagueData.SalaryCapMode = 0;
+    LeagueData.MaxSalary = 2000000000;
+    Players[1].Salary = 2000000000;
+    Players[2].Salary = 2000000000;
+    const EveningItem roster = Of(EveningTask::Roster);
+    EXPECT_EQ(roster.State, EveningState::Done);
+    EXPECT_EQ(roster.Words, "complete");
+    EXPECT_THAT(roster.Findings, IsEmpty());
+}
+
 TEST_F(EveningTest, TheCapStandsBesideThePayroll)
 {
     LeagueData.SalaryCapMode = 1;

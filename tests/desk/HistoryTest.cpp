@@ -433,6 +433,19 @@ TEST_F(HistoryOfAMarketTest, OffersThatAreWatchedAreUndone)
     EXPECT_EQ(Salary(11000), 700);
 }
 
+TEST_F(HistoryOfAMarketTest, WithoutABeginningItBeginsWithTheFirstOfferThatIsWatched)
+{
+    History other(OpenLeague);
+    other.Join(*market);
+    other.Watch(3);
+    {
+        const OpenStep step = other.Open(Label("Offer"));
+        market->Offers[3].Salary = 500;
+    }
+    EXPECT_EQ(other.Undo(), Turned::Done);
+    EXPECT_EQ(Salary(3), 0);
+}
+
 TEST_F(HistoryOfAMarketTest, AnOfferOfWhichNobodySpokeIsNotLookedAt)
 {
     {

@@ -50,6 +50,16 @@ protected:
     }
 };
 
+// What an earlier version of the program has sealed is whole to this one.
+TEST(SealTest, IsTheSameNumberForEver)
+{
+    EXPECT_EQ(SealOver(0, ""), 0xA8C7F832281A39C5U);
+    EXPECT_EQ(SealOver(0, "Gulls"), 0x142039CBF287666EU);
+    EXPECT_EQ(SealOver(0x0123456789ABCDEFU, "Gulls\xE9"), 0x0ADE3D1067C1F935U);
+    EXPECT_EQ(WriteSeal(0x0123456789ABCDEFU), "\xEF\xCD\xAB\x89\x67\x45\x23\x01");
+    EXPECT_EQ(ReadSeal("\xEF\xCD\xAB\x89\x67\x45\x23\x01"), 0x0123456789ABCDEFU);
+}
+
 TEST_F(JournalTest, NothingIsWrittenBeforeTheFirstStep)
 {
     Rename("Old Arena");
@@ -271,6 +281,17 @@ TEST_F(JournalTest, OffersAndTheRankingAreUnsavedByThemselves)
     EXPECT_FALSE(Read().Unsaved);
 }
 
+TEST_F(JournalTest, WorkThatTakesBackWhatStoodOnTheMarketBeforeItIsNotUnsaved)
+{
+    market->Ranking[0] = 17; // outside of any step
+    history.Fold();
+    Rank(0);
+    EXPECT_FALSE(Read().Beginning.IsEmpty());
+    EXPECT_FALSE(Read().Unsaved);
+    Rank(18);
+    EXPECT_TRUE(Read().Unsaved);
+}
+
 TEST_F(JournalTest, WhatWasKeptIsUnsavedThoughItsScreenBeginsAnew)
 {
     Rank(17);
@@ -464,6 +485,11 @@ TEST_F(JournalTest, WhatIsNoJournalIsRefusedInWords)
 {
     EXPECT_EQ(ReadJournal("").Refused, "It is no journal.");
     EXPECT_EQ(ReadJournal(std::string(500, 'x')).Refused, "It is no journal.");
+    for (const std::size_t place : {0, 2, 11}) { // the length of its magic, and the first and last letter
+        std::string foreign = WriteJournalHead(Head());
+        ++foreign[place];
+        EXPECT_EQ(ReadJournal(foreign).Refused, "It is no journal.") << place;
+    }
     Pay(90);
     std::string other = written.substr(0, JournalHeadSize());
     EXPECT_EQ(ReadJournal(other.substr(0, other.size() - 1)).Refused, "Its beginning is damaged.");

@@ -4,6 +4,7 @@
 #include "support/SmallLeague.h"
 
 #include <algorithm>
+#include <functional>
 
 namespace dravik {
 namespace {
@@ -84,6 +85,38 @@ TEST_F(LeagueDigestTest, WhatIsWrittenIsReadBack)
     EXPECT_EQ(third.Contract, 2);
     EXPECT_EQ(third.Age, 31);
     EXPECT_EQ(third.RatingCount, 15);
+}
+
+TEST(PersonDigestTest, PeopleAreTheSameWhereNothingOfThemDiffers)
+{
+    PersonDigest person{.Who = PersonIn<Player>(7), .Identity = 1, .Team = 2, .Age = 3, .Contract = 4, .Condition = 5};
+    person.Suspension = 6;
+    person.Status = 7;
+    person.Overall = 8;
+    person.RatingCount = 9;
+    person.Name = "Ward Tilton";
+    const std::function<void(PersonDigest&)> changes[] = {
+        [](PersonDigest& other) { other.Who = PersonIn<Player>(8); },
+        [](PersonDigest& other) { other.Who = PersonIn<Goalie>(7); },
+        [](PersonDigest& other) { ++other.Identity; },
+        [](PersonDigest& other) { other.Name = "Ward Tilten"; },
+        [](PersonDigest& other) { ++other.Team; },
+        [](PersonDigest& other) { ++other.Age; },
+        [](PersonDigest& other) { ++other.Contract; },
+        [](PersonDigest& other) { ++other.Condition; },
+        [](PersonDigest& other) { ++other.Suspension; },
+        [](PersonDigest& other) { ++other.Status; },
+        [](PersonDigest& other) { ++other.Overall; },
+        [](PersonDigest& other) { ++other.RatingCount; },
+        [](PersonDigest& other) { ++other.Ratings[0]; },
+        [](PersonDigest& other) { ++other.Ratings[MostRatings - 1]; },
+    };
+    EXPECT_EQ(person, PersonDigest(person));
+    for (const auto& change : changes) {
+        PersonDigest other = person;
+        change(other);
+        EXPECT_NE(person, other) << "change " << &change - changes;
+    }
 }
 
 TEST_F(LeagueDigestTest, NumbersBeyondAByteCountAsTheNearest)

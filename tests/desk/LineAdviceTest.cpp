@@ -1,6 +1,7 @@
 #include "desk/LineAdvice.h"
 
 #include "LinesDesk.h"
+#include "support/LeagueBefore.h"
 
 #include <algorithm>
 
@@ -433,6 +434,77 @@ TEST_F(LineAdviceTest, AdviceThatIsNotGivenAnyMoreIsNotFollowed)
     const auto before = Copy(OpenLeague);
     EXPECT_FALSE(FollowAdvice(OpenWork(), 5, Side::Pro, 1, piece));
     EXPECT_EQ(std::memcmp(before.get(), &OpenLeague, sizeof OpenLeague), 0);
+}
+
+// A skater's slot and how it is spoken of: who is free, who stands there out of position.
+struct SlotWords {
+    LineField Field;
+    int Number;
+    int Place;
+    const char* Better;
+    const char* OutOfPosition;
+};
+
+constexpr SlotWords WordsOfSlots[] = {
+    {LineField::NormalForward, 4, 1, " is on no line; line 4 plays 52 at C.", " plays C on line 4"},
+    {LineField::NormalForward, 2, 2, " is on no line; line 2 plays 52 at LW.", " plays LW on line 2"},
+    {LineField::NormalForward, 1, 3, " is on no line; line 1 plays 52 at RW.", " plays RW on line 1"},
+    {LineField::NormalDefense, 3, 1, " is in no pair; pair 3 plays 52 at D.", " plays D in pair 3"},
+    {LineField::NormalDefense, 1, 2, " is in no pair; pair 1 plays 52 at D.", " plays D in pair 1"},
+    {LineField::PPForward, 2, 1, " is on no power play; power play 2 plays 52 at C.", " plays C on power play 2"},
+    {LineField::PPForward, 1, 2, " is on no power play; power play 1 plays 52 at LW.", " plays LW on power play 1"},
+    {LineField::PPForward, 1, 3, " is on no power play; power play 1 plays 52 at RW.", " plays RW on power play 1"},
+    {LineField::PPDefense, 1, 1, " is on no power play; power play 1 plays 52 at D.", " plays D on power play 1"},
+    {LineField::PPDefense, 2, 2, " is on no power play; power play 2 plays 52 at D.", " plays D on power play 2"},
+    {LineField::PKForward, 1, 1, " is on no penalty kill; penalty kill 1 plays 52 at C.", " plays C on penalty kill 1"},
+    {LineField::PKForward, 2, 2, " is on no penalty kill; penalty kill 2 plays 52 at W.", " plays W on penalty kill 2"},
+    {LineField::PKDefense, 1, 1, " is on no penalty kill; penalty kill 1 plays 52 at D.", " plays D on penalty kill 1"},
+    {LineField::PKDefense, 2, 2, " is on no penalty kill; penalty kill 2 plays 52 at D.", " plays D on penalty kill 2"},
+    {LineField::FourVsFourForward, 1, 1, " is on no 4 vs 4; 4 vs 4 unit 1 plays 52 at C.", " plays C on 4 vs 4 unit 1"},
+    {LineField::FourVsFourForward, 2, 2, " is on no 4 vs 4; 4 vs 4 unit 2 plays 52 at W.", " plays W on 4 vs 4 unit 2"},
+    {LineField::FourVsFourDefense, 1, 1, " is on no 4 vs 4; 4 vs 4 unit 1 plays 52 at D.", " plays D on 4 vs 4 unit 1"},
+    {LineField::FourVsFourDefense, 2, 2, " is on no 4 vs 4; 4 vs 4 unit 2 plays 52 at D.", " plays D on 4 vs 4 unit 2"},
+    {LineField::PK3Forward, 2, 1, " is on no penalty kill of three; penalty kill of three 2 plays 52 at F.",
+     " plays F on penalty kill of three 2"},
+    {LineField::PK3Defense, 1, 1, " is on no penalty kill of three; penalty kill of three 1 plays 52 at D.",
+     " plays D on penalty kill of three 1"},
+    {LineField::PK3Defense, 2, 2, " is on no penalty kill of three; penalty kill of three 2 plays 52 at D.",
+     " plays D on penalty kill of three 2"},
+    {LineField::ExtraForward, 5, 1, " is no extra forward; extra forward 5 is 52.", " plays F as extra forward 5"},
+    {LineField::ExtraDefense, 2, 1, " is no extra defenseman; extra defenseman 2 is 52.",
+     " plays D as extra defenseman 2"},
+};
+
+TEST_F(LineAdviceTest, EverySlotOfASkaterHasItsWords)
+{
+    Players[1].Name = "Royce Mottford";
+    Players[1].Position = position::Defense;
+    Players[2].Name = "Cyril Slobansky";
+    Players[2].Position = position::Center;
+    for (const SlotWords& row : WordsOfSlots) {
+        LineAdvice piece{.Kind = AdviceKind::Better,
+                         .Who = PersonIn<Player>(2),
+                         .Instead = PersonIn<Player>(1),
+                         .Slot = DaySlots[0],
+                         .At = SlotOf(row.Field, row.Number, row.Place),
+                         .Figure = 64,
+                         .Standing = 52};
+        EXPECT_EQ(WordsOf(OpenLeague, piece), std::string("Cyril Slobansky (64, C)") + row.Better);
+        piece.Kind = AdviceKind::OutOfPosition;
+        EXPECT_EQ(WordsOf(OpenLeague, piece), std::string("Royce Mottford (D)") + row.OutOfPosition +
+                                                  ", 52 there, though Cyril Slobansky (64, C) is free.");
+        Players[1].Position = 9; // which has no letter
+        EXPECT_EQ(WordsOf(OpenLeague, piece), std::string("Royce Mottford") + row.OutOfPosition +
+                                                  ", 52 there, though Cyril Slobansky (64, C) is free.");
+        Players[1].Position = position::Defense;
+    }
+    const LineAdvice shot{.Kind = AdviceKind::Better,
+                          .Who = PersonIn<Player>(2),
+                          .Instead = PersonIn<Player>(1),
+                          .Slot = DaySlots[0],
+                          .At = SlotOf(LineField::PenaltyShot, 1)};
+    EXPECT_EQ(NumberOfFailure([&] { (void)WordsOf(OpenLeague, shot); }), failure::OutOfRange)
+        << "nobody is better at it";
 }
 
 TEST_F(LineAdviceTest, ATeamOrADayThatIsNoneFails)

@@ -161,6 +161,29 @@ TEST_F(LinesOfAllDaysTest, WhatStaysIncompleteIsToldWithTheFirstThreeFindings)
                                                    "Team 5."));
 }
 
+TEST_F(LinesOfAllDaysTest, OfMoreFindingsThanThreeTheRestIsCounted)
+{
+    LeagueData.LinesOneTwoExclusive = false;
+    Lines& day = Day(Side::Pro, 3);
+    for (int pair = 1; pair <= 4; ++pair) // defensemen twice are no maker's to take out
+        day.NormalDefense(pair, 1) = day.NormalDefense(pair, 2);
+    const auto telling = [&] {
+        RepairAllDaysAndTell(OpenWork(), Own, Side::Pro);
+        const std::vector<Box> boxes = Machine.TakeBoxes();
+        return boxes.size() == 1 ? boxes[0].Text : std::string();
+    };
+    const auto findings = RepairAllDays(OpenWork(), Own, Side::Pro).Left.at(0).Findings;
+    ASSERT_EQ(findings.size(), 4U);
+    const std::string three =
+        "Still incomplete: day 3.\r\n  " + findings[0] + "\r\n  " + findings[1] + "\r\n  " + findings[2];
+    EXPECT_EQ(telling(), three + "\r\n  and 1 more.");
+    day.BackupGoalie = day.StartGoalie;
+    EXPECT_EQ(telling(), three + "\r\n  and 2 more.");
+    day.BackupGoalie = Day(Side::Pro, 1).BackupGoalie;
+    day.NormalDefense(4, 1) = Day(Side::Pro, 1).NormalDefense(4, 1);
+    EXPECT_EQ(telling(), three);
+}
+
 TEST_F(LinesOfAllDaysTest, DaysWithOtherFindingsStandApart)
 {
     LeagueData.LinesOneTwoExclusive = false;

@@ -125,6 +125,19 @@ TEST_F(TakeLinesTest, WhoIsGoneIsToldOnceAndTakenOutByTheJudge)
     }
 }
 
+TEST_F(TakeLinesTest, IncompleteDaysOfTheFarmAreToldAsItsOwn)
+{
+    LeagueData.FarmRosterRequired = true;
+    const auto center = static_cast<int>(Farm.Skaters.front());
+    Players[center].Name = "Ward Tilton";
+    Players[center].Team = Own + 1;
+    const LoadedFile taken = Take({Side::Farm});
+    ASSERT_EQ(taken.TakenIn.Told.size(), 11U);
+    EXPECT_EQ(taken.TakenIn.Told[0], "Ward Tilton is no more in the team.");
+    EXPECT_EQ(taken.TakenIn.Told[1], "Farm Lines #1 are incomplete!");
+    EXPECT_EQ(taken.TakenIn.Told[10], "Farm Lines #10 are incomplete!");
+}
+
 TEST_F(TakeLinesTest, NumbersOfNobodyStandNowhere)
 {
     Teams[Own].ProLines[1].NormalForward(1, 1) = 32767;

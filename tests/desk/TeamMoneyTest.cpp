@@ -72,7 +72,8 @@ TEST_F(TeamMoneyTest, AnEmptyAnswerEndsTheCommandAndAWordIsRefused)
         EXPECT_EQ(ShownAfter(command, "-"), 0);
         EXPECT_EQ(ShownAfter(command, "-1x"), 0);
         EXPECT_EQ(ShownAfter(command, "12a"), 0);
-        EXPECT_THAT(Machine.TakeBoxes(), ElementsAre(NoValidInput, OnlyNumbers, OnlyNumbers));
+        EXPECT_EQ(ShownAfter(command, ",5"), 0);
+        EXPECT_THAT(Machine.TakeBoxes(), ElementsAre(NoValidInput, OnlyNumbers, OnlyNumbers, NoValidInput));
         EXPECT_FALSE(Modified);
     }
     EXPECT_TRUE(before.IsUntouched());
