@@ -4,6 +4,7 @@
 #include "OnRosterScreen.h"
 #include "screens/panels/EntrySigns.h"
 #include "screens/panels/PersonCards.h"
+#include "screens/panels/Shades.h"
 
 #include <QAccessible>
 #include <QHelpEvent>
@@ -369,6 +370,34 @@ TEST(CardPlace, IsInTheWindowAndCoversNeitherAnchorNorTooltipWhereThereIsRoom)
                 EXPECT_FALSE(place.intersects(tooltip)) << x << ' ' << y;
             }
     EXPECT_EQ(PersonCard::PlaceFor(size, {14, 200, 280, 20}, {}, window).topLeft(), QPoint(301, 200));
+}
+
+TEST(CardPlace, SidesAreTriedOneAfterTheOther)
+{
+    constexpr QSize card(200, 100);
+    const QRect window(0, 0, 600, 400);
+    const QRect low(0, 0, 600, 130); // nothing goes above or below
+    constexpr int edge = Gap / 2;    // of the window, which stays free
+    const auto place = [&](const QRect& anchor, const QRect& taken = {}) {
+        return PersonCard::PlaceFor(card, anchor, taken, window);
+    };
+    const auto placeInLow = [&](const QRect& anchor, const QRect& taken = {}) {
+        return PersonCard::PlaceFor(card, anchor, taken, low);
+    };
+    EXPECT_EQ(place({100, 100, 50, 20}), QRect(QPoint(149 + Gap, 100), card)) << "to its right";
+    EXPECT_EQ(place({100, 390, 50, 10}), QRect(QPoint(149 + Gap, 400 - edge - 100), card))
+        << "no lower than there is room";
+    EXPECT_EQ(place({100, -5, 50, 10}), QRect(QPoint(149 + Gap, edge), card)) << "nor higher";
+    EXPECT_EQ(place({500, 100, 50, 20}), QRect(QPoint(501 - Gap - 200, 100), card)) << "to its left";
+    EXPECT_EQ(place({300, 100, 290, 20}, {100, 100, 150, 20}), QRect(QPoint(300, 119 + Gap), card)) << "below";
+    EXPECT_EQ(place({450, 100, 140, 20}, {100, 100, 340, 20}), QRect(QPoint(600 - edge - 200, 119 + Gap), card))
+        << "below, no farther right than there is room";
+    EXPECT_EQ(place({-10, 350, 620, 20}), QRect(QPoint(edge, 351 - Gap - 100), card)) << "above";
+    EXPECT_EQ(placeInLow({100, 10, 50, 20}, {160, 10, 60, 20}), QRect(QPoint(219 + Gap, 10), card))
+        << "to the right of both";
+    EXPECT_EQ(placeInLow({400, 10, 50, 20}, {340, 10, 40, 20}), QRect(QPoint(341 - Gap - 200, 10), card))
+        << "to the left of both";
+    EXPECT_EQ(placeInLow({100, 10, 450, 20}, {}), QRect(QPoint(600 - edge - 200, 10), card)) << "over the anchor";
 }
 
 TEST(CardPlace, IsPushedIntoAWindowThatIsTooSmall)
