@@ -103,6 +103,8 @@ TEST(FieldTest, OnlyMinusOneIsTrue)
     truth.SetWord(1);
     EXPECT_FALSE(truth);
     EXPECT_EQ(truth.Word(), 1);
+    EXPECT_EQ(Boolean(true).Word(), -1);
+    EXPECT_EQ(Boolean(false).Word(), 0);
 }
 
 TEST(FieldTest, ATextIsPaddedWithBlanksAndCutAtItsWidth)

@@ -103,6 +103,12 @@ TEST(NameMatchTest, ABeginningOfAWordComesBeforeWhatStandsWithinOne)
     EXPECT_EQ(NameMatch("e").In("C\x9C"), (NamePart{1, 1, false}));
 }
 
+TEST(NameMatchTest, WhatStandsInFrontOfANameIsNoPartOfIt)
+{
+    const std::string_view row = "xKarl";
+    EXPECT_EQ(NameMatch("karl").In(row.substr(1)), (NamePart{0, 4, true}));
+}
+
 TEST(NameMatchTest, WhoTypedNothingFindsEverybodyAtTheBeginning)
 {
     EXPECT_EQ(NameMatch("").In("Karl"), (NamePart{0, 0, true}));

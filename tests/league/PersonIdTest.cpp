@@ -34,6 +34,8 @@ TEST_F(PersonIdTest, ANumberOutsideTheTablesMeansASlotThatIsNotThere)
         EXPECT_FALSE(PersonOf(id).HasSlot()) << id;
 }
 
+TEST_F(PersonIdTest, NobodyYetIsTheSkaterInSlot0) { EXPECT_EQ(PersonId(), Skater(0)); }
+
 TEST_F(PersonIdTest, EveryNumberComesBackAsItWas)
 {
     for (int id = -2; id <= 32767; ++id)
