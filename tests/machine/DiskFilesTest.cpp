@@ -195,6 +195,16 @@ TEST_F(DiskFilesTest, RenamingReplacesWhatStandsThere)
     EXPECT_THAT(Entries(), UnorderedElementsAre("to"));
 }
 
+TEST_F(DiskFilesTest, ANameAloneIsLookedForInTheFolderThatTheProgramWorksIn)
+{
+    Make("League Of 2024.dvs", "x");
+    const fs::path before = fs::current_path();
+    fs::current_path(Disk.Folder());
+    EXPECT_EQ(Disk.FindEntry("league of 2024.DVS"), "League Of 2024.dvs");
+    EXPECT_EQ(Disk.FindEntry("league of 2025.DVS"), std::nullopt);
+    fs::current_path(before);
+}
+
 TEST_F(DiskFilesTest, AnEntryIsFoundWhateverTheCaseOfItsName)
 {
     Make("League Of 2024.dvs", "x");

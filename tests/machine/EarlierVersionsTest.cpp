@@ -91,6 +91,21 @@ TEST_F(EarlierVersionsTest, TheLastTenOfEachFileStay)
     EXPECT_EQ(Kept(), expected);
 }
 
+TEST_F(EarlierVersionsTest, AFileIsNoCopyWhereAnythingButADigitStandsInItsTime)
+{
+    Write(File, "one");
+    fs::create_directories(Folder);
+    const std::vector<std::string> own{"Gulls 2026-01-!1 21.03.15.dvl", "Gulls 2026-01-x1 21.03.15.dvl",
+                                       "Gulls 2026-01_11 21.03.15.dvl"};
+    for (const std::string& name : own)
+        Write(Folder / name, "mine");
+    for (int day = 11; day <= 23; ++day)
+        EXPECT_TRUE(KeepEarlierVersion(File, Folder, Day(day)));
+    for (const std::string& name : own)
+        EXPECT_EQ(Content(Folder / name), "mine") << name;
+    EXPECT_EQ(Kept().size(), own.size() + 10);
+}
+
 TEST_F(EarlierVersionsTest, WhatADeadProgramLeftUnfinishedGoes)
 {
     Write(File, "one");

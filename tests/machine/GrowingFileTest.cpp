@@ -69,6 +69,8 @@ TEST_F(GrowingFileTest, WhatIsAppendedIsThereAtOnce)
     EXPECT_EQ(Content(Path), "one");
     EXPECT_TRUE(file.Append(std::string("\0two", 4)));
     EXPECT_EQ(Content(Path), std::string("one\0two", 7));
+    EXPECT_TRUE(file.Append("3")) << "a single byte";
+    EXPECT_EQ(Content(Path), std::string("one\0two3", 8));
 }
 
 TEST_F(GrowingFileTest, AFileThatIsThereIsNeverTouchedByANewOne)
