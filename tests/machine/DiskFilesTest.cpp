@@ -212,6 +212,11 @@ TEST_F(DiskFilesTest, AnEntryIsFoundWhateverTheCaseOfItsName)
     EXPECT_EQ(Disk.FindEntry(In("League Of 2024.dvs")), "League Of 2024.dvs");
     EXPECT_EQ(Disk.FindEntry(In("League Of 2025.dvs")), std::nullopt);
     EXPECT_EQ(Disk.FindEntry(In("League Of 2024.dv")), std::nullopt);
+    Make("AZ", "x");
+    Make("@[", "x"); // which stand beside the letters
+    EXPECT_EQ(Disk.FindEntry(In("az")), "AZ");
+    EXPECT_EQ(Disk.FindEntry(In("`[")), std::nullopt);
+    EXPECT_EQ(Disk.FindEntry(In("@{")), std::nullopt);
 }
 
 #ifdef __linux__ // other file systems keep one of such entries, and take no bytes that are no text
@@ -236,7 +241,9 @@ TEST_F(DiskFilesTest, AccentedLettersOfTheCodePageHaveTheirCaseToo)
         Make(upper, "x");
         EXPECT_EQ(Disk.FindEntry(In(lower)), upper);
     }
-    Make("\xD7", "x"); // the sign of multiplication has no case
+    Make("a\xDF", "x"); // the sharp s has none
+    EXPECT_EQ(Disk.FindEntry(In("a\xFF")), std::nullopt);
+    Make("\xD7", "x"); // nor has the sign of multiplication
     EXPECT_EQ(Disk.FindEntry(In("\xF7")), std::nullopt);
 }
 
