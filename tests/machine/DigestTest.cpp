@@ -91,10 +91,14 @@ TEST_F(DigestTest, ADigestTextThatDoesNotFitMemoryIsToldAndEmpty)
 
 TEST_F(DigestTest, ATextThatFindsNoArrayHasNoDigest)
 {
-    const FailingAllocation first(1);
-    EXPECT_EQ(DigestStrToHexStr("a"), "");
-    EXPECT_THAT(Machine.Boxes(), ElementsAre(Box{16, "7 - Out of memory in String To Array Function!"},
-                                             Box{16, "9 - Subscript out of range in Digest Str To HexStr Function!"}));
+    for (const char* text : {"a", ""}) {
+        const FailingAllocation first(1);
+        EXPECT_EQ(DigestStrToHexStr(text), "") << text;
+        EXPECT_THAT(Machine.TakeBoxes(),
+                    ElementsAre(Box{16, "7 - Out of memory in String To Array Function!"},
+                                Box{16, "9 - Subscript out of range in Digest Str To HexStr Function!"}))
+            << text;
+    }
 }
 
 TEST_F(DigestTest, WhicheverAllocationFailsTheTextIsEmptyAndTheFailureTold)
