@@ -9,6 +9,7 @@
 #include <cstring>
 #include <fstream>
 #include <iterator>
+#include <new>
 
 // The journal of the open league, from one run of the program to the next.
 namespace dravik {
@@ -97,6 +98,15 @@ TEST_F(OpenJournalTest, WithoutAFolderThereIsNone)
     EXPECT_FALSE(BringBackWork());
     ForgetWork();
     EXPECT_EQ(JournalWords(), "");
+}
+
+TEST_F(OpenJournalTest, OneThatCannotBeginIsTold)
+{
+    KeepJournals(folder, []() -> double { throw std::bad_alloc(); });
+    Open(path);
+    EXPECT_EQ(JournalWords(), "What is done now would not survive a crash: the journal could not be written.");
+    Pay(90);
+    EXPECT_THAT(Journals(), IsEmpty());
 }
 
 TEST_F(OpenJournalTest, UnsavedWorkIsTold)
