@@ -1,6 +1,7 @@
 #include "session/OpenChanges.h"
 
 #include "OnClientFile.h"
+#include "support/RealFaults.h"
 
 #include <fstream>
 
@@ -186,6 +187,26 @@ TEST_F(OpenChangesTest, WithoutAPlaceForANewOneTheOldDigestStaysAndTellsOn)
     EXPECT_EQ(OpenChanges().FileDate, 45000);
     EXPECT_THAT(Kinds(), ElementsAre(DifferenceKind::Hurt, DifferenceKind::Hurt));
 }
+
+#ifndef _WIN32 // where the system can be asked for a full disk
+
+TEST_F(OpenChangesTest, AFullDiskLeavesTheOldDigestAndNoHalfOfANewOne)
+{
+    OpenAsOf(45000);
+    Players[1].Condition = 50;
+    LeagueData.FileDate = 45001;
+    const std::string file = SavePlain();
+    {
+        const SmallDisk full(100);
+        Open(file);
+    }
+    EXPECT_THAT(Kept(), ElementsAre("412f422031.digest"));
+    OpenAsOf(45002);
+    EXPECT_EQ(OpenChanges().FileDate, 45000);
+    EXPECT_THAT(Kinds(), ElementsAre(DifferenceKind::Hurt));
+}
+
+#endif
 
 TEST_F(OpenChangesTest, WithoutAFolderNothingIsKept)
 {

@@ -141,6 +141,18 @@ TEST_F(SessionTest, NewsLogLinesAndAnErasedPlayerHaveNoEffect)
     EXPECT_THAT(Machine.FileOperations(), IsEmpty());
 }
 
+TEST_F(SessionTest, WhoIsSelectedIsKnownByKindAndSlot)
+{
+    SelectPerson(PersonIn<Goalie>(7));
+    EXPECT_EQ(SelectedPlayer, 7);
+    EXPECT_TRUE(SelectedIsGoalie);
+    EXPECT_EQ(SelectedPerson(), PersonIn<Goalie>(7));
+    SelectPerson(PersonIn<Player>(10000));
+    EXPECT_EQ(SelectedPlayer, 10000);
+    EXPECT_FALSE(SelectedIsGoalie);
+    EXPECT_EQ(SelectedPerson(), PersonIn<Player>(10000));
+}
+
 TEST_F(SessionTest, TheWaitScreenIsTheMachines)
 {
     dravik::Machine().ShowWait();
