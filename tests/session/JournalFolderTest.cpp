@@ -54,6 +54,25 @@ TEST_F(JournalFolderTest, ANameSaysTheLeagueTheBeginningAndANumber)
     EXPECT_TRUE(Folder.NewPath(HeadOf("AB\xE9 9", 1)).filename().string().ends_with("-1.journal"));
 }
 
+TEST_F(JournalFolderTest, ANameWithoutANumberCountsForNone)
+{
+    const JournalHead head = HeadOf("ABC", 1);
+    const fs::path first = Write(head, 45001);
+    std::string name = first.filename().string();
+    fs::rename(first, first.parent_path() / name.replace(name.find("1.journal"), 1, "x"));
+    EXPECT_TRUE(Folder.NewPath(head).filename().string().ends_with("-1.journal"));
+}
+
+TEST_F(JournalFolderTest, AFileThatNoEveningFillsIsNotRead)
+{
+    const fs::path journal = Write(HeadOf("ABC", 1), 45001);
+    constexpr std::uintmax_t most = std::uintmax_t{256} << 20U;
+    ASSERT_TRUE(JournalFolder::Read(journal));
+    fs::resize_file(journal, most + 1);
+    EXPECT_FALSE(JournalFolder::Read(journal));
+    EXPECT_FALSE(JournalFolder::Read(journal.parent_path() / "missing.journal"));
+}
+
 TEST_F(JournalFolderTest, TheLatestUnsavedWorkOfTheBeginningIsFound)
 {
     const JournalHead head = HeadOf("ABC", 1);

@@ -1,9 +1,12 @@
 #include "session/OpenJournal.h"
 
+#include "desk/JournalWriter.h"
 #include "OnClientFile.h"
+#include "session/JournalFolder.h"
 #include "session/OpenHistory.h"
 #include "session/OpenMarket.h"
 #include "session/OpenSaves.h"
+#include "support/FailingAllocation.h"
 #include "support/RealFaults.h"
 
 #include <cstring>
@@ -107,6 +110,106 @@ TEST_F(OpenJournalTest, OneThatCannotBeginIsTold)
     EXPECT_EQ(JournalWords(), "What is done now would not survive a crash: the journal could not be written.");
     Pay(90);
     EXPECT_THAT(Journals(), IsEmpty());
+}
+
+TEST_F(OpenJournalTest, EveryStepOfADragIsKept)
+{
+    for (const int cash : {90, 80}) {
+        const OpenStep step = OpenHistory().Open({.Words = "Pay", .Where = "Team", .Team = Own, .Drag = 9});
+        Teams[Own].Cash = cash;
+    }
+    Begin();
+    EXPECT_TRUE(BringBackWork());
+    EXPECT_EQ(Teams[Own].Cash, 80);
+}
+
+TEST_F(OpenJournalTest, AnotherFolderEndsTheJournalUntilTheNextOpening)
+{
+    Pay(90);
+    ASSERT_EQ(Journals().size(), 1U);
+    const auto size = fs::file_size(Journals()[0]);
+    KeepJournals(folder, [this] { return now; });
+    Pay(80);
+    NoteSaved(SavedFile::Lines, Own, "saved");
+    ASSERT_EQ(Journals().size(), 1U);
+    EXPECT_EQ(fs::file_size(Journals()[0]), size);
+    Begin();
+    ASSERT_NE(UnsavedWorkWords(), "");
+    KeepJournals(folder, [this] { return now; });
+    EXPECT_EQ(UnsavedWorkWords(), "");
+}
+
+TEST_F(OpenJournalTest, WithoutRoomForTheHistoryThereIsNoJournal)
+{
+    int times = 0;
+    bool failed = true;
+    for (std::size_t n = 1; failed; ++n) {
+        {
+            const FailingAllocation nth(n);
+            OpenHistory().Begin();
+            failed = FailingAllocation::Failed();
+        }
+        if (!OpenHistory().IsOutOfRoom())
+            continue;
+        ++times;
+        BeginJournal();
+        EXPECT_EQ(JournalWords(), "What is done now would not survive a crash: the journal could not be written.");
+        NoteSaved(SavedFile::Lines, Own, "saved");
+        EXPECT_THAT(Journals(), IsEmpty());
+    }
+    EXPECT_GT(times, 0);
+}
+
+TEST_F(OpenJournalTest, WhatWasSavedBeforeIsSavedWhenTheRestIsBack)
+{
+    (void)OpenMarket();
+    Pay(90);
+    NoteSaved(SavedFile::Lines, Own, "saved");
+    {
+        const OpenStep step = OpenHistory().Open({.Words = "Rank", .Where = "Draft", .Team = Own, .Drag = 0});
+        OpenMarket().Ranking[0] = 10007;
+    }
+    Begin();
+    ASSERT_TRUE(BringBackWork());
+    EXPECT_EQ(Teams[Own].Cash, 90);
+    EXPECT_FALSE(StateOf(SavedFile::Lines, Own).UnsavedSince);
+    EXPECT_TRUE(StateOf(SavedFile::Ranking, Own).UnsavedSince);
+}
+
+TEST_F(OpenJournalTest, WorkThatDoesNotFitIsToldAndChangesNothing)
+{
+    Pay(90);
+    ASSERT_EQ(Journals().size(), 1U);
+    const JournalHead head = JournalFolder::Read(Journals()[0])->Read.Head;
+    std::string bytes;
+    JournalWriter writer(
+        head, {},
+        [&](std::string_view more) {
+            bytes += more;
+            return true;
+        },
+        [this] { return now; });
+    DifferenceWriter change;
+    const unsigned char values[] = {201, 202}; // the league's byte is neither
+    change.Add(DeskTable::League, 3, {values, 1}, {values + 1, 1});
+    writer.Closed({.Label = {.Words = "Step", .Where = "Desk", .Team = Own, .Drag = 0}, .Change = change.Finish()});
+    std::ofstream(Journals()[0], std::ios::binary) << bytes;
+    Begin();
+    OpenMarket().Ranking[0] = 17;
+    KeptWork().RankingBy = Own;
+    Teams[Own].Cash = 99; // not by a step
+    const auto before = Copy(OpenLeague);
+    EXPECT_FALSE(BringBackWork());
+    EXPECT_THAT(Machine.TakeBoxes(),
+                ElementsAre(Box{box::Warning, "The work that was not saved cannot be brought back. It does not fit the "
+                                              "league that is open."}));
+    EXPECT_EQ(std::memcmp(before.get(), &OpenLeague, sizeof OpenLeague), 0);
+    EXPECT_EQ(OpenMarket().Ranking[0], 17);
+    EXPECT_EQ(KeptWork().RankingBy, static_cast<int>(Own));
+    EXPECT_FALSE(Modified);
+    EXPECT_NE(UnsavedWorkWords(), "") << "it is still there";
+    Pay(80);
+    EXPECT_EQ(Journals().size(), 2U) << "this run's own journal goes on";
 }
 
 TEST_F(OpenJournalTest, UnsavedWorkIsTold)

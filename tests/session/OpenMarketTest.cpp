@@ -1,6 +1,7 @@
 #include "session/OpenMarket.h"
 
 #include "OnClientFile.h"
+#include "session/OpenHistory.h"
 
 namespace dravik {
 namespace {
@@ -40,6 +41,46 @@ TEST_F(OpenMarketTest, AnotherLeagueFindsNothingThere)
     PutSomethingThere();
     Open(SavePlain());
     ExpectNothingThere();
+}
+
+TEST_F(OpenMarketTest, WhatAnotherTeamLeftThereIsGivenUpAndNoStepOfOnesOwnBringsItBack)
+{
+    (void)OpenMarket();
+    for (const int worker : {5, 6}) {
+        EmptyOpenMarket();
+        BeginHistory();
+        {
+            const OpenStep step = OpenHistory().Open({.Words = "Rank", .Where = "Draft", .Team = worker, .Drag = 0});
+            OpenMarket().Ranking[0] = 17;
+        }
+        GiveUpWorkOfOthers(5, [] { OpenMarket().Ranking[1] = 18; });
+        EXPECT_EQ(OpenMarket().Ranking[1], 18);
+        EXPECT_EQ(OpenHistory().ToUndo() == nullptr, worker == 5) << worker;
+    }
+}
+
+TEST_F(OpenMarketTest, AStepOfOnesOwnThatWasUndoneEndsTheHistoryToo)
+{
+    (void)OpenMarket();
+    for (const int worker : {5, 6}) {
+        EmptyOpenMarket();
+        BeginHistory();
+        {
+            const OpenStep step = OpenHistory().Open({.Words = "Rank", .Where = "Draft", .Team = worker, .Drag = 0});
+            OpenMarket().Ranking[0] = 17;
+        }
+        OpenHistory().Undo();
+        GiveUpWorkOfOthers(5, [] {});
+        EXPECT_EQ(OpenHistory().ToRedo() == nullptr, worker == 5) << worker;
+    }
+}
+
+TEST_F(OpenMarketTest, WithoutAStepWorkOfOthersIsGivenUpAsWell)
+{
+    OpenMarket().Ranking[0] = 17;
+    GiveUpWorkOfOthers(5, [] { OpenMarket().Ranking[0] = 0; });
+    EXPECT_EQ(OpenMarket().Ranking[0], 0);
+    EXPECT_EQ(OpenHistory().ToUndo(), nullptr);
 }
 
 } // namespace

@@ -3,6 +3,7 @@
 #include "session/OpenHistory.h"
 #include "session/OpenMarket.h"
 #include "session/Session.h"
+#include "support/FailingAllocation.h"
 #include "support/ScriptedPlatform.h"
 
 #include <filesystem>
@@ -120,6 +121,100 @@ TEST_F(OpenSavesTest, WhatIsKeptOnTheMarketStaysUnsavedAndWhatWasSavedStaysSaved
     NoteKept(SavedFile::Ranking, Own);
     Rank(0);
     EXPECT_EQ(Words(SavedFile::Ranking), "Saved " + Time(now));
+}
+
+TEST_F(OpenSavesTest, EveryStepOfADragCounts)
+{
+    const auto drag = [](int cash) {
+        const OpenStep step = OpenHistory().Open({.Words = "Pay", .Where = "Team", .Team = Own, .Drag = 9});
+        Teams[Own].Cash = cash;
+    };
+    drag(90);
+    NoteSaved(SavedFile::Lines, Own, "lines");
+    drag(80);
+    EXPECT_EQ(Words(), "Not saved since " + Time(now));
+}
+
+TEST_F(OpenSavesTest, WhatWasChangedOutsideOfAStepBelongsToTheTeamOfTheStepBefore)
+{
+    Pay(90);
+    NoteSaved(SavedFile::Lines, Own, "lines");
+    now += 0.1;
+    Pay(80);
+    Teams[Own].Cash = 90; // not by a step: the file holds this
+    OpenHistory().Fold();
+    EXPECT_EQ(Words(), "Saved " + Time(46034.5));
+    Teams[Own].Cash = 70;
+    OpenHistory().Fold();
+    EXPECT_EQ(Words(), "Not saved since " + Time(now));
+}
+
+TEST_F(OpenSavesTest, WhatWasChangedBeforeAnyStepIsNoTeams)
+{
+    Teams[Own].Cash = 90;
+    OpenHistory().Fold();
+    EXPECT_EQ(Words(), "");
+    Pay(90);
+    EXPECT_EQ(Words(), "");
+}
+
+// Once something was missed nothing is said, rather than something wrong, until another league is open.
+TEST_F(OpenSavesTest, WithoutRoomForAStepNothingIsSaid)
+{
+    int missed = 0;
+    bool failed = true;
+    for (std::size_t n = 1; failed; ++n) {
+        BeginHistory();
+        Pay(90);
+        ASSERT_NE(Words(), "") << n;
+        const StepLabel label{.Words = "Pay", .Where = "Team", .Team = Own, .Drag = 0};
+        {
+            StepLabel called = label;
+            const FailingAllocation nth(n);
+            const OpenStep step = OpenHistory().Open(std::move(called));
+            Teams[Own].Cash = 80;
+            OpenHistory().Fold();
+        }
+        {
+            StepLabel called = label;
+            const FailingAllocation nth(n);
+            {
+                const OpenStep step = OpenHistory().Open(std::move(called));
+                Teams[Own].Cash = 70;
+            }
+            failed = FailingAllocation::Failed();
+        }
+        if (OpenHistory().IsOutOfRoom()) {
+            ++missed;
+            EXPECT_EQ(Words(), "") << n;
+        }
+    }
+    EXPECT_GT(missed, 0);
+}
+
+TEST_F(OpenSavesTest, WithoutRoomToNoteASaveNothingIsSaid)
+{
+    const std::string path = "a path that is longer than what a text holds by itself";
+    for (const bool isSaved : {true, false}) {
+        bool failed = true;
+        for (std::size_t n = 1; failed; ++n) {
+            BeginHistory();
+            Rank(static_cast<int>(n) + 16);
+            OpenHistory().Fold();
+            ASSERT_NE(Words(SavedFile::Ranking), "") << n;
+            {
+                const FailingAllocation nth(n);
+                if (isSaved)
+                    NoteSaved(SavedFile::Ranking, Own, path);
+                else
+                    NoteKept(SavedFile::Ranking, Own);
+                failed = FailingAllocation::Failed();
+            }
+            if (failed) {
+                EXPECT_EQ(Words(SavedFile::Ranking), "") << n;
+            }
+        }
+    }
 }
 
 TEST_F(OpenSavesTest, AnotherLeagueBeginsWithNothing)

@@ -76,6 +76,19 @@ TEST_F(OtherLeagueTest, AWrapperThatWasDamagedOnItsWayIsReadAndSaidToBe)
     WriteWhole(path, bytes);
     ASSERT_TRUE(OpenOtherLeague(path));
     EXPECT_TRUE(TheOtherLeague().IsDamaged);
+    CloseOtherLeague();
+    EXPECT_FALSE(TheOtherLeague().IsDamaged);
+    EXPECT_FALSE(OtherLeague().IsDamaged);
+}
+
+TEST_F(OtherLeagueTest, AWrapperThatCannotBeUnpackedIsToldOnce)
+{
+    const std::string path = Machine.InFolder("Other.dvs");
+    WriteWhole(path, ByteVector(64, 7));
+    EXPECT_FALSE(OpenOtherLeague(path));
+    EXPECT_EQ(TheOtherLeague().League, nullptr);
+    EXPECT_EQ(Machine.TakeBoxes().size(), 1U);
+    EXPECT_FALSE(Machine.WaitShown);
 }
 
 } // namespace

@@ -22,6 +22,16 @@ protected:
     PinnedPeople Pins;
 };
 
+TEST_F(PinnedPeopleTest, NobodyIsInSlot0OrInNone)
+{
+    Players[0].InUse = true;
+    Goalies[0].InUse = true;
+    for (const int slot : {0, -1, 32000}) {
+        EXPECT_FALSE(Pins.Toggle(OpenLeague, Skater(slot))) << slot;
+        EXPECT_FALSE(Pins.Toggle(OpenLeague, Goaler(slot))) << slot;
+    }
+}
+
 TEST_F(PinnedPeopleTest, PinsInOrderAndLetsGo)
 {
     for (const int slot : {3, 1, 2})

@@ -1,5 +1,6 @@
 #include "session/Session.h"
 
+#include "session/PinnedPeople.h"
 #include "support/SmallLeague.h"
 
 #include <algorithm>
@@ -43,7 +44,41 @@ void SoilEverything()
     Modified = SelectedIsGoalie = ListEventGuard = true;
 }
 
+// Taken before anything has run.
+const bool ModifiedAtStart = Modified;
+const bool IsGoalieAtStart = SelectedIsGoalie;
+const bool GuardAtStart = ListEventGuard;
+
 class SessionTest : public SmallLeague {};
+
+TEST_F(SessionTest, NothingIsModifiedChosenOrGuardedAtTheStart)
+{
+    EXPECT_FALSE(ModifiedAtStart);
+    EXPECT_FALSE(IsGoalieAtStart);
+    EXPECT_FALSE(GuardAtStart);
+}
+
+// They stand in what is stored and in what the windows ask, under these numbers.
+TEST_F(SessionTest, ReturnModesAndCallersHaveTheirValues)
+{
+    EXPECT_EQ(return_mode::Roster, 2);
+    EXPECT_EQ(return_mode::Offers, 3);
+    EXPECT_EQ(return_mode::Draft, 4);
+    EXPECT_EQ(return_mode::Office, 5);
+    EXPECT_EQ(return_mode::ProTeam, 2);
+    EXPECT_EQ(return_mode::FarmTeam, 3);
+    EXPECT_EQ(caller_screen::Main, "Main");
+    EXPECT_EQ(caller_screen::Team, "Team");
+}
+
+TEST_F(SessionTest, NobodyIsPinnedInAProgramThatHasJustStarted)
+{
+    PutSkater(3, 5, position::Center, status::Pro);
+    ASSERT_TRUE(OpenPins().Toggle(OpenLeague, {.IsGoalie = false, .Slot = 3}));
+    ResetClientVariables();
+    PutSkater(3, 5, position::Center, status::Pro);
+    EXPECT_FALSE(OpenPins().Has(OpenLeague, {.IsGoalie = false, .Slot = 3}));
+}
 
 TEST_F(SessionTest, AProgramThatHasJustStartedKnowsNoLeagueAndNoTeam)
 {
