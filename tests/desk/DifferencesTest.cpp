@@ -197,6 +197,8 @@ TEST_F(DifferencesTest, TheOverallComesFirstAndDecides)
     ASSERT_EQ(found.size(), 1U);
     EXPECT_EQ(found[0].Kind, DifferenceKind::Fell);
     ASSERT_EQ(found[0].Ratings.size(), 16U);
+    EXPECT_EQ(found[0].Before, 0) << "ratings are counted in nothing of their own";
+    EXPECT_EQ(found[0].After, 0);
     EXPECT_EQ(found[0].Ratings[0].Label, "OV");
     EXPECT_LT(found[0].Ratings[0].After, found[0].Ratings[0].Before);
     EXPECT_EQ(found[0].Ratings[1], (RatingChange{"CK", 60, 50}));

@@ -110,6 +110,8 @@ TEST_F(OpenJournalTest, OneThatCannotBeginIsTold)
     EXPECT_EQ(JournalWords(), "What is done now would not survive a crash: the journal could not be written.");
     Pay(90);
     EXPECT_THAT(Journals(), IsEmpty());
+    KeepJournals({}, {});
+    EXPECT_EQ(JournalWords(), "") << "none is wanted any more";
 }
 
 TEST_F(OpenJournalTest, EveryStepOfADragIsKept)
