@@ -67,8 +67,9 @@ void Offer(std::optional<FoundJournal> work)
         TheJournals.Beginning.reset();
 }
 
-// Writes on behind what was brought back. What this run has written before is undone by then, and nobody needs it.
-void GoOnWith(const FoundJournal& journal)
+// Writes on behind what was brought back. What this run has written before is undone by then, and nobody needs it. What is back
+// stays so: where nothing more can be written, that is told.
+void GoOnWith(const FoundJournal& journal) noexcept
 {
     Journals& journals = TheJournals;
     const bool hasFile = journals.File != nullptr;
@@ -77,16 +78,21 @@ void GoOnWith(const FoundJournal& journal)
         std::error_code ignored;
         std::filesystem::remove(journals.Path, ignored);
     }
-    journals.Path = journal.Path;
     const auto write = [](std::string_view bytes) {
         Journals& of = TheJournals;
         return of.File != nullptr && of.File->Append(bytes);
     };
     try {
+        journals.Path = journal.Path;
+        journals.Writer = std::make_unique<JournalWriter>(journal.Read.Sealed, write, journals.Clock);
+    } catch (const std::exception&) {
+        journals.CouldNotBegin = true;
+        return;
+    }
+    try {
         journals.File = std::make_unique<GrowingFile>(journal.Path, journal.Read.Whole);
     } catch (const std::exception&) { // NOLINT: without it the writer stops, and that is told
     }
-    journals.Writer = std::make_unique<JournalWriter>(journal.Read.Sealed, write, journals.Clock);
     TellJournal(journals.Writer.get());
 }
 

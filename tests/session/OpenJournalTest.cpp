@@ -162,6 +162,41 @@ TEST_F(OpenJournalTest, WithoutRoomForTheHistoryThereIsNoJournal)
     EXPECT_GT(times, 0);
 }
 
+TEST_F(OpenJournalTest, WithoutRoomItIsBackWholeOrNotAtAll)
+{
+    Pay(90);
+    Pay(80);
+    Begin();
+    int refused = 0;
+    bool failed = true;
+    for (std::size_t n = 1; failed; ++n) {
+        bool isBack = false;
+        {
+            const FailingAllocation nth(n);
+            try {
+                isBack = BringBackWork();
+            } catch (const std::bad_alloc&) { // NOLINT: before anything was touched
+            }
+            failed = FailingAllocation::Failed();
+        }
+        EXPECT_EQ(Teams[Own].Cash, isBack ? 80 : 100) << n;
+        for (const Box& told : Machine.TakeBoxes())
+            if (told.Text == "The work that was not saved cannot be brought back. There is no room for it.")
+                ++refused;
+            else
+                EXPECT_EQ(told.Text, "7 - Out of memory in CheckPassword!") << n;
+        if (isBack && JournalWords().empty() && !OpenHistory().IsOutOfRoom()) {
+            Pay(70);
+            OpenHistory().Undo();
+            EXPECT_EQ(JournalWords(), "") << n;
+            EXPECT_EQ(Journals().size(), 1U) << n;
+        }
+        if (isBack || OpenHistory().IsOutOfRoom())
+            Begin();
+    }
+    EXPECT_GT(refused, 0);
+}
+
 TEST_F(OpenJournalTest, WhatWasSavedBeforeIsSavedWhenTheRestIsBack)
 {
     (void)OpenMarket();
