@@ -84,14 +84,15 @@ void GoOnWith(const FoundJournal& journal) noexcept
     };
     try {
         journals.Path = journal.Path;
-        journals.Writer = std::make_unique<JournalWriter>(journal.Read.Sealed, write, journals.Clock);
-    } catch (const std::exception&) {
-        journals.CouldNotBegin = true;
-        return;
-    }
-    try {
         journals.File = std::make_unique<GrowingFile>(journal.Path, journal.Read.Whole);
     } catch (const std::exception&) { // NOLINT: without it the writer stops, and that is told
+    }
+    try {
+        journals.Writer = std::make_unique<JournalWriter>(journal.Read.Sealed, write, journals.Clock);
+    } catch (const std::exception&) {
+        StopWriting();
+        journals.CouldNotBegin = true;
+        return;
     }
     TellJournal(journals.Writer.get());
 }
