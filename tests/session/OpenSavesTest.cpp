@@ -53,6 +53,23 @@ TEST_F(OpenSavesTest, NothingIsSaidBeforeAnythingIsDone)
 {
     EXPECT_EQ(Words(), "");
     EXPECT_EQ(StateOfTeam(Own).Words(), "");
+    EXPECT_TRUE(StateOf(SavedFile::Lines, Own).IsEarlierKept);
+}
+
+TEST_F(OpenSavesTest, OfTwoSavesOfOneMomentTheLaterFileIsSaid)
+{
+    NoteSaved(SavedFile::Lines, Own, "lines");
+    NoteSaved(SavedFile::Ranking, Own, "list");
+    NoteSaved(SavedFile::Offers, Own, "offers");
+    EXPECT_EQ(StateOfTeam(Own).Path, "list");
+}
+
+TEST_F(OpenSavesTest, WhatIsTakenOverIsHeldAgainstHoweverMuchFollows)
+{
+    TakeOverLedger(WorkLedger(4)); // read under a limit, which this is one of
+    Pay(90);
+    Pay(80);
+    EXPECT_EQ(Words(), "Not saved since " + Time(now));
 }
 
 TEST_F(OpenSavesTest, WhatIsNotSavedIsSaidWithTheTimeOfItsFirstStep)
@@ -156,6 +173,14 @@ TEST_F(OpenSavesTest, WhatWasChangedBeforeAnyStepIsNoTeams)
     EXPECT_EQ(Words(), "");
     Pay(90);
     EXPECT_EQ(Words(), "");
+    for (const int team : {1, 2}) {
+        BeginHistory();
+        Teams[team].Cash = 70;
+        OpenHistory().Fold();
+        Pay(60, team);
+        OpenHistory().Undo();
+        EXPECT_EQ(StateOf(SavedFile::Lines, team).Words(), "") << team;
+    }
 }
 
 // Once something was missed nothing is said, rather than something wrong, until another league is open.
