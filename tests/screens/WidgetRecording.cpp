@@ -206,9 +206,12 @@ void WidgetRecording::TakeInOne(QWidget& window, const std::string& state)
 void WidgetRecording::TakeAll(QWidget& widget, const QString& above, const QString& name, std::vector<std::string>& now)
 {
     const QString kind = QString(widget.metaObject()->className()) + '\n';
-    const QString held =
-        kind + PropertiesOf(widget) + PartsOf(widget) + HabitsOf(widget) + ReadAs(widget) + RowsOf(widget);
-    const QString painted = widget.isVisible() ? PaintCommandsOf(widget) : QString();
+    QString held = kind + PropertiesOf(widget) + PartsOf(widget) + HabitsOf(widget) + ReadAs(widget) + RowsOf(widget);
+    QString painted = widget.isVisible() ? PaintCommandsOf(widget) : QString();
+    if (!masked.isEmpty()) {
+        held.replace(masked, "FOLDER");
+        painted.replace(masked, "FOLDER");
+    }
     const QPoint corner = widget.isWindow() ? QPoint() : widget.pos();
     QString line = above + name + ' ';
     if (widget.isVisible())

@@ -15,6 +15,8 @@ public:
     void Take(QWidget& window, const std::string& state);
     // Takes all of `window` as a single line.
     void TakeInOne(QWidget& window, const std::string& state);
+    // Words that stand for something else each time.
+    void Mask(const std::string& words) { masked = QString::fromStdString(words); }
     // All lines, in the order in which they were taken.
     [[nodiscard]] const std::vector<std::string>& Lines() const { return lines; }
     // What the digests are of, in the same order.
@@ -29,6 +31,7 @@ private:
     std::vector<std::string> lines;
     std::vector<std::string> last;
     QString whole;
+    QString masked;
 };
 
 } // namespace dravik

@@ -1,3 +1,4 @@
+#include "AnswerDialog.h"
 #include "OnEveryScreen.h"
 #include "OnHistory.h"
 #include "screens/lines/LineSheet.h"
@@ -10,12 +11,18 @@
 #include "screens/panels/LookWindow.h"
 #include "screens/Pins.h"
 #include "screens/platform/Palettes.h"
+#include "screens/platform/QtPlatform.h"
 #include "screens/squad/frmSquad.h"
+#include "session/OpenChanges.h"
+#include "support/ClientFileBytes.h"
+#include "support/LeagueImage.h"
 #include "WidgetRecording.h"
 
 #include <cstdlib>
+#include <filesystem>
 #include <fstream>
 #include <map>
+#include <QMessageBox>
 
 // Every window on the sample league against what it was when it was recorded: where everything stands, what it says and paints. What
 // is meant to be something else is recorded anew with the variable DRAVIK_RECORD_WINDOWS, which names the folder to write to;
@@ -43,6 +50,7 @@ protected:
     {
         Settle();
         WidgetRecording& recording = recordings[name];
+        recording.Mask(Machine.Folder());
         recording.Take(window, state);
         UseDarkLook();
         Settle();
@@ -73,6 +81,17 @@ protected:
                 tabs->setCurrentIndex(page);
                 Take(window, name, "page " + std::to_string(page));
             }
+    }
+
+    // Takes the box that `show` brings up.
+    template <class T>
+    void OnDesktopBox(const std::string& state, const std::function<void()>& show)
+    {
+        OnDialog<T>([&](T& dialog) {
+            Take(dialog, "Boxes", state);
+            dialog.reject();
+        });
+        show();
     }
 
     std::map<std::string, WidgetRecording> recordings;
@@ -258,6 +277,75 @@ TEST_F(WindowRecordingTest, Guide)
     Main().mnuGuide->trigger();
     Settle();
     Take(*TheStage.Guide(), "Guide", "first");
+    CompareAll();
+}
+
+// What changed between two files of the league, on the main screen and on that of the comparison.
+TEST_F(WindowRecordingTest, Changes)
+{
+    Machine.Settings["SkipZIPClient"] = "YES";
+    TempFile = Machine.InFolder("ClientTemp.dvt");
+    KeepDigests(std::filesystem::path(Machine.Folder()) / "leagues");
+    const auto save = [this](const char* name) {
+        WriteSparse(Machine.InFolder(name), ClientSlots());
+        return Machine.InFolder(name);
+    };
+    const std::string earlier = save("Earlier.dvs");
+    int turn = 0;
+    for (int slot = 1; slot <= PlayerTable::last; ++slot) {
+        Player& person = Players[slot];
+        if (!person.InUse || !TeamTable::Has(person.Team) || ++turn % 9 != 0)
+            continue;
+        switch (turn / 9 % 5) {
+        case 0:
+            person.Condition = 70;
+            break;
+        case 1:
+            person.Condition = 100;
+            break;
+        case 2:
+            person.Stats[skater::SC] = static_cast<int>(person.Stats[skater::SC]) - 3;
+            break;
+        case 3:
+            person.Stats[skater::SC] = static_cast<int>(person.Stats[skater::SC]) + 3;
+            break;
+        default:
+            person.Team = person.Team % 30 + 1;
+        }
+    }
+    for (int slot = 1; slot <= 60; slot += 7)
+        if (Goalies[slot].InUse)
+            Goalies[slot].Condition = 60;
+    Teams[OwnTeam].Cash = 1000;
+    LeagueData.FileDate = LeagueData.FileDate + 2;
+    const std::string later = save("Later.dvs");
+    for (const std::string& path : {earlier, later}) {
+        Machine.Choose(path);
+        Main().mnuOpen->trigger();
+        Settle();
+    }
+    static_cast<void>(Machine.TakeBoxes());
+    Take(Main(), "Changes", "main");
+    Machine.Choose(earlier);
+    Main().findChild<QAction*>("mnuCompare")->trigger();
+    Settle();
+    auto* compare = TheStage.Find(Window::Compare);
+    ASSERT_NE(compare, nullptr);
+    Take(*compare, "Compare", "first");
+    compare->close();
+    Settle();
+    KeepDigests({});
+    CompareAll();
+}
+
+TEST_F(WindowRecordingTest, Boxes)
+{
+    QtPlatform desktop({QString::fromStdString(Machine.InFolder("settings.ini")),
+                        QString::fromStdString(Machine.Folder()), QString::fromStdString(Machine.InFolder("lock"))});
+    for (const int kind : {box::Critical, box::Warning, box::Information, box::YesNo, box::YesNoCancel})
+        OnDesktopBox<QMessageBox>("kind " + std::to_string(kind),
+                                  [&] { desktop.MessageBox("What is to be told.", kind, "Title"); });
+    OnDesktopBox<QDialog>("input", [&] { desktop.InputBox("What is asked?", "Title", "Answer"); });
     CompareAll();
 }
 
