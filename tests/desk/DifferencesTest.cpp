@@ -268,6 +268,19 @@ TEST_F(DifferencesTest, AHoleNamesTheDaysThatItIsOn)
                                             "Skater 2: no longer in the league, was with GUL"));
 }
 
+TEST_F(DifferencesTest, AHoleInTheFarmsLinesIsToldBehindThatInTheOthers)
+{
+    Teams[5].ProLines[1].NormalForward(1, 1) = 1;
+    for (const int day : {2, 4})
+        Teams[5].Farm.FarmLines[day].NormalForward(1, 1) = 2;
+    Players[2].Status = status::Farm;
+    Remember();
+    Players[2].Condition = 50;
+    EXPECT_THAT(Told(5, true), ::testing::Contains("Skater 2: leaves holes in the farm's lines of days 2 and 4"));
+    const Difference both{.Kind = DifferenceKind::Hole, .Team = 5, .Name = "Somebody", .ProDays = {1}, .FarmDays = {2}};
+    EXPECT_EQ(WordsOf(OpenLeague, Machine, both), "leaves holes in the lines of day 1; the farm's lines of day 2");
+}
+
 TEST_F(DifferencesTest, WhatWasWrongBeforeIsNoHole)
 {
     Players[1].Condition = 50;

@@ -70,6 +70,10 @@ TEST_F(JournalTest, NothingIsWrittenBeforeTheFirstStep)
     Pay(90);
     EXPECT_TRUE(writer.HasBegun());
     EXPECT_EQ(ends.size(), 1U) << "the head, the beginning and the step are written at once";
+    const auto head = ReadJournal(std::string_view(written).substr(0, JournalHeadSize())).Journal;
+    ASSERT_TRUE(head);
+    EXPECT_EQ(head->Steps.size(), 0U);
+    EXPECT_EQ(head->Done, 0U);
 }
 
 TEST_F(JournalTest, AStepIsReadAsItWasClosed)

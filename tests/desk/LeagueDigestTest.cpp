@@ -1,5 +1,6 @@
 #include "desk/LeagueDigest.h"
 
+#include "desk/Journal.h"
 #include "support/RandomLeague.h"
 #include "support/SmallLeague.h"
 
@@ -223,6 +224,27 @@ TEST_F(LeagueDigestTest, NoByteCanChangeUnnoticed)
         damaged[at] = static_cast<char>(damaged[at] ^ 0x10);
         ASSERT_FALSE(ReadDigest(damaged)) << at;
     }
+}
+
+TEST_F(LeagueDigestTest, ANameOrRatingsThatNobodyHasRoomForAreNone)
+{
+    LeagueDigest one;
+    one.People.push_back({.Who = {.IsGoalie = false, .Slot = 1}, .Name = "N", .RatingCount = MostRatings});
+    std::string bytes = WriteDigest(one);
+    bytes.resize(bytes.size() - SealSize);
+    const std::size_t behindRecord = bytes.size() - MostRatings - 1;
+    const auto isRead = [&](char name, char ratings) {
+        std::string changed = bytes;
+        changed[behindRecord - 2] = name;
+        changed[behindRecord - 1] = ratings;
+        changed += std::string(static_cast<std::size_t>(name - 1 + ratings) - MostRatings, 'x');
+        return ReadDigest(changed + WriteSeal(SealOver(0, changed))).has_value();
+    };
+    EXPECT_TRUE(isRead(1, MostRatings));
+    EXPECT_TRUE(isRead(40, MostRatings));
+    EXPECT_FALSE(isRead(41, MostRatings));
+    EXPECT_FALSE(isRead(1, MostRatings + 1));
+    EXPECT_FALSE(isRead(41, MostRatings + 1));
 }
 
 TEST_F(LeagueDigestTest, WhatIsCutOrLongerOrForeignIsNone)

@@ -3,6 +3,7 @@
 #include "LinesDesk.h"
 #include "rules/LineStrength.h"
 #include "rules/Overall.h"
+#include "rules/StatRows.h"
 #include "support/RandomLeague.h"
 
 #include <cmath>
@@ -106,6 +107,10 @@ TEST_F(TeamFiguresTest, ADayIsTheMeanOfItsLinesBesideItsOpponent)
     game.ProGame = true;
     game.ProHome = 6;
     game.ProAway = Own;
+    for (Player& player : Players) // a pair counts less than a line
+        if (player.InUse && player.Team == Own && player.Position == position::Defense)
+            for (auto stat = SkaterRatings::first; stat <= SkaterRatings::last; ++stat)
+                player.Stats[stat] = 90;
     Remember();
     const auto days = StrengthOfDays(OpenLeague, Own);
     EXPECT_TRUE(IsAsExpected());
