@@ -176,6 +176,30 @@ TEST_F(OfferFindNext, AFailureIsToldByItsName)
 
 using DraftFindNext = OnDraftScreen;
 
+TEST_F(DraftFindNext, WhatNobodyHasIsToldAndLeavesWhoIsChosen)
+{
+    frmDraft& draft = Draft();
+    draft.lstPlayers->setCurrentRow(1);
+    Machine.Type("Gretel");
+    Click(draft.cmdSearch);
+    EXPECT_THAT(Machine.TakeBoxes(), ElementsAre(NotFound));
+    EXPECT_EQ(draft.lstPlayers->currentRow(), 1);
+    for (const bool byKey : {true, false}) {
+        if (byKey)
+            Press(draft.cmdSearch, Qt::Key_F3);
+        else
+            Click(draft.cmdFindNext);
+        EXPECT_THAT(Machine.TakeBoxes(), ElementsAre(NotFound));
+        EXPECT_EQ(draft.lstPlayers->currentRow(), 1);
+        EXPECT_TRUE(draft.lstPlayers->hasFocus());
+    }
+    FailingBoxes silent(1);
+    UseMachine(silent);
+    Click(draft.cmdFindNext);
+    UseMachine(Machine);
+    EXPECT_THAT(silent.Boxes(), ElementsAre(Box{16, "6 - Overflow in cmdFindNext!"}));
+}
+
 TEST_F(DraftFindNext, F3AndTheCommandGoOnAmongThoseWhoCanBeDrafted)
 {
     Players[8].Name = "Karl Tilton";
