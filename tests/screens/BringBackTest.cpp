@@ -5,6 +5,7 @@
 #include "OnHistory.h"
 #include "OnOfferScreen.h"
 #include "session/OpenHistory.h"
+#include "support/FailingBoxes.h"
 
 namespace dravik {
 namespace {
@@ -149,6 +150,17 @@ TEST_F(BringBackOffers, AFileIsLoadedInOneStep)
     EXPECT_EQ(UndoWords(Offers()), "Undo: Load offers");
     Undo(Offers());
     EXPECT_EQ(OfferOf(2).Salary, 0);
+}
+
+TEST_F(BringBackOffers, AFailureToTellIsToldByTheCommandsName)
+{
+    Open();
+    FailingBoxes silent(1);
+    silent.Choose(Machine.InFolder("None.dvf"));
+    UseMachine(silent);
+    Click(Offers().cmdLoad);
+    UseMachine(Machine);
+    EXPECT_THAT(silent.Boxes(), ElementsAre(Box{box::Critical, "6 - Overflow in cmdLoad!"}));
 }
 
 TEST_F(BringBackOffers, AFileThatIsNoneIsRefusedAndChangesNothing)

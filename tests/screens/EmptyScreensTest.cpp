@@ -25,6 +25,7 @@ TEST_F(EmptyScreens, TheCoachScreenIsAnEmptyScreenWithItsCaption)
     ASSERT_NE(dynamic_cast<frmCoach*>(coach), nullptr);
     EXPECT_TRUE(coach->isVisible());
     EXPECT_EQ(coach->windowTitle(), "Coach");
+    EXPECT_LE(OffTheMiddle(*coach), 2);
     EXPECT_EQ(coach->centralWidget(), nullptr);
     EXPECT_THAT(coach->findChildren<QAbstractButton*>(), IsEmpty());
     EXPECT_THAT(Machine.Boxes(), IsEmpty());
@@ -44,6 +45,7 @@ TEST_F(EmptyScreens, TheProspectScreenIsAnEmptyScreenWithItsCaption)
     ASSERT_NE(dynamic_cast<frmProspect*>(prospect), nullptr);
     EXPECT_TRUE(prospect->isVisible());
     EXPECT_EQ(prospect->windowTitle(), "Prospect");
+    EXPECT_LE(OffTheMiddle(*prospect), 2);
     EXPECT_EQ(prospect->centralWidget(), nullptr);
     EXPECT_THAT(prospect->findChildren<QAbstractButton*>(), IsEmpty());
     EXPECT_THAT(Machine.Boxes(), IsEmpty());

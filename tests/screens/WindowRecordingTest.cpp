@@ -139,8 +139,8 @@ TEST_F(WindowRecordingTest, Screens)
 // Every screen at the size at which it comes up by itself.
 TEST_F(WindowRecordingTest, ScreensAsTheyOpen)
 {
-    for (const char* name :
-         {"Main", "Team", "Roster", "Line", "FarmLine", "FreeAgent", "Draft", "About", "EditPlayer"}) {
+    for (const char* name : {"Main", "Team", "Roster", "Line", "FarmLine", "FreeAgent", "Draft", "About", "EditPlayer",
+                             "Coach", "Prospect"}) {
         Screen& screen = std::string_view(name) == "Main" ? MainWithLeague() : Opened(name);
         recordings["Opened"].TakeInOne(screen, name);
         if (std::string_view(name) != "Main") {

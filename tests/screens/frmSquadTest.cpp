@@ -36,6 +36,23 @@ using ::testing::HasSubstr;
 using ::testing::Not;
 
 // The squad table on the sample league, with keys and clicks.
+// Counts how often a window comes in front of the others; a platform without a window system does not show it.
+class Raises : public QObject {
+public:
+    explicit Raises(QWidget& window) { window.installEventFilter(this); }
+    [[nodiscard]] int Count() const { return count; }
+
+protected:
+    bool eventFilter(QObject* /*watched*/, QEvent* event) override
+    {
+        count += event->type() == QEvent::ZOrderChange ? 1 : 0;
+        return false;
+    }
+
+private:
+    int count = 0;
+};
+
 class frmSquadTest : public OnEveryScreen {
 protected:
     frmSquadTest()
@@ -448,7 +465,9 @@ TEST_F(frmSquadTest, EnterPicksOnTheRosterAsAPressOnHisEntryDoes)
     const int slot = FirstOf(OwnTeam, status::Scratch);
     GoTo(squad, {SquadKind::Skaters, slot});
     EXPECT_TRUE(squad.cmdPick->isEnabled());
+    const Raises raised(roster);
     Press(&squad.Table(), Qt::Key_Return);
+    EXPECT_GT(raised.Count(), 0);
     EXPECT_EQ(SelectedPlayer, slot);
     const PickList* list = roster.lstPlayer[status::Scratch];
     ASSERT_NE(list->Chosen(), nullptr);
