@@ -210,6 +210,25 @@ TEST(ZlibWrapperTest, AnEndlessStreamEndsAtTheBound)
     EXPECT_TRUE(Inflated(wrapper) == ByteVector(303012));
 }
 
+constexpr std::size_t Asked = 1 << 17; // no piece is longer
+
+// Whether a stream with a wrong checksum counts as whole where its first piece alone is asked for and so many bytes follow.
+bool IsWholeBefore(std::size_t behind)
+{
+    ByteVector wrapper = Wrapped(Sample(Kind::Random, Asked + behind, 21), 1);
+    wrapper.back() ^= 1;
+    Pieces pieces(wrapper, 65536);
+    return ReadWrapper(pieces, [](ByteSource& bytes) { EXPECT_LE(bytes.Next().size(), Asked); });
+}
+
+TEST(ZlibWrapperTest, AChecksumIsLookedForWithinOneMebibyteBehindWhatIsAskedFor)
+{
+    constexpr std::size_t most = 1 << 20;
+    EXPECT_FALSE(IsWholeBefore(0));
+    EXPECT_FALSE(IsWholeBefore(most - Asked));
+    EXPECT_TRUE(IsWholeBefore(most + 200000));
+}
+
 TEST(ZlibWrapperTest, BytesBehindTheStreamDoNoHarm)
 {
     const ByteVector bytes = Sample(Kind::Text, 3000, 9);
