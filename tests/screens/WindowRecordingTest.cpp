@@ -23,6 +23,7 @@
 #include <fstream>
 #include <map>
 #include <QMessageBox>
+#include <QTextBrowser>
 
 // Every window on the sample league against what it was when it was recorded: where everything stands, what it says and paints. What
 // is meant to be something else is recorded anew with the variable DRAVIK_RECORD_WINDOWS, which names the folder to write to;
@@ -276,7 +277,9 @@ TEST_F(WindowRecordingTest, Guide)
     MainWithLeague();
     Main().mnuGuide->trigger();
     Settle();
-    Take(*TheStage.Guide(), "Guide", "first");
+    TheStage.Guide()->findChild<QTextBrowser*>()->clear(); // the machine's own font of even letters stands in it
+    Settle();
+    recordings["Guide"].Take(*TheStage.Guide(), "first"); // another look would write its words anew
     CompareAll();
 }
 
