@@ -233,6 +233,31 @@ TEST_F(LinesFileTest, AFileOfAnotherTeamIsRefusedEvenWithARightLeagueCode)
     EXPECT_THAT(Machine.Boxes(), IsEmpty()) << "the screen tells it";
 }
 
+TEST_F(LinesFileTest, TheRecordAloneIsReadFromNoFileButTheTeamsOwn)
+{
+    Teams[5].Cash = 77;
+    ASSERT_TRUE(WriteLinesFile(5, Path));
+    const std::string other = Machine.InFolder("Other.dvl");
+    ASSERT_TRUE(WriteLinesFile(6, other));
+    Teams[5].Cash = 1;
+    const ByteVector before = Tables();
+    Team record;
+    record.Cash = 5;
+    const auto read = [&](const std::string& path) {
+        return ReadTeamOfLinesFile(OpenLeague, OpenFiles(), 5, path, record);
+    };
+    EXPECT_EQ(read(other), TeamFileRead::Refused);
+    EXPECT_EQ(record.Cash, 5);
+    EXPECT_EQ(read(Path), TeamFileRead::Loaded);
+    EXPECT_EQ(record.Cash, 77);
+    LeagueData.LeagueCode = "OTHER";
+    record.Cash = 5;
+    EXPECT_EQ(read(Path), TeamFileRead::Refused);
+    EXPECT_EQ(record.Cash, 5);
+    LeagueData.LeagueCode = "SMALL";
+    EXPECT_TRUE(Tables() == before);
+}
+
 TEST_F(LinesFileTest, AFileOfAnotherLeagueIsRefused)
 {
     EXPECT_TRUE(WriteLinesFile(5, Path));
