@@ -134,6 +134,27 @@ TEST_F(PaperSheetTest, EveryPageOfSeveralSaysWhatItBelongsTo)
                     HasSubstr("Harbour City Gulls, pro lines, League: Sample League, Date: May 4 2031"));
 }
 
+TEST_F(PaperSheetTest, WhatAPageBelongsToEndsInFrontOfItsNumber)
+{
+    Paper paper = Days(Side::Pro, 1, 2);
+    paper.Facts.clear();
+    int whole = 0;
+    int cut = 0;
+    for (std::size_t letters = 20; letters <= 110; letters += 6) {
+        paper.Title = std::string(letters, 'W');
+        const std::vector<ReadPdf::Word> words = Pdf(paper).WordsOn(2);
+        const auto title =
+            std::find_if(words.begin(), words.end(), [](const auto& word) { return word.Text.startsWith("WWWWW"); });
+        const auto page =
+            std::find_if(words.begin(), words.end(), [](const auto& word) { return word.Text == "Page"; });
+        ASSERT_TRUE(title != words.end() && page != words.end()) << letters;
+        EXPECT_LT(title->Right, page->Left) << letters;
+        (title->Text.size() == static_cast<qsizetype>(letters) ? whole : cut) += 1;
+    }
+    EXPECT_GT(whole, 0);
+    EXPECT_GT(cut, 0);
+}
+
 TEST_F(PaperSheetTest, NamesStandAsTheyAre)
 {
     const char* names[] = {"Ren\xE9 <b>\xD8stby</b>", "Flint &amp; Griffith", "</td></table><h1>",

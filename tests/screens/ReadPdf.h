@@ -3,8 +3,10 @@
 #include <gtest/gtest.h>
 #include <QFile>
 #include <QProcess>
+#include <QRegularExpression>
 #include <QStringList>
 #include <QTemporaryDir>
+#include <vector>
 
 namespace dravik {
 
@@ -29,6 +31,25 @@ public:
         QStringList pages = QString::fromUtf8(Run("pdftotext", {"-raw", "-enc", "UTF-8", Path(), "-"})).split('\f');
         pages.removeLast(); // every page ends with the sign
         return pages;
+    }
+    // The words of a page, each with its left and right end in points.
+    struct Word {
+        QString Text;
+        double Left;
+        double Right;
+    };
+    [[nodiscard]] std::vector<Word> WordsOn(int page) const
+    {
+        static const QRegularExpression each(R"re(<word xMin="([^"]*)"[^>]* xMax="([^"]*)"[^>]*>([^<]*)</word>)re");
+        const QString number = QString::number(page);
+        std::vector<Word> words;
+        auto found = each.globalMatch(
+            QString::fromUtf8(Run("pdftotext", {"-bbox", "-enc", "UTF-8", "-f", number, "-l", number, Path(), "-"})));
+        while (found.hasNext()) {
+            const QRegularExpressionMatch word = found.next();
+            words.push_back({word.captured(3), word.captured(1).toDouble(), word.captured(2).toDouble()});
+        }
+        return words;
     }
     // Width and height of the pages in points.
     [[nodiscard]] QString PageSize() const
