@@ -75,7 +75,9 @@ TEST_F(SessionTest, NobodyIsPinnedInAProgramThatHasJustStarted)
 {
     PutSkater(3, 5, position::Center, status::Pro);
     ASSERT_TRUE(OpenPins().Toggle(OpenLeague, {.IsGoalie = false, .Slot = 3}));
+    const Text<5> code = LeagueData.LeagueCode;
     ResetClientVariables();
+    LeagueData.LeagueCode = code; // the same person of the same league
     PutSkater(3, 5, position::Center, status::Pro);
     EXPECT_FALSE(OpenPins().Has(OpenLeague, {.IsGoalie = false, .Slot = 3}));
 }
