@@ -189,6 +189,19 @@ TEST_F(ChangesShownTest, EnterOnAnEntryOpensTheRecordAndComesBack)
     EXPECT_FALSE(Main().isVisible());
 }
 
+TEST_F(ChangesShownTest, ARecordThatCannotOpenIsTold)
+{
+    PlayOn();
+    frmTeam& team = OpenTeam(5);
+    TheStage.Provide("EditPlayer", [](Stage& /*stage*/) -> std::unique_ptr<Screen> { Fail(failure::OutOfRange); });
+    ListOf(team).List()->setFocus();
+    QTest::keyClick(ListOf(team).List(), Qt::Key_Home);
+    QTest::keyClick(ListOf(team).List(), Qt::Key_Return);
+    Settle();
+    EXPECT_THAT(Machine.TakeBoxes(), ElementsAre(Box{box::Critical, "9 - Subscript out of range in OpenChanged!"}));
+    EXPECT_TRUE(team.isVisible());
+}
+
 TEST_F(ChangesShownTest, F6LeadsToTheListAndBack)
 {
     PlayOn();

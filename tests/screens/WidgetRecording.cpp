@@ -11,6 +11,7 @@
 #include <QLayout>
 #include <QMetaProperty>
 #include <QShortcut>
+#include <QSysInfo>
 #include <unordered_set>
 
 namespace dravik {
@@ -171,7 +172,7 @@ bool IsScrollBar(const QWidget& widget)
 
 std::string WidgetRecording::Toolkit()
 {
-    QString words = QString(qVersion()) + ' ' + QApplication::platformName();
+    QString words = QString(qVersion()) + ' ' + QApplication::platformName() + ' ' + QSysInfo::kernelType();
     for (const char* sample : {"Wave Tilton 0123456789", "fi ff \u2013 \u25b2"}) {
         const QFontMetricsF measures{QApplication::font()};
         words += ' ' + QString::number(measures.horizontalAdvance(sample)) + ' ' + QString::number(measures.height());

@@ -22,7 +22,7 @@ public:
     // What the digests are of, in the same order.
     [[nodiscard]] const QString& Whole() const { return whole; }
 
-    // What the digests depend on besides this program: the toolkit, and the measures of its font.
+    // What the digests depend on besides this program: the toolkit, the system, and the measures of the font.
     [[nodiscard]] static std::string Toolkit();
 
 private:
