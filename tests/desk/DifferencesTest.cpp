@@ -279,6 +279,8 @@ TEST_F(DifferencesTest, AHoleInTheFarmsLinesIsToldBehindThatInTheOthers)
     EXPECT_THAT(Told(5, true), ::testing::Contains("Skater 2: leaves holes in the farm's lines of days 2 and 4"));
     const Difference both{.Kind = DifferenceKind::Hole, .Team = 5, .Name = "Somebody", .ProDays = {1}, .FarmDays = {2}};
     EXPECT_EQ(WordsOf(OpenLeague, Machine, both), "leaves holes in the lines of day 1; the farm's lines of day 2");
+    EXPECT_EQ(both.Before, 0) << "a hole is counted in nothing";
+    EXPECT_EQ(both.After, 0);
 }
 
 TEST_F(DifferencesTest, WhatWasWrongBeforeIsNoHole)
