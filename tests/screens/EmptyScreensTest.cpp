@@ -26,6 +26,7 @@ TEST_F(EmptyScreens, TheCoachScreenIsAnEmptyScreenWithItsCaption)
     EXPECT_TRUE(coach->isVisible());
     EXPECT_EQ(coach->windowTitle(), "Coach");
     EXPECT_LE(OffTheMiddle(*coach), 2);
+    EXPECT_TRUE(coach->testAttribute(Qt::WA_Moved)) << "not left to the desktop";
     EXPECT_EQ(coach->centralWidget(), nullptr);
     EXPECT_THAT(coach->findChildren<QAbstractButton*>(), IsEmpty());
     EXPECT_THAT(Machine.Boxes(), IsEmpty());
@@ -46,6 +47,7 @@ TEST_F(EmptyScreens, TheProspectScreenIsAnEmptyScreenWithItsCaption)
     EXPECT_TRUE(prospect->isVisible());
     EXPECT_EQ(prospect->windowTitle(), "Prospect");
     EXPECT_LE(OffTheMiddle(*prospect), 2);
+    EXPECT_TRUE(prospect->testAttribute(Qt::WA_Moved)) << "not left to the desktop";
     EXPECT_EQ(prospect->centralWidget(), nullptr);
     EXPECT_THAT(prospect->findChildren<QAbstractButton*>(), IsEmpty());
     EXPECT_THAT(Machine.Boxes(), IsEmpty());

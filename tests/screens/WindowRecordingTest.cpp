@@ -293,6 +293,16 @@ TEST_F(WindowRecordingTest, Changes)
         WriteSparse(Machine.InFolder(name), ClientSlots());
         return Machine.InFolder(name);
     };
+    for (auto* person : {&Goalies[1], &Goalies[GoalieTable::last]}) {
+        *person = Goalies[5];
+        person->InUse = true;
+        person->Condition = 100;
+    }
+    for (auto* person : {&Players[1], &Players[PlayerTable::last]}) {
+        *person = Players[5];
+        person->InUse = true;
+        person->Condition = 100;
+    }
     const std::string earlier = save("Earlier.dvs");
     int turn = 0;
     for (int slot = 1; slot <= PlayerTable::last; ++slot) {
