@@ -310,6 +310,7 @@ TEST_F(frmSquadTest, ColumnsAreHiddenMovedAndRemembered)
     const std::string kept = Machine.Settings["Screens/SquadSkaters"];
     frmSquad& again = SquadOver(Main());
     EXPECT_EQ(keys(again), arranged);
+    EXPECT_EQ(again.Table().columnWidth(People(again).ColumnOf("Name")), 333);
     // A league that shows less forgets nothing.
     LeagueData.ShowOverall = false;
     Main().PlaceTeam();
