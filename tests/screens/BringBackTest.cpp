@@ -58,6 +58,27 @@ TEST_F(BringBackOffers, TheScreenStartsEmptyAndBringsThemBackInOneStep)
     EXPECT_EQ(OfferOf(2).Duration, 3);
 }
 
+TEST_F(BringBackOffers, AVisitWithoutAnyLeavesThoseOfTheOneBefore)
+{
+    OfferAndLeave();
+    Open();
+    Click(Offers().cmdExit);
+    Open();
+    ASSERT_TRUE(CanBringBack());
+    EXPECT_EQ(Offers().cmdBringBack->text().toStdString(), "Bring Bac&k 2 Offers");
+}
+
+TEST_F(BringBackOffers, OffersOfAnotherTeamAreNotKeptAsItsOwn)
+{
+    Open();
+    ClickEntry(0);
+    Enter(Offers().txtOffer, "800000");
+    Enter(Offers().txtDuration, "3");
+    KeptWork().OffersBy = 6;
+    Click(Offers().cmdExit);
+    EXPECT_THAT(KeptWork().Offers, IsEmpty());
+}
+
 TEST_F(BringBackOffers, ItsKeyBringsThemBackToo)
 {
     OfferAndLeave();

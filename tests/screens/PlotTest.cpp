@@ -12,6 +12,7 @@
 #include <QHeaderView>
 #include <QHelpEvent>
 #include <QImage>
+#include <QTest>
 #include <QToolTip>
 #include <set>
 
@@ -108,6 +109,24 @@ TEST_F(PlotTest, FiguresAreToldToAScreenReaderAndUnderTheMouse)
     QApplication::sendEvent(&Bars, &help);
     EXPECT_EQ(QToolTip::text(), "Second: ours 40, theirs 20");
     QToolTip::hideText();
+}
+
+TEST_F(PlotTest, ACategoryIsUnderTheMouseFromItsBeginningToItsEnd)
+{
+    Show(Data({{"ours", {10, 40}}}));
+    const auto told = [this](double x) {
+        const QPoint spot(qRound(x), Bars.height() / 2);
+        QHelpEvent help(QEvent::ToolTip, spot, Bars.mapToGlobal(spot));
+        QApplication::sendEvent(&Bars, &help);
+        return QToolTip::text().toStdString();
+    };
+    const double width = Bars.BarOf(0, 1).center().x() - Bars.BarOf(0, 0).center().x();
+    const double border = Bars.BarOf(0, 0).center().x() + width / 2;
+    EXPECT_EQ(told(border - 3), "First: ours 10");
+    EXPECT_EQ(told(border + 3), "Second: ours 40");
+    EXPECT_EQ(told(border - width + 3), "First: ours 10");
+    told(border - width - 3);
+    EXPECT_TRUE(QTest::qWaitFor([] { return QToolTip::text().isEmpty(); })) << "the scale stands there";
 }
 
 // Without colours, as a printer has them: no two series have the same shades in the same share and the same rows of one shade.

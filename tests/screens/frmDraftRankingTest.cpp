@@ -22,6 +22,20 @@ protected:
     }
 };
 
+// Somebody is chosen on either list; the one that had the focus last is the one at hand.
+TEST_F(DraftRankingTest, ARemovalThatClosesItsCommandGivesTheFocusBackToTheRanking)
+{
+    Choose({0});
+    ClickEntry(Draft().lstPlayers, 0);
+    ClickEntry(Draft().lstDraftList, 0);
+    ASSERT_TRUE(Draft().lstPlayers->currentItem()->isSelected());
+    Draft().cmdRemove->setFocus();
+    Press(Draft().cmdRemove, Qt::Key_Space);
+    EXPECT_EQ(Draft().lstDraftList->count(), 0);
+    EXPECT_FALSE(Draft().cmdRemove->isEnabled());
+    EXPECT_TRUE(Draft().lstDraftList->hasFocus());
+}
+
 TEST_F(DraftRankingTest, ChoosingRanksBehindTheOthers)
 {
     Choose({2, 0});

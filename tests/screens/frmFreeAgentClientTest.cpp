@@ -274,8 +274,11 @@ TEST_F(OfferList, AnEmptyListEmptiesAndClosesTheBoxes)
     Enter(Offers().txtOffer, "600000");
     EnterComment("Come");
     ASSERT_TRUE(BoxesAreOpen());
+    EXPECT_NE(Offers().Stats->lblStat[1]->accessibleName().toStdString(), "");
     Click(Offers().chkShowPlayerWithOffer);
     EXPECT_EQ(Offers().lstPlayers->count(), 0);
+    for (int row = 1; row <= 16; ++row)
+        EXPECT_EQ(Offers().Stats->lblStat[row]->accessibleName().toStdString(), "") << row;
     EXPECT_THAT(Boxes(), ElementsAre("", "", "", ""));
     EXPECT_FALSE(BoxesAreOpen());
     EXPECT_EQ(Of(Offers().txtAge), "");

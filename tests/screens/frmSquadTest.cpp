@@ -657,6 +657,8 @@ TEST_F(frmSquadTest, WhoIsPinnedIsComparedInTheFiguresOfTheRules)
     const QAbstractItemModelTester tester(squad.tblCompare->Figures,
                                           QAbstractItemModelTester::FailureReportingMode::Fatal);
     ASSERT_EQ(figures.columnCount(), 3 + static_cast<int>(PlayerStatCount)); // name, age, overall
+    for (const int outside : {-1, figures.columnCount()})
+        EXPECT_FALSE(figures.headerData(outside, Qt::Horizontal, Qt::DisplayRole).isValid()) << outside;
     for (int row = 0; row < 4; ++row) {
         const PersonId who = people[static_cast<std::size_t>(row)].Id();
         const StatRows own = StatRowsOf(who);
